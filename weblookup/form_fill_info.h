@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDate>
+#include <QImage>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace velmora {
+
+/** What a page extractor found on a film's page. A slot without a value was not found, and the editor's field stays as
+    it is; an empty text is a value, and empties the field. Lists are never empty: a list without names is no value. */
+struct FormFillInfo {
+    std::optional<QString> title;
+    /** Actors, in page order. */
+    std::optional<QStringList> cast;
+    /** Directors, in page order. */
+    std::optional<QStringList> directors;
+    /** Plot outline or product description. */
+    std::optional<QString> description;
+    /** Four digits, of the release date. May be of an earlier date on the page than releaseDate. */
+    std::optional<QString> year;
+    /** Genres, in page order. */
+    std::optional<QStringList> genres;
+    /** Parental rating. */
+    std::optional<QString> rating;
+    /** Poster or product image; the null image when there is none. */
+    QImage coverArt;
+    /** A plain calendar date, of no time zone. */
+    std::optional<QDate> releaseDate;
+};
+
+} // namespace velmora
