@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 #include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace velmora::test {
@@ -24,7 +25,10 @@ StreamCapture::~StreamCapture() {
 
 std::string StreamCapture::text() {
     std::fflush(stream_);
-    std::string text(static_cast<std::size_t>(::lseek(file_, 0, SEEK_END)), '\0');
+    // Neither call moves the position that the stream writes at, and neither is one that tests count.
+    struct stat status {};
+    ::fstat(file_, &status);
+    std::string text(static_cast<std::size_t>(status.st_size), '\0');
     const ssize_t count = ::pread(file_, text.data(), text.size(), 0);
     text.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
     return text;
