@@ -1,0 +1,241 @@
+#include "CoverArtView.h"
+
+#include "image_data.h"
+
+#include "platform/localisation.h"
+#include "platform/log.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDragEnterEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMimeData>
+#include <QPainter>
+
+namespace velmora {
+namespace {
+
+constexpr QSize preferredSize(180, 180);
+constexpr QSize smallestSize(80, 80);
+constexpr qreal highlightWidth = 4.0;
+constexpr qreal highlightShadow = 0.4;
+
+/** COLOUR mixed with LEVEL parts of black. */
+QColor shadowed(const QColor& colour, qreal level) {
+    const qreal rest = 1 - level;
+    return QColor::fromRgb(qRound(colour.red() * rest), qRound(colour.green() * rest),
+                           qRound(colour.blue() * rest), colour.alpha());
+}
+
+/** The clipboard's contents; null when it has none. */
+const QMimeData* clipboardData() {
+    return QGuiApplication::clipboard()->mimeData();
+}
+
+} // namespace
+
+CoverArtView::CoverArtView(QWidget* parent) : QFrame(parent) {
+    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    setFocusPolicy(Qt::StrongFocus);
+    setAcceptDrops(true);
+    setAccessibleName(localised("Cover art"));
+    setAccessibleDescription(localised("Drop or paste an image here"));
+    setToolTip(localised("Cover art: drop or paste an image here"));
+    makeActions();
+}
+
+CoverArtView::~CoverArtView() {
+    setAcceptDrops(false);
+}
+
+void CoverArtView::setImage(const QImage& image) {
+    image_ = image;
+    scaled_ = QPixmap();
+    updateActions();
+    update();
+    emit imageChanged();
+}
+
+void CoverArtView::setFocusRingType(FocusRingType type) {
+    focusRingType_ = type;
+    update();
+}
+
+QSize CoverArtView::sizeHint() const {
+    return preferredSize;
+}
+
+QSize CoverArtView::minimumSizeHint() const {
+    return smallestSize;
+}
+
+// Cut, copy and paste
+
+void CoverArtView::makeActions() {
+    const auto make = [this](const char* text, QKeySequence::StandardKey key, void (CoverArtView::*slot)()) {
+        auto* action = new QAction(localised(text), this);
+        action->setShortcuts(key);
+        action->setShortcutContext(Qt::WidgetShortcut);
+        connect(action, &QAction::triggered, this, slot);
+        addAction(action);
+        return action;
+    };
+    cutAction_ = make("Cu&t", QKeySequence::Cut, &CoverArtView::cut);
+    copyAction_ = make("&Copy", QKeySequence::Copy, &CoverArtView::copy);
+    pasteAction_ = make("&Paste", QKeySequence::Paste, &CoverArtView::paste);
+    updateActions();
+}
+
+void CoverArtView::updateActions() {
+    cutAction_->setEnabled(!image_.isNull());
+    copyAction_->setEnabled(!image_.isNull());
+}
+
+void CoverArtView::cut() {
+    if (!image_.isNull()) {
+        copy();
+        setImage(QImage());
+    }
+}
+
+void CoverArtView::copy() {
+    if (!image_.isNull()) {
+        QGuiApplication::clipboard()->setImage(image_);
+    }
+}
+
+void CoverArtView::paste() {
+    const QMimeData* offered = clipboardData();
+    if (!offered) {
+        return;
+    }
+    if (const QImage pasted = imageFromData(*offered); !pasted.isNull()) {
+        setImage(pasted);
+    }
+}
+
+void CoverArtView::contextMenuEvent(QContextMenuEvent* event) {
+    // Asked only now: another program may have filled the clipboard since.
+    const QMimeData* offered = clipboardData();
+    pasteAction_->setEnabled(offered && offersImageData(*offered));
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions({cutAction_, copyAction_, pasteAction_});
+    connect(menu, &QMenu::aboutToHide, this, [this] { pasteAction_->setEnabled(true); });
+    menu->popup(event->globalPos());
+}
+
+// Dragging
+
+void CoverArtView::draggingEntered() {
+    appLog(QStringLiteral("in draggingEntered:\n"));
+    setFocusRingType(FocusRingType::Default);
+}
+
+void CoverArtView::draggingExited() {
+    appLog(QStringLiteral("in draggingExited:\n"));
+    setFocusRingType(FocusRingType::None);
+}
+
+bool CoverArtView::prepareForDragOperation() {
+    appLog(QStringLiteral("in prepareForDragOperation:\n"));
+    return true;
+}
+
+bool CoverArtView::performDragOperation() {
+    appLog(QStringLiteral("in performDragOperation:\n"));
+    return true;
+}
+
+void CoverArtView::concludeDragOperation(const QMimeData& dragged) {
+    if (const QImage dropped = imageFromData(dragged); !dropped.isNull()) {
+        setImage(dropped);
+    }
+    setFocusRingType(FocusRingType::None);
+    if (controller_) {
+        controller_->coverArtImageChanged(this);
+    }
+}
+
+void CoverArtView::dragEnterEvent(QDragEnterEvent* event) {
+    // A source that can only move its data would lose it to a drop.
+    if (!offersImageData(*event->mimeData()) || !(event->possibleActions() & Qt::CopyAction)) {
+        event->ignore();
+        return;
+    }
+    draggingEntered();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void CoverArtView::dragMoveEvent(QDragMoveEvent* event) {
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void CoverArtView::dragLeaveEvent(QDragLeaveEvent* event) {
+    draggingExited();
+    event->accept();
+}
+
+void CoverArtView::dropEvent(QDropEvent* event) {
+    // One event stands for the whole end of a drag, and no leave event follows it.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    if (prepareForDragOperation() && performDragOperation()) {
+        concludeDragOperation(*event->mimeData());
+    }
+}
+
+// Drawing
+
+void CoverArtView::paintEvent(QPaintEvent* event) {
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    if (image_.isNull()) {
+        drawPlaceholder(painter);
+    } else {
+        drawImage(painter);
+    }
+    if (focusRingType_ == FocusRingType::Default) {
+        drawHighlight(painter);
+    }
+}
+
+void CoverArtView::drawImage(QPainter& painter) {
+    const QRectF area = contentsRect();
+    QSizeF shown = image_.deviceIndependentSize();
+    if (shown.width() > area.width() || shown.height() > area.height()) {
+        shown.scale(area.size(), Qt::KeepAspectRatio);
+    }
+    // Scaling a large image takes longer than a repaint should: it is done once for each size.
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels = (shown * ratio).toSize().expandedTo(QSize(1, 1));
+    if (scaled_.size() != pixels) {
+        scaled_ = QPixmap::fromImage(image_.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    }
+    scaled_.setDevicePixelRatio(ratio);
+    QRectF target(QPointF(), QSizeF(pixels) / ratio);
+    target.moveCenter(area.center());
+    painter.drawPixmap(target.topLeft(), scaled_);
+}
+
+void CoverArtView::drawPlaceholder(QPainter& painter) {
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(contentsRect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
+                     localised("Drop an image here"));
+}
+
+void CoverArtView::drawHighlight(QPainter& painter) {
+    // The window that a drag comes from is the active one; the frame keeps its colour all the same.
+    const QColor accent = palette().color(QPalette::Active, QPalette::Highlight);
+    painter.setPen(
+        QPen(shadowed(accent, highlightShadow), highlightWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    // Centred on the bounds, so that the outer half of the line is clipped.
+    painter.drawRect(QRectF(rect()));
+}
+
+} // namespace velmora

@@ -1,0 +1,193 @@
+#include "bitmap_trim.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace velmora {
+namespace {
+
+constexpr int tolerance = 37;
+
+/** The columns and rows that hold something else than border. Without any, the first lies behind the last. */
+struct Bounds {
+    std::uint32_t x0;
+    std::uint32_t y0;
+    std::uint32_t x1;
+    std::uint32_t y1;
+};
+
+bool lanes_match(std::uint32_t a, std::uint32_t b) {
+    for (int shift = 24; shift >= 0; shift -= 8) {
+        const int difference = static_cast<int>(a >> shift & 0xff) - static_cast<int>(b >> shift & 0xff);
+        if (std::abs(difference) > tolerance) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/** Tells border from picture, many pixels at a time. The lanes are compared as bytes in memory against the
+   lowest and the highest value that still match; the loop over a block has a fixed length and no exit, so
+   that the compiler turns it into vector instructions. */
+class BorderColour {
+public:
+    static constexpr std::size_t blockPixels = 16;
+
+    explicit BorderColour(std::uint32_t colour) : colour_(colour) {
+        std::array<std::uint8_t, 4> lanes;
+        std::memcpy(lanes.data(), &colour, lanes.size());
+        for (std::size_t i = 0; i < low_.size(); ++i) {
+            const int lane = lanes[i % lanes.size()];
+            low_[i] = static_cast<std::uint8_t>(std::max(lane - tolerance, 0));
+            high_[i] = static_cast<std::uint8_t>(std::min(lane + tolerance, 255));
+        }
+    }
+
+    [[nodiscard]] bool matches(std::uint32_t pixel) const { return lanes_match(pixel, colour_); }
+
+    [[nodiscard]] bool matchesBlock(const std::uint32_t* pixels) const {
+        std::array<std::uint8_t, blockPixels * 4> bytes;
+        std::memcpy(bytes.data(), pixels, bytes.size());
+        std::uint8_t outside = 0;
+        for (std::size_t i = 0; i < bytes.size(); ++i) {
+            const std::uint8_t below = bytes[i] < low_[i] ? 1 : 0;
+            const std::uint8_t above = bytes[i] > high_[i] ? 1 : 0;
+            outside = static_cast<std::uint8_t>(outside | below | above);
+        }
+        return outside == 0;
+    }
+
+private:
+    std::uint32_t colour_;
+    std::array<std::uint8_t, blockPixels * 4> low_;
+    std::array<std::uint8_t, blockPixels * 4> high_;
+};
+
+/** Pixels of border at the start of a run of COUNT pixels. */
+std::uint32_t border_at_start(const BorderColour& border, const std::uint32_t* pixels, std::uint32_t count) {
+    std::uint32_t i = 0;
+    while (count - i >= BorderColour::blockPixels && border.matchesBlock(pixels + i)) {
+        i += BorderColour::blockPixels;
+    }
+    while (i < count && border.matches(pixels[i])) {
+        ++i;
+    }
+    return i;
+}
+
+/** Pixels of border at the end of a run of COUNT pixels. */
+std::uint32_t border_at_end(const BorderColour& border, const std::uint32_t* pixels, std::uint32_t count) {
+    std::uint32_t left = count;
+    while (left >= BorderColour::blockPixels &&
+           border.matchesBlock(pixels + (left - BorderColour::blockPixels))) {
+        left -= BorderColour::blockPixels;
+    }
+    while (left > 0 && border.matches(pixels[left - 1])) {
+        --left;
+    }
+    return count - left;
+}
+
+/** The bounds of all pixels that are not border. They are found from the edges inward, so that the inside of
+   the box is never read: no pixel there can widen it. */
+Bounds find_bounds(const std::uint32_t* pixels, std::uint32_t width, std::uint32_t height) {
+    const BorderColour border(pixels[0]);
+    const auto row = [=](std::uint32_t y) { return pixels + std::size_t{y} * width; };
+    const auto isBorder = [&](std::uint32_t y) { return border_at_start(border, row(y), width) == width; };
+
+    Bounds bounds = {width - 1, height - 1, 0, 0};
+    std::uint32_t top = 0;
+    while (top < height && isBorder(top)) {
+        ++top;
+    }
+    if (top == height) {
+        return bounds;
+    }
+    bounds.y0 = top;
+    bounds.y1 = height - 1;
+    while (bounds.y1 > top && isBorder(bounds.y1)) {
+        --bounds.y1;
+    }
+    for (std::uint32_t y = bounds.y0; y <= bounds.y1; ++y) {
+        // A row's pixels left of x0 and right of x1 are all that can still widen the box.
+        bounds.x0 = std::min(bounds.x0, border_at_start(border, row(y), bounds.x0));
+        const std::uint32_t right = width - 1 - bounds.x1;
+        const std::uint32_t clear = border_at_end(border, row(y) + bounds.x1 + 1, right);
+        bounds.x1 += right - clear;
+    }
+    return bounds;
+}
+
+bool corners_match(const std::uint32_t* pixels, std::uint32_t width, std::uint32_t height) {
+    const std::uint32_t topLeft = pixels[0];
+    const std::uint32_t topRight = pixels[width - 1];
+    const std::uint32_t bottomLeft = pixels[std::size_t{height - 1} * width];
+    const std::uint32_t bottomRight = pixels[std::size_t{height} * width - 1];
+    std::printf("corners: 0x%08x  0x%08x  0x%08x  0x%08x\n", topLeft, topRight, bottomLeft, bottomRight);
+    if (!lanes_match(topRight, topLeft) || !lanes_match(bottomLeft, topLeft) ||
+        !lanes_match(bottomRight, topLeft)) {
+        std::puts("no border on image");
+        return false;
+    }
+    std::printf("corners match (0x%08x)\n", topLeft);
+    return true;
+}
+
+/** A packed copy of COLUMNS x ROWS pixels that begin at FIRST in a bitmap of rows of WIDTH pixels. */
+std::uint32_t* copy_box(const std::uint32_t* first, std::uint32_t width, std::uint32_t columns,
+                        std::uint32_t rows) {
+    const std::size_t size = std::size_t{columns} * rows * sizeof(std::uint32_t);
+    auto* copy = static_cast<std::uint32_t*>(std::malloc(size));
+    if (!copy) {
+        const int error = errno;
+        std::fprintf(stderr, "malloc(%u) failed: %s\n", static_cast<std::uint32_t>(size),
+                     std::strerror(error));
+        return nullptr;
+    }
+    for (std::uint32_t y = 0; y < rows; ++y) {
+        std::memcpy(copy + std::size_t{y} * columns, first + std::size_t{y} * width,
+                    columns * sizeof(std::uint32_t));
+    }
+    return copy;
+}
+
+} // namespace
+
+std::uint32_t* bitmap_trim(const std::uint32_t* pixels, std::uint32_t* width, std::uint32_t* height) {
+    if (!pixels || !width || *width == 0 || !height || *height == 0) {
+        return nullptr;
+    }
+    std::printf("width=%u, height=%u\n", *width, *height);
+    if (!corners_match(pixels, *width, *height)) {
+        return nullptr;
+    }
+
+    const Bounds box = find_bounds(pixels, *width, *height);
+    std::printf("x0=%d, x1=%d, y0=%d, y1=%d\n", static_cast<int>(box.x0), static_cast<int>(box.x1),
+                static_cast<int>(box.y0), static_cast<int>(box.y1));
+    if (box.x0 > box.x1 || box.y1 < box.y0) {
+        return nullptr;
+    }
+
+    const std::uint32_t newWidth = box.x1 - box.x0 + 1;
+    const std::uint32_t newHeight = box.y1 - box.y0 + 1;
+    if (newWidth * newHeight < (*width * *height) >> 4) {
+        return nullptr;
+    }
+
+    const std::uint32_t* first = pixels + std::size_t{box.y0} * *width + box.x0;
+    std::uint32_t* trimmed = copy_box(first, *width, newWidth, newHeight);
+    if (trimmed) {
+        *width = newWidth;
+        *height = newHeight;
+        std::printf("new size: width=%u, height=%u\n", newWidth, newHeight);
+    }
+    return trimmed;
+}
+
+} // namespace velmora

@@ -1,0 +1,185 @@
+#include "movie.h"
+
+#include "platform/file_path.h"
+
+#include <QAudioDevice>
+#include <QAudioOutput>
+#include <QMediaDevices>
+#include <QMediaPlayer>
+#include <QVideoFrame>
+#include <QVideoSink>
+
+#include <chrono>
+#include <sys/stat.h>
+#include <utility>
+
+namespace velmora {
+namespace {
+
+/** Longer than the pause between two rows when an arrow key is held down, shorter than a person's patience.
+ */
+constexpr std::chrono::milliseconds openDelay(150);
+
+/** Opening a pipe or a device could block for ever. */
+bool isRegularFile(const QString& path) {
+    struct stat status {};
+    return ::stat(pathBytes(path).constData(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+} // namespace
+
+/** One file in the system's media player. Each file gets a player of its own, so that a late word about a
+   file that was let go can't be taken for one about the file that followed. */
+class Movie::Player : public QObject {
+public:
+    explicit Player(Movie& movie) : movie_(movie) {
+        player_.setVideoSink(&sink_);
+        connect(&player_, &QMediaPlayer::mediaStatusChanged, this, &Player::statusChanged);
+        connect(&player_, &QMediaPlayer::errorOccurred, this, &Player::fail);
+        connect(&player_, &QMediaPlayer::positionChanged, &movie_, &Movie::positionChanged);
+        connect(&player_, &QMediaPlayer::durationChanged, &movie_, &Movie::positionChanged);
+        connect(&player_, &QMediaPlayer::playbackStateChanged, &movie_, &Movie::playingChanged);
+        connect(&sink_, &QVideoSink::videoFrameChanged, &movie_, &Movie::frameChanged);
+    }
+
+    void load(const QString& path) { player_.setSource(fileUrlFromPath(path)); }
+
+    /** Nothing is heard of the file any more; the object goes as soon as none of its own calls is running. */
+    void letGo() {
+        player_.disconnect();
+        sink_.disconnect();
+        player_.setSource(QUrl());
+        deleteLater();
+    }
+
+    [[nodiscard]] bool isOpen() const { return outcome_ == Outcome::Opened; }
+    [[nodiscard]] bool hasVideo() const { return hasVideo_; }
+    [[nodiscard]] QImage frame() const { return sink_.videoFrame().toImage(); }
+    [[nodiscard]] QMediaPlayer& media() { return player_; }
+
+    void play() {
+        // A machine without a sound device plays in silence: a sound output that can't be opened would end
+        // the movie.
+        if (!player_.audioOutput() && !QMediaDevices::defaultAudioOutput().isNull()) {
+            player_.setAudioOutput(new QAudioOutput(this));
+        }
+        player_.play();
+    }
+
+private:
+    enum class Outcome { Undecided, Opened, Failed };
+
+    /** The first event that decides counts. A player may well report a success and then an error, for example
+       for a sound track that nothing here can play. */
+    void statusChanged(QMediaPlayer::MediaStatus status) {
+        if (status == QMediaPlayer::InvalidMedia) {
+            fail();
+        } else if (status == QMediaPlayer::LoadedMedia && outcome_ == Outcome::Undecided) {
+            outcome_ = Outcome::Opened;
+            hasVideo_ = player_.hasVideo();
+            if (hasVideo_) {
+                player_.pause(); // a movie that neither plays nor pauses has no frame
+            }
+            emit movie_.opened(hasVideo_);
+        }
+    }
+
+    void fail() {
+        if (outcome_ == Outcome::Undecided) {
+            outcome_ = Outcome::Failed;
+            emit movie_.failed();
+        }
+    }
+
+    Movie& movie_;
+    QVideoSink sink_;
+    QMediaPlayer player_;
+    Outcome outcome_ = Outcome::Undecided;
+    bool hasVideo_ = false;
+};
+
+Movie::Movie(QObject* parent) : QObject(parent) {
+    // The first player of a process loads the component, which can take longer than an event loop should
+    // wait.
+    const QMediaPlayer first;
+    delay_.setSingleShot(true);
+    delay_.setInterval(openDelay);
+    connect(&delay_, &QTimer::timeout, this, &Movie::openNow);
+}
+
+Movie::~Movie() {
+    letGo();
+}
+
+void Movie::open(const QString& path) {
+    close();
+    path_ = path;
+    delay_.start();
+}
+
+void Movie::close() {
+    delay_.stop();
+    if (player_) {
+        letGo();
+        emit frameChanged();
+    }
+}
+
+void Movie::openNow() {
+    if (!isRegularFile(path_)) {
+        emit failed();
+        return;
+    }
+    player_ = new Player(*this);
+    player_->load(path_);
+}
+
+void Movie::letGo() {
+    if (Player* player = std::exchange(player_, nullptr)) {
+        player->letGo();
+    }
+}
+
+bool Movie::isOpen() const {
+    return player_ && player_->isOpen();
+}
+
+bool Movie::hasVideo() const {
+    return isOpen() && player_->hasVideo();
+}
+
+QImage Movie::currentFrame() const {
+    return hasVideo() ? player_->frame() : QImage();
+}
+
+void Movie::play() {
+    if (isOpen()) {
+        player_->play();
+    }
+}
+
+void Movie::pause() {
+    if (isOpen()) {
+        player_->media().pause();
+    }
+}
+
+bool Movie::isPlaying() const {
+    return isOpen() && player_->media().playbackState() == QMediaPlayer::PlayingState;
+}
+
+qint64 Movie::position() const {
+    return isOpen() ? player_->media().position() : 0;
+}
+
+qint64 Movie::duration() const {
+    return isOpen() ? player_->media().duration() : 0;
+}
+
+void Movie::setPosition(qint64 milliseconds) {
+    if (isOpen()) {
+        player_->media().setPosition(milliseconds);
+    }
+}
+
+} // namespace velmora

@@ -1,0 +1,141 @@
+#include "movie_view.h"
+
+#include "platform/localisation.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QSlider>
+#include <QStyle>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <limits>
+
+namespace velmora {
+namespace {
+
+constexpr QSize preferredSize(320, 220);
+constexpr QSize smallestSize(120, 100);
+constexpr int stepMilliseconds = 1000;
+constexpr int pageMilliseconds = 10000;
+
+int sliderValue(qint64 milliseconds) {
+    return static_cast<int>(std::clamp<qint64>(milliseconds, 0, std::numeric_limits<int>::max()));
+}
+
+} // namespace
+
+/** The picture alone. */
+class MovieView::Screen : public QWidget {
+public:
+    explicit Screen(const MovieView& view) : view_(view) { setAttribute(Qt::WA_OpaquePaintEvent); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), Qt::black);
+        const QImage frame = view_.movie() ? view_.movie()->currentFrame() : QImage();
+        if (frame.isNull()) {
+            return;
+        }
+        QRect target({}, frame.size().scaled(size(), Qt::KeepAspectRatio));
+        target.moveCenter(rect().center());
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(target, frame);
+    }
+
+private:
+    const MovieView& view_;
+};
+
+MovieView::MovieView(QWidget* parent)
+    : QWidget(parent), screen_(new Screen(*this)), playButton_(new QToolButton),
+      positionSlider_(new QSlider(Qt::Horizontal)) {
+    setAccessibleName(localised("Preview"));
+    screen_->setAccessibleName(localised("Preview picture"));
+    screen_->setToolTip(localised("Preview of the selected file"));
+    playButton_->setAccessibleName(localised("Play or pause the preview"));
+    playButton_->setToolTip(localised("Play or pause the preview"));
+    playButton_->setAutoRaise(true);
+    positionSlider_->setAccessibleName(localised("Position in the preview"));
+    positionSlider_->setToolTip(localised("Position in the preview"));
+    positionSlider_->setSingleStep(stepMilliseconds);
+    positionSlider_->setPageStep(pageMilliseconds);
+    connect(playButton_, &QToolButton::clicked, this, &MovieView::togglePlaying);
+    connect(positionSlider_, &QSlider::valueChanged, this, &MovieView::seek);
+
+    auto* controls = new QHBoxLayout;
+    controls->addWidget(playButton_);
+    controls->addWidget(positionSlider_, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addWidget(screen_, 1);
+    layout->addLayout(controls);
+    updateControls();
+}
+
+MovieView::~MovieView() = default;
+
+void MovieView::setMovie(Movie* movie) {
+    if (movie_) {
+        movie_->disconnect(this);
+        movie_->disconnect(screen_);
+    }
+    movie_ = movie;
+    if (movie_) {
+        connect(movie_, &Movie::opened, this, &MovieView::updateControls);
+        connect(movie_, &Movie::playingChanged, this, &MovieView::updateControls);
+        connect(movie_, &Movie::positionChanged, this, &MovieView::updatePosition);
+        connect(movie_, &Movie::frameChanged, screen_, qOverload<>(&QWidget::update));
+        connect(movie_, &QObject::destroyed, this, &MovieView::updateControls);
+    }
+    updateControls();
+}
+
+QSize MovieView::sizeHint() const {
+    return preferredSize;
+}
+
+QSize MovieView::minimumSizeHint() const {
+    return smallestSize;
+}
+
+void MovieView::updateControls() {
+    const bool playable = movie_ && movie_->hasVideo();
+    const bool playing = playable && movie_->isPlaying();
+    playButton_->setEnabled(playable);
+    playButton_->setIcon(style()->standardIcon(playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+    positionSlider_->setEnabled(playable);
+    updatePosition();
+    screen_->update();
+}
+
+void MovieView::updatePosition() {
+    // The movie's own progress moves the slider; only the person's hand moves the movie.
+    const QSignalBlocker blocker(positionSlider_);
+    positionSlider_->setRange(0, movie_ ? sliderValue(movie_->duration()) : 0);
+    if (!positionSlider_->isSliderDown()) {
+        positionSlider_->setValue(movie_ ? sliderValue(movie_->position()) : 0);
+    }
+}
+
+void MovieView::togglePlaying() {
+    if (!movie_) {
+        return;
+    }
+    if (movie_->isPlaying()) {
+        movie_->pause();
+    } else {
+        movie_->play();
+    }
+}
+
+void MovieView::seek(int milliseconds) {
+    if (movie_) {
+        movie_->setPosition(milliseconds);
+    }
+}
+
+} // namespace velmora

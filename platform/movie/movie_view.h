@@ -1,0 +1,42 @@
+#pragma once
+
+#include "movie.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QSlider;
+class QToolButton;
+
+namespace velmora {
+
+/** Shows a movie's picture, its proportions kept, above a play button and a position slider. */
+class MovieView : public QWidget {
+    Q_OBJECT
+public:
+    explicit MovieView(QWidget* parent = nullptr);
+    ~MovieView() override;
+
+    /** Shows MOVIE, which stays its owner's; null shows none. */
+    void setMovie(Movie* movie);
+    /** The movie shown; null when there is none, or when it has been destroyed. */
+    [[nodiscard]] Movie* movie() const { return movie_; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+private:
+    class Screen;
+
+    void updateControls();
+    void updatePosition();
+    void togglePlaying();
+    void seek(int milliseconds);
+
+    QPointer<Movie> movie_;
+    Screen* screen_;
+    QToolButton* playButton_;
+    QSlider* positionSlider_;
+};
+
+} // namespace velmora
