@@ -1,0 +1,85 @@
+#pragma once
+
+#include "browser/folder_queue.h"
+#include "browser/folder_walk.h"
+#include "platform/message_port.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+
+#include <atomic>
+#include <thread>
+
+namespace velmora {
+
+/** The search for media files: a queue of folders, and one worker thread at a time that walks them and sends
+   what it meets to the main thread. Knows no window; the signals say what a window should show.
+
+    | state     | searchRunning | worker                                                     |
+    | idle      | false         | none                                                       |
+    | running   | true          | walks                                                      |
+    | stopping  | false         | finishes its entry and unwinds                             |
+    | finishing | either        | holds the folder queue's lock, its last message is on its way |
+
+    A stopped search leaves the folders it did not come to in the queue, where the next search finds them
+   first. Destroying the object stops the worker and waits for it, without the help of the event loop. */
+class MediaSearch : public QObject {
+    Q_OBJECT
+public:
+    explicit MediaSearch(QObject* parent = nullptr);
+    ~MediaSearch() override;
+
+    /** Queues FOLDERS behind those that wait already, and sees to it that they will be searched: by the
+       search that runs, or else by a new one. Never waits for a worker. No folders: nothing happens. */
+    void queueFolders(const QStringList& folders);
+
+    /** Starts a search, also with an empty queue; nothing while one runs. While a stopped worker unwinds, the
+       new search begins when that has reported itself done. */
+    void startMediaSearch();
+
+    /** Ends a running search: the worker looks at the flag before each entry and reports itself done as
+     * always. */
+    void stopScan();
+
+    /** Acts on one message of the worker, or logs one with an unknown id. Called by the port on the main
+     * thread. */
+    void handlePortMessage(const PortMessage& message);
+
+    [[nodiscard]] bool isSearchRunning() const { return searchRunning_; }
+    /** The port that the worker's messages come through; null while no search is under way. */
+    [[nodiscard]] const MessagePort* mainThreadPort() const { return mainThreadPort_; }
+    /** The folders still to be searched; only while no worker is under way. */
+    [[nodiscard]] QStringList searchFolders() const { return folderQueue_.folders() + foldersKeptAside_; }
+
+signals:
+    /** The progress indicator starts or stops. */
+    void progressAnimationChanged(bool animating);
+    /** Whether the stop button can be pressed. */
+    void stopEnabledChanged(bool enabled);
+    /** The folder being searched, and at the end the word that the search is done. */
+    void scanStatusChanged(const QString& text);
+    void fileFound(const QString& path);
+
+private:
+    void mediaSearchThread(const PortSender& port);
+    void searchFolder(const QString& folder, const PortSender& port);
+    void searchDone();
+    void startWhatWaited();
+
+    /** Written by the main thread only. The worker reads it without a lock; a late look costs one entry. */
+    std::atomic<bool> searchRunning_ = false;
+    QPointer<MessagePort> mainThreadPort_;
+    FolderQueue folderQueue_;
+
+    std::thread worker_;
+    /** From a worker's start until its last message was handled; outlasts searchRunning_ while the worker
+     * unwinds. */
+    bool workerUnderWay_ = false;
+    bool restartWanted_ = false;
+    /** Folders that came while a finishing worker held the queue. */
+    QStringList foldersKeptAside_;
+};
+
+} // namespace velmora

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "browser/media_document.h"
+#include "browser/media_rows.h"
+#include "browser/media_table_model.h"
+#include "platform/error.h"
+#include "platform/modal_loop.h"
+
+#include <QObject>
+#include <QString>
+#include <QTableView>
+
+#include <functional>
+
+namespace velmora {
+
+/** The media table: joins the rows to a table view, opens the file of the row that the person selects in the
+   document, and tells the editor form about it.
+
+    The selection handler runs once per act of the person, from the event loop: however often the view reports
+   a change, after the left button was released, and never while the handler itself or another modal loop is
+   at work. */
+class MediaTable : public QObject {
+    Q_OBJECT
+public:
+    /** What the editor form does for the table. */
+    struct Form {
+        /** Empties the form. */
+        std::function<void()> clearUI;
+        /** Fills the form from the document's open file. */
+        std::function<void()> fillUI;
+        /** Shows an alert sheet on the document's window, and returns at once. */
+        std::function<void(const Error&)> showError;
+    };
+
+    /** Takes VIEW over: model, header, selection. VIEW and DOCUMENT live as long as events still reach the
+     * table. */
+    MediaTable(QTableView& view, MediaDocument& document, Form form, QObject* parent = nullptr);
+
+    /** Adds a row for the file at PATH at its sorted place and reloads the table. False, with nothing added,
+       when the file's attributes can't be read or lack the size or the creation date. Looks neither at the
+       extension nor at the size. */
+    bool addMediaFile(const QString& path);
+
+    /** Inserts ROW into the list at its sorted place; the views don't know of it before reloadData. */
+    void addColdataSorted(ColdataPointer row);
+    void reloadData();
+
+    /** Sorts by the column of that index in MediaTableModel::columns, or turns the direction when it is the
+       sort column; the icon column stands for the file name's. */
+    void tableViewDidClickTableColumn(int column);
+
+    /** Opens the file of the selected row, or closes the open file when no row is selected. Nothing when that
+       row's file is the open one already. When the document refuses, the former row is selected again. */
+    void tableViewSelectionDidChange();
+
+    /** The row whose file is open in the editor; -1 for none. An index and not a file: sorting, turning and
+       inserting rows leave it as it is. */
+    [[nodiscard]] int curSelectedRow() const { return curSelectedRow_; }
+    /** Makes no row the open one, so that the next tableViewSelectionDidChange opens the selected row's file
+     * anew. */
+    void forgetSelectedRow() { curSelectedRow_ = -1; }
+
+    [[nodiscard]] const MediaRows& mediaFiles() const { return mediaFiles_; }
+    [[nodiscard]] const MediaTableModel& model() const { return model_; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void setUpView();
+    void setUpHeader();
+    void noteSelectionChange();
+    void handleLater();
+    void handleSelectionChange();
+    [[nodiscard]] bool mustWait() const;
+    [[nodiscard]] int selectedRow() const;
+    [[nodiscard]] bool closeFile();
+    [[nodiscard]] bool openFile(int row);
+    void restoreSelection();
+
+    QTableView& view_;
+    MediaDocument& document_;
+    Form form_;
+    MediaRows mediaFiles_;
+    MediaTableModel model_{mediaFiles_};
+    int curSelectedRow_ = -1;
+
+    /** The selection may have changed since the handler ran last. */
+    bool changeNoted_ = false;
+    bool handlingPosted_ = false;
+    bool handling_ = false;
+    bool leftButtonDown_ = false;
+    ModalLoopWatch modalLoopWatch_;
+};
+
+} // namespace velmora

@@ -1,0 +1,142 @@
+#include "media_table_model.h"
+
+#include "platform/assertion.h"
+#include "platform/localisation.h"
+
+#include <QFont>
+
+namespace velmora {
+namespace {
+
+QString columnTitle(const TableColumn& column) {
+    if (column.identifier == u"filename") {
+        return localised("Name");
+    }
+    if (column.identifier == u"filesize") {
+        return localised("Size");
+    }
+    if (column.identifier == u"created") {
+        return localised("Date");
+    }
+    return {};
+}
+
+bool isNumeric(const TableColumn& column) {
+    return column.identifier == u"filesize";
+}
+
+QVariant alignment(const TableColumn& column) {
+    const Qt::Alignment horizontal = isNumeric(column) ? Qt::AlignRight : Qt::AlignLeft;
+    return QVariant::fromValue(horizontal | Qt::AlignVCenter);
+}
+
+/** TEXT for a place that takes rich text whenever a text looks like it. */
+QString literally(const QString& text) {
+    return QStringLiteral("<span>") + text.toHtmlEscaped() + QStringLiteral("</span>");
+}
+
+} // namespace
+
+MediaTableModel::MediaTableModel(const MediaRows& rows, QObject* parent)
+    : QAbstractTableModel(parent), rows_(rows), reportedRows_(numberOfRowsInTableView()) {}
+
+const QList<TableColumn>& MediaTableModel::columns() {
+    static const QList<TableColumn> list = {
+        TableColumn{QStringLiteral("icon")}, TableColumn{QStringLiteral("filename")},
+        TableColumn{QStringLiteral("filesize")}, TableColumn{QStringLiteral("created")}};
+    return list;
+}
+
+int MediaTableModel::columnIndex(QStringView identifier) {
+    return static_cast<int>(columns().indexOf(TableColumn{identifier.toString()}));
+}
+
+int MediaTableModel::numberOfRowsInTableView() const {
+    return static_cast<int>(rows_.count());
+}
+
+QVariant MediaTableModel::tableViewObjectValueForTableColumn(const TableColumn& column, int row) const {
+    const int count = numberOfRowsInTableView();
+    if (row < 0 || row >= count) {
+        assertionFailed({QStringLiteral("Invalid parameter not satisfying: "
+                                        "rowIndex >= 0 && rowIndex < [mediaFiles count]"),
+                         QStringLiteral("VelmoraController"), 430});
+        return {};
+    }
+    const int index = rows_.tableSortDescending() ? count - row - 1 : row;
+    return rows_.at(static_cast<std::size_t>(index))->valueForKey(column.identifier);
+}
+
+void MediaTableModel::reloadData() {
+    const int count = numberOfRowsInTableView();
+    if (count > reportedRows_) {
+        beginInsertRows({}, reportedRows_, count - 1);
+        reportedRows_ = count;
+        endInsertRows();
+    }
+    if (count > 0) {
+        emit dataChanged(index(0, 0), index(count - 1, columnCount() - 1));
+    }
+}
+
+void MediaTableModel::setHighlightedTableColumn(int column) {
+    highlightedColumn_ = column;
+    emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
+int MediaTableModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : reportedRows_;
+}
+
+int MediaTableModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(columns().size());
+}
+
+QVariant MediaTableModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid()) {
+        return {};
+    }
+    const TableColumn& column = columns().at(index.column());
+    const bool isIcon = column.identifier == u"icon";
+    switch (role) {
+    case Qt::DisplayRole:
+        return isIcon ? QVariant() : tableViewObjectValueForTableColumn(column, index.row());
+    case Qt::DecorationRole:
+        return isIcon ? tableViewObjectValueForTableColumn(column, index.row()) : QVariant();
+    case Qt::ToolTipRole:
+        return literally(
+            tableViewObjectValueForTableColumn({QStringLiteral("fullpath")}, index.row()).toString());
+    case Qt::TextAlignmentRole:
+        return alignment(column);
+    default:
+        return {};
+    }
+}
+
+QVariant MediaTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) {
+        return {};
+    }
+    const TableColumn& column = columns().at(section);
+    if (role == Qt::DisplayRole) {
+        return columnTitle(column);
+    }
+    if (role == Qt::TextAlignmentRole) {
+        return alignment(column);
+    }
+    if (role == Qt::FontRole && highlightedColumn_ == section) {
+        QFont font;
+        font.setBold(true);
+        return font;
+    }
+    return {};
+}
+
+QModelIndexList MediaTableModel::match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                                       Qt::MatchFlags flags) const {
+    const bool isTyping = start.isValid() && role == Qt::DisplayRole;
+    const QModelIndex from = isTyping ? start.siblingAtColumn(columnIndex(u"filename")) : start;
+    return QAbstractTableModel::match(from, role, value, hits, flags);
+}
+
+} // namespace velmora
