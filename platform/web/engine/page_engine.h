@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/web/web_engine.h"
+#include "web_page.h"
+
+#include <QWebEngineProfile>
+#include <QWebEngineView>
+
+namespace velmora {
+
+/** One page in one view, with a profile of its own that lives in memory only. */
+class PageEngine : public WebEngine {
+public:
+    PageEngine(WebEngineListener& listener, QWidget* parent);
+    ~PageEngine() override;
+
+    QWidget* widget() override { return view_.get(); }
+    void load(const QUrl& url) override;
+    bool canGoBack() const override;
+    void goBack() override;
+    void takeSnapshot(SnapshotTaker take) override;
+
+private:
+    QString snapshotScript_;
+    QWebEngineProfile profile_;
+    std::unique_ptr<WebPage> page_;
+    std::unique_ptr<QWebEngineView> view_;
+};
+
+} // namespace velmora

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QImage>
+#include <QUrl>
+
+#include <optional>
+
+class QObject;
+
+namespace velmora {
+
+/** Fetches the image at URL ("http:", "https:", "data:", or a regular file as "file:") and blocks until the
+   transfer has ended or failed: no time limit, no cache, no second try; redirections are followed. Events are
+   handled meanwhile, except a person's input, which waits. What came decides, not the file's name and not the
+   server's status: a null image stands for a transfer that failed and for content that is no image.
+
+    No value when the fetch was cut short because CONTEXT, the part of the window that asked, went away or the
+   program quits. */
+[[nodiscard]] std::optional<QImage> fetchImage(const QUrl& url, const QObject* context);
+
+} // namespace velmora

@@ -1,0 +1,136 @@
+#include "web_view.h"
+
+#include "dom_snapshot.h"
+
+#include <QEventLoop>
+#include <QPointer>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace velmora {
+
+/** A wait for the page's document: a local event loop that ends with the text, or without it when the page
+ * goes away. */
+struct WebView::DocumentWait {
+    QEventLoop loop;
+    QString text;
+    bool ended = false;
+
+    void end(const QString& arrived) {
+        if (!ended) {
+            ended = true;
+            text = arrived;
+            loop.quit();
+        }
+    }
+};
+
+class WebView::MainFrame : public WebFrame {
+public:
+    explicit MainFrame(WebView& view) : view_(view) {}
+    std::shared_ptr<const DomDocument> domDocument() override { return view_.takeDocument(); }
+
+private:
+    WebView& view_;
+};
+
+/** Stands for every frame inside the page; the engine does not tell them apart. */
+class WebView::SubFrame : public WebFrame {
+public:
+    std::shared_ptr<const DomDocument> domDocument() override { return nullptr; }
+};
+
+WebView::WebView(QWidget* parent) : WebView(engineFromModule(), parent) {}
+
+WebView::WebView(EngineMaker makeEngine, QWidget* parent)
+    : QWidget(parent), makeEngine_(std::move(makeEngine)), mainFrame_(std::make_unique<MainFrame>(*this)),
+      subFrame_(std::make_unique<SubFrame>()) {
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+}
+
+WebView::~WebView() {
+    endDocumentWait();
+    // Before the members that the engine reports to.
+    engine_.reset();
+}
+
+bool WebView::ensureEngine() {
+    if (engine_ == nullptr) {
+        engine_ = makeEngine_(*this, this);
+        if (engine_ != nullptr && engine_->widget() != nullptr) {
+            layout()->addWidget(engine_->widget());
+            setFocusProxy(engine_->widget());
+        }
+    }
+    return engine_ != nullptr;
+}
+
+bool WebView::canGoBack() const {
+    return engine_ != nullptr && engine_->canGoBack();
+}
+
+void WebView::loadRequest(const QUrl& url) {
+    if (ensureEngine()) {
+        engine_->load(url);
+    }
+}
+
+void WebView::goBack() {
+    if (canGoBack()) {
+        engine_->goBack();
+    }
+}
+
+WebFrame* WebView::frameOf(FrameKind kind) {
+    return kind == FrameKind::Main ? mainFrame_.get() : subFrame_.get();
+}
+
+void WebView::loadStarted(FrameKind kind) {
+    if (kind == FrameKind::Main) {
+        endDocumentWait();
+    }
+    emit didStartProvisionalLoad(this, frameOf(kind));
+}
+
+void WebView::loadFinished(FrameKind kind) {
+    emit didFinishLoad(this, frameOf(kind));
+}
+
+void WebView::loadFailed(FrameKind kind) {
+    emit didFailLoad(this, frameOf(kind));
+}
+
+void WebView::pageLost() {
+    endDocumentWait();
+}
+
+void WebView::endDocumentWait() {
+    if (documentWait_ != nullptr) {
+        documentWait_->end(QString());
+    }
+}
+
+std::shared_ptr<const DomDocument> WebView::takeDocument() {
+    if (engine_ == nullptr || documentWait_ != nullptr) {
+        return nullptr;
+    }
+    const QPointer<WebView> self(this);
+    const auto wait = std::make_shared<DocumentWait>();
+    documentWait_ = wait;
+    engine_->takeSnapshot([kept = std::weak_ptr(wait)](const QString& text) {
+        if (const auto stillWaiting = kept.lock()) {
+            stillWaiting->end(text);
+        }
+    });
+    if (!wait->ended) {
+        QTimer::singleShot(documentTimeLimit_, &wait->loop, [raw = wait.get()] { raw->end(QString()); });
+        wait->loop.exec(QEventLoop::ExcludeUserInputEvents);
+    }
+    if (self != nullptr) {
+        documentWait_.reset();
+    }
+    return readDomSnapshot(wait->text);
+}
+
+} // namespace velmora

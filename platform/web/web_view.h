@@ -1,0 +1,90 @@
+#pragma once
+
+#include "dom_node.h"
+#include "web_engine.h"
+
+#include <QWidget>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+class QLabel;
+
+namespace velmora {
+
+class WebView;
+
+/** A frame of a web view's page. */
+class WebFrame {
+public:
+    virtual ~WebFrame() = default;
+    /** The frame's document as it is now; null when there is none, as before the first load. May handle
+       events until the document has arrived, and the frame may be gone when it returns. */
+    [[nodiscard]] virtual std::shared_ptr<const DomDocument> domDocument() = 0;
+};
+
+/** Shows web pages. The widget is an empty place until the first page is asked for: only then is the engine's
+   module loaded, and where that fails the place says why.
+
+    Content from the web has no access to local files, can open neither windows nor dialogs, and leaves
+   nothing on the disk. */
+class WebView : public QWidget, private WebEngineListener {
+    Q_OBJECT
+public:
+    /** Gives the engine, a child of the widget it gets; null when there is none. */
+    using EngineMaker = std::function<std::unique_ptr<WebEngine>(WebEngineListener&, QWidget*)>;
+
+    /** A view over the engine's module. */
+    explicit WebView(QWidget* parent = nullptr);
+    /** A view over an engine of the caller's choice. */
+    WebView(EngineMaker makeEngine, QWidget* parent);
+    ~WebView() override;
+
+    /** The page's outermost frame; the same object as long as the view lives. */
+    [[nodiscard]] WebFrame* mainFrame() { return mainFrame_.get(); }
+    [[nodiscard]] bool canGoBack() const;
+    /** Loads the page at URL into the main frame. */
+    void loadRequest(const QUrl& url);
+
+    /** How long a page may take to hand out its document; a page whose scripts never rest has none after that
+     * time. */
+    void setDocumentTimeLimit(std::chrono::milliseconds limit) { documentTimeLimit_ = limit; }
+
+public slots:
+    void goBack();
+
+signals:
+    /** A frame starts to load. FRAME is mainFrame() or stands for some frame inside the page. */
+    void didStartProvisionalLoad(velmora::WebView* view, velmora::WebFrame* frame);
+    void didFinishLoad(velmora::WebView* view, velmora::WebFrame* frame);
+    void didFailLoad(velmora::WebView* view, velmora::WebFrame* frame);
+
+private:
+    class MainFrame;
+    class SubFrame;
+    struct DocumentWait;
+
+    void loadStarted(FrameKind kind) override;
+    void loadFinished(FrameKind kind) override;
+    void loadFailed(FrameKind kind) override;
+    void pageLost() override;
+
+    [[nodiscard]] bool ensureEngine();
+    [[nodiscard]] WebFrame* frameOf(FrameKind kind);
+    [[nodiscard]] std::shared_ptr<const DomDocument> takeDocument();
+    void endDocumentWait();
+
+    EngineMaker makeEngine_;
+    std::unique_ptr<WebFrame> mainFrame_;
+    std::unique_ptr<WebFrame> subFrame_;
+    std::shared_ptr<DocumentWait> documentWait_;
+    std::chrono::milliseconds documentTimeLimit_{20000};
+    std::unique_ptr<WebEngine> engine_;
+};
+
+/** The maker that loads the engine's module from beside the program. Null results leave the reason, a
+   sentence, as a label in the parent widget's layout. */
+[[nodiscard]] WebView::EngineMaker engineFromModule();
+
+} // namespace velmora
