@@ -1,0 +1,26 @@
+#pragma once
+
+#include "../fio.h"
+#include "descriptor.h"
+
+/** Finding and reading an ID3v2 tag. With AT_END set the tag is looked for through its footer in the file's
+   last ten bytes, else at offset 0. Version 2 tags pass the version test but are read with the ten-byte frame
+   headers of their successors. Unsynchronisation, extended headers, compression and the like are not
+   interpreted. The file position is undefined afterwards. */
+namespace velmora {
+
+/** Tags larger than this many bytes are not read. */
+inline constexpr std::uint32_t id3_largest_tag = 0x40000;
+
+/** The file offset of a tag's header (0 is one), or -1. Logs only what can't be read, and a footer that
+   points in front of the file. */
+[[nodiscard]] std::int64_t id3_is_present_v2(FIOFUNCSTRUCT* file, bool at_end);
+
+/** Reads a tag into the zeroed DESCRIPTOR. Returns the file offset of its header (0 is one), or -1, with
+   DESCRIPTOR still zeroed and the reason logged. A bad frame ends the reading but does not fail it: the
+   frames in front of it are kept and the rest of the tag counts as padding. Costs two reads a frame. The
+   caller frees DESCRIPTOR. */
+[[nodiscard]] std::int64_t id3_load_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor,
+                                                  bool at_end);
+
+} // namespace velmora

@@ -1,0 +1,168 @@
+#include "store_file_info.h"
+
+#include "../path.h"
+#include "../trace.h"
+#include "guards.h"
+#include "header_v1.h"
+#include "reader.h"
+#include "store_fields.h"
+#include "tag_header.h"
+#include "writer.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <string>
+#include <unistd.h>
+
+namespace velmora {
+
+namespace {
+
+/** From this length on a leading tag is ignored, so that no large file is ever copied. */
+constexpr std::int64_t first_large_length = 20'000'000;
+
+/** A name in the media file's folder. Unless the file of that name was kept, it is closed and deleted in the
+ * end. */
+class TemporaryFile {
+public:
+    TemporaryFile() = default;
+    ~TemporaryFile() {
+        file_.close();
+        if (name_[0] && !kept_) {
+            ::unlink(name_);
+        }
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    [[nodiscard]] bool make_name(const char* media_path) {
+        std::string folder = media_path;
+        PathRemoveFileSpec(folder.data());
+        if (GetTempFileName(folder.c_str(), "VLT", 0, name_) == 0) {
+            name_[0] = 0;
+            return false;
+        }
+        return true;
+    }
+    /** Opens the file of that name. It is not created: without one this fails. */
+    [[nodiscard]] bool open() { return file_.open(name_, O_RDWR | O_TRUNC); }
+    [[nodiscard]] bool close() { return file_.close(); }
+    [[nodiscard]] FIOFUNCSTRUCT* handle() { return file_.handle(); }
+    [[nodiscard]] const char* name() const { return name_; }
+    void keep() { kept_ = true; }
+
+private:
+    Id3File file_;
+    char name_[temp_file_name_capacity] = {};
+    bool kept_ = false;
+};
+
+void start_new_tag(_id3_file_desc_t* descriptor) {
+    std::memcpy(descriptor->signature, "ID3", sizeof descriptor->signature);
+    descriptor->version = id3_newest_version;
+    descriptor->header_flags = id3_header_flag::footer;
+}
+
+/** Loads the tag to rewrite, or starts a new one, and returns where it is to be written; negative when the
+   file's length can't be found out. */
+std::int64_t find_write_position(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor) {
+    const std::int64_t length = fio_lseek(file, 0, SEEK_END);
+    fio_lseek(file, 0, SEEK_SET);
+    std::int64_t position = id3_load_descriptor_v2(file, descriptor, true);
+    if (position < 0 && length >= 1 && length < first_large_length) {
+        position = id3_load_descriptor_v2(file, descriptor, false);
+    }
+    if (position >= 0) {
+        return position;
+    }
+    start_new_tag(descriptor);
+    position = id3_is_present_v1(file);
+    return position >= 0 ? position : length;
+}
+
+bool store_in_place(Id3File& media, std::int64_t position, _id3_file_desc_t* descriptor) {
+    descriptor->header_flags |= id3_header_flag::footer;
+    bool stored = fio_lseek(media.handle(), position, SEEK_SET) == position &&
+                  id3_store_descriptor_v2(media.handle(), descriptor);
+    // Stands where a truncation would go: the file keeps its length.
+    [[maybe_unused]] const ssize_t nothing = stored ? fio_write(media.handle(), "", 0) : 0;
+    stored = media.close() && stored;
+    if (!stored) {
+        DebugError("id3_store_file_info: couldn't store new descriptor\n");
+    }
+    return stored;
+}
+
+std::int64_t length_in_file(const _id3_file_desc_t& descriptor) {
+    const std::int64_t length =
+        std::int64_t{descriptor.size} + static_cast<std::int64_t>(sizeof(Id3TagHeader));
+    const bool footer = descriptor.header_flags & id3_header_flag::footer;
+    return footer ? length + static_cast<std::int64_t>(sizeof(Id3TagHeader)) : length;
+}
+
+/** Writes the tag and what follows the old tag in MEDIA to the temporary file and closes both. */
+bool write_copy(TemporaryFile& copy, Id3File& media, _id3_file_desc_t* descriptor) {
+    const std::int64_t old_length = length_in_file(*descriptor);
+    if (!id3_store_descriptor_v2(copy.handle(), descriptor)) {
+        DebugError("id3_store_file_info: couldn't store new descriptor\n");
+        return false;
+    }
+    // A copy that can't be closed cleanly may not be complete, and the original is about to go.
+    if (fio_lseek(media.handle(), old_length, SEEK_SET) != old_length ||
+        !id3_append_file(copy.handle(), media.handle()) || !copy.close()) {
+        DebugError("id3_store_file_info: couldn't append file data\n");
+        return false;
+    }
+    media.close();
+    return true;
+}
+
+bool store_through_copy(const char* path, Id3File& media, _id3_file_desc_t* descriptor) {
+    TemporaryFile copy;
+    if (!copy.make_name(path)) {
+        DebugError("id3_store_file_info: couldn't create temp file\n");
+        return false;
+    }
+    if (!copy.open()) {
+        DebugError("id3_store_file_info: couldn't reopen temp file\n");
+        return false;
+    }
+    if (!write_copy(copy, media, descriptor)) {
+        return false;
+    }
+    if (::unlink(path) != 0) {
+        DebugError("id3_store_file_info: couldn't delete original file\n");
+        return false;
+    }
+    copy.keep(); // from here on it is the only copy of the media
+    if (std::rename(copy.name(), path) != 0) {
+        DebugError("id3_store_file_info: couldn't rename file\n");
+    }
+    return true;
+}
+
+} // namespace
+
+int id3_store_file_info(const char* path, _file_info_t* info) {
+    Id3File media;
+    if (!media.open(path, O_RDWR | O_CREAT)) {
+        DebugError("id3_store_file_info: couldn't open file for r/w: %s\n", std::strerror(errno));
+        return 0;
+    }
+    Id3Descriptor descriptor;
+    const std::int64_t position = find_write_position(media.handle(), &descriptor);
+    if (!id3_store_fields(&descriptor, info)) {
+        return 0;
+    }
+    const bool stored = position != 0 ? store_in_place(media, position, &descriptor)
+                                      : store_through_copy(path, media, &descriptor);
+    if (!stored) {
+        return 0;
+    }
+    info->flags |= file_info_flag::tag_present;
+    return 1;
+}
+
+} // namespace velmora

@@ -1,0 +1,123 @@
+#include "id3_bytes.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+
+namespace velmora::test {
+
+std::string syncsafe(std::uint32_t value) {
+    std::string bytes(4, '\0');
+    for (int i = 3; i >= 0; --i) {
+        bytes[static_cast<std::size_t>(i)] = static_cast<char>(value % 128);
+        value /= 128;
+    }
+    return bytes;
+}
+
+std::string big_endian(std::uint32_t value) {
+    std::string bytes(4, '\0');
+    for (int i = 3; i >= 0; --i) {
+        bytes[static_cast<std::size_t>(i)] = static_cast<char>(value % 256);
+        value /= 256;
+    }
+    return bytes;
+}
+
+std::string header(int version, int flags, std::uint32_t size, std::string_view signature) {
+    return std::string(signature) + static_cast<char>(version) + '\0' + static_cast<char>(flags) +
+           syncsafe(size);
+}
+
+std::string frame4(std::string_view id, std::string_view body) {
+    return std::string(id) + syncsafe(static_cast<std::uint32_t>(body.size())) + std::string(2, '\0') +
+           std::string(body);
+}
+
+std::string frame3(std::string_view id, std::string_view body) {
+    return std::string(id) + big_endian(static_cast<std::uint32_t>(body.size())) + std::string(2, '\0') +
+           std::string(body);
+}
+
+std::string text4(std::string_view id, std::string_view text) {
+    return frame4(id, std::string(1, '\0') + std::string(text));
+}
+
+std::string leading_tag(int version, std::string_view contents) {
+    return header(version, 0, static_cast<std::uint32_t>(contents.size())) + std::string(contents);
+}
+
+std::string appended_tag(std::string_view contents) {
+    const auto size = static_cast<std::uint32_t>(contents.size());
+    return header(4, 0x10, size) + std::string(contents) + header(4, 0x10, size, "3DI");
+}
+
+OpenFile::OpenFile(std::string_view contents) {
+    write_file(path_, contents);
+    open();
+}
+
+OpenFile::OpenFile(long long size, std::string_view contents, long long offset) {
+    write_sparse_file(path_, size, contents, offset);
+    open();
+}
+
+OpenFile::~OpenFile() {
+    fio_close(&file_);
+}
+
+void OpenFile::open() {
+    EXPECT_EQ(0, fio_open(path_.c_str(), O_RDWR, 0, &file_));
+}
+
+void Descriptor::add(std::string_view id, std::string_view body, std::string_view flag_bytes) {
+    _id3_frame_t frame;
+    ASSERT_NE(nullptr, id3_init_frame(&frame, static_cast<std::int32_t>(body.size())));
+    frame.id = id_of(id);
+    std::uint16_t both = 0;
+    std::memcpy(&both, flag_bytes.data(), sizeof both);
+    frame.flags = both;
+    std::memcpy(frame.data, body.data(), body.size());
+    ASSERT_EQ(1, id3_insert_frame(this, &frame));
+}
+
+std::vector<std::string> Descriptor::list() const {
+    std::vector<std::string> rows;
+    for (std::int32_t i = 0; i < frame_count; ++i) {
+        const _id3_frame_t& frame = frames[i];
+        const std::uint32_t id = frame.id;
+        std::string row(4, '\0');
+        std::memcpy(row.data(), &id, sizeof id);
+        row += ':';
+        row.append(reinterpret_cast<const char*>(frame.data), static_cast<std::size_t>(frame.size));
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+Frame::Frame(std::string_view body, std::string_view id_text) : _id3_frame_t{} {
+    size = static_cast<std::int32_t>(body.size());
+    id = id_of(id_text);
+    data = static_cast<std::uint8_t*>(std::malloc(body.size() + 1));
+    std::memcpy(data, body.data(), body.size());
+    data[body.size()] = 0;
+}
+
+Frame::~Frame() {
+    std::free(data);
+}
+
+std::string Frame::body() const {
+    return {reinterpret_cast<const char*>(data), static_cast<std::size_t>(size)};
+}
+
+std::uint32_t id_of(std::string_view name) {
+    std::uint32_t id = 0;
+    EXPECT_EQ(4u, name.size());
+    std::memcpy(&id, name.data(), sizeof id);
+    return id;
+}
+
+} // namespace velmora::test

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "support/bytes.h"
+#include "support/scratch_folder.h"
+#include "taglib/fio.h"
+#include "taglib/id3/descriptor.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/** Tags for tests, put together without the code under test. */
+namespace velmora::test {
+
+/** Four bytes of seven bits. */
+[[nodiscard]] std::string syncsafe(std::uint32_t value);
+[[nodiscard]] std::string big_endian(std::uint32_t value);
+
+/** The bytes of TEXT, zeros included: bytes("a\0b"). */
+template <std::size_t size>
+[[nodiscard]] std::string bytes(const char (&text)[size]) {
+    return {text, size - 1};
+}
+
+/** A header ("ID3") or a footer ("3DI") for a tag of SIZE bytes. */
+[[nodiscard]] std::string header(int version, int flags, std::uint32_t size,
+                                 std::string_view signature = "ID3");
+/** A frame of a version 4 tag, with flags 0. */
+[[nodiscard]] std::string frame4(std::string_view id, std::string_view body);
+/** A frame of a version 3 tag, with flags 0. */
+[[nodiscard]] std::string frame3(std::string_view id, std::string_view body);
+/** A frame of a version 4 tag that holds TEXT under encoding byte 0. */
+[[nodiscard]] std::string text4(std::string_view id, std::string_view text);
+/** A tag as it stands at a file's start: header and CONTENTS. */
+[[nodiscard]] std::string leading_tag(int version, std::string_view contents);
+/** A version 4 tag as it stands at a file's end: header, CONTENTS, footer. */
+[[nodiscard]] std::string appended_tag(std::string_view contents);
+
+/** A file of given bytes, open for reading and writing. */
+class OpenFile {
+public:
+    explicit OpenFile(std::string_view contents);
+    /** A file of SIZE bytes that holds CONTENTS at OFFSET and holes elsewhere. */
+    OpenFile(long long size, std::string_view contents, long long offset);
+    ~OpenFile();
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    [[nodiscard]] FIOFUNCSTRUCT* handle() { return &file_; }
+    [[nodiscard]] const std::string& path() const { return path_; }
+    [[nodiscard]] std::string contents() const { return read_file(path_); }
+
+private:
+    void open();
+    ScratchFolder folder_;
+    std::string path_ = folder_ / "file.mp3";
+    FIOFUNCSTRUCT file_{-1};
+};
+
+/** A descriptor that releases what it holds. */
+struct Descriptor : _id3_file_desc_t {
+    Descriptor() : _id3_file_desc_t{} {}
+    ~Descriptor() { id3_free_descriptor(this); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    /** Appends a frame; fails the test when that fails. */
+    void add(std::string_view id, std::string_view body, std::string_view flags = {"\0\0", 2});
+    /** Each frame as "TALB:" and its body. */
+    [[nodiscard]] std::vector<std::string> list() const;
+};
+
+/** A frame of its own, released with the object. */
+struct Frame : _id3_frame_t {
+    explicit Frame(std::string_view body, std::string_view id = "TEST");
+    ~Frame();
+    Frame(const Frame&) = delete;
+    Frame& operator=(const Frame&) = delete;
+
+    [[nodiscard]] std::string body() const;
+};
+
+[[nodiscard]] std::uint32_t id_of(std::string_view name);
+
+} // namespace velmora::test
