@@ -230,11 +230,12 @@ void format_message(char (&message)[message_capacity], const char* format, va_li
 
 void DebugTraceV(const char* format, va_list arguments) {
     const int error = errno;
-    char message[message_capacity];
+    // Zeros: a conversion that fails may leave the text without an end.
+    char message[message_capacity] = {};
     if (needs_own_formatting(format)) {
         format_message(message, format, arguments);
     } else if (std::vsnprintf(message, sizeof message, format, arguments) < 0) {
-        message[0] = '\0'; // what a failed conversion leaves behind is not defined
+        message[message_capacity - 1] = '\0';
     }
     std::fputs(message, stderr);
     errno = error;
