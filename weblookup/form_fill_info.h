@@ -9,8 +9,9 @@
 
 namespace velmora {
 
-/** What a page extractor found on a film's page. A slot without a value was not found, and the editor's field stays as
-    it is; an empty text is a value, and empties the field. Lists are never empty: a list without names is no value. */
+/** What a page extractor found on a film's page. A slot without a value was not found, and the editor's field
+   stays as it is; an empty text is a value, and empties the field. Lists are never empty: a list without
+   names is no value. */
 struct FormFillInfo {
     std::optional<QString> title;
     /** Actors, in page order. */

@@ -9,7 +9,8 @@ class FormFillReceiver {
 public:
     virtual ~FormFillReceiver() = default;
 
-    /** Copies INFO's slots into the form. INFO may be null, which changes nothing, and lives only during the call. */
+    /** Copies INFO's slots into the form. INFO may be null, which changes nothing, and lives only during the
+     * call. */
     virtual void fillFields(const FormFillInfo* info) = 0;
 };
 

@@ -1,5 +1,7 @@
 #include "image_fetch.h"
 
+#include "platform/modal_loop.h"
+
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QNetworkAccessManager>
@@ -63,6 +65,7 @@ std::optional<QImage> fetchImage(const QUrl& url, const QObject* context) {
     QObject::connect(reply.get(), &QNetworkReply::downloadProgress, reply.get(), abortWhenTooLarge);
     QObject::connect(context, &QObject::destroyed, &wait, &QEventLoop::quit);
     if (!reply->isFinished()) {
+        const ModalLoop blocking;
         wait.exec(QEventLoop::ExcludeUserInputEvents);
     }
     if (!reply->isFinished()) {

@@ -1,6 +1,7 @@
 #include "web_view.h"
 
 #include "dom_snapshot.h"
+#include "platform/modal_loop.h"
 
 #include <QEventLoop>
 #include <QPointer>
@@ -125,6 +126,7 @@ std::shared_ptr<const DomDocument> WebView::takeDocument() {
     });
     if (!wait->ended) {
         QTimer::singleShot(documentTimeLimit_, &wait->loop, [raw = wait.get()] { raw->end(QString()); });
+        const ModalLoop blocking;
         wait->loop.exec(QEventLoop::ExcludeUserInputEvents);
     }
     if (self != nullptr) {

@@ -1,0 +1,56 @@
+#include "FormFill.h"
+
+#include "imdb_page.h"
+#include "platform/web/web_view.h"
+#include "search_address.h"
+#include "store_page.h"
+
+namespace velmora {
+
+namespace {
+
+/** FETCH for the pictures of a page at ADDRESS: a page from the web can't put a file of this machine on the
+ * form. */
+ImageFetch withoutLocalFiles(const QString& address, ImageFetch fetch) {
+    if (QUrl(address).isLocalFile()) {
+        return fetch;
+    }
+    return [fetch = std::move(fetch)](const QUrl& url) { return url.isLocalFile() ? QImage() : fetch(url); };
+}
+
+} // namespace
+
+FormFill::FormFill(std::shared_ptr<const DomDocument> document, int type, ImageFetch fetch)
+    : formType(type), domDocument(std::move(document)), fetch_(std::move(fetch)) {}
+
+std::unique_ptr<FormFill> FormFill::initWithWebFrame(WebFrame& frame, int type, ImageFetch fetch) {
+    std::shared_ptr<const DomDocument> document = frame.domDocument();
+    if (document == nullptr) {
+        return nullptr;
+    }
+    ImageFetch allowed = withoutLocalFiles(document->url, std::move(fetch));
+    return std::unique_ptr<FormFill>(new FormFill(std::move(document), type, std::move(allowed)));
+}
+
+const FormFillInfo* FormFill::formFillInfo() {
+    if (info == nullptr && formType == siteImdb) {
+        parseImdb();
+    } else if (info == nullptr && formType == siteAmazon) {
+        parseAmazon();
+    }
+    return info.get();
+}
+
+bool FormFill::parseImdb() {
+    info = std::make_unique<FormFillInfo>();
+    readImdbPage(*domDocument, fetch_, *info);
+    return true;
+}
+
+bool FormFill::parseAmazon() {
+    info = std::make_unique<FormFillInfo>();
+    readStorePage(*domDocument, fetch_, *info);
+    return true;
+}
+
+} // namespace velmora

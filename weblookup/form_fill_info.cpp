@@ -1,1 +1,0 @@
-#include "form_fill_info.h"

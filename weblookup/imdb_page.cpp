@@ -1,0 +1,157 @@
+#include "imdb_page.h"
+
+#include "dom_walk.h"
+#include "platform/log.h"
+#include "release_date.h"
+
+namespace velmora {
+
+namespace {
+
+void readTitle(const DomDocument& page, FormFillInfo& info) {
+    const std::optional<QString> text = titleText(page);
+    if (!text) {
+        return;
+    }
+    appLog(QStringLiteral("<title> tag has \"%1\"\n").arg(*text));
+    // Untrimmed: the blank before the year stays.
+    info.title = text->left(text->lastIndexOf(QLatin1Char('(')));
+}
+
+/** The first direct text of each anchor behind HEADING that has one, untrimmed. */
+QStringList linkedTexts(const DomNode* heading) {
+    QStringList texts;
+    const DomNode* anchor = get_first_sibling_of_type(heading, DomClass::DOMHTMLAnchorElement);
+    for (; anchor != nullptr; anchor = get_first_sibling_of_type(anchor, DomClass::DOMHTMLAnchorElement)) {
+        if (const DomNode* const text = get_first_child_of_type(anchor, DomClass::DOMText)) {
+            texts.append(text->data.value_or(QString()));
+        }
+    }
+    return texts;
+}
+
+void readReleaseDate(const DomNode* heading, FormFillInfo& info) {
+    std::optional<QString> date;
+    if (const std::optional<QString> text = followingText(heading)) {
+        const QStringList parts = text->split(QLatin1Char(' '), Qt::KeepEmptyParts);
+        if (parts.size() >= 3) {
+            date = parts.mid(0, 3).join(QLatin1Char(' '));
+        }
+    }
+    setReleaseDate(info, date, QStringLiteral("d MMMM yyyy"));
+}
+
+std::optional<QStringList> readGenres(const DomNode* heading) {
+    QStringList genres = linkedTexts(heading);
+    genres.removeAll(QStringLiteral("more"));
+    return unlessEmpty(genres);
+}
+
+std::optional<QString> readCertification(const DomNode* heading) {
+    const QString country = QStringLiteral("USA:");
+    for (const QString& text : linkedTexts(heading)) {
+        if (text.startsWith(country)) {
+            const QString rating = text.mid(country.size());
+            return rating == QLatin1String("Unrated") ? QStringLiteral("NR") : rating;
+        }
+    }
+    return std::nullopt;
+}
+
+void readHeading(const DomNode* heading, FormFillInfo& info) {
+    const std::optional<QString> label = leadingText(heading);
+    if (!label) {
+        return;
+    }
+    if (label->contains(QLatin1String("Director:"))) {
+        info.directors = imdb_parse_directors(heading);
+    } else if (label->contains(QLatin1String("Release Date:"))) {
+        readReleaseDate(heading, info);
+    } else if (label->contains(QLatin1String("Genre:"))) {
+        info.genres = readGenres(heading);
+    } else if (label->contains(QLatin1String("Plot Outline:"))) {
+        info.description = followingText(heading);
+    } else if (label->contains(QLatin1String("Certification:"))) {
+        info.rating = readCertification(heading);
+    }
+}
+
+/** Adds the names in ROW's second cell; cells of both kinds count. */
+void addActors(const DomNode* row, QStringList& cast) {
+    const DomNode* const first = get_first_child_of_type(row, DomClass::DOMHTMLTableCellElement);
+    const DomNode* const second =
+        first == nullptr ? nullptr : get_first_sibling_of_type(first, DomClass::DOMHTMLTableCellElement);
+    if (second == nullptr) {
+        return;
+    }
+    for (const DomNode* child = second->firstChild; child != nullptr; child = child->nextSibling) {
+        if (child->domClass == DomClass::DOMHTMLAnchorElement) {
+            if (const std::optional<QString> name = leadingText(child)) {
+                cast.append(*name);
+            }
+        }
+    }
+}
+
+/** The first tbody takes the walk over for good: what stands behind it in the table is not read. */
+std::optional<QStringList> readCast(const DomNode* table) {
+    QStringList cast;
+    bool inBody = false;
+    const DomNode* node = table->firstChild;
+    while (node != nullptr) {
+        if (!inBody && node->hasTagName(u"tbody")) {
+            inBody = true;
+            node = node->firstChild;
+            continue;
+        }
+        if (node->domClass == DomClass::DOMHTMLTableRowElement) {
+            addActors(node, cast);
+        }
+        node = node->nextSibling;
+    }
+    return unlessEmpty(cast);
+}
+
+void readSections(const DomDocument& page, FormFillInfo& info) {
+    for (const DomNode* const section : page.getElementsByTagName(u"div")) {
+        if (!section->isHTMLElement || section->className != QLatin1String("info")) {
+            continue;
+        }
+        for (const DomNode* child = section->firstChild; child != nullptr; child = child->nextSibling) {
+            if (child->hasTagName(u"h5")) {
+                readHeading(child, info);
+            } else if (child->hasTagName(u"table") && child->className == QLatin1String("cast")) {
+                info.cast = readCast(child);
+            }
+        }
+    }
+}
+
+/** Fetches the images of one anchor until one comes. Every result is kept, a failed fetch's too. */
+void readPoster(const DomNode* anchor, const ImageFetch& fetch, FormFillInfo& info) {
+    for (const DomNode* child = anchor->firstChild; child != nullptr; child = child->nextSibling) {
+        if (child->domClass != DomClass::DOMHTMLImageElement) {
+            continue;
+        }
+        if (const std::optional<QUrl> url = imageUrl(child->src)) {
+            info.coverArt = fetch(*url);
+            if (!info.coverArt.isNull()) {
+                return;
+            }
+        }
+    }
+}
+
+} // namespace
+
+void readImdbPage(const DomDocument& page, const ImageFetch& fetch, FormFillInfo& info) {
+    readTitle(page, info);
+    readSections(page, info);
+    for (const DomNode* const anchor : page.getElementsByTagName(u"a")) {
+        if (anchor->name == QLatin1String("poster")) {
+            readPoster(anchor, fetch, info);
+        }
+    }
+}
+
+} // namespace velmora

@@ -1,0 +1,138 @@
+#include "store_page.h"
+
+#include "dom_walk.h"
+#include "platform/log.h"
+#include "release_date.h"
+
+namespace velmora {
+
+namespace {
+
+/** "store: title: kind: people": from five parts on the title itself holds the separator. */
+void readTitle(const DomDocument& page, FormFillInfo& info) {
+    const std::optional<QString> text = titleText(page);
+    if (!text) {
+        return;
+    }
+    const QString separator = QStringLiteral(": ");
+    const QStringList parts = text->split(separator, Qt::KeepEmptyParts);
+    if (parts.size() == 1) {
+        info.title = text;
+    } else if (parts.size() <= 4) {
+        info.title = parts.at(1);
+    } else {
+        info.title = parts.mid(1, parts.size() - 3).join(separator);
+    }
+}
+
+std::optional<QString> readRating(const DomNode* label) {
+    const DomNode* const image = get_first_sibling_of_type(label, DomClass::DOMHTMLImageElement);
+    return image == nullptr ? std::nullopt : image->getAttribute(u"alt");
+}
+
+void readLabel(const DomNode* label, FormFillInfo& info) {
+    const std::optional<QString> text = leadingText(label);
+    if (!text) {
+        return;
+    }
+    if (text->contains(QLatin1String("Actors:"))) {
+        appLog(QStringLiteral("looking for actors\n"));
+        info.cast = imdb_parse_directors(label);
+    } else if (text->contains(QLatin1String("Directors:"))) {
+        info.directors = imdb_parse_directors(label);
+    } else if (text->contains(QLatin1String("Rating"))) {
+        info.rating = readRating(label);
+    } else if (text->contains(QLatin1String("Release Date:"))) {
+        setReleaseDate(info, followingText(label), QStringLiteral("MMMM d, yyyy"));
+    }
+}
+
+void readDetails(const DomDocument& page, FormFillInfo& info) {
+    for (const DomNode* const list : page.getElementsByTagName(u"ul")) {
+        const DomNode* item = get_first_child_of_type(list, DomClass::DOMHTMLLIElement);
+        for (; item != nullptr; item = get_first_sibling_of_type(item, DomClass::DOMHTMLLIElement)) {
+            for (const DomNode* child = item->firstChild; child != nullptr; child = child->nextSibling) {
+                if (child->hasTagName(u"b")) {
+                    readLabel(child, info);
+                }
+            }
+        }
+    }
+}
+
+/** Texts and line breaks from the first text behind LABEL on, up to any other node. */
+std::optional<QString> descriptionBehind(const DomNode* label) {
+    std::optional<QString> description;
+    const DomNode* node = get_first_sibling_of_type(label, DomClass::DOMText);
+    for (; node != nullptr; node = node->nextSibling) {
+        if (node->domClass == DomClass::DOMText) {
+            const QString text = node->data.value_or(QString()).trimmed();
+            if (!text.isEmpty()) {
+                description = description.value_or(QString()) + text;
+            }
+        } else if (node->domClass != DomClass::DOMHTMLBRElement) {
+            break;
+        } else if (description) {
+            description->append(QLatin1Char('\n'));
+        }
+    }
+    return description;
+}
+
+/** Only the first label counts, also when it gives nothing. */
+void readDescription(const DomDocument& page, FormFillInfo& info) {
+    for (const DomNode* const label : page.getElementsByTagName(u"b")) {
+        const std::optional<QString> text = leadingText(label);
+        if (text && text->contains(QLatin1String("Product Description"))) {
+            info.description = descriptionBehind(label);
+            return;
+        }
+    }
+}
+
+/** The address of the large picture that goes with the product image in CELL; no value when CELL does not
+   hold one or its address does not have the mark of the small size. */
+std::optional<QString> largeImageAddress(const DomNode* cell) {
+    if (cell->getAttribute(u"id") != QLatin1String("prodImageCell")) {
+        return std::nullopt;
+    }
+    const DomNode* const anchor = get_first_child_of_type(cell, DomClass::DOMHTMLAnchorElement);
+    const DomNode* const image =
+        anchor == nullptr ? nullptr : get_first_child_of_type(anchor, DomClass::DOMHTMLImageElement);
+    if (image == nullptr || image->getAttribute(u"id") != QLatin1String("prodImage")) {
+        return std::nullopt;
+    }
+    const QLatin1String smallMark("_AA240_");
+    const qsizetype mark = image->src.indexOf(smallMark);
+    if (mark < 0) {
+        return std::nullopt;
+    }
+    return image->src.left(mark) + QLatin1String("_SS500_") + image->src.mid(mark + smallMark.size());
+}
+
+void readCover(const DomDocument& page, const ImageFetch& fetch, FormFillInfo& info) {
+    for (const DomNode* const cell : page.getElementsByTagName(u"td")) {
+        const std::optional<QString> address = largeImageAddress(cell);
+        if (!address) {
+            continue;
+        }
+        appLog(QStringLiteral("getting cover art from %1\n").arg(*address));
+        if (const std::optional<QUrl> url = imageUrl(*address)) {
+            info.coverArt = fetch(*url);
+            if (!info.coverArt.isNull()) {
+                return;
+            }
+        }
+    }
+}
+
+} // namespace
+
+void readStorePage(const DomDocument& page, const ImageFetch& fetch, FormFillInfo& info) {
+    readTitle(page, info);
+    readDetails(page, info);
+    readDescription(page, info);
+    readCover(page, fetch, info);
+}
+
+} // namespace velmora
