@@ -3,6 +3,17 @@
 /** The tag library: everything that its users need, in one header. */
 
 #include "argument_text.h"
+#include "asf/content_description.h"
+#include "asf/content_descriptor.h"
+#include "asf/descriptor_value.h"
+#include "asf/ext_content_description.h"
+#include "asf/guids.h"
+#include "asf/header_object.h"
+#include "asf/load_file_info.h"
+#include "asf/move_file.h"
+#include "asf/object.h"
+#include "asf/picture.h"
+#include "asf/store_file_info.h"
 #include "file_info.h"
 #include "filetime.h"
 #include "fio.h"

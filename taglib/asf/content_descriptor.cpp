@@ -1,0 +1,156 @@
+#include "content_descriptor.h"
+
+#include "../trace.h"
+#include "checked_position.h"
+#include "descriptor_value.h"
+#include "owned.h"
+#include "utf16.h"
+
+#include <limits>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::uint32_t fixed_size = 6;
+
+/** The bytes that a descriptor may still take. */
+class Room {
+public:
+    explicit Room(std::int64_t bytes) : left_(bytes) {}
+    [[nodiscard]] bool take(std::int64_t bytes) {
+        if (bytes > left_) {
+            return false;
+        }
+        left_ -= bytes;
+        return true;
+    }
+
+private:
+    std::int64_t left_;
+};
+
+/** LENGTH bytes of the file in BYTES, nothing for length 0. False when there is no room or no memory for
+ * them. */
+bool read_bytes(FIOFUNCSTRUCT* file, std::uint16_t length, Room& room, AsfOwned<std::uint8_t>& bytes) {
+    if (!room.take(length)) {
+        return false;
+    }
+    if (length == 0) {
+        return true;
+    }
+    bytes.reset(asf_new_bytes(length));
+    // A short count shows in the position, which the caller compares.
+    return bytes && fio_read(file, bytes.get(), length) >= 0;
+}
+
+void log_name(std::int64_t position, const _asf_content_descriptor_t& descriptor) {
+    DebugInfo("[%I64x] %S\n", position, Utf16TraceText(descriptor.name, descriptor.name_length).get());
+}
+
+void log_value(const _asf_content_descriptor_t& descriptor) {
+    const std::uint64_t number = asf_value_as_number(&descriptor);
+    const auto low = static_cast<std::uint32_t>(number);
+    switch (descriptor.type) {
+    case asf_value_type::unicode:
+        DebugInfo("  unicode: %S\n", Utf16TraceText(descriptor.value, descriptor.value_length).get());
+        break;
+    case asf_value_type::bytearray: {
+        // As a byte string: up to its first zero byte, never past its end.
+        const char* const text = descriptor.value ? reinterpret_cast<const char*>(descriptor.value) : "";
+        DebugInfo("  bytearray: %.*s\n", static_cast<int>(descriptor.value_length), text);
+        break;
+    }
+    case asf_value_type::boolean:
+        DebugInfo("  bool: %d\n", static_cast<int>(low));
+        break;
+    case asf_value_type::dword:
+        DebugInfo("  dword: 0x%x (%d)\n", low, static_cast<int>(low));
+        break;
+    case asf_value_type::qword:
+        DebugInfo("  qword: 0x%I64x (%I64d)\n", number, number);
+        break;
+    case asf_value_type::word:
+        DebugInfo("  word: 0x%x (%d)\n", low, static_cast<int>(low));
+        break;
+    default:
+        DebugError("  unknown type %d length %d\n", descriptor.type, descriptor.value_length);
+    }
+}
+
+} // namespace
+
+_asf_content_descriptor_t* asf_init_content_descriptor() {
+    return asf_new_record<_asf_content_descriptor_t>();
+}
+
+void asf_free_content_descriptor(_asf_content_descriptor_t* descriptor) {
+    if (descriptor) {
+        std::free(descriptor->name);
+        std::free(descriptor->value);
+        std::free(descriptor);
+    }
+}
+
+std::uint32_t asf_content_descriptor_bytes(const _asf_content_descriptor_t* descriptor) {
+    return fixed_size + descriptor->name_length + descriptor->value_length;
+}
+
+_asf_content_descriptor_t* asf_read_content_descriptor(FIOFUNCSTRUCT* file,
+                                                       _asf_content_descriptor_t* descriptor) {
+    return asf_read_content_descriptor_before(file, descriptor, std::numeric_limits<std::int64_t>::max());
+}
+
+_asf_content_descriptor_t* asf_read_content_descriptor_before(FIOFUNCSTRUCT* file,
+                                                              _asf_content_descriptor_t* descriptor,
+                                                              std::int64_t end) {
+    if (descriptor) {
+        *descriptor = {};
+    }
+    const std::int64_t start = fio_ltell(file);
+    Room room(end - start);
+    AsfOwned<std::uint8_t> name;
+    AsfOwned<std::uint8_t> value;
+    _asf_content_descriptor_t read{};
+    if (start < 0 || !room.take(fixed_size)) {
+        return nullptr;
+    }
+    read.name_length = fio_get_le16(file);
+    if (!read_bytes(file, read.name_length, room, name)) {
+        return nullptr;
+    }
+    read.type = fio_get_le16(file);
+    read.value_length = fio_get_le16(file);
+    if (!read_bytes(file, read.value_length, room, value) ||
+        !asf_read_reached(file, start + asf_content_descriptor_bytes(&read))) {
+        return nullptr;
+    }
+    if (!descriptor) {
+        descriptor = asf_init_content_descriptor();
+        if (!descriptor) {
+            return nullptr;
+        }
+    }
+    read.name = name.release();
+    read.value = value.release();
+    *descriptor = read;
+    log_name(start, read);
+    log_value(read);
+    return descriptor;
+}
+
+int asf_store_content_descriptor(FIOFUNCSTRUCT* file, const _asf_content_descriptor_t* descriptor) {
+    log_name(fio_ltell(file), *descriptor);
+    (void)fio_put_le16(file, descriptor->name_length);
+    if (descriptor->name && descriptor->name_length > 0) {
+        (void)fio_write(file, descriptor->name, descriptor->name_length);
+    }
+    (void)fio_put_le16(file, descriptor->type);
+    (void)fio_put_le16(file, descriptor->value_length);
+    if (descriptor->value && descriptor->value_length > 0) {
+        (void)fio_write(file, descriptor->value, descriptor->value_length);
+    }
+    return 1;
+}
+
+} // namespace velmora

@@ -1,0 +1,226 @@
+#include "ext_content_description.h"
+
+#include "../trace.h"
+#include "checked_position.h"
+#include "descriptor_value.h"
+#include "guids.h"
+#include "owned.h"
+#include "utf16.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <unistd.h>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::uint32_t fixed_size = 26;
+
+/** A name as it is compared with the stored ones. */
+class NameKey {
+public:
+    explicit NameKey(const char* name) {
+        utf8_to_utf16le(name, bytes_, limit);
+        length_ = utf16le_length(bytes_, limit) + 2;
+    }
+    [[nodiscard]] bool matches(const _asf_content_descriptor_t& descriptor) const {
+        return descriptor.name && descriptor.name_length >= length_ &&
+               std::memcmp(descriptor.name, bytes_, length_) == 0;
+    }
+
+private:
+    static constexpr std::size_t limit = 256;
+    std::uint8_t bytes_[limit + 2] = {}; ///< so that a zero unit follows a name of full length
+    std::size_t length_;
+};
+
+/** The index of the descriptor called NAME, or ecd->count. */
+std::uint16_t index_of(const _asf_ext_content_description_t* ecd, const char* name) {
+    const NameKey key(name);
+    std::uint16_t index = 0;
+    while (index < ecd->count && !key.matches(*ecd->descriptors[index])) {
+        ++index;
+    }
+    return index;
+}
+
+void free_descriptors(_asf_ext_content_description_t* ecd) {
+    for (std::uint16_t i = 0; i < ecd->count; ++i) {
+        asf_free_content_descriptor(ecd->descriptors[i]);
+    }
+    std::free(ecd->descriptors);
+    ecd->descriptors = nullptr;
+    ecd->count = 0;
+}
+
+void log_object_lines(std::int64_t start, const _asf_ext_content_description_t* ecd) {
+    DebugInfo("[%I64x] ExtendedContentDescription\n", start);
+    DebugInfo("  Size = 0x%I64x\n", ecd->size);
+}
+
+[[nodiscard]] bool resize_array(_asf_ext_content_description_t* ecd, std::size_t entries) {
+    void* const array = std::realloc(ecd->descriptors, entries * sizeof *ecd->descriptors);
+    if (!array) {
+        return false;
+    }
+    ecd->descriptors = static_cast<_asf_content_descriptor_t**>(array);
+    return true;
+}
+
+/** Reads COUNT descriptors that end at or before END. The array grows with what is really there. */
+bool read_descriptors(FIOFUNCSTRUCT* file, _asf_ext_content_description_t* ecd, std::uint16_t count,
+                      std::int64_t end) {
+    std::size_t capacity = 0;
+    while (ecd->count < count) {
+        if (ecd->count == capacity) {
+            capacity = std::min<std::size_t>(count, std::max<std::size_t>(16, 2 * capacity));
+            if (!resize_array(ecd, capacity)) {
+                return false;
+            }
+        }
+        _asf_content_descriptor_t* const descriptor = asf_read_content_descriptor_before(file, nullptr, end);
+        if (!descriptor) {
+            return false;
+        }
+        ecd->descriptors[ecd->count++] = descriptor;
+    }
+    return true;
+}
+
+bool read_body(FIOFUNCSTRUCT* file, std::int64_t start, _asf_ext_content_description_t* ecd) {
+    const std::uint16_t count = fio_get_le16(file);
+    const std::int64_t next = asf_position_behind(start, ecd->size);
+    const std::int64_t file_end = asf_file_end(file);
+    if (next < 0 || file_end < 0 || !asf_read_reached(file, start + fixed_size)) {
+        return false;
+    }
+    log_object_lines(start, ecd);
+    DebugInfo("  NumEntries = %d\n", count);
+    return read_descriptors(file, ecd, count, std::min(next, file_end)) &&
+           fio_lseek(file, next, SEEK_SET) == next;
+}
+
+} // namespace
+
+_asf_ext_content_description_t* asf_init_ext_content_description() {
+    auto* const ecd = asf_new_record<_asf_ext_content_description_t>();
+    if (ecd) {
+        ecd->guid = ASF_ExtendedContentDescription;
+    }
+    return ecd;
+}
+
+void asf_free_ext_content_description(_asf_ext_content_description_t* ecd) {
+    if (ecd) {
+        free_descriptors(ecd);
+        std::free(ecd);
+    }
+}
+
+std::uint32_t asf_ext_content_description_bytes(const _asf_ext_content_description_t* ecd) {
+    std::uint32_t size = fixed_size;
+    for (std::uint16_t i = 0; i < ecd->count; ++i) {
+        size += asf_content_descriptor_bytes(ecd->descriptors[i]);
+    }
+    return size;
+}
+
+std::uint32_t asf_get_ext_content_description_size(const _asf_ext_content_description_t* ecd) {
+    const std::uint32_t size = asf_ext_content_description_bytes(ecd);
+    DebugInfo("asf_get_ext_content_description_size: %x bytes\n", size);
+    return size;
+}
+
+_asf_ext_content_description_t* asf_read_ext_content_description(FIOFUNCSTRUCT* file,
+                                                                 _asf_ext_content_description_t* ecd) {
+    AsfOwned<_asf_ext_content_description_t> made;
+    if (!ecd) {
+        made.reset(asf_new_record<_asf_ext_content_description_t>());
+        ecd = made.get();
+        if (!ecd) {
+            return nullptr;
+        }
+    }
+    *ecd = {};
+    const std::int64_t start = fio_ltell(file);
+    if (!asf_read_object(file, ecd)) {
+        return nullptr;
+    }
+    if (!read_body(file, start, ecd)) {
+        free_descriptors(ecd);
+        return nullptr;
+    }
+    (void)made.release();
+    return ecd;
+}
+
+int asf_store_ext_content_description(FIOFUNCSTRUCT* file, const _asf_ext_content_description_t* ecd) {
+    log_object_lines(fio_ltell(file), ecd);
+    if (!asf_store_object(file, ecd)) {
+        return 0;
+    }
+    (void)fio_put_le16(file, ecd->count);
+    for (std::uint16_t i = 0; i < ecd->count; ++i) {
+        if (!asf_store_content_descriptor(file, ecd->descriptors[i])) {
+            return 0;
+        }
+    }
+    return 1;
+}
+
+int asf_insert_content_descriptor(_asf_ext_content_description_t* ecd,
+                                  _asf_content_descriptor_t* descriptor) {
+    if (ecd->count == std::numeric_limits<std::uint16_t>::max() || !resize_array(ecd, ecd->count + 1u)) {
+        return 0;
+    }
+    ecd->descriptors[ecd->count++] = descriptor;
+    ecd->size += asf_content_descriptor_bytes(descriptor);
+    return 1;
+}
+
+_asf_content_descriptor_t* asf_find_content_descriptor(const _asf_ext_content_description_t* ecd,
+                                                       const char* name) {
+    const std::uint16_t index = index_of(ecd, name);
+    return index < ecd->count ? ecd->descriptors[index] : nullptr;
+}
+
+int asf_remove_content_descriptor(_asf_ext_content_description_t* ecd, const char* name) {
+    const std::uint16_t index = index_of(ecd, name);
+    if (index == ecd->count) {
+        return 0;
+    }
+    asf_free_content_descriptor(ecd->descriptors[index]);
+    std::copy(ecd->descriptors + index + 1, ecd->descriptors + ecd->count, ecd->descriptors + index);
+    --ecd->count;
+    return 1;
+}
+
+std::uint16_t asf_get_content_descriptor_str(const _asf_ext_content_description_t* ecd, const char* name,
+                                             char* text, std::size_t capacity) {
+    const _asf_content_descriptor_t* const descriptor = asf_find_content_descriptor(ecd, name);
+    if (!descriptor || !descriptor->value) {
+        return 0;
+    }
+    asf_value_as_text(descriptor, text, capacity);
+    return descriptor->value_length;
+}
+
+int asf_set_content_descriptor_str(_asf_ext_content_description_t* ecd, const char* name, std::uint16_t type,
+                                   const char* text) {
+    _asf_content_descriptor_t* descriptor = asf_find_content_descriptor(ecd, name);
+    if (!descriptor) {
+        descriptor = asf_init_content_descriptor();
+        if (!descriptor || !asf_insert_content_descriptor(ecd, descriptor)) {
+            asf_free_content_descriptor(descriptor);
+            return 0;
+        }
+    }
+    descriptor->name_length = asf_store_value(&descriptor->name, asf_value_type::unicode, name);
+    descriptor->type = type;
+    descriptor->value_length = asf_store_value(&descriptor->value, type, text);
+    return 1;
+}
+
+} // namespace velmora

@@ -1,0 +1,280 @@
+#include "header_object.h"
+
+#include "../trace.h"
+#include "checked_position.h"
+#include "content_description.h"
+#include "ext_content_description.h"
+#include "guids.h"
+#include "owned.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <functional>
+#include <unistd.h>
+
+namespace velmora {
+
+namespace {
+
+// A raw block is used as the object record that it begins with.
+static_assert(std::endian::native == std::endian::little && offsetof(_asf_object_t, size) == 16 &&
+              sizeof(_asf_object_t) == asf_object_header_size);
+
+[[nodiscard]] bool resize_array(_asf_header_object_t* header, std::size_t entries) {
+    void* const array = std::realloc(header->children, entries * sizeof *header->children);
+    if (!array) {
+        return false;
+    }
+    header->children = static_cast<_asf_object_t**>(array);
+    return true;
+}
+
+void free_child(_asf_object_t* child) {
+    if (child->guid == ASF_ContentDescription) {
+        asf_free_content_description(static_cast<_asf_content_description_t*>(child));
+    } else if (child->guid == ASF_ExtendedContentDescription) {
+        asf_free_ext_content_description(static_cast<_asf_ext_content_description_t*>(child));
+    } else {
+        std::free(child);
+    }
+}
+
+/** Reads the children of one header object. */
+class ChildReader {
+public:
+    ChildReader(FIOFUNCSTRUCT* file, _asf_header_object_t* header)
+        : file_(file), header_(header), position_(fio_ltell(file)), file_end_(asf_file_end(file)) {}
+
+    /** Reads COUNT children; HEADER counts those that it has. False when they are fewer. */
+    [[nodiscard]] bool read(std::uint32_t count);
+    /** Where the last child that was read ends. */
+    [[nodiscard]] std::int64_t position() const { return position_; }
+
+private:
+    [[nodiscard]] _asf_object_t* read_child(bool last);
+    [[nodiscard]] _asf_object_t* parse(const _asf_object_t& child, bool last);
+    [[nodiscard]] _asf_object_t* read_content_description(bool leads_on);
+    [[nodiscard]] _asf_object_t* read_raw_block(const _asf_object_t& child);
+    [[nodiscard]] bool append(_asf_object_t* child, std::uint32_t count);
+
+    FIOFUNCSTRUCT* file_;
+    _asf_header_object_t* header_;
+    std::int64_t position_;
+    std::int64_t file_end_;
+    std::int64_t strings_ = 0; ///< bytes that the content descriptions took so far
+    std::size_t capacity_ = 0; ///< of the child array
+};
+
+bool ChildReader::read(std::uint32_t count) {
+    if (position_ < 0 || file_end_ < 0) {
+        return false;
+    }
+    while (header_->child_count < count) {
+        _asf_object_t* const child = read_child(header_->child_count == count - 1);
+        if (!child || !append(child, count)) {
+            return false;
+        }
+        position_ += static_cast<std::int64_t>(child->size);
+    }
+    return true;
+}
+
+/** The child at the running position, or null. LAST: no other one follows. */
+_asf_object_t* ChildReader::read_child(bool last) {
+    _asf_object_t child{};
+    if (!asf_read_object(file_, &child)) {
+        return nullptr;
+    }
+    const auto position = static_cast<std::uint64_t>(position_);
+    if (position > header_->size || child.size > header_->size - position) {
+        DebugError("asf_read_header_object: Size overrun reading header object %I64x + %I64x > %I64x\n",
+                   position, child.size, header_->size);
+        return nullptr;
+    }
+    if (asf_position_behind(position_, child.size) < 0 ||
+        fio_lseek(file_, position_, SEEK_SET) != position_) {
+        return nullptr;
+    }
+    _asf_object_t* const parsed = parse(child, last);
+    if (parsed) {
+        // The header was read twice, from a file that others may write to: the record is what it was parsed
+        // as.
+        *parsed = child;
+    }
+    return parsed;
+}
+
+_asf_object_t* ChildReader::parse(const _asf_object_t& child, bool last) {
+    const bool leads_on = last || child.size > 0;
+    if (child.guid == ASF_ContentDescription) {
+        return read_content_description(leads_on);
+    }
+    if (child.guid == ASF_ExtendedContentDescription) {
+        return leads_on ? asf_read_ext_content_description(file_, nullptr) : nullptr;
+    }
+    if (child.guid == ASF_PaddingObject) {
+        return child.size > 0 ? asf_read_padding_object(file_, nullptr) : nullptr;
+    }
+    return read_raw_block(child);
+}
+
+/** A content description's strings may run past its declared size, into bytes that later children claim
+   again. All of them together can't be longer than the file, but for the last one. */
+_asf_object_t* ChildReader::read_content_description(bool leads_on) {
+    if (!leads_on || strings_ > file_end_) {
+        return nullptr;
+    }
+    _asf_content_description_t* const cd = asf_read_content_description(file_, nullptr);
+    if (cd) {
+        strings_ += asf_content_description_bytes(cd);
+    }
+    return cd;
+}
+
+_asf_object_t* ChildReader::read_raw_block(const _asf_object_t& child) {
+    DebugInfo("[%I64x] %s\n", position_, GUIDNAME(child.guid));
+    if (child.size < asf_object_header_size || position_ > file_end_ ||
+        child.size > static_cast<std::uint64_t>(file_end_ - position_)) {
+        return nullptr;
+    }
+    AsfOwned<_asf_object_t> block(static_cast<_asf_object_t*>(std::malloc(child.size)));
+    if (!block || fio_read(file_, block.get(), child.size) != static_cast<ssize_t>(child.size)) {
+        return nullptr;
+    }
+    return block.release();
+}
+
+/** Takes CHILD over; frees it on failure. */
+bool ChildReader::append(_asf_object_t* child, std::uint32_t count) {
+    if (header_->child_count == capacity_) {
+        const std::size_t more = std::min<std::size_t>(count, std::max<std::size_t>(16, 2 * capacity_));
+        if (!resize_array(header_, more)) {
+            free_child(child);
+            return false;
+        }
+        capacity_ = more;
+    }
+    header_->children[header_->child_count++] = child;
+    return true;
+}
+
+/** False when not every byte of CHILD was written. */
+bool store_child(FIOFUNCSTRUCT* file, const _asf_object_t* child) {
+    const std::int64_t start = fio_ltell(file);
+    if (child->guid == ASF_ContentDescription) {
+        const auto* const cd = static_cast<const _asf_content_description_t*>(child);
+        return asf_store_content_description(file, cd) &&
+               asf_write_reached(file, start + asf_content_description_bytes(cd));
+    }
+    if (child->guid == ASF_ExtendedContentDescription) {
+        const auto* const ecd = static_cast<const _asf_ext_content_description_t*>(child);
+        return asf_store_ext_content_description(file, ecd) &&
+               asf_write_reached(file, start + asf_ext_content_description_bytes(ecd));
+    }
+    if (child->guid == ASF_PaddingObject) {
+        return asf_store_padding_object(file, child) != 0;
+    }
+    DebugInfo("[%I64x] %s (0x%x bytes)\n", start, GUIDNAME(child->guid), static_cast<unsigned>(child->size));
+    return fio_write(file, child, child->size) == static_cast<ssize_t>(child->size);
+}
+
+} // namespace
+
+int asf_insert_object(_asf_header_object_t* header, _asf_object_t* object) {
+    if (!resize_array(header, header->child_count + std::size_t{1})) {
+        return 0;
+    }
+    header->children[header->child_count++] = object;
+    header->size += object->size + asf_object_header_size;
+    return 1;
+}
+
+_asf_object_t* asf_find_object(const _asf_header_object_t* header, const GUID& guid) {
+    for (std::uint32_t i = 0; i < header->child_count; ++i) {
+        _asf_object_t* const child = header->children[i];
+        if (child && child->guid == guid) {
+            return child;
+        }
+    }
+    return nullptr;
+}
+
+_asf_header_object_t* asf_read_header_object(FIOFUNCSTRUCT* file, _asf_header_object_t* header) {
+    *header = {};
+    const std::int64_t start = fio_ltell(file);
+    if (!asf_read_object(file, header)) {
+        return nullptr;
+    }
+    if (header->guid != ASF_HeaderObject) {
+        DebugError("asf_read_header_object: Not a valid header\n");
+        return nullptr;
+    }
+    const std::uint32_t count = fio_get_le32(file);
+    header->reserved = fio_get_le16(file);
+    if (start < 0 || !asf_read_reached(file, start + asf_header_object_fixed_size)) {
+        return nullptr;
+    }
+    DebugInfo("[%I64x] HeaderObject\n", start);
+    DebugInfo("Size = 0x%I64x\n", header->size);
+    DebugInfo("NumObjects = %d\n", count);
+    DebugInfo("Reserved = 0x%x\n", header->reserved);
+    ChildReader reader(file, header);
+    if (!reader.read(count)) {
+        return nullptr;
+    }
+    fio_lseek(file, static_cast<std::int64_t>(static_cast<std::uint64_t>(reader.position()) + header->size),
+              SEEK_SET);
+    return header;
+}
+
+int asf_store_header_object(FIOFUNCSTRUCT* file, const _asf_header_object_t* header) {
+    if (fio_lseek(file, 0, SEEK_SET) != 0 || !asf_store_object(file, header)) {
+        return 0;
+    }
+    (void)fio_put_le32(file, header->child_count);
+    (void)fio_put_le16(file, header->reserved);
+    if (!asf_write_reached(file, asf_header_object_fixed_size)) {
+        return 0;
+    }
+    for (std::uint32_t i = 0; i < header->child_count; ++i) {
+        if (header->children[i] && !store_child(file, header->children[i])) {
+            return 0;
+        }
+    }
+    return 1;
+}
+
+std::uint32_t asf_get_header_object_size(const _asf_header_object_t* header) {
+    std::uint32_t size = asf_header_object_fixed_size;
+    for (std::uint32_t i = 0; i < header->child_count; ++i) {
+        _asf_object_t* const child = header->children[i];
+        if (!child) {
+            continue;
+        }
+        if (child->guid == ASF_ContentDescription) {
+            child->size = asf_get_content_description_size(static_cast<_asf_content_description_t*>(child));
+        } else if (child->guid == ASF_ExtendedContentDescription) {
+            child->size =
+                asf_get_ext_content_description_size(static_cast<_asf_ext_content_description_t*>(child));
+        }
+        size += static_cast<std::uint32_t>(child->size);
+    }
+    DebugInfo("asf_get_header_object_size: %x bytes\n", size);
+    return size;
+}
+
+void asf_free_header_object(_asf_header_object_t* header) {
+    _asf_object_t** const first = header->children;
+    _asf_object_t** const last = first + header->child_count;
+    std::sort(first, last, std::less<>());
+    std::for_each(first, std::unique(first, last), [](_asf_object_t* child) {
+        if (child) {
+            free_child(child);
+        }
+    });
+    std::free(first);
+    *header = {};
+}
+
+} // namespace velmora

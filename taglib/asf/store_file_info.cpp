@@ -1,0 +1,175 @@
+#include "store_file_info.h"
+
+#include "../trace.h"
+#include "apply_file_info.h"
+#include "content_description.h"
+#include "ext_content_description.h"
+#include "guids.h"
+#include "move_file.h"
+#include "open_header.h"
+#include "owned.h"
+
+#include <cerrno>
+#include <fcntl.h>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::uint64_t new_padding_size = 1024;
+
+struct FreeExtContentDescription {
+    void operator()(_asf_ext_content_description_t* ecd) const { asf_free_ext_content_description(ecd); }
+};
+/** An Extended Content Description that no header owns. */
+using LooseExtContentDescription = std::unique_ptr<_asf_ext_content_description_t, FreeExtContentDescription>;
+
+/** The first Content Description, appended when there is none; null when that fails. */
+_asf_content_description_t* find_or_append_cd(AsfOpenHeader& opened) {
+    auto* cd = opened.find<_asf_content_description_t>(ASF_ContentDescription);
+    if (!cd) {
+        cd = asf_init_content_description();
+        if (cd && !asf_insert_object(opened.header(), cd)) {
+            asf_free_content_description(cd);
+            cd = nullptr;
+        }
+    }
+    return cd;
+}
+
+/** The first Extended Content Description. For a header that has none an empty one is made, which takes the
+   edits but stays outside the header (LOOSE owns it): what the header gets is its Content Description CD once
+   more. */
+_asf_ext_content_description_t* find_or_make_ecd(AsfOpenHeader& opened, _asf_content_description_t* cd,
+                                                 LooseExtContentDescription& loose) {
+    auto* const ecd = opened.find<_asf_ext_content_description_t>(ASF_ExtendedContentDescription);
+    if (ecd) {
+        return ecd;
+    }
+    loose.reset(asf_init_ext_content_description());
+    return loose && asf_insert_object(opened.header(), cd) ? loose.get() : nullptr;
+}
+
+/** The padding that growth may use: the last child, when that is a padding object. */
+_asf_object_t* find_padding(const _asf_header_object_t& header) {
+    _asf_object_t* const last = header.child_count > 0 ? header.children[header.child_count - 1] : nullptr;
+    return last && last->guid == ASF_PaddingObject ? last : nullptr;
+}
+
+void log_padding_size(std::uint64_t size) {
+    DebugInfo("New pad size = %I64x\n", size);
+}
+
+[[nodiscard]] bool append_padding(_asf_header_object_t* header) {
+    AsfOwned<_asf_object_t> padding(asf_init_object());
+    if (!padding) {
+        return false;
+    }
+    padding->guid = ASF_PaddingObject;
+    padding->size = new_padding_size;
+    if (!asf_insert_object(header, padding.get())) {
+        return false;
+    }
+    (void)padding.release();
+    log_padding_size(new_padding_size);
+    return true;
+}
+
+/** Lets the last PADDING (null for none) take up DIFF, the header's growth, where it can. False when memory
+   is exhausted. */
+[[nodiscard]] bool adjust_padding(_asf_header_object_t* header, _asf_object_t* padding, std::int64_t diff) {
+    if (!padding) {
+        if (diff > 0) {
+            return append_padding(header);
+        }
+        if (diff < 0) {
+            // Only traced: without a padding to grow the header shrinks and the data moves back.
+            const auto saved = static_cast<std::uint64_t>(-diff);
+            log_padding_size(saved >= asf_object_header_size ? saved - asf_object_header_size
+                                                             : new_padding_size);
+        }
+        return true;
+    }
+    if (diff > 0) {
+        // What is left may be less than the padding's own header, which then lies over the first bytes of the
+        // data.
+        const auto growth = static_cast<std::uint64_t>(diff);
+        if (padding->size <= growth) {
+            return true;
+        }
+        DebugInfo("asf_store_file_info: Reducing pad size\n");
+        padding->size -= growth;
+    } else if (diff < 0) {
+        DebugInfo("asf_store_file_info: Increasing pad size\n");
+        padding->size += static_cast<std::uint64_t>(-diff);
+    }
+    log_padding_size(padding->size);
+    return true;
+}
+
+std::int64_t header_growth(const _asf_header_object_t* header, std::uint64_t old_size) {
+    return static_cast<std::int64_t>(std::uint64_t{asf_get_header_object_size(header)} - old_size);
+}
+
+/** Writes the header and moves the data to where the header, GROWTH bytes larger than before, will end. */
+[[nodiscard]] bool write_header(AsfOpenHeader& opened, std::uint64_t old_size, std::int64_t growth) {
+    const std::uint64_t new_size = old_size + static_cast<std::uint64_t>(growth);
+    const auto from = static_cast<std::int64_t>(old_size);
+    const auto to = static_cast<std::int64_t>(new_size);
+    if (growth > 0 && !asf_move_file(opened.file(), from, to)) {
+        return false;
+    }
+    opened.header()->size = new_size;
+    if (!asf_store_header_object(opened.file(), opened.header())) {
+        return false;
+    }
+    DebugInfo("Size after writing header: %I64x\n", fio_ltell(opened.file()));
+    return growth >= 0 || asf_move_file(opened.file(), from, to);
+}
+
+[[nodiscard]] bool store(AsfOpenHeader& opened, const _file_info_t& info) {
+    _asf_header_object_t* const header = opened.header();
+    const std::uint64_t old_size = header->size;
+    DebugInfo("Old size = %I64x\n", old_size);
+    LooseExtContentDescription loose;
+    _asf_content_description_t* const cd = find_or_append_cd(opened);
+    _asf_ext_content_description_t* const ecd = cd ? find_or_make_ecd(opened, cd, loose) : nullptr;
+    if (!ecd) {
+        return false;
+    }
+    _asf_object_t* const padding = find_padding(*header);
+    asf_apply_file_info(info, cd, ecd);
+    const std::int64_t diff = header_growth(header, old_size);
+    DebugInfo("Diff size = %I64x\n", diff);
+    if (!adjust_padding(header, padding, diff)) {
+        return false;
+    }
+    const std::int64_t growth = header_growth(header, old_size);
+    DebugInfo("Final diff size = %I64x\n", growth);
+    return write_header(opened, old_size, growth);
+}
+
+} // namespace
+
+int asf_store_file_info(const char* path, const _file_info_t* info) {
+    {
+        AsfOpenHeader opened;
+        if (!opened.open(path, O_RDWR)) {
+            DebugError("asf_store_file_info: Couldn't open file\n");
+            return 0;
+        }
+        if (opened.read()) {
+            return store(opened, *info) ? 1 : 0;
+        }
+    }
+    errno = asf_header_unreadable;
+    return 0;
+}
+
+int asf_remove_file_info(const char* path) {
+    _file_info_t everything{};
+    everything.flags = 0xFFFFFFFF;
+    return asf_store_file_info(path, &everything);
+}
+
+} // namespace velmora
