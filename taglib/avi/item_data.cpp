@@ -1,0 +1,65 @@
+#include "item_data.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+
+namespace velmora {
+
+namespace {
+
+/** A malloc'ed copy that is never null for want of bytes alone. */
+std::uint8_t* copy_bytes(const void* data, std::uint32_t size) {
+    void* const copy = std::malloc(std::max<std::size_t>(size, 1));
+    if (copy && size > 0) {
+        std::memcpy(copy, data, size);
+    }
+    return static_cast<std::uint8_t*>(copy);
+}
+
+} // namespace
+
+std::size_t avi_load_string(const _avi_item_t* item, char* text, std::size_t capacity) {
+    std::size_t length = 0;
+    if (item->data) {
+        const auto* const bytes = reinterpret_cast<const char*>(item->data);
+        length = ::strnlen(bytes, std::min<std::size_t>(item->size, capacity - 1));
+        std::memcpy(text, bytes, length);
+    }
+    text[length] = '\0';
+    return length;
+}
+
+int avi_set_item_data(_avi_item_t* list, std::uint32_t fourcc, const void* data, std::uint32_t size) {
+    if (size == avi_text_size) {
+        const std::size_t length = std::strlen(static_cast<const char*>(data));
+        if (length >= avi_text_size - 1) {
+            return 0;
+        }
+        size = static_cast<std::uint32_t>(length + 1);
+    }
+    std::uint8_t* const copy = copy_bytes(data, size);
+    if (!copy) {
+        return 0;
+    }
+    if (_avi_item_t* const item = avi_find_item(list, fourcc)) {
+        const std::uint64_t offset = item->offset;
+        avi_free_item(item);
+        item->fourcc = fourcc;
+        item->size = size;
+        item->offset = offset;
+        item->data = copy;
+        return 1;
+    }
+    _avi_item_t item{};
+    item.fourcc = fourcc;
+    item.size = size;
+    item.data = copy;
+    if (!avi_insert_item(list, &item, static_cast<std::uint32_t>(-1))) {
+        std::free(copy);
+        return 0;
+    }
+    return 1;
+}
+
+} // namespace velmora

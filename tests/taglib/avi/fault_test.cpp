@@ -1,0 +1,260 @@
+#include "avi_bytes.h"
+#include "fake_image/fake_image.h"
+#include "support/bytes.h"
+#include "support/scratch_folder.h"
+#include "support/stream_capture.h"
+#include "support/system_call_faults.h"
+#include "taglib/avi/load_file_info.h"
+#include "taglib/avi/remove_file_info.h"
+#include "taglib/avi/store_file_info.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <functional>
+
+/** Each operation is run once for each of its system calls, with that call failing. */
+namespace velmora::test {
+namespace {
+
+struct Sample {
+    const char* name;
+    std::string bytes;
+    std::size_t info_begin; ///< the INFO list's bytes, which a store may change; 0, 0 when there is none
+    std::size_t info_end;
+};
+
+class FaultTest : public testing::TestWithParam<Sample> {
+protected:
+    ~FaultTest() override { EXPECT_EQ(0, fake_images_alive()); }
+
+    int store() {
+        std::string title = "A longer title";
+        Image* const picture = image_from_bytes("\xFF\xD8\xFFjpeg", 7);
+        _file_info_t info{};
+        info.title = title.data();
+        info.picture = picture;
+        info.flags = file_info_flag::title | file_info_flag::picture | file_info_flag::artist;
+        const int result = avi_store_file_info(path_.c_str(), &info);
+        image_release(picture);
+        return result;
+    }
+
+    int remove() { return avi_remove_file_info(path_.c_str()); }
+
+    int load() {
+        _file_info_t info;
+        const int result = avi_load_file_info(path_.c_str(), &info);
+        id3_free_file_info(&info);
+        return result;
+    }
+
+    /** A new file each time: some file systems write a truncated one out to disk at once, which takes its
+     * time. */
+    void restore() {
+        std::remove(path_.c_str());
+        write_file(path_, GetParam().bytes);
+    }
+
+    /** The calls that the operation makes when none fails. */
+    std::vector<SystemCallRecord> calls_of(const std::function<int()>& operation) {
+        restore();
+        StreamCapture quiet;
+        SystemCallFaults watch;
+        EXPECT_EQ(1, operation());
+        return watch.records();
+    }
+
+    /** Media, index and header list are what they were; the RIFF size, the INFO list and what stands behind
+       the chunks may differ. */
+    void expect_media_unchanged() {
+        const std::string& before = GetParam().bytes;
+        const std::string after = read_file(path_);
+        ASSERT_GE(after.size(), before.size());
+        for (std::size_t i = 0; i < before.size(); ++i) {
+            const bool riff_size = i >= 4 && i < 8;
+            const bool info = i >= GetParam().info_begin && i < GetParam().info_end;
+            ASSERT_TRUE(riff_size || info || after[i] == before[i]) << "byte " << i;
+        }
+    }
+
+    /** Runs the operation once for each of its CALLS with that call going wrong by WRONG, and checks what
+       holds for every failure. */
+    void fail_each(const std::function<int()>& operation,
+                   const std::function<bool(SystemCallFaults&, const SystemCallRecord&, int nth)>& wrong) {
+        const std::vector<SystemCallRecord> calls = calls_of(operation);
+        bool written = false;
+        for (int nth = 1; nth <= static_cast<int>(calls.size()); ++nth) {
+            const SystemCallRecord& call = calls[static_cast<std::size_t>(nth - 1)];
+            SCOPED_TRACE(std::to_string(nth) + ": " + name_of(call.call));
+            restore();
+            int result = 0;
+            {
+                StreamCapture quiet;
+                SystemCallFaults faults;
+                if (!wrong(faults, call, nth)) {
+                    continue;
+                }
+                result = operation();
+                EXPECT_EQ(0, faults.open_descriptors());
+            }
+            // Positioning for, and writing, no bytes can't do harm: it is how a format that shrinks would be
+            // cut.
+            const bool harmless = call.call == SystemCall::write && call.requested == 0;
+            EXPECT_EQ(harmless || is_seek_to_end_mark(calls, nth) ? 1 : 0, result);
+            expect_media_unchanged();
+            written |= call.call == SystemCall::write;
+            if (!written) {
+                EXPECT_TRUE(read_file(path_) == GetParam().bytes || is_seek_to_end_mark(calls, nth));
+            }
+        }
+    }
+
+    /** Whether the call positions the file for a write of no bytes. */
+    static bool is_seek_to_end_mark(const std::vector<SystemCallRecord>& calls, int nth) {
+        const auto next = static_cast<std::size_t>(nth);
+        return next < calls.size() && calls[next - 1].call == SystemCall::lseek &&
+               calls[next].call == SystemCall::write && calls[next].requested == 0;
+    }
+
+    static auto fails_with(int error) {
+        return [error](SystemCallFaults& faults, const SystemCallRecord&, int nth) {
+            faults.fail(nth, error);
+            return true;
+        };
+    }
+
+    const ScratchFolder folder_;
+    const std::string path_ = folder_ / "file.avi";
+};
+
+TEST_P(FaultTest, AStoreWithAFailingCallFailsAndLeavesTheMediaAlone) {
+    fail_each([this] { return store(); }, fails_with(EIO));
+    fail_each([this] { return store(); }, fails_with(ENOSPC));
+}
+
+TEST_P(FaultTest, ARemovalWithAFailingCallFailsAndLeavesTheMediaAlone) {
+    fail_each([this] { return remove(); }, fails_with(EIO));
+}
+
+TEST_P(FaultTest, AStoreWithAShortTransferFailsAndLeavesTheMediaAlone) {
+    for (const std::int64_t missing : {1, 4, 8}) {
+        int reads = 0;
+        int writes = 0;
+        fail_each([this] { return store(); },
+                  [&](SystemCallFaults& faults, const SystemCallRecord& call, int) {
+                      reads += call.call == SystemCall::read;
+                      writes += call.call == SystemCall::write;
+                      const bool transfer = call.call == SystemCall::read || call.call == SystemCall::write;
+                      if (!transfer || call.requested < missing) {
+                          return false;
+                      }
+                      faults.cut_short(call.call, call.call == SystemCall::read ? reads : writes,
+                                       static_cast<std::size_t>(call.requested - missing));
+                      return true;
+                  });
+    }
+}
+
+TEST_P(FaultTest, AStoreOnAFullDiskFailsWithTheSystemsErrorAndItsMessage) {
+    restore();
+    StreamCapture log;
+    SystemCallFaults faults;
+    faults.fail_from(SystemCall::write, 1, ENOSPC);
+    EXPECT_EQ(0, store());
+    EXPECT_EQ(ENOSPC, errno);
+    const bool junk = log.text().find("<junk>") != std::string::npos;
+    EXPECT_TRUE(log.text().ends_with(junk ? "avi_store_item: Error writing file\n"
+                                            "avi_store_file_info: Error writing <junk> tag\n"
+                                          : "avi_store_item: Error writing file\n"
+                                            "avi_store_file_info: Error writing <info> tag\n"))
+        << log.text();
+    EXPECT_TRUE(read_file(path_) == GetParam().bytes);
+}
+
+TEST_P(FaultTest, AReadErrorDuringAStoreIsError5AndChangesNoByte) {
+    const int reads = [this] {
+        restore();
+        StreamCapture quiet;
+        SystemCallFaults watch;
+        EXPECT_EQ(1, store());
+        return watch.count(SystemCall::read);
+    }();
+    for (int nth = 1; nth <= reads; ++nth) {
+        restore();
+        StreamCapture quiet;
+        SystemCallFaults faults;
+        faults.fail(SystemCall::read, nth,
+                    78); // the system's own meaning of that number must not shine through
+        EXPECT_EQ(0, store()) << nth;
+        EXPECT_EQ(5, errno) << nth;
+        EXPECT_TRUE(read_file(path_) == GetParam().bytes) << nth;
+    }
+}
+
+TEST_P(FaultTest, ALoadWithAFailingCallGivesAResultAndClosesTheFile) {
+    const auto calls = static_cast<int>(calls_of([this] { return load(); }).size());
+    restore();
+    for (int nth = 1; nth <= calls; ++nth) {
+        StreamCapture quiet;
+        SystemCallFaults faults;
+        faults.fail(nth, EIO);
+        _file_info_t info;
+        const int result = avi_load_file_info(path_.c_str(), &info);
+        EXPECT_TRUE(result == 1 || errno == 5) << nth;
+        EXPECT_TRUE(result == 1 || (info.flags == 0 && !info.title)) << nth;
+        EXPECT_EQ(0, faults.open_descriptors()) << nth;
+        id3_free_file_info(&info);
+    }
+}
+
+TEST_P(FaultTest, AFailedOpenIsLoggedAndKeepsTheSystemsError) {
+    restore();
+    StreamCapture log;
+    SystemCallFaults faults;
+    faults.fail(SystemCall::open, 1, EACCES);
+    EXPECT_EQ(0, store());
+    EXPECT_EQ(EACCES, errno);
+    EXPECT_EQ("avi_store_file_info: Couldn't open file\n", log.text());
+    EXPECT_EQ(1, faults.count());
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, FaultTest,
+                         testing::Values(Sample{"WithoutInfo", avi_without_info(), 0, 0},
+                                         Sample{"InfoBeforeMovi", avi_with_info_before_movi(), 40, 76},
+                                         Sample{"InfoLast", avi_with_info_last(), 96, 132}),
+                         [](const auto& sample) { return std::string(sample.param.name); });
+
+TEST(RemoveFault, JunkThatCantBeWrittenIsLogged) {
+    const ScratchFolder folder;
+    const std::string path = folder / "file.avi";
+    write_file(path, avi_with_info_before_movi());
+    StreamCapture log;
+    SystemCallFaults faults;
+    faults.fail(SystemCall::write, 1, EIO);
+    EXPECT_EQ(0, avi_remove_file_info(path.c_str()));
+    EXPECT_EQ(log_of_avi_with_info_before_movi() + "Writing <junk> at 0x28 size 0x1c\n"
+                                                   "avi_store_item: Error writing file\n"
+                                                   "avi_remove_file_info: Error writing <junk> tag\n",
+              log.text());
+    EXPECT_EQ(avi_with_info_before_movi(), read_file(path));
+}
+
+TEST(LoadFault, ASubChunkThatCantBeReadIsEmptyAndTheOthersAreLoaded) {
+    const ScratchFolder folder;
+    const std::string path = folder / "file.avi";
+    write_file(path, avi_with_info_last());
+    StreamCapture quiet;
+    SystemCallFaults faults;
+    // RIFF header, form; hdrl, movi with their types; idx1; INFO with its type; INAM's header; INAM's data
+    faults.fail(SystemCall::read, 10 + 1, EIO);
+    _file_info_t info;
+    EXPECT_EQ(1, avi_load_file_info(path.c_str(), &info));
+    EXPECT_EQ(nullptr, info.title);
+    EXPECT_STREQ("Ann", info.artist);
+    id3_free_file_info(&info);
+}
+
+} // namespace
+} // namespace velmora::test

@@ -1,0 +1,107 @@
+#include "avi_bytes.h"
+#include "support/bytes.h"
+#include "support/scratch_folder.h"
+#include "taglib/avi/item_data.h"
+#include "taglib/avi/load_file_info.h"
+#include "taglib/avi/store_file_info.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+/** Each test runs in a child process that may not have more than a GiB of memory. */
+namespace velmora::test {
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool memory_can_run_out = false; // the sanitizer's shadow alone needs more
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+constexpr bool memory_can_run_out = false;
+#else
+constexpr bool memory_can_run_out = true;
+#endif
+#else
+constexpr bool memory_can_run_out = true;
+#endif
+
+void limit_memory() {
+    const rlimit limit{1u << 30, 1u << 30};
+    if (setrlimit(RLIMIT_AS, &limit) != 0) {
+        std::_Exit(99);
+    }
+}
+
+/** Ends the child: 0 when what was to be shown holds. */
+[[noreturn]] void finish(bool holds) {
+    std::_Exit(holds ? 0 : 1);
+}
+
+class OutOfMemoryTest : public testing::Test {
+protected:
+    void SetUp() override {
+        if (!memory_can_run_out) {
+            GTEST_SKIP();
+        }
+    }
+
+    /** A sparse file with an INFO list whose first sub-chunk really has 3 GiB, followed by a small one. */
+    void make_file() {
+        const std::string front =
+            riff(0xC000003C, hdrl() + list(0xC0000018, "INFO", chunk("IPIC", 0xC0000000, "")));
+        const std::string behind = chunk("INAM", 4, z("Old"));
+        const long long end = 0xC0000000LL + static_cast<long long>(front.size());
+        write_sparse_file(path_, end + static_cast<long long>(behind.size()), behind, end);
+        OpenFile file(path_, O_RDWR);
+        EXPECT_EQ(static_cast<ssize_t>(front.size()), fio_write(&file, front.data(), front.size()));
+    }
+
+    const ScratchFolder folder_;
+    const std::string path_ = folder_ / "file.avi";
+};
+
+TEST_F(OutOfMemoryTest, SettingDataGivesZeroAndLeavesTheListAlone) {
+    EXPECT_EXIT(
+        {
+            limit_memory();
+            _avi_item_t list{};
+            list.fourcc = fourcc::list;
+            const int result = avi_set_item_data(&list, make_fourcc("INAM"), "few", 0xF0000000);
+            finish(result == 0 && list.child_count == 0);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(OutOfMemoryTest, ALoadGoesOnWithoutTheSubChunkThatDoesNotFit) {
+    make_file();
+    EXPECT_EXIT(
+        {
+            limit_memory();
+            _file_info_t info;
+            const int result = avi_load_file_info(path_.c_str(), &info);
+            finish(result == 1 && info.flags == 0x8000 && !info.picture && info.title &&
+                   std::string("Old") == info.title);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(OutOfMemoryTest, AStoreThatCouldNotWriteEverySubChunkBackIsRefused) {
+    make_file();
+    EXPECT_EXIT(
+        {
+            limit_memory();
+            _file_info_t info{};
+            info.flags = file_info_flag::title;
+            const int result = avi_store_file_info(path_.c_str(), &info);
+            finish(result == 0 && errno == 5 && info.flags == file_info_flag::title);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+} // namespace
+} // namespace velmora::test
