@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QMainWindow>
+
+namespace velmora {
+
+/** What a document's window asks before it closes. */
+class WindowDelegate {
+public:
+    virtual ~WindowDelegate() = default;
+    /** Whether the window may close. */
+    [[nodiscard]] virtual bool windowShouldClose() = 0;
+    /** The window is closing. */
+    virtual void windowWillClose() = 0;
+};
+
+/** The window of a document. It asks its delegate before it closes, and stays open while a question of the
+   document is still unanswered. */
+class DocumentWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    using QMainWindow::QMainWindow;
+
+    /** DELEGATE outlives the window or is taken back with null. */
+    void setDelegate(WindowDelegate* delegate) { delegate_ = delegate; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    WindowDelegate* delegate_ = nullptr;
+};
+
+} // namespace velmora

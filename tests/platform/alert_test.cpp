@@ -1,0 +1,123 @@
+#include "platform/alert.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace velmora {
+namespace {
+
+class AlertTest : public testing::Test {
+protected:
+    void SetUp() override { window_.show(); }
+
+    void ask() {
+        alert_.setMessageText(QStringLiteral("Really?"));
+        alert_.setInformativeText(QStringLiteral("About <b>this</b>"));
+        alert_.addButton(QStringLiteral("Save"), Qt::Key_Return);
+        alert_.addButton(QStringLiteral("Cancel"), Qt::Key_Escape);
+        alert_.addButton(QStringLiteral("Don't Save"), Qt::CTRL | Qt::Key_D);
+        alert_.beginSheetModalForWindow(&window_, [this](int code) { code_ = code; });
+    }
+    QMessageBox& box() { return *window_.findChild<QMessageBox*>(); }
+    QPushButton* button(const QString& text) {
+        for (auto* candidate : box().findChildren<QPushButton*>()) {
+            if (candidate->text() == text) {
+                return candidate;
+            }
+        }
+        return nullptr;
+    }
+
+    QMainWindow window_;
+    Alert alert_;
+    std::optional<int> code_;
+};
+
+TEST_F(AlertTest, ButtonsGiveTheirCodesInTheOrderOfAdding) {
+    for (const auto& [text, code] :
+         {std::pair("Save", 1000), std::pair("Cancel", 1001), std::pair("Don't Save", 1002)}) {
+        Alert alert;
+        std::optional<int> answer;
+        alert.addButton(QStringLiteral("Save"), Qt::Key_Return);
+        alert.addButton(QStringLiteral("Cancel"), Qt::Key_Escape);
+        alert.addButton(QStringLiteral("Don't Save"), Qt::CTRL | Qt::Key_D);
+        QMainWindow window;
+        window.show();
+        alert.beginSheetModalForWindow(&window, [&](int given) { answer = given; });
+        for (auto* candidate : window.findChild<QMessageBox*>()->findChildren<QPushButton*>()) {
+            if (candidate->text() == QLatin1String(text)) {
+                candidate->click();
+                break;
+            }
+        }
+        EXPECT_EQ(code, answer) << text;
+    }
+}
+
+TEST_F(AlertTest, ReturnIsTheFirstButton) {
+    ask();
+    QTest::keyClick(&box(), Qt::Key_Return);
+    EXPECT_EQ(1000, code_);
+}
+
+TEST_F(AlertTest, EscapeIsTheCancelButton) {
+    ask();
+    QTest::keyClick(&box(), Qt::Key_Escape);
+    EXPECT_EQ(1001, code_);
+}
+
+TEST_F(AlertTest, ThirdButtonHasControlD) {
+    ask();
+    EXPECT_EQ(QKeySequence(Qt::CTRL | Qt::Key_D), button("Don't Save")->shortcut());
+}
+
+TEST_F(AlertTest, SheetThatGoesWithoutAButtonHasAnotherCode) {
+    ask();
+    box().done(77);
+    EXPECT_EQ(Alert::noButtonReturn, code_);
+}
+
+TEST_F(AlertTest, TextsAreShownAsTheyAre) {
+    ask();
+    EXPECT_EQ(Qt::PlainText, box().textFormat());
+    auto* informative = box().findChild<QLabel*>("qt_msgbox_informativelabel");
+    ASSERT_NE(nullptr, informative);
+    EXPECT_EQ(Qt::PlainText, informative->textFormat());
+    EXPECT_EQ("About <b>this</b>", informative->text());
+}
+
+TEST_F(AlertTest, SheetBlocksItsWindowOnly) {
+    ask();
+    EXPECT_EQ(Qt::WindowModal, box().windowModality());
+    EXPECT_EQ(&window_, box().parentWidget());
+}
+
+TEST(ErrorSheet, ShowsDescriptionAndSuggestionAndReturnsAtOnce) {
+    QMainWindow window;
+    window.show();
+    presentErrorSheet({NSMachErrorDomain,
+                       0,
+                       {{NSLocalizedDescriptionKey, "Unable <i>x</i>"},
+                        {NSLocalizedRecoverySuggestionErrorKey, "Try <b>again</b>"}}},
+                      &window);
+    auto* box = window.findChild<QMessageBox*>();
+    ASSERT_NE(nullptr, box);
+    EXPECT_TRUE(box->isVisible());
+    EXPECT_EQ("Unable <i>x</i>", box->text());
+    EXPECT_EQ("Try <b>again</b>", box->informativeText());
+    EXPECT_EQ(Qt::PlainText, box->findChild<QLabel*>("qt_msgbox_informativelabel")->textFormat());
+    box->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(nullptr, window.findChild<QMessageBox*>());
+}
+
+} // namespace
+} // namespace velmora
