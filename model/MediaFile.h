@@ -1,0 +1,84 @@
+#pragma once
+
+#include "platform/error.h"
+#include "platform/image.h"
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVariantMap>
+
+#include <memory>
+
+namespace velmora {
+
+/** One media file: its path, its media type, and its metadata, edited in place and written back on request.
+   Used by one thread at a time. */
+class MediaFile {
+public:
+    /** Opens the file at PATH and reads its tag. Null when the file is not readable. A file without a tag
+       that can be read gives an object with empty values. */
+    [[nodiscard]] static std::unique_ptr<MediaFile> initWithFile(const QString& path);
+
+    /** Writes the values into the file. Returns false on failure, with ERROR (may be null) filled for an
+       alert; the values here stay as they are either way. */
+    bool saveMetadata(Error* error) const;
+
+    /** The path of the file that carries the tag: PATH as given, or its side file for DVD folders and disc
+     * images. */
+    [[nodiscard]] QString filename() const { return filename_; }
+    /** A MediaType, told by the path as given. */
+    [[nodiscard]] int mediaType() const { return mediaType_; }
+
+    void setTitle(const QString& title) { metadata_[QStringLiteral("title")] = title; }
+    void setArtist(const QString& artist) { metadata_[QStringLiteral("artist")] = artist; }
+    void setAlbum(const QString& album) { metadata_[QStringLiteral("album")] = album; }
+    void setCast(const QString& cast) { metadata_[QStringLiteral("cast")] = cast; }
+    void setDirector(const QString& director) { metadata_[QStringLiteral("director")] = director; }
+    void setGenre(const QString& genre) { metadata_[QStringLiteral("genre")] = genre; }
+    void setRating(const QString& rating) { metadata_[QStringLiteral("rating")] = rating; }
+    void setSynopsis(const QString& synopsis) { metadata_[QStringLiteral("synopsis")] = synopsis; }
+    void setDateTime(const QDateTime& dateTime) { metadata_[QStringLiteral("datetime")] = dateTime; }
+    void setYear(int year) { metadata_[QStringLiteral("year")] = year; }
+    void setCoverArt(const ImageRef& coverArt) {
+        metadata_[QStringLiteral("coverart")] = QVariant::fromValue(coverArt);
+    }
+    /** Joins names with ", " and stores them as the cast. */
+    void setCastList(const QStringList& names);
+
+    [[nodiscard]] QString title() const { return text(QStringLiteral("title")); }
+    [[nodiscard]] QString artist() const { return text(QStringLiteral("artist")); }
+    [[nodiscard]] QString album() const { return text(QStringLiteral("album")); }
+    [[nodiscard]] QString cast() const { return text(QStringLiteral("cast")); }
+    [[nodiscard]] QString director() const { return text(QStringLiteral("director")); }
+    [[nodiscard]] QString genre() const { return text(QStringLiteral("genre")); }
+    [[nodiscard]] QString rating() const { return text(QStringLiteral("rating")); }
+    [[nodiscard]] QString synopsis() const { return text(QStringLiteral("synopsis")); }
+    /** The moment of loading, not a date from the file. */
+    [[nodiscard]] QDateTime dateTime() const {
+        return metadata_.value(QStringLiteral("datetime")).toDateTime();
+    }
+    /** 0 when there is none. */
+    [[nodiscard]] int year() const { return metadata_.value(QStringLiteral("year")).toInt(); }
+    /** No image when the file has none. */
+    [[nodiscard]] ImageRef coverArt() const {
+        return metadata_.value(QStringLiteral("coverart")).value<ImageRef>();
+    }
+
+    /** The metadata dictionary: strings under "title", "artist", "album", "cast", "director", "synopsis",
+       "rating" and "genre", an integer under "year", a date under "datetime" and, only when there is one, an
+       ImageRef under "coverart". */
+    [[nodiscard]] const QVariantMap& metadata() const { return metadata_; }
+
+private:
+    MediaFile() = default;
+    void fillEmptyValues();
+    [[nodiscard]] QString text(const QString& key) const { return metadata_.value(key).toString(); }
+
+    QString filename_;
+    int mediaType_ = 3;
+    QVariantMap metadata_;
+};
+
+} // namespace velmora
