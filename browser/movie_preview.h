@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/movie/movie.h"
+
+#include <QImage>
+#include <QObject>
+
+class QLabel;
+class QPushButton;
+
+namespace velmora {
+
+class MovieView;
+
+/** Longer side of a frame taken as cover art, in points. */
+inline constexpr float coverArtFrameSide = 160;
+
+/** FRAME with all its pixels and a nominal size (device pixel ratio) whose longer side is at most 160. */
+[[nodiscard]] QImage frameForCoverArt(QImage frame);
+
+/** The form's preview: shows the open file as a movie, a while after the form was filled, or says that it
+ * can't. */
+class MoviePreview : public QObject {
+    Q_OBJECT
+public:
+    /** The controls outlive this object. */
+    MoviePreview(MovieView& view, QLabel& failedLabel, QPushButton& captureButton, QObject* parent = nullptr);
+
+    /** Lets the movie go and hides what was said of it. */
+    void clear();
+    /** Opens the file at PATH; the view, the label and the button follow when it is known what the file is.
+     */
+    void show(const QString& path);
+
+    /** Whether the view holds a movie. */
+    [[nodiscard]] bool holdsMovie() const;
+    /** The frame that the view shows, at its own size; null when there is none. */
+    [[nodiscard]] QImage currentFrame() const;
+
+private:
+    void movieOpened(bool hasVideo);
+    void movieFailed();
+
+    MovieView& view_;
+    QLabel& failedLabel_;
+    QPushButton& captureButton_;
+    Movie movie_;
+};
+
+} // namespace velmora

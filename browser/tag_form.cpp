@@ -1,0 +1,208 @@
+#include "tag_form.h"
+
+#include "media_document.h"
+
+#include "imaging/CoverArtView.h"
+#include "model/MediaFile.h"
+#include "model/media_type.h"
+#include "platform/file_path.h"
+#include "platform/localisation.h"
+#include "platform/log.h"
+#include "weblookup/form_fill_info.h"
+
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+namespace velmora {
+
+namespace {
+
+/** A combo box follows the wheel only while it has the focus: scrolling past it must not edit the file. */
+class WheelNeedsFocus : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        return event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus();
+    }
+};
+
+} // namespace
+
+TagForm::TagForm(const TagFormOutlets& outlets, MediaDocument& document, QObject* parent)
+    : QObject(parent), outlets_(outlets), document_(document), genres_(localisedGenres()) {
+    setUpControls();
+}
+
+void TagForm::setUpControls() {
+    QComboBox* const rating = outlets_.combo_rating;
+    rating->clear();
+    rating->addItems(ratingTitles());
+    connect(rating, &QComboBox::activated, this,
+            [this, rating](int index) { ratingMenuItemChanged(rating->itemText(index)); });
+
+    QComboBox* const genre = outlets_.combo_genre;
+    genre->setEditable(true);
+    genre->setInsertPolicy(QComboBox::NoInsert);
+    genre->setModel(new ComboBoxModel(*this, this));
+    genre->setCompleter(nullptr); // it would rewrite "drama" to "Drama" behind the person's back
+    genre->setCurrentIndex(-1);
+    genre->clearEditText();
+    connect(genre->lineEdit(), &QLineEdit::textEdited, this, [this, genre] { controlTextDidChange(genre); });
+    connect(genre, &QComboBox::textActivated, this, [this, genre] { controlTextDidChange(genre); });
+
+    for (QLineEdit* field :
+         {outlets_.entry_title, outlets_.entry_artist, outlets_.entry_album, outlets_.entry_year}) {
+        connect(field, &QLineEdit::textEdited, this, [this, field] { controlTextDidChange(field); });
+    }
+    connect(outlets_.entry_desc, &QPlainTextEdit::textChanged, this,
+            [this] { textDidChange(outlets_.entry_desc); });
+
+    auto* wheelFilter = new WheelNeedsFocus(this);
+    rating->installEventFilter(wheelFilter);
+    genre->installEventFilter(wheelFilter);
+}
+
+MediaFile* TagForm::file() const {
+    return document_.mediaFile();
+}
+
+int TagForm::numberOfItemsInComboBox() const {
+    return static_cast<int>(genres_.size());
+}
+
+QString TagForm::comboBoxObjectValueForItemAtIndex(int index) const {
+    return genres_.at(index);
+}
+
+void TagForm::setSynopsisText(const QString& text) {
+    const QSignalBlocker blocker(outlets_.entry_desc);
+    outlets_.entry_desc->setPlainText(text);
+}
+
+void TagForm::clearUI() {
+    const QString none;
+    outlets_.entry_title->setText(none);
+    outlets_.entry_artist->setText(none);
+    outlets_.entry_album->setText(none);
+    outlets_.combo_genre->setEditText(none);
+    outlets_.entry_year->setText(none);
+    outlets_.combo_rating->setCurrentIndex(0);
+    setSynopsisText(none);
+    outlets_.img_coverArt->setImage(QImage());
+    for (QPushButton* button : {outlets_.btn_captureFrame, outlets_.btn_trimBorder, outlets_.btn_loadCoverArt,
+                                outlets_.btn_removeTag}) {
+        button->setEnabled(false);
+    }
+    disableSaveAndRevert();
+}
+
+void TagForm::fillUI() {
+    const MediaFile* const media = file();
+    if (!media) {
+        return;
+    }
+    showCaptions(*media);
+    outlets_.entry_title->setText(media->title());
+    emit searchTextChanged(media->title().isEmpty()
+                               ? pathWithoutExtension(lastPathComponent(media->filename()))
+                               : media->title());
+    outlets_.combo_genre->setEditText(media->genre());
+    if (media->year() != 0) {
+        outlets_.entry_year->setText(QString::number(media->year()));
+    }
+    outlets_.picker_dateTime->setDateTime(media->dateTime());
+    setSynopsisText(media->synopsis());
+    showCoverArt(*media);
+    outlets_.btn_removeTag->setEnabled(true);
+    outlets_.btn_loadCoverArt->setEnabled(true);
+}
+
+/** Images and other files keep the captions of the file before them, and the two fields empty. */
+void TagForm::showCaptions(const MediaFile& media) {
+    if (media.mediaType() == audioMedia) {
+        outlets_.lbl_artist->setText(localised("Artist:"));
+        outlets_.lbl_album->setText(localised("Album:"));
+        outlets_.entry_artist->setText(media.artist());
+        outlets_.entry_album->setText(media.album());
+        outlets_.combo_rating->setEnabled(false);
+    } else if (media.mediaType() == videoMedia) {
+        outlets_.lbl_artist->setText(localised("Cast:"));
+        outlets_.lbl_album->setText(localised("Director:"));
+        outlets_.entry_artist->setText(media.cast());
+        outlets_.entry_album->setText(media.director());
+        outlets_.combo_rating->setEnabled(true);
+        outlets_.combo_rating->setCurrentIndex(
+            outlets_.combo_rating->findText(media.rating(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    }
+}
+
+void TagForm::showCoverArt(const MediaFile& media) {
+    QImage image = media.coverArt().toQImage();
+    if (!media.coverArt()) {
+        image = imageFromFile(pathFolder(media.filename()) + QStringLiteral("/folder.jpg"));
+        if (!image.isNull()) {
+            outlets_.img_coverArt->setImage(image);
+            coverArtImageChanged(this);
+        }
+    } else {
+        outlets_.img_coverArt->setImage(image);
+    }
+    outlets_.btn_trimBorder->setEnabled(!image.isNull());
+}
+
+void TagForm::fillFields(const FormFillInfo* info) {
+    if (!info) {
+        return;
+    }
+    const QString comma = QStringLiteral(", ");
+    if (info->title) {
+        appLog(QStringLiteral("title=") + *info->title + QLatin1Char('\n'));
+        outlets_.entry_title->setText(*info->title);
+    }
+    if (info->directors) {
+        outlets_.entry_album->setText(nsarray_to_nsstring(*info->directors, comma));
+    }
+    if (info->description) {
+        appLog(QStringLiteral("description=") + *info->description + QLatin1Char('\n'));
+        setSynopsisText(*info->description);
+    }
+    if (info->year) {
+        appLog(QStringLiteral("year=") + *info->year + QLatin1Char('\n'));
+        outlets_.entry_year->setText(*info->year);
+    }
+    if (info->rating) {
+        appLog(QStringLiteral("rating=") + *info->rating + QLatin1Char('\n'));
+        const int item =
+            outlets_.combo_rating->findText(*info->rating, Qt::MatchExactly | Qt::MatchCaseSensitive);
+        if (item >= 0) {
+            outlets_.combo_rating->setCurrentIndex(item);
+            ratingMenuItemChanged(outlets_.combo_rating->itemText(item));
+        }
+    }
+    if (info->releaseDate) {
+        outlets_.picker_dateTime->setDateTime(info->releaseDate->startOfDay());
+    }
+    if (info->genres) {
+        outlets_.combo_genre->setEditText(nsarray_to_nsstring(*info->genres, comma));
+    }
+    if (info->cast) {
+        outlets_.entry_artist->setText(nsarray_to_nsstring(*info->cast, QStringLiteral("\n")));
+    }
+    if (!info->coverArt.isNull()) {
+        appLog(QStringLiteral("got cover art\n"));
+        outlets_.img_coverArt->setImage(info->coverArt);
+        outlets_.btn_trimBorder->setEnabled(true);
+        coverArtImageChanged(this);
+    }
+}
+
+QString nsarray_to_nsstring(const QStringList& list, const QString& separator) {
+    return list.join(separator);
+}
+
+} // namespace velmora

@@ -1,0 +1,122 @@
+#include "tag_form.h"
+
+#include "media_document.h"
+
+#include "imaging/CoverArtView.h"
+#include "model/MediaFile.h"
+#include "model/media_type.h"
+#include "platform/log.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+namespace velmora {
+
+namespace {
+
+/** A text value of the open file that a control edits. */
+struct TextValue {
+    QString (MediaFile::*get)() const;
+    void (MediaFile::*set)(const QString&);
+};
+
+/** Stores TEXT and tells whether that changed anything. */
+bool store(MediaFile& file, const TextValue& value, const QString& text) {
+    if ((file.*value.get)() == text) {
+        return false;
+    }
+    (file.*value.set)(text);
+    return true;
+}
+
+bool storeYear(MediaFile& file, const QString& text) {
+    const int year = text.toInt(); // what is no number is no year: 0
+    if (file.year() == year) {
+        return false;
+    }
+    file.setYear(year);
+    return true;
+}
+
+} // namespace
+
+void TagForm::controlTextDidChange(const QObject* control) {
+    appLog(QStringLiteral("in controlTextDidEndEditing:\n"));
+    MediaFile* const media = file();
+    if (!media) {
+        return;
+    }
+    const bool isVideo = media->mediaType() == videoMedia;
+    bool changed = false;
+    if (control == outlets_.entry_album) {
+        changed = store(*media,
+                        isVideo ? TextValue{&MediaFile::director, &MediaFile::setDirector}
+                                : TextValue{&MediaFile::album, &MediaFile::setAlbum},
+                        outlets_.entry_album->text());
+    } else if (control == outlets_.entry_artist) {
+        changed = store(*media,
+                        isVideo ? TextValue{&MediaFile::cast, &MediaFile::setCast}
+                                : TextValue{&MediaFile::artist, &MediaFile::setArtist},
+                        outlets_.entry_artist->text());
+    } else if (control == outlets_.entry_title) {
+        changed = store(*media, {&MediaFile::title, &MediaFile::setTitle}, outlets_.entry_title->text());
+    } else if (control == outlets_.combo_genre) {
+        changed =
+            store(*media, {&MediaFile::genre, &MediaFile::setGenre}, outlets_.combo_genre->currentText());
+    } else if (control == outlets_.entry_year) {
+        changed = storeYear(*media, outlets_.entry_year->text());
+    } else {
+        appLog(QStringLiteral("WARNING: unhandled control in controlTextDidEndEditing:\n"));
+    }
+    if (changed) {
+        markChange();
+    }
+}
+
+void TagForm::textDidChange(const QObject* textView) {
+    MediaFile* const media = file();
+    if (!media) {
+        return;
+    }
+    if (textView == outlets_.entry_desc) {
+        appLog(QStringLiteral("description changed\n"));
+        const QString text = outlets_.entry_desc->toPlainText();
+        if (text == media->synopsis()) {
+            return;
+        }
+        media->setSynopsis(text);
+    }
+    markChange();
+}
+
+void TagForm::ratingMenuItemChanged(const QString& title) {
+    if (MediaFile* const media = file()) {
+        media->setRating(title);
+        markChange();
+    }
+}
+
+void TagForm::coverArtImageChanged(const QObject* /*sender*/) {
+    MediaFile* const media = file();
+    const QImage image = outlets_.img_coverArt->image();
+    if (!media || image.isNull()) {
+        return;
+    }
+    media->setCoverArt(ImageRef::fromQImage(image));
+    markChange();
+}
+
+void TagForm::markChange() {
+    document_.updateChangeCount(Document::ChangeType::Done);
+    outlets_.btn_saveTag->setEnabled(true);
+    outlets_.btn_revertTag->setEnabled(true);
+}
+
+void TagForm::disableSaveAndRevert() {
+    outlets_.btn_saveTag->setEnabled(false);
+    outlets_.btn_revertTag->setEnabled(false);
+}
+
+} // namespace velmora
