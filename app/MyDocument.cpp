@@ -1,0 +1,166 @@
+#include "MyDocument.h"
+
+#include "browser/VelmoraController.h"
+#include "platform/alert.h"
+#include "platform/file_path.h"
+#include "platform/localisation.h"
+#include "platform/log.h"
+#include "platform/modal_loop.h"
+#include "ui_MyDocument.h"
+#include "weblookup/TagWebBrowser.h"
+
+#include <sys/stat.h>
+
+namespace velmora {
+
+namespace {
+
+bool fileExists(const QString& path) {
+    struct stat status {};
+    return ::stat(pathBytes(path).constData(), &status) == 0;
+}
+
+/** Fills ERROR, if there is one to fill, and returns false. */
+bool failToOpen(const QUrl& url, const QString& suggestion, Error* error) {
+    if (error) {
+        const QString path = url.isLocalFile() ? pathFromFileUrl(url) : url.path();
+        *error = {
+            NSMachErrorDomain,
+            0,
+            {{NSURLErrorKey, url},
+             {NSLocalizedDescriptionKey, localised("Unable to open file \"%@\".", lastPathComponent(path))},
+             {NSLocalizedRecoverySuggestionErrorKey, suggestion}}};
+    }
+    return false;
+}
+
+} // namespace
+
+MyDocument::MyDocument(ApplicationTermination& termination, QObject* parent)
+    : MediaDocument(parent), termination_(termination) {}
+
+MyDocument::~MyDocument() {
+    termination_.setDelegate(nullptr);
+    if (window_) {
+        window_->setDelegate(nullptr);
+    }
+}
+
+QByteArray MyDocument::dataRepresentationOfType(const QString& /*type*/) {
+    return {};
+}
+
+bool MyDocument::loadDataRepresentation(const QByteArray& /*data*/, const QString& /*type*/) {
+    return true;
+}
+
+QString MyDocument::displayName() const {
+    return localised("KORVANE Velmora");
+}
+
+bool MyDocument::isDocumentEdited() const {
+    return mediaFile_ && Document::isDocumentEdited();
+}
+
+bool MyDocument::readFromURL(const std::optional<QUrl>& url, const QString& /*type*/, Error* error) {
+    appLog(QStringLiteral("in readFromURL\n"));
+    if (mediaFile_ && isDocumentEdited() && !handleDirtySave()) {
+        return false;
+    }
+    if (!url) {
+        mediaFile_.reset();
+        return true;
+    }
+    if (!url->isLocalFile()) {
+        return failToOpen(*url, localised("Velmora can only open local files."), error);
+    }
+    const QString path = pathFromFileUrl(*url);
+    if (!fileExists(path)) {
+        return failToOpen(*url, localised("The file does not exist."), error);
+    }
+    mediaFile_ = MediaFile::initWithFile(path);
+    if (!mediaFile_) {
+        return failToOpen(*url, localised("Please ensure the file is readable and is a valid media file."),
+                          error);
+    }
+    return true;
+}
+
+bool MyDocument::saveMediaFile(Error* error) {
+    if (!mediaFile_) {
+        return false;
+    }
+    if (mediaFile_->saveMetadata(error)) {
+        return true;
+    }
+    const QString suggestion =
+        error ? error->userInfo.value(NSLocalizedRecoverySuggestionErrorKey).toString() : QString();
+    appLog(QStringLiteral("error saving file: ") + suggestion + QLatin1Char('\n'));
+    return false;
+}
+
+void MyDocument::saveDocument() {
+    saveMediaFile(nullptr);
+}
+
+bool MyDocument::handleDirtySave() {
+    Alert alert;
+    alert.setMessageText(localised("Do you want to save the changes you made?"));
+    alert.setInformativeText(localised("Your changes to \"%@\" will be lost if you don't save them.",
+                                       mediaFile_ ? mediaFile_->filename() : QString()));
+    alert.addButton(localised("Save"), Qt::Key_Return);
+    alert.addButton(localised("Cancel"), Qt::Key_Escape);
+    alert.addButton(localised("Don't Save"), Qt::CTRL | Qt::Key_D);
+
+    QEventLoop loop;
+    questionLoop_ = &loop;
+    alert.beginSheetModalForWindow(windowForSheet(),
+                                   [this](int returnCode) { needsSaveAlertDone(returnCode); });
+    int returnCode = 0;
+    {
+        const ModalLoop modalLoop;
+        returnCode = loop.exec();
+    }
+    questionLoop_ = nullptr;
+
+    switch (returnCode) {
+    case Alert::secondButtonReturn:
+        return false;
+    case Alert::firstButtonReturn:
+        saveDocument();
+        [[fallthrough]];
+    case Alert::thirdButtonReturn:
+        mediaFile_.reset();
+        updateChangeCount(ChangeType::Cleared);
+        return true;
+    default:
+        return true;
+    }
+}
+
+void MyDocument::needsSaveAlertDone(int returnCode) {
+    if (questionLoop_) {
+        questionLoop_->exit(returnCode);
+    }
+}
+
+bool MyDocument::windowShouldClose() {
+    return readFromURL(std::nullopt, QString(), nullptr);
+}
+
+void MyDocument::windowWillClose() {
+    termination_.terminate();
+}
+
+bool MyDocument::applicationShouldTerminateAfterLastWindowClosed() {
+    appLog(QStringLiteral("in astalwc\n"));
+    return true;
+}
+
+ApplicationDelegate::TerminateReply MyDocument::applicationShouldTerminate() {
+    appLog(QStringLiteral("in ast\n"));
+    const bool now = !mediaFile_ || !isDocumentEdited() || handleDirtySave();
+    return now ? TerminateReply::Now : TerminateReply::Cancel;
+}
+
+} // namespace velmora

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "browser/media_document.h"
+#include "model/MediaFile.h"
+#include "platform/application.h"
+#include "platform/document_window.h"
+
+#include <QEventLoop>
+
+#include <memory>
+
+namespace Ui {
+class MyDocument;
+}
+
+namespace velmora {
+
+class TagWebBrowser;
+class VelmoraController;
+
+/** The application's one document: the media file that is open in the editor, the window that shows it, and
+   the question about unsaved changes. Opening a file swaps the media file; the model does all reading and
+   writing. */
+class MyDocument : public MediaDocument, public ApplicationDelegate, public WindowDelegate {
+    Q_OBJECT
+public:
+    /** TERMINATION outlives the document. */
+    explicit MyDocument(ApplicationTermination& termination, QObject* parent = nullptr);
+    ~MyDocument() override;
+
+    /** The name of the window layout. */
+    [[nodiscard]] static QString windowNibName();
+    /** Makes the window from its layout, unshown, and its controller. */
+    void makeWindow();
+    void showWindow();
+    /** The window is made: from now on the application asks this document before it ends. */
+    void windowControllerDidLoadNib();
+
+    /** The data path of the document framework is idle: no data, and any data will do. */
+    [[nodiscard]] static QByteArray dataRepresentationOfType(const QString& type);
+    [[nodiscard]] static bool loadDataRepresentation(const QByteArray& data, const QString& type);
+
+    /** The application's name, whatever file is open. */
+    [[nodiscard]] QString displayName() const override;
+    /** False when no file is open, however many changes were counted. */
+    [[nodiscard]] bool isDocumentEdited() const override;
+    [[nodiscard]] MediaFile* mediaFile() const override { return mediaFile_.get(); }
+
+    bool readFromURL(const std::optional<QUrl>& url, const QString& type, Error* error) override;
+    bool saveMediaFile(Error* error) override;
+    /** The menu's save command. The document still counts as edited afterwards: only the editor's own button
+       clears that. */
+    void saveDocument();
+
+    /** Asks what to do with the changes of the open file, and does it. False when the person cancelled;
+       otherwise the file is closed, its changes written or dropped. */
+    [[nodiscard]] bool handleDirtySave();
+    /** The end of the question's sheet. */
+    void needsSaveAlertDone(int returnCode);
+
+    [[nodiscard]] bool windowShouldClose() override;
+    void windowWillClose() override;
+    [[nodiscard]] bool applicationShouldTerminateAfterLastWindowClosed() override;
+    [[nodiscard]] TerminateReply applicationShouldTerminate() override;
+
+    [[nodiscard]] DocumentWindow* window() const { return window_.get(); }
+    [[nodiscard]] VelmoraController* controller() const { return controller_.get(); }
+    [[nodiscard]] TagWebBrowser* webBrowser() const { return webBrowser_.get(); }
+
+private:
+    void connectController();
+    void connectCommands();
+
+    ApplicationTermination& termination_;
+    std::unique_ptr<MediaFile> mediaFile_;
+    QEventLoop* questionLoop_ = nullptr; ///< runs while the question is on the screen
+    std::unique_ptr<Ui::MyDocument> ui_;
+    std::unique_ptr<DocumentWindow> window_;
+    std::unique_ptr<TagWebBrowser> webBrowser_;
+    std::unique_ptr<VelmoraController> controller_;
+};
+
+} // namespace velmora
