@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <functional>
+#include <ostream>
 
 /** Each operation is run once for each of its system calls, with that call failing. */
 namespace velmora::test {
@@ -24,6 +25,10 @@ struct Sample {
     std::size_t info_begin; ///< the INFO list's bytes, which a store may change; 0, 0 when there is none
     std::size_t info_end;
 };
+
+void PrintTo(const Sample& sample, std::ostream* out) {
+    *out << sample.name;
+}
 
 class FaultTest : public testing::TestWithParam<Sample> {
 protected:
