@@ -84,7 +84,7 @@ std::int64_t find_write_position(FIOFUNCSTRUCT* file, _id3_file_desc_t* descript
 
 bool store_in_place(Id3File& media, std::int64_t position, _id3_file_desc_t* descriptor) {
     descriptor->header_flags |= id3_header_flag::footer;
-    bool stored = fio_lseek(media.handle(), position, SEEK_SET) == position &&
+    bool stored = position > 0 && fio_lseek(media.handle(), position, SEEK_SET) == position &&
                   id3_store_descriptor_v2(media.handle(), descriptor);
     // Stands where a truncation would go: the file keeps its length.
     [[maybe_unused]] const ssize_t nothing = stored ? fio_write(media.handle(), "", 0) : 0;

@@ -1,0 +1,281 @@
+#include "id3_bytes.h"
+#include "stored_info.h"
+#include "support/system_call_faults.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <filesystem>
+
+namespace velmora::test {
+namespace {
+
+const std::string media = pattern(500);
+
+/** What is expected of a store whose NTH call fails. */
+struct Expected {
+    SystemCall call;
+    int result;
+    std::string log;
+};
+
+constexpr int cut_short =
+    -1; ///< in place of an error number: the read or write moves one byte less than asked
+
+/** A store with one call going wrong, in a folder of its own. */
+struct FaultyStore {
+    FaultyStore(const std::string& contents, int nth, SystemCall call, int error) {
+        write_file(path(), contents);
+        StoredInfo info;
+        info.with_title("b");
+        StreamCapture capture; // around the watch, so that its own calls are not counted
+        {
+            SystemCallFaults faults;
+            faults.create_generated_names();
+            if (error == cut_short) {
+                faults.cut_short(call, nth, 1);
+            } else {
+                faults.fail(nth, error);
+            }
+            result = id3_store_file_info(path().c_str(), &info);
+            calls = faults.records();
+            open_descriptors = faults.open_descriptors();
+        }
+        log = capture.text();
+        flags = info.flags;
+    }
+    explicit FaultyStore(const std::string& contents) : FaultyStore(contents, 0, SystemCall::open, EIO) {}
+
+    [[nodiscard]] std::string path() const { return folder / "song.mp3"; }
+    [[nodiscard]] std::string contents() const { return file_exists(path()) ? read_file(path()) : ""; }
+    [[nodiscard]] std::string temporary_contents() const {
+        for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
+            if (entry.path().filename() != "song.mp3") {
+                return read_file(entry.path().string());
+            }
+        }
+        return "";
+    }
+
+    ScratchFolder folder;
+    int result = -1;
+    std::string log;
+    std::uint32_t flags = 0;
+    std::vector<SystemCallRecord> calls;
+    int open_descriptors = -1;
+};
+
+void expect_documented(const FaultyStore& store, const Expected& expected, const std::string& where) {
+    EXPECT_EQ(expected.result, store.result) << where;
+    EXPECT_EQ(expected.log, store.log) << where;
+    EXPECT_EQ(0, store.open_descriptors) << where;
+    if (expected.call != SystemCall::open || expected.result == 1) {
+        EXPECT_EQ(expected.result ? 0x8000u : 0u, store.flags & ~file_info_flag::title) << where;
+    }
+}
+
+/** Runs a store into CONTENTS once for each call that it makes, with that call failing, and hands each to
+ * CHECK. */
+template <typename Check>
+void run_with_each_call_failing(const std::string& contents, const std::vector<Expected>& expected,
+                                Check check) {
+    const FaultyStore whole(contents);
+    ASSERT_EQ(expected.size(), whole.calls.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_STREQ(name_of(expected[i].call), name_of(whole.calls[i].call)) << i + 1;
+        for (const int error : {EIO, ENOSPC}) {
+            const int nth = static_cast<int>(i) + 1;
+            const FaultyStore store(contents, nth, expected[i].call, error);
+            Expected wanted = expected[i];
+            if (nth == 1) {
+                wanted.log = std::string("id3_store_file_info: couldn't open file for r/w: ") +
+                             (error == EIO ? "Input/output error\n" : "No space left on device\n");
+            }
+            const std::string where = "call " + std::to_string(nth) + ", error " + std::to_string(error);
+            expect_documented(store, wanted, where);
+            check(store, nth, where);
+        }
+    }
+}
+
+constexpr SystemCall open_call = SystemCall::open;
+constexpr SystemCall close_call = SystemCall::close;
+constexpr SystemCall read_call = SystemCall::read;
+constexpr SystemCall write_call = SystemCall::write;
+constexpr SystemCall seek_call = SystemCall::lseek;
+
+const std::string footer_log = "id3_load_descriptor_v2: Failed to read footer\n";
+const std::string header_log = "id3_load_descriptor_v2: Failed to read header\n";
+const std::string signature_log = "id3_load_descriptor_v2: Invalid header sig\n";
+const std::string v1_log = "id3_load_header_v1: Failed to read header\n";
+const std::string store_log = "id3_store_file_info: couldn't store new descriptor\n";
+const std::string append_log = "id3_store_file_info: couldn't append file data\n";
+const std::string write_header_log = "id3_store_descriptor_v2: Failed to write header\n";
+const std::string write_frame_log = "id3_store_descriptor_v2: Failed to write frame\n";
+const std::string write_data_log = "id3_store_descriptor_v2: Failed to write frame data\n";
+const std::string write_footer_log = "id3_store_descriptor_v2: Failed to write footer\n";
+
+TEST(Id3StoreFaults, NewAppendedTag) {
+    const std::string quiet = signature_log + v1_log;
+    const std::vector<Expected> expected = {
+        {open_call, 0, ""},
+        {seek_call, 0, v1_log + store_log}, // without the file's length there is no place for a tag
+        {seek_call, 1, quiet},
+        {seek_call, 1, footer_log + quiet},
+        {read_call, 1, footer_log + quiet},
+        {seek_call, 1, header_log + v1_log},
+        {read_call, 1, header_log + v1_log},
+        {seek_call, 1, quiet}, // ID3v1
+        {read_call, 1, quiet},
+        {seek_call, 0, quiet + store_log},
+        {write_call, 0, quiet + write_header_log + store_log},
+        {write_call, 0, quiet + write_frame_log + store_log},
+        {write_call, 0, quiet + write_data_log + store_log},
+        {write_call, 0, quiet + write_footer_log + store_log},
+        {write_call, 1, quiet}, // the write of no bytes
+        {close_call, 0, quiet + store_log},
+    };
+    const std::string tagged = media + appended_tag(text4("TALB", "b"));
+    run_with_each_call_failing(media, expected,
+                               [&](const FaultyStore& store, int nth, const std::string& where) {
+                                   EXPECT_EQ(media, store.contents().substr(0, media.size())) << where;
+                                   if (store.result == 1) {
+                                       EXPECT_EQ(tagged, store.contents()) << where;
+                                   } else if (nth <= 11) {
+                                       EXPECT_EQ(media, store.contents()) << where;
+                                   }
+                               });
+}
+
+TEST(Id3StoreFaults, RewrittenAppendedTag) {
+    const std::string old_tag = appended_tag(text4("TALB", "a"));
+    const std::string album = "TALB = \"a\"\n";
+    const std::string quiet = signature_log + v1_log;
+    const std::vector<Expected> expected = {
+        {open_call, 0, ""},
+        {seek_call, 1, album}, // the length is not needed
+        {seek_call, 1, album},
+        {seek_call, 1, footer_log + quiet}, // not found: a second tag is appended
+        {read_call, 1, footer_log + quiet},
+        {seek_call, 1, header_log + quiet},
+        {read_call, 1, header_log + quiet},
+        {read_call, 1, "id3_load_descriptor_v2: Failed to read frame\n"},
+        {read_call, 1, "id3_load_descriptor_v2: Failed to read frame data\n"},
+        {seek_call, 0, album + store_log},
+        {write_call, 0, album + write_header_log + store_log},
+        {write_call, 0, album + write_frame_log + store_log},
+        {write_call, 0, album + write_data_log + store_log},
+        {write_call, 0, album + write_footer_log + store_log},
+        {write_call, 1, album},
+        {close_call, 0, album + store_log},
+    };
+    const std::string new_tag = appended_tag(text4("TALB", "b"));
+    run_with_each_call_failing(media + old_tag, expected,
+                               [&](const FaultyStore& store, int nth, const std::string& where) {
+                                   EXPECT_EQ(media, store.contents().substr(0, media.size())) << where;
+                                   if (nth >= 4 && nth <= 7) {
+                                       EXPECT_EQ(media + old_tag + new_tag, store.contents()) << where;
+                                   } else if (store.result == 1 && nth != 8 && nth != 9) {
+                                       EXPECT_EQ(media + new_tag, store.contents()) << where;
+                                   } else if (store.result == 0 && nth <= 11) {
+                                       EXPECT_EQ(media + old_tag, store.contents()) << where;
+                                   }
+                               });
+}
+
+TEST(Id3StoreFaults, LeadingTagThroughACopy) {
+    const std::string album = "TALB = \"a\"\n";
+    const std::vector<Expected> expected = {
+        {open_call, 0, ""},
+        {seek_call, 0, v1_log + store_log},
+        {seek_call, 1, album},
+        {seek_call, 1, footer_log + album},
+        {read_call, 1, footer_log + album},
+        {seek_call, 1, header_log + v1_log}, // not found: a tag is appended
+        {read_call, 1, header_log + v1_log},
+        {read_call, 1, "id3_load_descriptor_v2: Failed to read frame\n"},
+        {read_call, 1, "id3_load_descriptor_v2: Failed to read frame data\n"},
+        {SystemCall::mktemp, 0, album + "id3_store_file_info: couldn't create temp file\n"},
+        {open_call, 0, album + "id3_store_file_info: couldn't reopen temp file\n"},
+        {write_call, 0, album + write_header_log + store_log},
+        {write_call, 0, album + write_frame_log + store_log},
+        {write_call, 0, album + write_data_log + store_log},
+        {seek_call, 0, album + append_log},
+        {read_call, 0, album + append_log},
+        {write_call, 0, album + append_log},
+        {read_call, 0, album + append_log},
+        {close_call, 0, album + append_log}, // the copy may not be complete
+        {close_call, 1, album},              // the original, which was only read
+        {SystemCall::unlink, 0, album + "id3_store_file_info: couldn't delete original file\n"},
+        {SystemCall::rename, 1, album + "id3_store_file_info: couldn't rename file\n"},
+    };
+    const std::string before = leading_tag(4, text4("TALB", "a")) + media;
+    const std::string after = leading_tag(4, text4("TALB", "b")) + media;
+    run_with_each_call_failing(
+        before, expected, [&](const FaultyStore& store, int nth, const std::string& where) {
+            if (nth == 22) {
+                EXPECT_EQ("", store.contents()) << where;
+                EXPECT_EQ(after, store.temporary_contents()) << where;
+                return;
+            }
+            EXPECT_EQ("", store.temporary_contents()) << where;
+            if (store.result == 0) {
+                EXPECT_EQ(before, store.contents()) << where;
+            } else if (nth == 6 || nth == 7) {
+                EXPECT_EQ(before + appended_tag(text4("TALB", "b")), store.contents()) << where;
+            } else if (nth == 8 || nth == 9) { // the frame counts as padding
+                EXPECT_TRUE(store.contents().ends_with(media)) << where;
+            } else {
+                EXPECT_EQ(after, store.contents()) << where;
+            }
+        });
+}
+
+TEST(Id3StoreFaults, ShortWritesOfAnAppendedTagFailTheStore) {
+    const std::string logs[] = {write_header_log, write_frame_log, write_data_log, write_footer_log};
+    for (int nth = 1; nth <= 4; ++nth) {
+        const Expected expected{write_call, 0, signature_log + v1_log + logs[nth - 1] + store_log};
+        const FaultyStore store(media, nth, write_call, cut_short);
+        expect_documented(store, expected, "write " + std::to_string(nth));
+        EXPECT_EQ(media, store.contents().substr(0, media.size()));
+    }
+}
+
+TEST(Id3StoreFaults, ShortWritesOfACopyLeaveTheOriginal) {
+    const std::string before = leading_tag(4, text4("TALB", "a")) + media;
+    const std::string logs[] = {write_header_log + store_log, write_frame_log + store_log,
+                                write_data_log + store_log, append_log};
+    for (int nth = 1; nth <= 4; ++nth) {
+        const Expected expected{write_call, 0, "TALB = \"a\"\n" + logs[nth - 1]};
+        const FaultyStore store(before, nth, write_call, cut_short);
+        expect_documented(store, expected, "write " + std::to_string(nth));
+        EXPECT_EQ(before, store.contents());
+        EXPECT_EQ("", store.temporary_contents());
+    }
+}
+
+TEST(Id3StoreFaults, ShortReadsOfTheMediaAreCompletedByLaterOnes) {
+    const std::string before = leading_tag(4, text4("TALB", "a")) + media;
+    const Expected expected{read_call, 1, "TALB = \"a\"\n"};
+    const FaultyStore store(before, 5, read_call, cut_short); // footer, header, frame, body, media
+    expect_documented(store, expected, "read 5");
+    EXPECT_EQ(leading_tag(4, text4("TALB", "b")) + media, store.contents());
+}
+
+TEST(Id3StoreFaults, FullDiskLeavesTheOriginalOfACopy) {
+    const std::string before = leading_tag(4, text4("TALB", "a")) + pattern(300'000);
+    for (int nth = 1; nth <= 7; ++nth) {
+        const ScratchFolder folder;
+        write_file(folder / "song.mp3", before);
+        SystemCallFaults faults;
+        faults.create_generated_names();
+        faults.fail_from(SystemCall::write, nth, ENOSPC);
+        StoredInfo info;
+        EXPECT_EQ(0, Store(folder / "song.mp3", info.with_title("b")).result) << nth;
+        EXPECT_EQ(before, read_file(folder / "song.mp3")) << nth;
+        EXPECT_EQ(0, faults.open_descriptors());
+    }
+}
+
+} // namespace
+} // namespace velmora::test

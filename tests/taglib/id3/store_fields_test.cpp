@@ -1,0 +1,232 @@
+#include "taglib/id3/store_fields.h"
+
+#include "allocation_faults.h"
+#include "fake_image/fake_image.h"
+#include "id3_bytes.h"
+#include "stored_info.h"
+#include "zone.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+namespace velmora::test {
+namespace {
+
+using Rows = std::vector<std::string>;
+
+const std::string jpeg = hex("FF D8 FF E0") + "picture";
+
+constexpr std::uint32_t all_fields = 0x1FF;
+
+TEST(Id3StoreFields, EveryFieldBecomesItsFrameInOrder) {
+    const Zone zone("UTC");
+    char title[] = "album", artist[] = "artist", desc[] = "song", genre[] = "Rock", director[] = "director",
+         rating[] = "PG-13";
+    _file_info_t info{};
+    info.flags = all_fields;
+    info.title = title;
+    info.artist = artist;
+    info.desc = desc;
+    info.genre = genre;
+    info.director = director;
+    info.rating = rating;
+    info.year = 1999;
+    info.picture = image_from_bytes(jpeg.data(), jpeg.size());
+    info.time = 128'543'700'300'000'000; // 2008-05-04 10:20:30
+    Descriptor tag;
+    EXPECT_EQ(1, id3_store_fields(&tag, &info));
+    EXPECT_EQ(
+        (Rows{bytes("TALB:\0album"), bytes("TPE1:\0artist"), bytes("TIT2:\0song"), bytes("TPE3:\0director"),
+              bytes("PRIV:WM/ParentalRating\0PG-13"), bytes("TCON:\0Rock"), bytes("TYER:\0001999"),
+              bytes("APIC:\0image/jpeg\0\x10\0") + jpeg, bytes("TDRC:\000108-04-04T:10:20:30+0:0")}),
+        tag.list());
+    EXPECT_EQ(0u, info.flags);
+    EXPECT_EQ(1, fake_image_references(info.picture));
+    image_release(info.picture);
+}
+
+/** A tag with a frame of every kind. */
+void fill(Descriptor& tag) {
+    for (const char* const id : {"TALB", "TPE1", "TIT2", "TPE3", "TCON", "TYER", "APIC", "TDRC"}) {
+        tag.add(id, "old");
+    }
+    tag.add("PRIV", bytes("WM/ParentalRating\0old"));
+    tag.add("PRIV", bytes("WM/Other\0old"));
+}
+
+TEST(Id3StoreFields, FieldsWithoutTheirFlagAreLeftAlone) {
+    Descriptor tag;
+    fill(tag);
+    const Rows before = tag.list();
+    char text[] = "new";
+    _file_info_t info{};
+    info.title = info.artist = info.desc = info.genre = info.director = info.rating = text;
+    info.year = 1999;
+    EXPECT_EQ(1, id3_store_fields(&tag, &info));
+    EXPECT_EQ(before, tag.list());
+}
+
+TEST(Id3StoreFields, FieldsWithoutAValueRemoveTheirFrames) {
+    Descriptor tag;
+    fill(tag);
+    _file_info_t info{};
+    info.flags = all_fields;
+    EXPECT_EQ(1, id3_store_fields(&tag, &info));
+    EXPECT_EQ((Rows{bytes("PRIV:WM/Other\0old")}), tag.list());
+    EXPECT_EQ(0u, info.flags);
+}
+
+TEST(Id3StoreFields, EmptyTextsCountAsNoValue) {
+    Descriptor tag;
+    fill(tag);
+    char empty[] = "";
+    _file_info_t info{};
+    info.flags = all_fields;
+    info.title = info.artist = info.desc = info.genre = info.director = info.rating = empty;
+    EXPECT_EQ(1, id3_store_fields(&tag, &info));
+    EXPECT_EQ((Rows{bytes("PRIV:WM/Other\0old")}), tag.list());
+}
+
+TEST(Id3StoreFields, EachFlagTouchesItsOwnFrameOnly) {
+    const struct {
+        std::uint32_t flag;
+        std::string removed;
+    } cases[] = {{0x1, "TALB:old"},
+                 {0x2, "TPE1:old"},
+                 {0x4, "TIT2:old"},
+                 {0x40, "TPE3:old"},
+                 {0x80, bytes("PRIV:WM/ParentalRating\0old")},
+                 {0x8, "TCON:old"},
+                 {0x10, "TYER:old"},
+                 {0x20, "APIC:old"},
+                 {0x100, "TDRC:old"}};
+    for (const auto& field : cases) {
+        Descriptor tag;
+        fill(tag);
+        Rows expected = tag.list();
+        std::erase(expected, field.removed);
+        _file_info_t info{};
+        info.flags = field.flag;
+        EXPECT_EQ(1, id3_store_fields(&tag, &info));
+        EXPECT_EQ(expected, tag.list()) << field.flag;
+    }
+}
+
+TEST(Id3StoreFields, OnlyTheFirstFrameOfAnIdIsRemoved) {
+    Descriptor tag;
+    tag.add("TALB", "one");
+    tag.add("TPE1", "x");
+    tag.add("TALB", "two");
+    StoredInfo info;
+    info.with_title("");
+    EXPECT_EQ(1, id3_store_fields(&tag, &info));
+    EXPECT_EQ((Rows{"TPE1:x", "TALB:two"}), tag.list());
+}
+
+TEST(Id3StoreFields, FrameKeepsItsPlaceAndFlags) {
+    Descriptor tag;
+    tag.add("TALB", "old", hex("12 34"));
+    tag.add("TPE1", "x");
+    StoredInfo info;
+    info.with_title("new");
+    EXPECT_EQ(1, id3_store_fields(&tag, &info));
+    EXPECT_EQ((Rows{bytes("TALB:\0new"), "TPE1:x"}), tag.list());
+    const std::uint16_t flags = tag.frames[0].flags;
+    EXPECT_EQ(0, std::memcmp(&flags, "\x12\x34", 2));
+}
+
+TEST(Id3StoreFields, TextsAreWrittenAsTheyAreUnderEncodingByte0) {
+    Descriptor tag;
+    StoredInfo info;
+    info.with_title("caf\xC3\xA9 \xE4\xB8\x87");
+    EXPECT_EQ(1, id3_store_fields(&tag, &info));
+    EXPECT_EQ((Rows{bytes("TALB:\0caf\xC3\xA9 \xE4\xB8\x87")}), tag.list());
+}
+
+TEST(Id3StoreFields, TextIsCutAt8191Bytes) {
+    for (const std::size_t length : {8190u, 8191u, 8192u, 20'000u}) {
+        Descriptor tag;
+        StoredInfo info;
+        info.with_title(std::string(length, 'x'));
+        EXPECT_EQ(1, id3_store_fields(&tag, &info));
+        EXPECT_EQ((Rows{bytes("TALB:\0") + std::string(std::min<std::size_t>(length, 8191), 'x')}),
+                  tag.list());
+    }
+}
+
+TEST(Id3StoreFields, RatingIsCutAt8192Bytes) {
+    for (const std::size_t length : {8191u, 8192u, 8193u}) {
+        Descriptor tag;
+        StoredInfo info;
+        info.with_rating(std::string(length, 'x'));
+        EXPECT_EQ(1, id3_store_fields(&tag, &info));
+        EXPECT_EQ(
+            (Rows{bytes("PRIV:WM/ParentalRating\0") + std::string(std::min<std::size_t>(length, 8192), 'x')}),
+            tag.list());
+    }
+}
+
+TEST(Id3StoreFields, RatingReplacesWhatFollowsItsOwner) {
+    Descriptor tag;
+    tag.add("priv", bytes("wm/parentalrating\0old rating"));
+    StoredInfo info;
+    info.with_rating("R");
+    EXPECT_EQ(1, id3_store_fields(&tag, &info));
+    EXPECT_EQ((Rows{bytes("priv:wm/parentalrating\0R")}), tag.list());
+}
+
+TEST(Id3StoreFields, YearIsWrittenAsADecimalNumber) {
+    const struct {
+        std::int32_t year;
+        std::string row;
+    } cases[] = {{7, bytes("TYER:\0007")},
+                 {-5, bytes("TYER:\0-5")},
+                 {2'147'483'647, bytes("TYER:\0002147483647")},
+                 {-2'147'483'647 - 1, bytes("TYER:\0-2147483648")}};
+    for (const auto& value : cases) {
+        Descriptor tag;
+        StoredInfo info;
+        info.with_year(value.year);
+        EXPECT_EQ(1, id3_store_fields(&tag, &info));
+        EXPECT_EQ(Rows{value.row}, tag.list());
+    }
+}
+
+TEST(Id3StoreFields, UnknownFlagsAndTagPresentStay) {
+    Descriptor tag;
+    _file_info_t info{};
+    info.flags = 0xFFFF'FFFF;
+    EXPECT_EQ(1, id3_store_fields(&tag, &info));
+    EXPECT_EQ(0xFFFF'FE00u, info.flags);
+}
+
+TEST(Id3StoreFields, PictureThatCanNotBeEncodedLeavesItsFrameAndTheRestIsStored) {
+    Descriptor tag;
+    tag.add("APIC", "old");
+    Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
+    StoredInfo info;
+    info.with_title("a").with_picture(image);
+    fail_fake_image_encoding(true);
+    EXPECT_EQ(1, id3_store_fields(&tag, &info));
+    fail_fake_image_encoding(false);
+    EXPECT_EQ((Rows{"APIC:old", bytes("TALB:\0a")}), tag.list());
+    EXPECT_EQ(0u, info.flags);
+    image_release(image);
+}
+
+TEST(Id3StoreFields, WithoutMemoryFailsWithTheFlagsCleared) {
+    Descriptor tag;
+    tag.add("TALB", "old");
+    StoredInfo info;
+    info.with_title("longer than before").with_rating("R").with_year(1999);
+    {
+        const AllocationFaults no_memory;
+        EXPECT_EQ(0, id3_store_fields(&tag, &info));
+    }
+    EXPECT_EQ((Rows{"TALB:old"}), tag.list());
+    EXPECT_EQ(0u, info.flags);
+}
+
+} // namespace
+} // namespace velmora::test
