@@ -7,7 +7,8 @@ namespace velmora {
 
 namespace {
 
-const iconv_t not_open = reinterpret_cast<iconv_t>(-1);
+const iconv_t not_open =
+    reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr): as iconv_open has it
 
 // Opened on first use and kept for the life of the process.
 iconv_t conv_to_bcs = not_open;

@@ -124,7 +124,9 @@ TEST(Trace, KeepsFlagsAndWidthOf64BitNumbers) {
     EXPECT_EQ("0x0000000000001f", traced("%#016I64x", std::int64_t{0x1F}));
     EXPECT_EQ("[-7   ]", traced("[%-5I64d]", std::int64_t{-7}));
     EXPECT_EQ("[   +7]", traced("[%+*I64d]", 5, std::int64_t{7}));
+    EXPECT_EQ("[7    ]", traced("[%*I64d]", -5, std::int64_t{7}));
     EXPECT_EQ("[007]", traced("[%.*I64d]", 3, std::int64_t{7}));
+    EXPECT_EQ("[7]", traced("[%.*I64d]", -3, std::int64_t{7}));
 }
 
 TEST(Trace, Takes64BitNumbersAmongOthers) {

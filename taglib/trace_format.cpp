@@ -1,0 +1,233 @@
+#include "trace_format.h"
+
+#include "byte_order.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+
+namespace velmora {
+
+namespace {
+
+/** Room for any conversion that a message writes out in full: flags, width, precision, length and letter. */
+constexpr std::size_t conversion_capacity = 64;
+
+/** One conversion of a format, with numbers in place of the "*" and the length of long long in place of
+ * "I64". */
+struct Conversion {
+    char text[conversion_capacity];
+    std::size_t length = 0;
+    char letter = 0; ///< 0: no conversion that is known
+    enum class Size { plain, long_, long_long, intmax, size, ptrdiff, long_double } size = Size::plain;
+
+    void add(char c) {
+        if (length + 1 < sizeof text) {
+            text[length++] = c;
+        }
+    }
+    /** A width or precision that came as an argument. */
+    void add_number(int number) {
+        if (number < 0 && text[length - 1] == '.') {
+            --length; // a negative precision is none
+            return;
+        }
+        char digits[16];
+        std::snprintf(digits, sizeof digits, "%d", number);
+        for (const char* digit = digits; *digit; ++digit) {
+            add(*digit);
+        }
+    }
+};
+
+/** A va_list that can be handed on by reference on every ABI. */
+struct Arguments {
+    va_list list;
+};
+
+bool is_one_of(char c, const char* set) {
+    return c != '\0' && std::strchr(set, c) != nullptr;
+}
+
+/** Reads the length modifier at AT into CONVERSION and returns what follows it. */
+const char* read_length(const char* at, Conversion& conversion) {
+    using Size = Conversion::Size;
+    if (std::strncmp(at, "I64", 3) == 0) {
+        conversion.size = Size::long_long;
+        conversion.add('l');
+        conversion.add('l');
+        return at + 3;
+    }
+    for (; is_one_of(*at, "hljztL"); ++at) {
+        switch (*at) {
+        case 'l':
+            conversion.size = conversion.size == Size::long_ ? Size::long_long : Size::long_;
+            break;
+        case 'j':
+            conversion.size = Size::intmax;
+            break;
+        case 'z':
+            conversion.size = Size::size;
+            break;
+        case 't':
+            conversion.size = Size::ptrdiff;
+            break;
+        case 'L':
+            conversion.size = Size::long_double;
+            break;
+        default: // h and hh arrive as int
+            break;
+        }
+        conversion.add(*at);
+    }
+    return at;
+}
+
+/** Reads the conversion at AT, behind its "%", and returns what follows it. */
+const char* read_conversion(const char* at, Arguments& arguments, Conversion& conversion) {
+    conversion.add('%');
+    for (; is_one_of(*at, "-+ #0123456789.*"); ++at) {
+        if (*at == '*') {
+            conversion.add_number(va_arg(arguments.list, int));
+        } else {
+            conversion.add(*at);
+        }
+    }
+    at = read_length(at, conversion);
+    if (!is_one_of(*at, "diouxXcspSeEfFgGaA%")) {
+        return at;
+    }
+    conversion.letter = *at;
+    conversion.add(*at == 'S' ? 's' : *at);
+    conversion.text[conversion.length] = '\0';
+    return at + 1;
+}
+
+std::size_t put_utf8(char* to, std::uint32_t c) {
+    if (c < 0x80) {
+        to[0] = static_cast<char>(c);
+        return 1;
+    }
+    if (c < 0x800) {
+        to[0] = static_cast<char>(0xC0 | c >> 6);
+        to[1] = static_cast<char>(0x80 | (c & 0x3F));
+        return 2;
+    }
+    if (c < 0x10000) {
+        to[0] = static_cast<char>(0xE0 | c >> 12);
+        to[1] = static_cast<char>(0x80 | (c >> 6 & 0x3F));
+        to[2] = static_cast<char>(0x80 | (c & 0x3F));
+        return 3;
+    }
+    to[0] = static_cast<char>(0xF0 | c >> 18);
+    to[1] = static_cast<char>(0x80 | (c >> 12 & 0x3F));
+    to[2] = static_cast<char>(0x80 | (c >> 6 & 0x3F));
+    to[3] = static_cast<char>(0x80 | (c & 0x3F));
+    return 4;
+}
+
+/** UTF-8 of the zero-terminated UTF-16LE text, up to and including the character that fills a message. */
+void utf8_from_utf16le(const void* utf16, char (&text)[message_capacity + 4]) {
+    const auto* at = static_cast<const unsigned char*>(utf16);
+    std::size_t length = 0;
+    while (at && length < message_capacity) {
+        std::uint32_t c = load_le16(at);
+        if (c == 0) {
+            break;
+        }
+        at += 2;
+        if (c >= 0xD800 && c < 0xE000) {
+            const std::uint32_t low = c < 0xDC00 ? load_le16(at) : 0;
+            if (low >= 0xDC00 && low < 0xE000) {
+                c = 0x10000 + ((c - 0xD800) << 10) + (low - 0xDC00);
+                at += 2;
+            } else {
+                c = 0xFFFD;
+            }
+        }
+        length += put_utf8(text + length, c);
+    }
+    text[length] = '\0';
+}
+
+// NOLINTBEGIN(bugprone-branch-clone): the branches take arguments of different types
+/** Prints one conversion with its argument; the result is snprintf's. */
+int print_conversion(char* to, std::size_t room, const Conversion& conversion, Arguments& arguments) {
+    using Size = Conversion::Size;
+    va_list& list = arguments.list;
+    const char* const text = conversion.text;
+    if (conversion.letter == '%') {
+        return std::snprintf(to, room, "%%");
+    }
+    if (conversion.letter == 'S') {
+        char utf8[message_capacity + 4];
+        utf8_from_utf16le(va_arg(list, const void*), utf8);
+        return std::snprintf(to, room, text, utf8);
+    }
+    if (is_one_of(conversion.letter, "sp")) {
+        return std::snprintf(to, room, text, va_arg(list, const void*));
+    }
+    if (is_one_of(conversion.letter, "eEfFgGaA")) {
+        return conversion.size == Size::long_double ? std::snprintf(to, room, text, va_arg(list, long double))
+                                                    : std::snprintf(to, room, text, va_arg(list, double));
+    }
+    switch (conversion.size) {
+    case Size::long_:
+        return std::snprintf(to, room, text, va_arg(list, long));
+    case Size::long_long:
+        return std::snprintf(to, room, text, va_arg(list, long long));
+    case Size::intmax:
+        return std::snprintf(to, room, text, va_arg(list, std::intmax_t));
+    case Size::size:
+        return std::snprintf(to, room, text, va_arg(list, std::size_t));
+    case Size::ptrdiff:
+        return std::snprintf(to, room, text, va_arg(list, std::ptrdiff_t));
+    default:
+        return std::snprintf(to, room, text, va_arg(list, int));
+    }
+}
+// NOLINTEND(bugprone-branch-clone)
+
+} // namespace
+
+bool needs_own_formatting(const char* format) {
+    for (const char* at = std::strchr(format, '%'); at; at = std::strchr(at, '%')) {
+        ++at;
+        if (*at == '%') {
+            ++at;
+            continue;
+        }
+        while (is_one_of(*at, "-+ #0123456789.*")) {
+            ++at;
+        }
+        if (*at == 'I' || *at == 'S') {
+            return true;
+        }
+    }
+    return false;
+}
+
+void format_message(char (&message)[message_capacity], const char* format, va_list list) {
+    Arguments arguments;
+    va_copy(arguments.list, list);
+    std::size_t used = 0;
+    while (*format && used + 1 < message_capacity) {
+        const std::size_t room = message_capacity - used;
+        if (*format != '%') {
+            message[used++] = *format++;
+            continue;
+        }
+        Conversion conversion;
+        format = read_conversion(format + 1, arguments, conversion);
+        const int count =
+            conversion.letter ? print_conversion(message + used, room, conversion, arguments) : -1;
+        if (count < 0) {
+            break;
+        }
+        used += static_cast<std::size_t>(count) < room ? static_cast<std::size_t>(count) : room - 1;
+    }
+    message[used] = '\0';
+    va_end(arguments.list);
+}
+
+} // namespace velmora

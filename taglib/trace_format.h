@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdarg>
+#include <cstddef>
+
+/** The trace's own reading of a format, for the conversions that the C library lacks or reads otherwise. */
+namespace velmora {
+
+/** Bytes of a finished message with its terminator. */
+inline constexpr std::size_t message_capacity = 512;
+
+/** Whether FORMAT has an "I64" or "%S" conversion; all others are vsnprintf's. */
+[[nodiscard]] bool needs_own_formatting(const char* format);
+
+/** vsnprintf with "I64" and "%S" (see trace.h), cut to the message's capacity and always terminated. Ends at
+   the first conversion that is not known or that fails, with what precedes it in the message. Flags, width
+   and precision are those of printf; for "%S" they count bytes of UTF-8. */
+void format_message(char (&message)[message_capacity], const char* format, va_list arguments);
+
+} // namespace velmora
