@@ -1,4 +1,5 @@
-// main of the test programs that need a QApplication. Their windows are offscreen unless the environment says otherwise.
+// main of the test programs that need a QApplication. Their windows are offscreen unless the environment says
+// otherwise.
 
 #include <QApplication>
 
