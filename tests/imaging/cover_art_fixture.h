@@ -1,0 +1,62 @@
+#pragma once
+
+#include "imaging/CoverArtView.h"
+
+#include "support/stream_capture.h"
+
+#include <QImage>
+#include <QVBoxLayout>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <vector>
+
+namespace velmora::test {
+
+/** What the view told its controller, and what the view was like at that moment. */
+class RecordingReceiver : public CoverArtReceiver {
+public:
+    struct Call {
+        QObject* sender;
+        QImage image;
+        CoverArtView::FocusRingType ring;
+    };
+    void coverArtImageChanged(QObject* sender) override {
+        const auto* view = qobject_cast<CoverArtView*>(sender);
+        calls.push_back({sender, view->image(), view->focusRingType()});
+    }
+    std::vector<Call> calls;
+};
+
+/** The cover art view in a shown window, with a controller that records what it is told. */
+class CoverArtViewTest : public testing::Test {
+protected:
+    CoverArtViewTest() : view(new CoverArtView) {
+        auto* layout = new QVBoxLayout(&window);
+        layout->addWidget(view);
+        window.resize(220, 200);
+        window.show();
+        view->setController(&receiver);
+        log.emplace(stderr);
+    }
+
+    static QImage plain(const QColor& colour, QSize size = QSize(60, 40)) {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(colour);
+        return image;
+    }
+
+    /** The view's pixels. */
+    [[nodiscard]] QImage picture() const {
+        return view->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    }
+
+    QWidget window;
+    CoverArtView* view;
+    RecordingReceiver receiver;
+    std::optional<StreamCapture> log;
+};
+
+} // namespace velmora::test
