@@ -41,6 +41,26 @@ bool write_item(FIOFUNCSTRUCT* file, const _avi_item_t& item) {
     return item.size == 0 || !item.data || write_bytes(file, item.data, item.size);
 }
 
+/** Doubles the child array when it is full: a file of a million chunks must not cost a million moves of it.
+ */
+bool make_room_for_one_more(_avi_item_t* parent) {
+    const auto count = static_cast<std::uint32_t>(parent->child_count);
+    if (count < parent->child_room) {
+        return true;
+    }
+    if (parent->child_count == std::numeric_limits<std::int32_t>::max()) {
+        return false;
+    }
+    const std::uint32_t room = std::bit_ceil(count + 1);
+    void* const grown = std::realloc(parent->children, std::size_t{room} * sizeof(_avi_item_t));
+    if (!grown) {
+        return false;
+    }
+    parent->children = static_cast<_avi_item_t*>(grown);
+    parent->child_room = room;
+    return true;
+}
+
 } // namespace
 
 bool avi_has_children(const _avi_item_t* item) {
@@ -67,18 +87,11 @@ int avi_store_item(FIOFUNCSTRUCT* file, const _avi_item_t* item) {
 }
 
 _avi_item_t* avi_insert_item(_avi_item_t* parent, const _avi_item_t* item, std::uint32_t index) {
-    if (parent->child_count == std::numeric_limits<std::int32_t>::max()) {
-        return nullptr;
-    }
     const _avi_item_t copy = *item; // ITEM may lie in the array that moves
-    const auto count = static_cast<std::uint32_t>(parent->child_count);
-    // Room for a power of two: a file of a million chunks must not cost a million moves of the array.
-    const std::size_t room = std::bit_ceil(std::size_t{count} + 1);
-    void* const grown = std::realloc(parent->children, room * sizeof(_avi_item_t));
-    if (!grown) {
+    if (!make_room_for_one_more(parent)) {
         return nullptr;
     }
-    parent->children = static_cast<_avi_item_t*>(grown);
+    const auto count = static_cast<std::uint32_t>(parent->child_count);
     _avi_item_t* const slot = parent->children + std::min(index, count);
     std::move_backward(slot, parent->children + count, parent->children + count + 1);
     *slot = copy;

@@ -20,6 +20,7 @@ struct _avi_item_t {
     std::uint64_t offset;     ///< absolute file position of the 8-byte chunk header
     std::uint32_t list_type;  ///< type of a list or of the RIFF form; 0 for a plain chunk
     std::int32_t child_count; ///< items in `children`
+    std::uint32_t child_room; ///< items that fit into `children` before it has to grow
     _avi_item_t* children;    ///< owned (malloc)
     std::uint8_t* data;       ///< owned (malloc), `size` bytes; null when not loaded
     bool incomplete; ///< bytes that the file has could not be read: the tree must not be written back

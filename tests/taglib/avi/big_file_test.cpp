@@ -25,7 +25,7 @@ struct Cost {
     bool operator==(const Cost&) const = default;
 };
 
-class BigFileTest : public testing::Test {
+class AviBigFile : public testing::Test {
 protected:
     /** A file whose media list has that size field, with holes for media; BEHIND stands after it. */
     void make(std::uint32_t riff_size, const std::string& in_front, std::uint32_t movi_size,
@@ -83,7 +83,7 @@ protected:
     std::string log_;
 };
 
-TEST_F(BigFileTest, AStoreCostsTheSameInAFileOf4GiBAsInASmallOne) {
+TEST_F(AviBigFile, AStoreCostsTheSameInAFileOf4GiBAsInASmallOne) {
     make(0, hdrl() + old_info(), 1004, idx1());
     const Cost small = store("New");
     // 12 + 28 + 36 + 8 + size + 24: exactly 4 GiB long.
@@ -94,12 +94,12 @@ TEST_F(BigFileTest, AStoreCostsTheSameInAFileOf4GiBAsInASmallOne) {
     EXPECT_EQ("New", loaded_title());
 }
 
-TEST_F(BigFileTest, AStoreWritesTheJunkHeaderTheListAndTheRiffHeaderOnly) {
+TEST_F(AviBigFile, AStoreWritesTheJunkHeaderTheListAndTheRiffHeaderOnly) {
     make(0, hdrl() + old_info(), 0xFFFFFF00, idx1());
     EXPECT_EQ(8 + 36 + 8, store("New").bytes_written);
 }
 
-TEST_F(BigFileTest, ARiffThatJustFitsGetsItsTrueSize) {
+TEST_F(AviBigFile, ARiffThatJustFitsGetsItsTrueSize) {
     make(0, hdrl(), 0xFFFFFFB0, "");
     store("New");
     // 4 + 28 + 8 + 0xFFFFFFB0 + 24
@@ -107,7 +107,7 @@ TEST_F(BigFileTest, ARiffThatJustFitsGetsItsTrueSize) {
     EXPECT_EQ(to_hex(list(16, "INFO", chunk("INAM", 4, z("New")))), to_hex(read_at(0xFFFFFFE0, 100)));
 }
 
-TEST_F(BigFileTest, BeyondThe32BitsOfItsFieldTheRiffSizeIsTheLargestNumberAndTheListStandsAtTheTrueEnd) {
+TEST_F(AviBigFile, BeyondThe32BitsOfItsFieldTheRiffSizeIsTheLargestNumberAndTheListStandsAtTheTrueEnd) {
     make(0, hdrl(), 0xFFFFFFFE, chunk("JUNK", 8, "12345678"));
     // 12 + 28 + 8 + 0xFFFFFFFE + 16
     ASSERT_EQ(0x10000003E, length());
@@ -118,7 +118,7 @@ TEST_F(BigFileTest, BeyondThe32BitsOfItsFieldTheRiffSizeIsTheLargestNumberAndThe
     EXPECT_EQ("New", loaded_title());
 }
 
-TEST_F(BigFileTest, NothingIsWrittenIntoTheMediaBeyond4GiB) {
+TEST_F(AviBigFile, NothingIsWrittenIntoTheMediaBeyond4GiB) {
     make(0, hdrl() + old_info(), 0xFFFFFFFE, idx1());
     const std::string front = read_at(0, 1 << 20);
     store("New");
@@ -128,7 +128,7 @@ TEST_F(BigFileTest, NothingIsWrittenIntoTheMediaBeyond4GiB) {
     EXPECT_EQ("index of 1 frame", read_at(length() - 36 - 16, 16));
 }
 
-TEST_F(BigFileTest, AListBeyond4GiBIsRewrittenInPlaceAndRemoved) {
+TEST_F(AviBigFile, AListBeyond4GiBIsRewrittenInPlaceAndRemoved) {
     make(0, hdrl(), 0xFFFFFFFE, old_info());
     const std::int64_t before = length();
     store("New");

@@ -30,9 +30,9 @@ void PrintTo(const Sample& sample, std::ostream* out) {
     *out << sample.name;
 }
 
-class FaultTest : public testing::TestWithParam<Sample> {
+class AviFault : public testing::TestWithParam<Sample> {
 protected:
-    ~FaultTest() override { EXPECT_EQ(0, fake_images_alive()); }
+    ~AviFault() override { EXPECT_EQ(0, fake_images_alive()); }
 
     int store() {
         std::string title = "A longer title";
@@ -134,16 +134,16 @@ protected:
     const std::string path_ = folder_ / "file.avi";
 };
 
-TEST_P(FaultTest, AStoreWithAFailingCallFailsAndLeavesTheMediaAlone) {
+TEST_P(AviFault, AStoreWithAFailingCallFailsAndLeavesTheMediaAlone) {
     fail_each([this] { return store(); }, fails_with(EIO));
     fail_each([this] { return store(); }, fails_with(ENOSPC));
 }
 
-TEST_P(FaultTest, ARemovalWithAFailingCallFailsAndLeavesTheMediaAlone) {
+TEST_P(AviFault, ARemovalWithAFailingCallFailsAndLeavesTheMediaAlone) {
     fail_each([this] { return remove(); }, fails_with(EIO));
 }
 
-TEST_P(FaultTest, AStoreWithAShortTransferFailsAndLeavesTheMediaAlone) {
+TEST_P(AviFault, AStoreWithAShortTransferFailsAndLeavesTheMediaAlone) {
     for (const std::int64_t missing : {1, 4, 8}) {
         int reads = 0;
         int writes = 0;
@@ -162,7 +162,7 @@ TEST_P(FaultTest, AStoreWithAShortTransferFailsAndLeavesTheMediaAlone) {
     }
 }
 
-TEST_P(FaultTest, AStoreOnAFullDiskFailsWithTheSystemsErrorAndItsMessage) {
+TEST_P(AviFault, AStoreOnAFullDiskFailsWithTheSystemsErrorAndItsMessage) {
     restore();
     StreamCapture log;
     SystemCallFaults faults;
@@ -178,7 +178,7 @@ TEST_P(FaultTest, AStoreOnAFullDiskFailsWithTheSystemsErrorAndItsMessage) {
     EXPECT_TRUE(read_file(path_) == GetParam().bytes);
 }
 
-TEST_P(FaultTest, AReadErrorDuringAStoreIsError5AndChangesNoByte) {
+TEST_P(AviFault, AReadErrorDuringAStoreIsError5AndChangesNoByte) {
     const int reads = [this] {
         restore();
         StreamCapture quiet;
@@ -198,7 +198,7 @@ TEST_P(FaultTest, AReadErrorDuringAStoreIsError5AndChangesNoByte) {
     }
 }
 
-TEST_P(FaultTest, ALoadWithAFailingCallGivesAResultAndClosesTheFile) {
+TEST_P(AviFault, ALoadWithAFailingCallGivesAResultAndClosesTheFile) {
     const auto calls = static_cast<int>(calls_of([this] { return load(); }).size());
     restore();
     for (int nth = 1; nth <= calls; ++nth) {
@@ -214,7 +214,7 @@ TEST_P(FaultTest, ALoadWithAFailingCallGivesAResultAndClosesTheFile) {
     }
 }
 
-TEST_P(FaultTest, AFailedOpenIsLoggedAndKeepsTheSystemsError) {
+TEST_P(AviFault, AFailedOpenIsLoggedAndKeepsTheSystemsError) {
     restore();
     StreamCapture log;
     SystemCallFaults faults;
@@ -225,13 +225,13 @@ TEST_P(FaultTest, AFailedOpenIsLoggedAndKeepsTheSystemsError) {
     EXPECT_EQ(1, faults.count());
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, FaultTest,
+INSTANTIATE_TEST_SUITE_P(Files, AviFault,
                          testing::Values(Sample{"WithoutInfo", avi_without_info(), 0, 0},
                                          Sample{"InfoBeforeMovi", avi_with_info_before_movi(), 40, 76},
                                          Sample{"InfoLast", avi_with_info_last(), 96, 132}),
                          [](const auto& sample) { return std::string(sample.param.name); });
 
-TEST(RemoveFault, JunkThatCantBeWrittenIsLogged) {
+TEST(AviRemoveFault, JunkThatCantBeWrittenIsLogged) {
     const ScratchFolder folder;
     const std::string path = folder / "file.avi";
     write_file(path, avi_with_info_before_movi());
@@ -246,7 +246,7 @@ TEST(RemoveFault, JunkThatCantBeWrittenIsLogged) {
     EXPECT_EQ(avi_with_info_before_movi(), read_file(path));
 }
 
-TEST(LoadFault, ASubChunkThatCantBeReadIsEmptyAndTheOthersAreLoaded) {
+TEST(AviLoadFault, ASubChunkThatCantBeReadIsEmptyAndTheOthersAreLoaded) {
     const ScratchFolder folder;
     const std::string path = folder / "file.avi";
     write_file(path, avi_with_info_last());

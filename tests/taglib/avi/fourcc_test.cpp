@@ -7,19 +7,19 @@
 namespace velmora {
 namespace {
 
-TEST(Fourcc, ItsFirstByteOnDiskIsTheLowestOfTheNumber) {
+TEST(AviFourcc, ItsFirstByteOnDiskIsTheLowestOfTheNumber) {
     EXPECT_EQ(0x5453494Cu, make_fourcc("LIST"));
 }
 
-TEST(RiffTag, IsTheFourBytesAndATerminatingZero) {
+TEST(AviRiffTag, IsTheFourBytesAndATerminatingZero) {
     EXPECT_STREQ("LIST", riff_tag(0x5453494C));
 }
 
-TEST(RiffTag, OfZeroBytesIsEmpty) {
+TEST(AviRiffTag, OfZeroBytesIsEmpty) {
     EXPECT_STREQ("", riff_tag(0));
 }
 
-TEST(RiffTag, TextsOfTwoHundredFurtherCallsLeaveATextAlone) {
+TEST(AviRiffTag, TextsOfTwoHundredFurtherCallsLeaveATextAlone) {
     const char* const first = riff_tag(make_fourcc("keep"));
     for (int call = 0; call < 200; ++call) {
         static_cast<void>(riff_tag(make_fourcc("over")));
@@ -27,7 +27,7 @@ TEST(RiffTag, TextsOfTwoHundredFurtherCallsLeaveATextAlone) {
     EXPECT_STREQ("keep", first);
 }
 
-TEST(RiffTag, TheTwoHundredAndFifthCallStartsAgainAtTheBeginningOfTheRing) {
+TEST(AviRiffTag, TheTwoHundredAndFifthCallStartsAgainAtTheBeginningOfTheRing) {
     std::vector<const char*> texts;
     for (int call = 0; call < 205; ++call) {
         texts.push_back(riff_tag(make_fourcc("text")));
@@ -35,7 +35,7 @@ TEST(RiffTag, TheTwoHundredAndFifthCallStartsAgainAtTheBeginningOfTheRing) {
     EXPECT_EQ(texts[0], texts[204]);
 }
 
-TEST(RiffTag, EachCallTakesTheNextFiveBytesUntilTheRingIsFull) {
+TEST(AviRiffTag, EachCallTakesTheNextFiveBytesUntilTheRingIsFull) {
     std::vector<const char*> texts;
     for (int call = 0; call < 204; ++call) {
         texts.push_back(riff_tag(make_fourcc("text")));
@@ -50,28 +50,28 @@ TEST(RiffTag, EachCallTakesTheNextFiveBytesUntilTheRingIsFull) {
     EXPECT_LE(steps_back, 1);
 }
 
-TEST(IsRiffTag, SpaceAndTildeAreTheOutermostPrintableBytes) {
+TEST(AviIsRiffTag, SpaceAndTildeAreTheOutermostPrintableBytes) {
     EXPECT_TRUE(is_riff_tag(0x7E20207E));
 }
 
-TEST(IsRiffTag, AByteBelowSpaceIsInvalidInEveryPosition) {
+TEST(AviIsRiffTag, AByteBelowSpaceIsInvalidInEveryPosition) {
     for (int position = 0; position < 4; ++position) {
         const std::uint32_t shift = 8u * static_cast<std::uint32_t>(position);
         EXPECT_FALSE(is_riff_tag((make_fourcc("INAM") & ~(0xFFu << shift)) | 0x1Fu << shift)) << position;
     }
 }
 
-TEST(IsRiffTag, DeleteIsInvalid) {
+TEST(AviIsRiffTag, DeleteIsInvalid) {
     EXPECT_FALSE(is_riff_tag(0x7F414141));
 }
 
-TEST(IsRiffTag, BytesFrom80UpAreInvalidInTheCLocale) {
+TEST(AviIsRiffTag, BytesFrom80UpAreInvalidInTheCLocale) {
     for (std::uint32_t byte = 0x80; byte <= 0xFF; ++byte) {
         EXPECT_FALSE(is_riff_tag(0x41414100 | byte)) << byte;
     }
 }
 
-TEST(IsRiffTag, ZeroIsInvalid) {
+TEST(AviIsRiffTag, ZeroIsInvalid) {
     EXPECT_FALSE(is_riff_tag(0));
 }
 

@@ -15,9 +15,9 @@ using namespace std::string_literals;
 namespace velmora::test {
 namespace {
 
-class HeaderReaderTest : public testing::Test {
+class AviHeaderReader : public testing::Test {
 protected:
-    ~HeaderReaderTest() override { avi_free_header(&root_); }
+    ~AviHeaderReader() override { avi_free_header(&root_); }
 
     /** avi_read_header's result for a file of these bytes. */
     int read(const std::string& bytes) {
@@ -46,13 +46,13 @@ void expect_item(std::uint32_t fourcc, std::uint32_t size, std::uint64_t offset,
     EXPECT_EQ(list_type, item.list_type);
 }
 
-TEST_F(HeaderReaderTest, TheRootIsTheRiffChunk) {
+TEST_F(AviHeaderReader, TheRootIsTheRiffChunk) {
     ASSERT_EQ(1, read(avi_without_info()));
     expect_item(fourcc::riff, 88, 0, fourcc::avi, root_);
     EXPECT_EQ(3, root_.child_count);
 }
 
-TEST_F(HeaderReaderTest, TopLevelChunksHaveAbsoluteOffsetsAndNoData) {
+TEST_F(AviHeaderReader, TopLevelChunksHaveAbsoluteOffsetsAndNoData) {
     ASSERT_EQ(1, read(avi_without_info()));
     ASSERT_EQ(3, root_.child_count);
     expect_item(fourcc::list, 20, 12, make_fourcc("hdrl"), root_.children[0]);
@@ -64,12 +64,12 @@ TEST_F(HeaderReaderTest, TopLevelChunksHaveAbsoluteOffsetsAndNoData) {
     }
 }
 
-TEST_F(HeaderReaderTest, ItsWholeLogNamesEachChunk) {
+TEST_F(AviHeaderReader, ItsWholeLogNamesEachChunk) {
     read(avi_without_info());
     EXPECT_EQ(log_of_avi_without_info(), log_);
 }
 
-TEST_F(HeaderReaderTest, TheInfoListsSubChunksAreLoaded) {
+TEST_F(AviHeaderReader, TheInfoListsSubChunksAreLoaded) {
     ASSERT_EQ(1, read(avi_with_info_before_movi()));
     ASSERT_EQ(4, root_.child_count);
     const _avi_item_t& info = root_.children[1];
@@ -82,25 +82,25 @@ TEST_F(HeaderReaderTest, TheInfoListsSubChunksAreLoaded) {
     EXPECT_EQ(log_of_avi_with_info_before_movi(), log_);
 }
 
-TEST_F(HeaderReaderTest, TheWalkGoesOnBehindAnInfoList) {
+TEST_F(AviHeaderReader, TheWalkGoesOnBehindAnInfoList) {
     ASSERT_EQ(1, read(avi_with_info_before_movi()));
     expect_item(make_fourcc("idx1"), 16, 108, 0, root_.children[3]);
 }
 
-TEST_F(HeaderReaderTest, EveryTopLevelInfoListIsLoaded) {
+TEST_F(AviHeaderReader, EveryTopLevelInfoListIsLoaded) {
     ASSERT_EQ(1, read(riff(104, hdrl() + old_info() + old_info())));
     ASSERT_EQ(3, root_.child_count);
     EXPECT_EQ(2, root_.children[1].child_count);
     EXPECT_EQ(2, root_.children[2].child_count);
 }
 
-TEST_F(HeaderReaderTest, AnotherFourccThanRiffIsRefused) {
+TEST_F(AviHeaderReader, AnotherFourccThanRiffIsRefused) {
     EXPECT_EQ(0, read("RIFX" + avi_without_info().substr(4)));
     EXPECT_EQ("avi_read_header: Not a RIFF header\n", log_);
     EXPECT_EQ(0, error_);
 }
 
-TEST_F(HeaderReaderTest, AnotherFormIsRefused) {
+TEST_F(AviHeaderReader, AnotherFormIsRefused) {
     EXPECT_EQ(0, read("RIFF" + le32(4) + "WAVE"));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "avi_read_header: Not an AVI/X file (WAVE)\n",
@@ -108,31 +108,31 @@ TEST_F(HeaderReaderTest, AnotherFormIsRefused) {
     EXPECT_EQ(0, error_);
 }
 
-TEST_F(HeaderReaderTest, AnAvixFormAtTheBeginningIsAccepted) {
+TEST_F(AviHeaderReader, AnAvixFormAtTheBeginningIsAccepted) {
     EXPECT_EQ(1, read("RIFF" + le32(32) + "AVIX" + hdrl()));
     EXPECT_EQ(fourcc::avix, root_.list_type);
 }
 
-TEST_F(HeaderReaderTest, AFileOfNothingIsNoRiff) {
+TEST_F(AviHeaderReader, AFileOfNothingIsNoRiff) {
     EXPECT_EQ(0, read(""));
     EXPECT_EQ("avi_read_header: Not a RIFF header\n", log_);
 }
 
-TEST_F(HeaderReaderTest, AFileThatEndsInsideTheFormTypeIsNoAvi) {
+TEST_F(AviHeaderReader, AFileThatEndsInsideTheFormTypeIsNoAvi) {
     EXPECT_EQ(0, read("RIFF" + le32(3) + "AVI"));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "avi_read_header: Not an AVI/X file (AVI)\n",
               log_);
 }
 
-TEST_F(HeaderReaderTest, ARiffWithoutChunksIsRead) {
+TEST_F(AviHeaderReader, ARiffWithoutChunksIsRead) {
     EXPECT_EQ(1, read(riff(4, "")));
     EXPECT_EQ(4u, root_.size);
     EXPECT_EQ(0, root_.child_count);
     EXPECT_EQ("now have 1 RIFF headers\n", log_);
 }
 
-TEST_F(HeaderReaderTest, AWrongRiffSizeIsLoggedWithTheFilesCountFirstAndReplacedByTheParsedLength) {
+TEST_F(AviHeaderReader, AWrongRiffSizeIsLoggedWithTheFilesCountFirstAndReplacedByTheParsedLength) {
     EXPECT_EQ(1, read(riff(0x1234, hdrl() + movi() + idx1())));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "avi_read_header: Corrupt size in riff header (0x58, file size 0x1234)\n"
@@ -143,12 +143,12 @@ TEST_F(HeaderReaderTest, AWrongRiffSizeIsLoggedWithTheFilesCountFirstAndReplaced
     EXPECT_EQ(88u, root_.size);
 }
 
-TEST_F(HeaderReaderTest, ChunksBehindTheRiffSizeAreStillRead) {
+TEST_F(AviHeaderReader, ChunksBehindTheRiffSizeAreStillRead) {
     EXPECT_EQ(1, read(riff(32, hdrl() + movi() + idx1())));
     EXPECT_EQ(3, root_.child_count);
 }
 
-TEST_F(HeaderReaderTest, AChunkAfterAnOddOneBeginsAtAnEvenOffset) {
+TEST_F(AviHeaderReader, AChunkAfterAnOddOneBeginsAtAnEvenOffset) {
     ASSERT_EQ(1, read(riff(42, chunk("JUNK", 1, "x.") + hdrl())));
     ASSERT_EQ(2, root_.child_count);
     expect_item(make_fourcc("JUNK"), 1, 12, 0, root_.children[0]);
@@ -156,7 +156,7 @@ TEST_F(HeaderReaderTest, AChunkAfterAnOddOneBeginsAtAnEvenOffset) {
     EXPECT_EQ(42u, root_.size);
 }
 
-TEST_F(HeaderReaderTest, ThePadByteOfAnOddLastChunkIsNotCounted) {
+TEST_F(AviHeaderReader, ThePadByteOfAnOddLastChunkIsNotCounted) {
     EXPECT_EQ(1, read(riff(14, chunk("JUNK", 1, "x."))));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "[0000000c] <JUNK> size 0x1\n"
@@ -165,7 +165,7 @@ TEST_F(HeaderReaderTest, ThePadByteOfAnOddLastChunkIsNotCounted) {
     EXPECT_EQ(13u, root_.size);
 }
 
-TEST_F(HeaderReaderTest, AnOddLastChunkMayLackItsPadByte) {
+TEST_F(AviHeaderReader, AnOddLastChunkMayLackItsPadByte) {
     EXPECT_EQ(1, read(riff(13, chunk("JUNK", 1, "x"))));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "[0000000c] <JUNK> size 0x1\n",
@@ -173,7 +173,7 @@ TEST_F(HeaderReaderTest, AnOddLastChunkMayLackItsPadByte) {
     EXPECT_EQ(13u, root_.size);
 }
 
-TEST_F(HeaderReaderTest, AHeaderThatTheFileEndsInEndsTheWalk) {
+TEST_F(AviHeaderReader, AHeaderThatTheFileEndsInEndsTheWalk) {
     EXPECT_EQ(1, read(riff(21, chunk("JUNK", 1, "x.") + "LIST\4\0\0"s)));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "[0000000c] <JUNK> size 0x1\n"
@@ -184,7 +184,7 @@ TEST_F(HeaderReaderTest, AHeaderThatTheFileEndsInEndsTheWalk) {
     EXPECT_FALSE(root_.incomplete);
 }
 
-TEST_F(HeaderReaderTest, AFourccWithAControlByteEndsTheWalk) {
+TEST_F(AviHeaderReader, AFourccWithAControlByteEndsTheWalk) {
     EXPECT_EQ(1, read(riff(88, hdrl() + movi() + "id\1x" + idx1().substr(4))));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "[0000000c] <list> type hdrl size 0x14\n"
@@ -196,7 +196,7 @@ TEST_F(HeaderReaderTest, AFourccWithAControlByteEndsTheWalk) {
     EXPECT_EQ(64u, root_.size);
 }
 
-TEST_F(HeaderReaderTest, AZeroFourccIsInvalidAndEndsTheWalkToo) {
+TEST_F(AviHeaderReader, AZeroFourccIsInvalidAndEndsTheWalkToo) {
     EXPECT_EQ(1, read(riff(72, hdrl() + le32(0) + le32(0) + movi())));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "[0000000c] <list> type hdrl size 0x14\n"
@@ -206,7 +206,7 @@ TEST_F(HeaderReaderTest, AZeroFourccIsInvalidAndEndsTheWalkToo) {
     EXPECT_EQ(1, root_.child_count);
 }
 
-TEST_F(HeaderReaderTest, AChunkMayOverrunTheFileByEightBytes) {
+TEST_F(AviHeaderReader, AChunkMayOverrunTheFileByEightBytes) {
     EXPECT_EQ(1, read(riff(40, hdrl() + chunk("JUNK", 8, ""))));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "[0000000c] <list> type hdrl size 0x14\n"
@@ -216,7 +216,7 @@ TEST_F(HeaderReaderTest, AChunkMayOverrunTheFileByEightBytes) {
     EXPECT_EQ(48u, root_.size);
 }
 
-TEST_F(HeaderReaderTest, AChunkThatOverrunsTheFileByNineBytesEndsTheWalk) {
+TEST_F(AviHeaderReader, AChunkThatOverrunsTheFileByNineBytesEndsTheWalk) {
     EXPECT_EQ(1, read(riff(40, hdrl() + chunk("JUNK", 9, ""))));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "[0000000c] <list> type hdrl size 0x14\n"
@@ -226,7 +226,7 @@ TEST_F(HeaderReaderTest, AChunkThatOverrunsTheFileByNineBytesEndsTheWalk) {
     EXPECT_EQ(32u, root_.size);
 }
 
-TEST_F(HeaderReaderTest, SizesAtThe32BitLimitDoNotWrap) {
+TEST_F(AviHeaderReader, SizesAtThe32BitLimitDoNotWrap) {
     for (const std::uint32_t size : {0xFFFFFFFFu, 0xFFFFFFF8u, 0xFFFFFFE0u, 0x80000000u}) {
         EXPECT_EQ(1, read(riff(40, hdrl() + chunk("JUNK", size, "")))) << size;
         EXPECT_EQ(1, root_.child_count) << size;
@@ -234,7 +234,7 @@ TEST_F(HeaderReaderTest, SizesAtThe32BitLimitDoNotWrap) {
     }
 }
 
-TEST_F(HeaderReaderTest, UpTo4096BytesBehindTheLastChunkAreTolerated) {
+TEST_F(AviHeaderReader, UpTo4096BytesBehindTheLastChunkAreTolerated) {
     EXPECT_EQ(1, read(avi_without_info() + std::string(4096, '\0')));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "avi_read_header: Corrupt size in riff header (0x1058, file size 0x58)\n"
@@ -247,7 +247,7 @@ TEST_F(HeaderReaderTest, UpTo4096BytesBehindTheLastChunkAreTolerated) {
     EXPECT_EQ(88u, root_.size);
 }
 
-TEST_F(HeaderReaderTest, MoreThan4096BytesBehindTheLastChunkAreNot) {
+TEST_F(AviHeaderReader, MoreThan4096BytesBehindTheLastChunkAreNot) {
     EXPECT_EQ(0, read(avi_without_info() + std::string(4097, '\0')));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "avi_read_header: Corrupt size in riff header (0x1059, file size 0x58)\n"
@@ -259,7 +259,7 @@ TEST_F(HeaderReaderTest, MoreThan4096BytesBehindTheLastChunkAreNot) {
     EXPECT_EQ(0, error_);
 }
 
-TEST_F(HeaderReaderTest, ASecondRiffRefusesTheFileWithError78) {
+TEST_F(AviHeaderReader, ASecondRiffRefusesTheFileWithError78) {
     EXPECT_EQ(0, read(avi_without_info() + "RIFF" + le32(36) + "AVIX" + movi()));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "avi_read_header: Corrupt size in riff header (0x84, file size 0x58)\n"
@@ -273,19 +273,19 @@ TEST_F(HeaderReaderTest, ASecondRiffRefusesTheFileWithError78) {
     EXPECT_EQ(78, error_);
 }
 
-TEST_F(HeaderReaderTest, ASecondRiffWhoseSizeOverrunsTheFileOnlyEndsTheWalk) {
+TEST_F(AviHeaderReader, ASecondRiffWhoseSizeOverrunsTheFileOnlyEndsTheWalk) {
     EXPECT_EQ(1, read(avi_without_info() + "RIFF" + le32(0xFFFFFFFF) + "AVIX" + movi()));
     EXPECT_EQ(3, root_.child_count);
     EXPECT_EQ(88u, root_.size);
 }
 
-TEST_F(HeaderReaderTest, AnEarlierError78DoesNotSurviveAnotherRefusal) {
+TEST_F(AviHeaderReader, AnEarlierError78DoesNotSurviveAnotherRefusal) {
     errno = 78;
     EXPECT_EQ(0, read("RIFX"));
     EXPECT_EQ(0, error_);
 }
 
-TEST_F(HeaderReaderTest, AListTooShortForItsTypeReadsTheBytesThatFollow) {
+TEST_F(AviHeaderReader, AListTooShortForItsTypeReadsTheBytesThatFollow) {
     EXPECT_EQ(1, read(riff(40, "LIST" + le32(0) + hdrl())));
     ASSERT_EQ(2, root_.child_count);
     expect_item(fourcc::list, 0, 12, make_fourcc("LIST"), root_.children[0]);

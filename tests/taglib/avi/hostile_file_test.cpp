@@ -22,9 +22,9 @@ using namespace std::string_literals;
 namespace velmora::test {
 namespace {
 
-class HostileFileTest : public testing::Test {
+class AviHostileFile : public testing::Test {
 protected:
-    ~HostileFileTest() override { EXPECT_EQ(0, fake_images_alive()); }
+    ~AviHostileFile() override { EXPECT_EQ(0, fake_images_alive()); }
 
     /** Loads the file; true when it could be read. */
     bool load() {
@@ -92,7 +92,7 @@ protected:
     int error_ = 0;
 };
 
-TEST_F(HostileFileTest, ASmallFileCutAtEveryLengthIsReadableFromTheFormTypeOn) {
+TEST_F(AviHostileFile, ASmallFileCutAtEveryLengthIsReadableFromTheFormTypeOn) {
     for (const std::string& whole : {avi_without_info(), avi_with_info_before_movi(), avi_with_info_last()}) {
         for (std::size_t length = 0; length < whole.size(); ++length) {
             expect_readable(length >= 12, 5, whole.substr(0, length), "cut to " + std::to_string(length));
@@ -100,7 +100,7 @@ TEST_F(HostileFileTest, ASmallFileCutAtEveryLengthIsReadableFromTheFormTypeOn) {
     }
 }
 
-TEST_F(HostileFileTest, AFileThatLosesMoreThanItsLast4096BytesIsRefusedWhole) {
+TEST_F(AviHostileFile, AFileThatLosesMoreThanItsLast4096BytesIsRefusedWhole) {
     // The media list begins at 40 and runs to the end; cut, it claims more than there is.
     const std::string whole = riff(5044, hdrl() + list(5004, "movi", std::string(5000, 'f')));
     for (const std::size_t length : {40u, 48u, 52u, 1000u, 4135u, 4136u}) {
@@ -114,7 +114,7 @@ TEST_F(HostileFileTest, AFileThatLosesMoreThanItsLast4096BytesIsRefusedWhole) {
     }
 }
 
-TEST_F(HostileFileTest, EverySizeFieldMayHoldEveryAwkwardNumber) {
+TEST_F(AviHostileFile, EverySizeFieldMayHoldEveryAwkwardNumber) {
     const std::string whole = riff(82, hdrl() + list(42, "INFO",
                                                      chunk("ISFT", 3, "Lav\0"s) + chunk("INAM", 4, z("Old")) +
                                                          chunk("LIST", 6, "iner\0\0"s)));
@@ -130,7 +130,7 @@ TEST_F(HostileFileTest, EverySizeFieldMayHoldEveryAwkwardNumber) {
     }
 }
 
-TEST_F(HostileFileTest, EveryByteOfTheHeaderMayBeAnother) {
+TEST_F(AviHostileFile, EveryByteOfTheHeaderMayBeAnother) {
     const std::string whole = avi_with_info_before_movi();
     for (std::size_t position = 12; position < whole.size(); ++position) {
         for (const char value : {'\0', '\1', 'R', '\x7F', '\x80', '\xFF'}) {
@@ -141,13 +141,13 @@ TEST_F(HostileFileTest, EveryByteOfTheHeaderMayBeAnother) {
     }
 }
 
-TEST_F(HostileFileTest, ASecondRiffIsRefusedWithError78WhereverItStands) {
+TEST_F(AviHostileFile, ASecondRiffIsRefusedWithError78WhereverItStands) {
     expect_readable(false, 78, riff(64, chunk("RIFF", 4, "AVIX") + hdrl() + idx1()), "in front");
     expect_readable(false, 78, riff(64, hdrl() + chunk("RIFF", 4, "AVIX") + idx1()), "in the middle");
     expect_readable(false, 78, riff(64, hdrl() + idx1() + chunk("RIFF", 4, "AVIX")), "at the end");
 }
 
-TEST_F(HostileFileTest, OtherFilesAreRefusedWithError5) {
+TEST_F(AviHostileFile, OtherFilesAreRefusedWithError5) {
     expect_readable(false, 5, "", "nothing");
     expect_readable(false, 5, std::string(100, '\0'), "zeros");
     expect_readable(false, 5, std::string(100, '\xFF'), "ones");
@@ -156,7 +156,7 @@ TEST_F(HostileFileTest, OtherFilesAreRefusedWithError5) {
     expect_readable(false, 5, "LIST" + le32(4) + "AVI ", "a list");
 }
 
-TEST_F(HostileFileTest, AFolderCantBeStoredInto) {
+TEST_F(AviHostileFile, AFolderCantBeStoredInto) {
     StreamCapture log;
     _file_info_t info{};
     EXPECT_EQ(0, avi_store_file_info(folder_.path().c_str(), &info));
@@ -164,14 +164,14 @@ TEST_F(HostileFileTest, AFolderCantBeStoredInto) {
     EXPECT_EQ("avi_store_file_info: Couldn't open file\n", log.text());
 }
 
-TEST_F(HostileFileTest, AFolderLoadsAsAnUnreadableHeader) {
+TEST_F(AviHostileFile, AFolderLoadsAsAnUnreadableHeader) {
     StreamCapture quiet;
     _file_info_t info;
     EXPECT_EQ(0, avi_load_file_info(folder_.path().c_str(), &info));
     EXPECT_EQ(5, errno);
 }
 
-TEST_F(HostileFileTest, CallsGrowInProportionToTheNumberOfChunks) {
+TEST_F(AviHostileFile, CallsGrowInProportionToTheNumberOfChunks) {
     std::string sub_chunks;
     for (int i = 0; i < 50000; ++i) {
         sub_chunks += chunk("INAM", 0, "");
@@ -182,7 +182,7 @@ TEST_F(HostileFileTest, CallsGrowInProportionToTheNumberOfChunks) {
     EXPECT_LE(watch.count(), 2 * 50000 + 20);
 }
 
-TEST_F(HostileFileTest, TheMediaIsNotRead) {
+TEST_F(AviHostileFile, TheMediaIsNotRead) {
     write_file(path_,
                riff(1000000 + 12 + 64, hdrl() + list(1000004, "movi", std::string(1000000, 'f')) + idx1()));
     SystemCallFaults watch;

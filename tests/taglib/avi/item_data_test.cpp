@@ -10,10 +10,10 @@ namespace {
 
 constexpr std::uint32_t inam = make_fourcc("INAM");
 
-class ItemDataTest : public testing::Test {
+class AviItemData : public testing::Test {
 protected:
-    ItemDataTest() { list_.fourcc = fourcc::list; }
-    ~ItemDataTest() override { avi_free_item(&list_); }
+    AviItemData() { list_.fourcc = fourcc::list; }
+    ~AviItemData() override { avi_free_item(&list_); }
 
     /** The text of an item that holds BYTES, read with that capacity. */
     std::string loaded(const std::string& bytes, std::size_t capacity) {
@@ -32,32 +32,32 @@ std::string data_of(const _avi_item_t& item) {
     return {reinterpret_cast<const char*>(item.data), item.size};
 }
 
-TEST_F(ItemDataTest, ATextEndsAtItsZeroByte) {
+TEST_F(AviItemData, ATextEndsAtItsZeroByte) {
     EXPECT_EQ("abc", loaded(std::string("abc\0def", 7), 64));
     EXPECT_EQ(3u, count_);
 }
 
-TEST_F(ItemDataTest, ATextWithoutAZeroByteEndsWithTheItem) {
+TEST_F(AviItemData, ATextWithoutAZeroByteEndsWithTheItem) {
     EXPECT_EQ("abc", loaded("abc", 64));
     EXPECT_EQ(3u, count_);
 }
 
-TEST_F(ItemDataTest, ATextIsCutToTheCapacityLessItsTerminator) {
+TEST_F(AviItemData, ATextIsCutToTheCapacityLessItsTerminator) {
     EXPECT_EQ("abc", loaded("abcdef", 4));
     EXPECT_EQ(3u, count_);
     EXPECT_EQ('#', text_[4]);
 }
 
-TEST_F(ItemDataTest, ACapacityOfOneGivesTheTerminatorOnly) {
+TEST_F(AviItemData, ACapacityOfOneGivesTheTerminatorOnly) {
     EXPECT_EQ("", loaded("abcdef", 1));
     EXPECT_EQ(0u, count_);
 }
 
-TEST_F(ItemDataTest, AnItemOfNoBytesGivesAnEmptyText) {
+TEST_F(AviItemData, AnItemOfNoBytesGivesAnEmptyText) {
     EXPECT_EQ("", loaded("", 64));
 }
 
-TEST_F(ItemDataTest, AnItemWithoutLoadedDataGivesAnEmptyTextWhateverItsSize) {
+TEST_F(AviItemData, AnItemWithoutLoadedDataGivesAnEmptyTextWhateverItsSize) {
     _avi_item_t movi_item{};
     movi_item.size = 4096;
     text_.fill('#');
@@ -65,7 +65,7 @@ TEST_F(ItemDataTest, AnItemWithoutLoadedDataGivesAnEmptyTextWhateverItsSize) {
     EXPECT_STREQ("", text_.data());
 }
 
-TEST_F(ItemDataTest, ANewItemIsAppendedWithoutOffsetOrListType) {
+TEST_F(AviItemData, ANewItemIsAppendedWithoutOffsetOrListType) {
     ASSERT_EQ(1, avi_set_item_data(&list_, make_fourcc("ISTR"), "x", 1));
     ASSERT_EQ(1, avi_set_item_data(&list_, inam, "a\0b", 3));
     ASSERT_EQ(2, list_.child_count);
@@ -77,12 +77,12 @@ TEST_F(ItemDataTest, ANewItemIsAppendedWithoutOffsetOrListType) {
     EXPECT_EQ(0, item.child_count);
 }
 
-TEST_F(ItemDataTest, ATextIsStoredWithItsTerminatingZero) {
+TEST_F(AviItemData, ATextIsStoredWithItsTerminatingZero) {
     ASSERT_EQ(1, avi_set_item_data(&list_, inam, "abc", avi_text_size));
     EXPECT_EQ(std::string("abc\0", 4), data_of(list_.children[0]));
 }
 
-TEST_F(ItemDataTest, TheFirstItemOfThatFourccIsReplacedInPlace) {
+TEST_F(AviItemData, TheFirstItemOfThatFourccIsReplacedInPlace) {
     ASSERT_EQ(1, avi_set_item_data(&list_, inam, "first", 5));
     ASSERT_EQ(1, avi_set_item_data(&list_, make_fourcc("ISTR"), "x", 1));
     const _avi_item_t twin = [] {
@@ -99,13 +99,13 @@ TEST_F(ItemDataTest, TheFirstItemOfThatFourccIsReplacedInPlace) {
     EXPECT_EQ(nullptr, list_.children[2].data);
 }
 
-TEST_F(ItemDataTest, TheDataMayBeTheItemsOwn) {
+TEST_F(AviItemData, TheDataMayBeTheItemsOwn) {
     ASSERT_EQ(1, avi_set_item_data(&list_, inam, "abcdef", 6));
     ASSERT_EQ(1, avi_set_item_data(&list_, inam, list_.children[0].data + 2, 3));
     EXPECT_EQ("cde", data_of(list_.children[0]));
 }
 
-TEST_F(ItemDataTest, ReplacingAListThatHasChildrenFreesThem) { // the leak checker is the witness
+TEST_F(AviItemData, ReplacingAListThatHasChildrenFreesThem) { // the leak checker is the witness
     _avi_item_t inner{};
     inner.fourcc = fourcc::list;
     ASSERT_EQ(1, avi_set_item_data(&inner, inam, "abc", 3));
@@ -115,13 +115,13 @@ TEST_F(ItemDataTest, ReplacingAListThatHasChildrenFreesThem) { // the leak check
     EXPECT_EQ("type", data_of(list_.children[0]));
 }
 
-TEST_F(ItemDataTest, TheListsOwnSizeFieldIsLeftAlone) {
+TEST_F(AviItemData, TheListsOwnSizeFieldIsLeftAlone) {
     list_.size = 99;
     ASSERT_EQ(1, avi_set_item_data(&list_, inam, "abc", 3));
     EXPECT_EQ(99u, list_.size);
 }
 
-TEST_F(ItemDataTest, NoBytesMakeAnItemOfSizeZero) {
+TEST_F(AviItemData, NoBytesMakeAnItemOfSizeZero) {
     ASSERT_EQ(1, avi_set_item_data(&list_, inam, "", 0));
     EXPECT_EQ(0u, list_.children[0].size);
 }

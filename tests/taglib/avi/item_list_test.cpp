@@ -12,9 +12,9 @@ namespace velmora::test {
 namespace {
 
 /** Loads lists that stand at the beginning of a file: their first sub-chunk is at 12. */
-class ItemListTest : public testing::Test {
+class AviItemList : public testing::Test {
 protected:
-    ~ItemListTest() override { avi_free_item(&list_); }
+    ~AviItemList() override { avi_free_item(&list_); }
 
     /** Loads the list with that size field from a file that holds the sub-chunks' BYTES behind it. */
     void load(std::uint32_t size, const std::string& bytes) {
@@ -39,7 +39,7 @@ protected:
     std::string log_;
 };
 
-TEST_F(ItemListTest, SubChunksAreLoadedWithDataAndAbsoluteOffset) {
+TEST_F(AviItemList, SubChunksAreLoadedWithDataAndAbsoluteOffset) {
     load(28, chunk("INAM", 4, z("Old")) + chunk("ISTR", 4, z("Ann")));
     ASSERT_EQ(2, list_.child_count);
     EXPECT_EQ(make_fourcc("INAM"), list_.children[0].fourcc);
@@ -52,7 +52,7 @@ TEST_F(ItemListTest, SubChunksAreLoadedWithDataAndAbsoluteOffset) {
               log_);
 }
 
-TEST_F(ItemListTest, ASubChunkAfterAnOddOneBeginsAtAnEvenOffset) {
+TEST_F(AviItemList, ASubChunkAfterAnOddOneBeginsAtAnEvenOffset) {
     load(26, chunk("INAM", 3, "Odd.") + chunk("ISTR", 2, "ok"));
     ASSERT_EQ(2, list_.child_count);
     EXPECT_EQ("Odd", data(0));
@@ -60,18 +60,18 @@ TEST_F(ItemListTest, ASubChunkAfterAnOddOneBeginsAtAnEvenOffset) {
     EXPECT_EQ("ok", data(1));
 }
 
-TEST_F(ItemListTest, ASubChunkWithoutDataIsLoadedEmpty) {
+TEST_F(AviItemList, ASubChunkWithoutDataIsLoadedEmpty) {
     load(20, chunk("INAM", 0, "") + chunk("ISTR", 0, ""));
     ASSERT_EQ(2, list_.child_count);
     EXPECT_EQ(0u, list_.children[0].size);
 }
 
-TEST_F(ItemListTest, WhatFollowsTheListIsNotRead) {
+TEST_F(AviItemList, WhatFollowsTheListIsNotRead) {
     load(16, chunk("INAM", 4, z("Old")) + chunk("JUNK", 4, "...."));
     EXPECT_EQ(1, list_.child_count);
 }
 
-TEST_F(ItemListTest, AListTooShortForASubChunkIsEmpty) {
+TEST_F(AviItemList, AListTooShortForASubChunkIsEmpty) {
     for (const std::uint32_t size : {0u, 3u, 4u, 11u}) {
         load(size, chunk("INAM", 4, z("Old")));
         EXPECT_EQ(0, list_.child_count) << size;
@@ -79,7 +79,7 @@ TEST_F(ItemListTest, AListTooShortForASubChunkIsEmpty) {
     }
 }
 
-TEST_F(ItemListTest, AHeaderThatTheFileEndsInIsLoggedAndEndsTheList) {
+TEST_F(AviItemList, AHeaderThatTheFileEndsInIsLoggedAndEndsTheList) {
     load(28, chunk("INAM", 4, z("Old")));
     EXPECT_EQ(1, list_.child_count);
     EXPECT_EQ("[0000000c]        <INAM> size 0x4\n"
@@ -88,7 +88,7 @@ TEST_F(ItemListTest, AHeaderThatTheFileEndsInIsLoggedAndEndsTheList) {
     EXPECT_FALSE(list_.incomplete);
 }
 
-TEST_F(ItemListTest, AnInvalidFourccIsLoggedAndEndsTheList) {
+TEST_F(AviItemList, AnInvalidFourccIsLoggedAndEndsTheList) {
     load(40, chunk("INAM", 4, z("Old")) + chunk("IS\x7FR", 4, z("Ann")) + chunk("ICMT", 4, z("Any")));
     EXPECT_EQ(1, list_.child_count);
     EXPECT_EQ("[0000000c]        <INAM> size 0x4\n"
@@ -96,39 +96,39 @@ TEST_F(ItemListTest, AnInvalidFourccIsLoggedAndEndsTheList) {
               log_);
 }
 
-TEST_F(ItemListTest, AZeroFourccIsInvalidToo) {
+TEST_F(AviItemList, AZeroFourccIsInvalidToo) {
     load(28, le32(0) + le32(4) + "...." + chunk("INAM", 4, z("Old")));
     EXPECT_EQ(0, list_.child_count);
     EXPECT_EQ("avi_load_item_list: Invalid tag '' at c\n", log_);
 }
 
-TEST_F(ItemListTest, ASubChunkMayOverrunTheListByFourBytes) {
+TEST_F(AviItemList, ASubChunkMayOverrunTheListByFourBytes) {
     load(16, chunk("INAM", 8, "12345678") + "more");
     ASSERT_EQ(1, list_.child_count);
     EXPECT_EQ("12345678", data(0));
 }
 
-TEST_F(ItemListTest, BytesThatTheFileDoesNotHaveReadAsZeros) {
+TEST_F(AviItemList, BytesThatTheFileDoesNotHaveReadAsZeros) {
     load(16, chunk("INAM", 8, "12345"));
     ASSERT_EQ(1, list_.child_count);
     EXPECT_EQ(std::string("12345\0\0\0", 8), data(0));
     EXPECT_FALSE(list_.incomplete);
 }
 
-TEST_F(ItemListTest, ASubChunkThatOverrunsTheListByFiveBytesIsLoggedUnderAnotherFunctionsName) {
+TEST_F(AviItemList, ASubChunkThatOverrunsTheListByFiveBytesIsLoggedUnderAnotherFunctionsName) {
     load(16, chunk("INAM", 9, "123456789") + "more");
     EXPECT_EQ(0, list_.child_count);
     EXPECT_EQ("avi_load_info_list: Invalid tag 'INAM' size at c\n", log_);
 }
 
-TEST_F(ItemListTest, SizesAtThe32BitLimitDoNotWrap) {
+TEST_F(AviItemList, SizesAtThe32BitLimitDoNotWrap) {
     for (const std::uint32_t size : {0xFFFFFFFFu, 0xFFFFFFFCu, 0xFFFFFFF8u, 0x80000000u}) {
         load(28, chunk("INAM", size, z("Old")) + chunk("ISTR", 4, z("Ann")));
         EXPECT_EQ(0, list_.child_count) << size;
     }
 }
 
-TEST_F(ItemListTest, ALyingListSizeDoesNotLetASubChunkClaimMoreThanTheFileHas) {
+TEST_F(AviItemList, ALyingListSizeDoesNotLetASubChunkClaimMoreThanTheFileHas) {
     load(0xFFFFFFFF, chunk("INAM", 4, z("Old")) + chunk("ISTR", 0xF0000000, z("Ann")));
     EXPECT_EQ(1, list_.child_count);
     EXPECT_EQ("[0000000c]        <INAM> size 0x4\n"
@@ -136,7 +136,7 @@ TEST_F(ItemListTest, ALyingListSizeDoesNotLetASubChunkClaimMoreThanTheFileHas) {
               log_);
 }
 
-TEST_F(ItemListTest, AListInsideTheListIsKeptAsBytes) {
+TEST_F(AviItemList, AListInsideTheListIsKeptAsBytes) {
     load(24, list(12, "iner", chunk("INAM", 0, "")));
     ASSERT_EQ(1, list_.child_count);
     EXPECT_EQ(0, list_.children[0].child_count);
@@ -145,7 +145,7 @@ TEST_F(ItemListTest, AListInsideTheListIsKeptAsBytes) {
     EXPECT_EQ("[0000000c]        <LIST> size 0xc\n", log_);
 }
 
-TEST_F(ItemListTest, ARiffInsideTheListIsKeptAsBytesToo) {
+TEST_F(AviItemList, ARiffInsideTheListIsKeptAsBytesToo) {
     load(16, chunk("RIFF", 4, "AVIX"));
     ASSERT_EQ(1, list_.child_count);
     EXPECT_EQ("AVIX", data(0));

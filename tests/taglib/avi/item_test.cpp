@@ -25,13 +25,13 @@ _avi_item_t plain(std::uint32_t fourcc, std::uint32_t size) {
 }
 
 /** A list whose children have the sizes 1, 2, 3, ... and the FOURCCs of TAGS. */
-class ItemTest : public testing::Test {
+class AviItem : public testing::Test {
 protected:
-    ItemTest() {
+    AviItem() {
         list_.fourcc = fourcc::list;
         list_.list_type = fourcc::info;
     }
-    ~ItemTest() override { avi_free_item(&list_); }
+    ~AviItem() override { avi_free_item(&list_); }
 
     void add(std::uint32_t fourcc) {
         const _avi_item_t item = plain(fourcc, static_cast<std::uint32_t>(list_.child_count) + 1);
@@ -59,7 +59,7 @@ protected:
     _avi_item_t list_{};
 };
 
-TEST_F(ItemTest, AnIndexBeyondTheCountAppends) {
+TEST_F(AviItem, AnIndexBeyondTheCountAppends) {
     add(make_fourcc("AAAA"));
     add(make_fourcc("BBBB"));
     const _avi_item_t third = plain(make_fourcc("CCCC"), 3);
@@ -68,7 +68,7 @@ TEST_F(ItemTest, AnIndexBeyondTheCountAppends) {
     EXPECT_EQ("123", order());
 }
 
-TEST_F(ItemTest, InsertingShiftsTheLaterChildrenUpAndReturnsTheNewSlot) {
+TEST_F(AviItem, InsertingShiftsTheLaterChildrenUpAndReturnsTheNewSlot) {
     add(make_fourcc("AAAA"));
     add(make_fourcc("BBBB"));
     const _avi_item_t third = plain(make_fourcc("CCCC"), 3);
@@ -78,13 +78,13 @@ TEST_F(ItemTest, InsertingShiftsTheLaterChildrenUpAndReturnsTheNewSlot) {
     EXPECT_EQ(3, list_.child_count);
 }
 
-TEST_F(ItemTest, AnItemOfTheSameArrayCanBeInsertedAgain) {
+TEST_F(AviItem, AnItemOfTheSameArrayCanBeInsertedAgain) {
     add(make_fourcc("AAAA"));
     ASSERT_NE(nullptr, avi_insert_item(&list_, list_.children, at_the_end));
     EXPECT_EQ("11", order());
 }
 
-TEST_F(ItemTest, ThousandsOfInsertsAtTheFrontKeepTheirOrder) {
+TEST_F(AviItem, ThousandsOfInsertsAtTheFrontKeepTheirOrder) {
     for (std::uint32_t i = 0; i < 3000; ++i) {
         const _avi_item_t item = plain(make_fourcc("AAAA"), i);
         ASSERT_NE(nullptr, avi_insert_item(&list_, &item, 0));
@@ -94,14 +94,14 @@ TEST_F(ItemTest, ThousandsOfInsertsAtTheFrontKeepTheirOrder) {
     }
 }
 
-TEST_F(ItemTest, AnArrayThatCantGrowGivesNoSlot) {
+TEST_F(AviItem, AnArrayThatCantGrowGivesNoSlot) {
     _avi_item_t full{};
     full.child_count = std::numeric_limits<std::int32_t>::max();
     const _avi_item_t item = plain(make_fourcc("AAAA"), 1);
     EXPECT_EQ(nullptr, avi_insert_item(&full, &item, at_the_end));
 }
 
-TEST_F(ItemTest, RemovingShiftsTheLaterChildrenDown) {
+TEST_F(AviItem, RemovingShiftsTheLaterChildrenDown) {
     add(make_fourcc("AAAA"));
     add(make_fourcc("BBBB"));
     add(make_fourcc("CCCC"));
@@ -109,14 +109,14 @@ TEST_F(ItemTest, RemovingShiftsTheLaterChildrenDown) {
     EXPECT_EQ("13", order());
 }
 
-TEST_F(ItemTest, RemovingGoesByIdentityNotByContents) {
+TEST_F(AviItem, RemovingGoesByIdentityNotByContents) {
     add(make_fourcc("AAAA"));
     _avi_item_t twin = list_.children[0];
     EXPECT_EQ(0, avi_remove_item(&list_, &twin));
     EXPECT_EQ("1", order());
 }
 
-TEST_F(ItemTest, RemovingATagTakesTheFirstWithThatFourccOnly) {
+TEST_F(AviItem, RemovingATagTakesTheFirstWithThatFourccOnly) {
     add(make_fourcc("AAAA"));
     add(make_fourcc("BBBB"));
     add(make_fourcc("BBBB"));
@@ -124,23 +124,23 @@ TEST_F(ItemTest, RemovingATagTakesTheFirstWithThatFourccOnly) {
     EXPECT_EQ("13", order());
 }
 
-TEST_F(ItemTest, RemovingATagThatIsNotThereGivesZero) {
+TEST_F(AviItem, RemovingATagThatIsNotThereGivesZero) {
     add(make_fourcc("AAAA"));
     EXPECT_EQ(0, avi_remove_tag(&list_, make_fourcc("BBBB")));
 }
 
-TEST_F(ItemTest, FindGivesTheFirstWithThatFourcc) {
+TEST_F(AviItem, FindGivesTheFirstWithThatFourcc) {
     add(make_fourcc("AAAA"));
     add(make_fourcc("BBBB"));
     add(make_fourcc("BBBB"));
     EXPECT_EQ(list_.children + 1, avi_find_item(&list_, make_fourcc("BBBB")));
 }
 
-TEST_F(ItemTest, FindGivesNothingForAFourccThatIsNotThere) {
+TEST_F(AviItem, FindGivesNothingForAFourccThatIsNotThere) {
     EXPECT_EQ(nullptr, avi_find_item(&list_, make_fourcc("BBBB")));
 }
 
-TEST_F(ItemTest, FindListGivesTheFirstListOfThatType) {
+TEST_F(AviItem, FindListGivesTheFirstListOfThatType) {
     add(fourcc::info); // a plain chunk of that name is none
     add(fourcc::list);
     add(fourcc::list);
@@ -151,12 +151,12 @@ TEST_F(ItemTest, FindListGivesTheFirstListOfThatType) {
     EXPECT_EQ(list_.children + 2, avi_find_list_item(&list_, fourcc::info));
 }
 
-TEST_F(ItemTest, FindListGivesNothingForATypeThatIsNotThere) {
+TEST_F(AviItem, FindListGivesNothingForATypeThatIsNotThere) {
     add(fourcc::list);
     EXPECT_EQ(nullptr, avi_find_list_item(&list_, fourcc::info));
 }
 
-TEST_F(ItemTest, TheIndexGoesByIdentity) {
+TEST_F(AviItem, TheIndexGoesByIdentity) {
     add(make_fourcc("AAAA"));
     add(make_fourcc("AAAA"));
     const _avi_item_t stranger = list_.children[1];
@@ -164,7 +164,7 @@ TEST_F(ItemTest, TheIndexGoesByIdentity) {
     EXPECT_EQ(-1, avi_get_item_index(&list_, &stranger));
 }
 
-TEST_F(ItemTest, MovingTowardsTheFrontKeepsTheOthersOrder) {
+TEST_F(AviItem, MovingTowardsTheFrontKeepsTheOthersOrder) {
     for (int i = 0; i < 5; ++i) {
         add(make_fourcc("AAAA"));
     }
@@ -172,7 +172,7 @@ TEST_F(ItemTest, MovingTowardsTheFrontKeepsTheOthersOrder) {
     EXPECT_EQ("14235", order());
 }
 
-TEST_F(ItemTest, MovingTowardsTheEndGivesTheChildThatIndex) {
+TEST_F(AviItem, MovingTowardsTheEndGivesTheChildThatIndex) {
     for (int i = 0; i < 5; ++i) {
         add(make_fourcc("AAAA"));
     }
@@ -180,7 +180,7 @@ TEST_F(ItemTest, MovingTowardsTheEndGivesTheChildThatIndex) {
     EXPECT_EQ("13425", order());
 }
 
-TEST_F(ItemTest, MovingBeyondTheEndMakesTheChildTheLast) {
+TEST_F(AviItem, MovingBeyondTheEndMakesTheChildTheLast) {
     for (int i = 0; i < 3; ++i) {
         add(make_fourcc("AAAA"));
     }
@@ -188,36 +188,36 @@ TEST_F(ItemTest, MovingBeyondTheEndMakesTheChildTheLast) {
     EXPECT_EQ("231", order());
 }
 
-TEST_F(ItemTest, MovingToItsOwnIndexChangesNothing) {
+TEST_F(AviItem, MovingToItsOwnIndexChangesNothing) {
     add(make_fourcc("AAAA"));
     add(make_fourcc("AAAA"));
     EXPECT_EQ(1, avi_move_item(&list_, list_.children + 1, 1));
     EXPECT_EQ("12", order());
 }
 
-TEST_F(ItemTest, OnlyAChildCanBeMoved) {
+TEST_F(AviItem, OnlyAChildCanBeMoved) {
     add(make_fourcc("AAAA"));
     _avi_item_t stranger = list_.children[0];
     EXPECT_EQ(0, avi_move_item(&list_, &stranger, 0));
 }
 
-TEST_F(ItemTest, APlainChunkMeasuresItsSizeField) {
+TEST_F(AviItem, APlainChunkMeasuresItsSizeField) {
     const _avi_item_t item = plain(make_fourcc("movi"), 7);
     EXPECT_EQ(7u, avi_sizeof_item(&item));
 }
 
-TEST_F(ItemTest, AnEmptyListMeasuresItsType) {
+TEST_F(AviItem, AnEmptyListMeasuresItsType) {
     EXPECT_EQ(4u, avi_sizeof_item(&list_));
 }
 
-TEST_F(ItemTest, AListCountsEachChildsHeaderSizeAndPadByte) {
+TEST_F(AviItem, AListCountsEachChildsHeaderSizeAndPadByte) {
     add(make_fourcc("AAAA")); // 1: 8 + 1 + 1
     add(make_fourcc("BBBB")); // 2: 8 + 2
     add(make_fourcc("CCCC")); // 3: 8 + 3 + 1
     EXPECT_EQ(36u, avi_sizeof_item(&list_));
 }
 
-TEST_F(ItemTest, ARiffIsMeasuredByItsChildrensSizeFieldsNotByGrandchildren) {
+TEST_F(AviItem, ARiffIsMeasuredByItsChildrensSizeFieldsNotByGrandchildren) {
     _avi_item_t root{};
     root.fourcc = fourcc::riff;
     _avi_item_t movi_item = plain(fourcc::list, 1000);
@@ -227,7 +227,7 @@ TEST_F(ItemTest, ARiffIsMeasuredByItsChildrensSizeFieldsNotByGrandchildren) {
     avi_free_header(&root);
 }
 
-TEST_F(ItemTest, SizesBeyond32BitsAreAddedUpWhole) {
+TEST_F(AviItem, SizesBeyond32BitsAreAddedUpWhole) {
     for (int i = 0; i < 2; ++i) {
         const _avi_item_t item = plain(make_fourcc("AAAA"), 0xFFFFFFFF);
         ASSERT_NE(nullptr, avi_insert_item(&list_, &item, at_the_end));
@@ -235,16 +235,16 @@ TEST_F(ItemTest, SizesBeyond32BitsAreAddedUpWhole) {
     EXPECT_EQ(0x200000014u, avi_sizeof_item(&list_));
 }
 
-TEST_F(ItemTest, AStoredChunkIsHeaderAndData) {
+TEST_F(AviItem, AStoredChunkIsHeaderAndData) {
     ASSERT_EQ(1, avi_set_item_data(&list_, make_fourcc("INAM"), "abc", 3));
     EXPECT_EQ(to_hex(hex("49 4E 41 4D 03 00 00 00 61 62 63")), to_hex(written(list_.children[0])));
 }
 
-TEST_F(ItemTest, AStoredItemWithoutDataIsItsHeaderOnly) {
+TEST_F(AviItem, AStoredItemWithoutDataIsItsHeaderOnly) {
     EXPECT_EQ(to_hex(hex("4A 55 4E 4B 00 10 00 00")), to_hex(written(plain(fourcc::junk, 4096))));
 }
 
-TEST_F(ItemTest, AStoredRiffIsItsHeaderOnly) {
+TEST_F(AviItem, AStoredRiffIsItsHeaderOnly) {
     _avi_item_t root = plain(fourcc::riff, 0x58);
     root.list_type = fourcc::avi;
     const _avi_item_t child = plain(fourcc::junk, 2);
@@ -253,7 +253,7 @@ TEST_F(ItemTest, AStoredRiffIsItsHeaderOnly) {
     avi_free_header(&root);
 }
 
-TEST_F(ItemTest, AStoredListHasItsTypeItsChildrenAndAZeroByteAfterEachOddOne) {
+TEST_F(AviItem, AStoredListHasItsTypeItsChildrenAndAZeroByteAfterEachOddOne) {
     ASSERT_EQ(1, avi_set_item_data(&list_, make_fourcc("INAM"), "abc", 3));
     ASSERT_EQ(1, avi_set_item_data(&list_, make_fourcc("ISTR"), "de", 2));
     ASSERT_EQ(1, avi_set_item_data(&list_, make_fourcc("ICMT"), "f", 1));
@@ -265,18 +265,18 @@ TEST_F(ItemTest, AStoredListHasItsTypeItsChildrenAndAZeroByteAfterEachOddOne) {
               to_hex(written(list_)));
 }
 
-TEST_F(ItemTest, TheSizeFieldIsWrittenAsItStands) {
+TEST_F(AviItem, TheSizeFieldIsWrittenAsItStands) {
     list_.size = 0x12345678;
     EXPECT_EQ(to_hex(hex("4C 49 53 54 78 56 34 12 49 4E 46 4F")), to_hex(written(list_)));
 }
 
-TEST_F(ItemTest, AListThatIsKeptAsBytesIsWrittenAsThoseBytes) {
+TEST_F(AviItem, AListThatIsKeptAsBytesIsWrittenAsThoseBytes) {
     ASSERT_EQ(1, avi_set_item_data(&list_, fourcc::list, "inerJUNK", 8));
     EXPECT_EQ(to_hex(hex("4C 49 53 54 08 00 00 00 69 6E 65 72 4A 55 4E 4B")),
               to_hex(written(list_.children[0])));
 }
 
-TEST_F(ItemTest, AnItemIsWrittenAtTheFilesPosition) {
+TEST_F(AviItem, AnItemIsWrittenAtTheFilesPosition) {
     const std::string path = folder_ / "item";
     write_file(path, "................");
     OpenFile file(path, O_RDWR);
@@ -286,7 +286,7 @@ TEST_F(ItemTest, AnItemIsWrittenAtTheFilesPosition) {
     EXPECT_EQ(std::string("....JUNK\1\0\0\0....", 16), read_file(path));
 }
 
-TEST_F(ItemTest, AFailingWriteIsLoggedOnceAndGivesZero) {
+TEST_F(AviItem, AFailingWriteIsLoggedOnceAndGivesZero) {
     const std::string path = folder_ / "item";
     write_file(path, "");
     OpenFile file(path, O_RDONLY);
@@ -296,7 +296,7 @@ TEST_F(ItemTest, AFailingWriteIsLoggedOnceAndGivesZero) {
     EXPECT_EQ("avi_store_item: Error writing file\n", log.text());
 }
 
-TEST_F(ItemTest, FreeingAnItemTwiceIsHarmlessAndLeavesItZeroed) {
+TEST_F(AviItem, FreeingAnItemTwiceIsHarmlessAndLeavesItZeroed) {
     ASSERT_EQ(1, avi_set_item_data(&list_, make_fourcc("INAM"), "abc", 3));
     list_.offset = 40;
     avi_free_item(&list_);
@@ -305,7 +305,7 @@ TEST_F(ItemTest, FreeingAnItemTwiceIsHarmlessAndLeavesItZeroed) {
     EXPECT_EQ(0, std::memcmp(&zeroed, &list_, sizeof zeroed));
 }
 
-TEST_F(ItemTest, FreeingAHeaderFreesItsListsAndTheirData) { // the leak checker is the witness
+TEST_F(AviItem, FreeingAHeaderFreesItsListsAndTheirData) { // the leak checker is the witness
     _avi_item_t root{};
     root.fourcc = fourcc::riff;
     ASSERT_EQ(1, avi_set_item_data(&list_, make_fourcc("INAM"), "abc", 3));
@@ -316,7 +316,7 @@ TEST_F(ItemTest, FreeingAHeaderFreesItsListsAndTheirData) { // the leak checker 
     EXPECT_EQ(nullptr, root.children);
 }
 
-TEST_F(ItemTest, ListingNamesTheTypeAndEachChild) {
+TEST_F(AviItem, ListingNamesTheTypeAndEachChild) {
     ASSERT_EQ(1, avi_set_item_data(&list_, make_fourcc("INAM"), "abc", 3));
     ASSERT_EQ(1, avi_set_item_data(&list_, fourcc::list, "iner........", 12));
     list_.children[0].offset = 0x12;

@@ -14,9 +14,9 @@
 namespace velmora::test {
 namespace {
 
-class LoadFileInfoTest : public testing::Test {
+class AviLoad : public testing::Test {
 protected:
-    ~LoadFileInfoTest() override {
+    ~AviLoad() override {
         id3_free_file_info(&info_);
         EXPECT_EQ(0, fake_images_alive());
     }
@@ -54,7 +54,7 @@ protected:
     int error_ = 0;
 };
 
-TEST_F(LoadFileInfoTest, EachSubChunkFillsItsField) {
+TEST_F(AviLoad, EachSubChunkFillsItsField) {
     ASSERT_EQ(1, load_info(0x78, chunk("INAM", 6, z("Title")) + chunk("ISTR", 8, z("Ann, Bo")) +
                                      chunk("ICMT", 9, z("Synopsis") + '\0') + chunk("IGNR", 6, z("Drama")) +
                                      chunk("ICRD", 5, z("1999") + '\0') + chunk("IART", 4, z("Dir")) +
@@ -74,7 +74,7 @@ TEST_F(LoadFileInfoTest, EachSubChunkFillsItsField) {
     EXPECT_EQ(0x8000u, info_.flags);
 }
 
-TEST_F(LoadFileInfoTest, TheWholeLogEndsWithTheListing) {
+TEST_F(AviLoad, TheWholeLogEndsWithTheListing) {
     ASSERT_EQ(1, load(avi_with_info_before_movi()));
     EXPECT_EQ(log_of_avi_with_info_before_movi() + "List <INFO>\n"
                                                    "[00000034] <INAM> size 0x4\n"
@@ -82,7 +82,7 @@ TEST_F(LoadFileInfoTest, TheWholeLogEndsWithTheListing) {
               log_);
 }
 
-TEST_F(LoadFileInfoTest, AListInsideTheInfoListIsListedWithItsType) {
+TEST_F(AviLoad, AListInsideTheInfoListIsListedWithItsType) {
     ASSERT_EQ(1, load(riff(60, hdrl() + list(20, "INFO", list(8, "iner", "....")))));
     EXPECT_EQ("now have 1 RIFF headers\n"
               "[0000000c] <list> type hdrl size 0x14\n"
@@ -93,93 +93,93 @@ TEST_F(LoadFileInfoTest, AListInsideTheInfoListIsListedWithItsType) {
               log_);
 }
 
-TEST_F(LoadFileInfoTest, WithoutAnInfoListTheRecordIsZeroedAndTheResultIsOne) {
+TEST_F(AviLoad, WithoutAnInfoListTheRecordIsZeroedAndTheResultIsOne) {
     EXPECT_EQ(1, load(avi_without_info()));
     expect_zeroed();
     EXPECT_EQ(log_of_avi_without_info(), log_);
 }
 
-TEST_F(LoadFileInfoTest, AnEmptyInfoListCountsAsATag) {
+TEST_F(AviLoad, AnEmptyInfoListCountsAsATag) {
     EXPECT_EQ(1, load_info(4, ""));
     EXPECT_EQ(0x8000u, info_.flags);
     EXPECT_EQ(nullptr, info_.title);
 }
 
-TEST_F(LoadFileInfoTest, OnlyTheFirstInfoListCounts) {
+TEST_F(AviLoad, OnlyTheFirstInfoListCounts) {
     ASSERT_EQ(1,
               load(riff(124, hdrl() + list(16, "INFO", chunk("IGNR", 4, z("One"))) + movi() + old_info())));
     EXPECT_STREQ("One", info_.genre);
     EXPECT_EQ(nullptr, info_.title);
 }
 
-TEST_F(LoadFileInfoTest, OnlyTheFirstSubChunkOfAFourccCounts) {
+TEST_F(AviLoad, OnlyTheFirstSubChunkOfAFourccCounts) {
     ASSERT_EQ(1, load_info(28, chunk("INAM", 4, z("One")) + chunk("INAM", 4, z("Two"))));
     EXPECT_STREQ("One", info_.title);
 }
 
-TEST_F(LoadFileInfoTest, AnEmptyTextLeavesTheFieldEmptyEvenWhenASecondSubChunkHasOne) {
+TEST_F(AviLoad, AnEmptyTextLeavesTheFieldEmptyEvenWhenASecondSubChunkHasOne) {
     ASSERT_EQ(1, load_info(28, chunk("INAM", 4, std::string(4, '\0')) + chunk("INAM", 4, z("Two"))));
     EXPECT_EQ(nullptr, info_.title);
 }
 
-TEST_F(LoadFileInfoTest, ATextNeedsNoTerminatingZero) {
+TEST_F(AviLoad, ATextNeedsNoTerminatingZero) {
     ASSERT_EQ(1, load_info(16, chunk("INAM", 4, "Four")));
     EXPECT_STREQ("Four", info_.title);
 }
 
-TEST_F(LoadFileInfoTest, BytesAreTakenAsTheyAreWhateverTheirEncoding) {
+TEST_F(AviLoad, BytesAreTakenAsTheyAreWhateverTheirEncoding) {
     ASSERT_EQ(1, load_info(16, chunk("INAM", 4, z("\xE9\xC3\xA9"))));
     EXPECT_STREQ("\xE9\xC3\xA9", info_.title);
 }
 
-TEST_F(LoadFileInfoTest, ATextIsCutTo8191Characters) {
+TEST_F(AviLoad, ATextIsCutTo8191Characters) {
     ASSERT_EQ(1, load_info(9012, chunk("ICMT", 9000, std::string(9000, 'c'))));
     EXPECT_EQ(std::string(8191, 'c'), info_.desc);
 }
 
-TEST_F(LoadFileInfoTest, TheYearIsTheNumberThatTheTextBeginsWith) {
+TEST_F(AviLoad, TheYearIsTheNumberThatTheTextBeginsWith) {
     ASSERT_EQ(1, load_info(24, chunk("ICRD", 11, z("2009-05-01") + '\0')));
     EXPECT_EQ(2009, info_.year);
 }
 
-TEST_F(LoadFileInfoTest, AYearThatIsNoNumberIsZero) {
+TEST_F(AviLoad, AYearThatIsNoNumberIsZero) {
     ASSERT_EQ(1, load_info(16, chunk("ICRD", 4, z("May"))));
     EXPECT_EQ(0, info_.year);
 }
 
-TEST_F(LoadFileInfoTest, APictureThatIsNoImageGivesNone) {
+TEST_F(AviLoad, APictureThatIsNoImageGivesNone) {
     ASSERT_EQ(1, load_info(16, chunk("IPIC", 4, "text")));
     EXPECT_EQ(nullptr, info_.picture);
 }
 
-TEST_F(LoadFileInfoTest, AFileThatIsNotThereIsLoggedAndKeepsTheSystemsError) {
+TEST_F(AviLoad, AFileThatIsNotThereIsLoggedAndKeepsTheSystemsError) {
     EXPECT_EQ(0, load_path(folder_ / "none.avi"));
     EXPECT_EQ("avi_load_file_info: Couldn't open file\n", log_);
     EXPECT_EQ(ENOENT, error_);
     expect_zeroed();
 }
 
-TEST_F(LoadFileInfoTest, AHeaderThatCantBeReadIsError5) {
+TEST_F(AviLoad, AHeaderThatCantBeReadIsError5) {
     EXPECT_EQ(0, load("no AVI file"));
     EXPECT_EQ("avi_read_header: Not a RIFF header\n", log_);
     EXPECT_EQ(5, error_);
     expect_zeroed();
 }
 
-TEST_F(LoadFileInfoTest, ASecondRiffIsError78) {
+TEST_F(AviLoad, ASecondRiffIsError78) {
     EXPECT_EQ(0, load(avi_with_info_last() + "RIFF" + le32(36) + "AVIX" + movi()));
     EXPECT_EQ(78, error_);
     expect_zeroed();
 }
 
-TEST_F(LoadFileInfoTest, Error78IsNotTakenOverFromAnEarlierFile) {
+TEST_F(AviLoad, Error78IsNotTakenOverFromAnEarlierFile) {
     ASSERT_EQ(0, load(avi_with_info_last() + "RIFF" + le32(36) + "AVIX" + movi()));
     errno = 78;
     EXPECT_EQ(0, load("no AVI file"));
     EXPECT_EQ(5, error_);
 }
 
-TEST_F(LoadFileInfoTest, AnErrorFromBeforeTheCallDoesNotShowInAGoodLoad) {
+TEST_F(AviLoad, AnErrorFromBeforeTheCallDoesNotShowInAGoodLoad) {
     errno = 78;
     ASSERT_EQ(1, load(avi_without_info()));
     EXPECT_EQ(0, error_);

@@ -15,7 +15,7 @@
 namespace velmora::test {
 namespace {
 
-class MoveFileTest : public testing::Test {
+class AviMoveFile : public testing::Test {
 protected:
     /** Moves an item of that size field from OFFSET to TO in the file, which holds BYTES when they are given.
      */
@@ -38,7 +38,7 @@ protected:
     std::string log_;
 };
 
-TEST_F(MoveFileTest, ExactlyOnePieceTowardsTheEnd) {
+TEST_F(AviMoveFile, ExactlyOnePieceTowardsTheEnd) {
     const std::string before = pattern(70000);
     write_file(path_, before);
     EXPECT_EQ(1, move(10, 65528, 60));
@@ -46,35 +46,35 @@ TEST_F(MoveFileTest, ExactlyOnePieceTowardsTheEnd) {
     EXPECT_EQ("", log_);
 }
 
-TEST_F(MoveFileTest, ExactlyOnePieceTowardsTheFront) {
+TEST_F(AviMoveFile, ExactlyOnePieceTowardsTheFront) {
     const std::string before = pattern(70000);
     write_file(path_, before);
     EXPECT_EQ(1, move(60, 65528, 10));
     expect_file(before.substr(0, 10) + before.substr(60, 65536) + before.substr(65546));
 }
 
-TEST_F(MoveFileTest, MoreThanOnePieceIsMovedWholeTowardsTheEndThoughTheRangesOverlap) {
+TEST_F(AviMoveFile, MoreThanOnePieceIsMovedWholeTowardsTheEndThoughTheRangesOverlap) {
     const std::string before = pattern(300000);
     write_file(path_, before);
     EXPECT_EQ(1, move(1000, 199992, 1003));
     expect_file(before.substr(0, 1003) + before.substr(1000, 200000) + before.substr(201003));
 }
 
-TEST_F(MoveFileTest, MoreThanOnePieceIsMovedWholeTowardsTheFrontThoughTheRangesOverlap) {
+TEST_F(AviMoveFile, MoreThanOnePieceIsMovedWholeTowardsTheFrontThoughTheRangesOverlap) {
     const std::string before = pattern(300000);
     write_file(path_, before);
     EXPECT_EQ(1, move(1003, 199992, 1000));
     expect_file(before.substr(0, 1000) + before.substr(1003, 200000) + before.substr(201000));
 }
 
-TEST_F(MoveFileTest, AMoveBeyondTheEndMakesTheFileLonger) {
+TEST_F(AviMoveFile, AMoveBeyondTheEndMakesTheFileLonger) {
     const std::string before = pattern(100000);
     write_file(path_, before);
     EXPECT_EQ(1, move(0, 99992, 150000));
     expect_file(before + std::string(50000, '\0') + before);
 }
 
-TEST_F(MoveFileTest, ARemainderBelowOnePieceIsMovedAsAWholePieceFromTheBackAndFails) {
+TEST_F(AviMoveFile, ARemainderBelowOnePieceIsMovedAsAWholePieceFromTheBackAndFails) {
     // 100 bytes from 70,000: the piece is the 65,536 bytes that end where the item ends.
     const std::string before = pattern(80000);
     write_file(path_, before);
@@ -83,7 +83,7 @@ TEST_F(MoveFileTest, ARemainderBelowOnePieceIsMovedAsAWholePieceFromTheBackAndFa
     EXPECT_EQ("", log_);
 }
 
-TEST_F(MoveFileTest, ARemainderBelowOnePieceIsMovedAsAWholePieceFromTheFrontAndFails) {
+TEST_F(AviMoveFile, ARemainderBelowOnePieceIsMovedAsAWholePieceFromTheFrontAndFails) {
     const std::string before = pattern(80000);
     write_file(path_, before);
     EXPECT_EQ(0, move(5000, 92, 100));
@@ -91,7 +91,7 @@ TEST_F(MoveFileTest, ARemainderBelowOnePieceIsMovedAsAWholePieceFromTheFrontAndF
     EXPECT_EQ("", log_);
 }
 
-TEST_F(MoveFileTest, APieceThatWouldBeginBeforeTheFileIsAReadError) {
+TEST_F(AviMoveFile, APieceThatWouldBeginBeforeTheFileIsAReadError) {
     const std::string before = pattern(80000);
     write_file(path_, before);
     EXPECT_EQ(0, move(5000, 92, 6000));
@@ -99,7 +99,7 @@ TEST_F(MoveFileTest, APieceThatWouldBeginBeforeTheFileIsAReadError) {
     EXPECT_EQ("avi_move_file: Error reading file\n", log_);
 }
 
-TEST_F(MoveFileTest, APieceThatTheFileEndsInIsAReadErrorAndNothingIsWritten) {
+TEST_F(AviMoveFile, APieceThatTheFileEndsInIsAReadErrorAndNothingIsWritten) {
     const std::string before = pattern(150000);
     write_file(path_, before);
     EXPECT_EQ(0, move(50000, 99993, 0));
@@ -107,14 +107,14 @@ TEST_F(MoveFileTest, APieceThatTheFileEndsInIsAReadErrorAndNothingIsWritten) {
     EXPECT_EQ("avi_move_file: Error reading file\n", log_);
 }
 
-TEST_F(MoveFileTest, ALyingSizeIsAReadErrorAndCostsNothing) {
+TEST_F(AviMoveFile, ALyingSizeIsAReadErrorAndCostsNothing) {
     write_file(path_, "short");
     EXPECT_EQ(0, move(0, 0xFFFFFFFF, 100));
     expect_file("short");
     EXPECT_EQ("avi_move_file: Error reading file\n", log_);
 }
 
-TEST_F(MoveFileTest, TheLow32BitsOfTheRemainderChooseThePiece) {
+TEST_F(AviMoveFile, TheLow32BitsOfTheRemainderChooseThePiece) {
     // Size field 0xFFFFFFF9 makes 2^32 + 1 bytes: their low 32 bits say 1, so that a piece of 65,536 bytes
     // comes first.
     write_file(path_, std::string(200000, 'x'));
@@ -129,7 +129,7 @@ TEST_F(MoveFileTest, TheLow32BitsOfTheRemainderChooseThePiece) {
     EXPECT_EQ("avi_move_file: Error reading file\n", log.text());
 }
 
-TEST_F(MoveFileTest, ABigPieceGoesThroughAWindowOfBoundedSize) {
+TEST_F(AviMoveFile, ABigPieceGoesThroughAWindowOfBoundedSize) {
     const std::string before = pattern(1000000);
     write_file(path_, before);
     OpenFile file(path_, O_RDWR);
@@ -145,7 +145,7 @@ TEST_F(MoveFileTest, ABigPieceGoesThroughAWindowOfBoundedSize) {
     expect_file(before.substr(0, 8) + before);
 }
 
-TEST_F(MoveFileTest, AFailingWriteIsLoggedAndEndsTheMove) {
+TEST_F(AviMoveFile, AFailingWriteIsLoggedAndEndsTheMove) {
     write_file(path_, pattern(300000));
     OpenFile file(path_, O_RDWR);
     _avi_item_t item{};
@@ -158,7 +158,7 @@ TEST_F(MoveFileTest, AFailingWriteIsLoggedAndEndsTheMove) {
     EXPECT_EQ("avi_move_file: Error writing file\n", log.text());
 }
 
-TEST_F(MoveFileTest, AShortReadIsLoggedAndEndsTheMove) {
+TEST_F(AviMoveFile, AShortReadIsLoggedAndEndsTheMove) {
     write_file(path_, pattern(300000));
     OpenFile file(path_, O_RDWR);
     _avi_item_t item{};

@@ -42,7 +42,7 @@ void limit_memory() {
     std::_Exit(holds ? 0 : 1);
 }
 
-class OutOfMemoryTest : public testing::Test {
+class AviOutOfMemory : public testing::Test {
 protected:
     void SetUp() override {
         if (!memory_can_run_out) {
@@ -65,7 +65,7 @@ protected:
     const std::string path_ = folder_ / "file.avi";
 };
 
-TEST_F(OutOfMemoryTest, SettingDataGivesZeroAndLeavesTheListAlone) {
+TEST_F(AviOutOfMemory, SettingDataGivesZeroAndLeavesTheListAlone) {
     EXPECT_EXIT(
         {
             limit_memory();
@@ -77,7 +77,7 @@ TEST_F(OutOfMemoryTest, SettingDataGivesZeroAndLeavesTheListAlone) {
         testing::ExitedWithCode(0), "");
 }
 
-TEST_F(OutOfMemoryTest, ALoadGoesOnWithoutTheSubChunkThatDoesNotFit) {
+TEST_F(AviOutOfMemory, ALoadGoesOnWithoutTheSubChunkThatDoesNotFit) {
     make_file();
     EXPECT_EXIT(
         {
@@ -90,7 +90,7 @@ TEST_F(OutOfMemoryTest, ALoadGoesOnWithoutTheSubChunkThatDoesNotFit) {
         testing::ExitedWithCode(0), "");
 }
 
-TEST_F(OutOfMemoryTest, AStoreThatCouldNotWriteEverySubChunkBackIsRefused) {
+TEST_F(AviOutOfMemory, AStoreThatCouldNotWriteEverySubChunkBackIsRefused) {
     make_file();
     EXPECT_EXIT(
         {

@@ -10,10 +10,10 @@ namespace {
 
 constexpr std::uint32_t ipic = make_fourcc("IPIC");
 
-class PictureTest : public testing::Test {
+class AviPicture : public testing::Test {
 protected:
-    PictureTest() { list_.fourcc = fourcc::list; }
-    ~PictureTest() override {
+    AviPicture() { list_.fourcc = fourcc::list; }
+    ~AviPicture() override {
         fail_fake_image_encoding(false);
         avi_free_item(&list_);
         EXPECT_EQ(0, fake_images_alive());
@@ -22,7 +22,7 @@ protected:
     _avi_item_t list_{};
 };
 
-TEST_F(PictureTest, ItIsMadeFromAllOfTheItemsBytes) {
+TEST_F(AviPicture, ItIsMadeFromAllOfTheItemsBytes) {
     ASSERT_EQ(1, avi_set_item_data(&list_, ipic, "\xFF\xD8\xFF\0jpeg", 8));
     Image* const image = avi_load_picture(list_.children);
     ASSERT_NE(nullptr, image);
@@ -31,18 +31,18 @@ TEST_F(PictureTest, ItIsMadeFromAllOfTheItemsBytes) {
     image_release(image);
 }
 
-TEST_F(PictureTest, BytesThatAreNoImageGiveNone) {
+TEST_F(AviPicture, BytesThatAreNoImageGiveNone) {
     ASSERT_EQ(1, avi_set_item_data(&list_, ipic, "text", 4));
     EXPECT_EQ(nullptr, avi_load_picture(list_.children));
 }
 
-TEST_F(PictureTest, AnItemWithoutDataGivesNone) {
+TEST_F(AviPicture, AnItemWithoutDataGivesNone) {
     _avi_item_t item{};
     item.size = 4;
     EXPECT_EQ(nullptr, avi_load_picture(&item));
 }
 
-TEST_F(PictureTest, TheJpegStreamIsStoredWithoutAHeaderOrTerminator) {
+TEST_F(AviPicture, TheJpegStreamIsStoredWithoutAHeaderOrTerminator) {
     Image* const image = image_from_bytes("\xFF\xD8\xFFjpeg", 7);
     EXPECT_EQ(1, avi_store_picture(&list_, ipic, image));
     ASSERT_EQ(1, list_.child_count);
@@ -52,7 +52,7 @@ TEST_F(PictureTest, TheJpegStreamIsStoredWithoutAHeaderOrTerminator) {
     image_release(image);
 }
 
-TEST_F(PictureTest, AnImageThatCantBeEncodedGivesZeroAndLeavesTheListAlone) {
+TEST_F(AviPicture, AnImageThatCantBeEncodedGivesZeroAndLeavesTheListAlone) {
     ASSERT_EQ(1, avi_set_item_data(&list_, ipic, "old", 3));
     Image* const image = image_from_bytes("\xFF\xD8\xFFjpeg", 7);
     fail_fake_image_encoding(true);

@@ -101,7 +101,7 @@ void PrintTo(const Film& film, std::ostream* out) {
     *out << film.name;
 }
 
-class RealFileTest : public testing::TestWithParam<Film> {
+class AviFilm : public testing::TestWithParam<Film> {
 protected:
     void SetUp() override {
         GetParam().make(path_);
@@ -141,7 +141,7 @@ protected:
     std::string checksum_;
 };
 
-TEST_P(RealFileTest, WhatOthersTaggedIsLoaded) {
+TEST_P(AviFilm, WhatOthersTaggedIsLoaded) {
     StreamCapture quiet;
     _file_info_t info;
     ASSERT_EQ(1, avi_load_file_info(path_.c_str(), &info));
@@ -150,17 +150,17 @@ TEST_P(RealFileTest, WhatOthersTaggedIsLoaded) {
     id3_free_file_info(&info);
 }
 
-TEST_P(RealFileTest, WhatIsStoredIsReadBackByFfprobe) {
+TEST_P(AviFilm, WhatIsStoredIsReadBackByFfprobe) {
     store("Stored \xC3\xA9t\xC3\xA9");
     expect_probed("Stored \xC3\xA9t\xC3\xA9");
 }
 
-TEST_P(RealFileTest, AfterAStoreTheFilmDecodesToTheSameChecksum) {
+TEST_P(AviFilm, AfterAStoreTheFilmDecodesToTheSameChecksum) {
     store("Stored");
     EXPECT_EQ(checksum_, decoded_checksum(path_));
 }
 
-TEST_P(RealFileTest, ALongerAndThenAShorterTitleAreReadBackToo) {
+TEST_P(AviFilm, ALongerAndThenAShorterTitleAreReadBackToo) {
     store("Short");
     store(std::string(1001, 'L'));
     expect_probed(std::string(1001, 'L'));
@@ -169,13 +169,13 @@ TEST_P(RealFileTest, ALongerAndThenAShorterTitleAreReadBackToo) {
     EXPECT_EQ(checksum_, decoded_checksum(path_));
 }
 
-TEST_P(RealFileTest, AfterARemovalTheFilmDecodesToTheSameChecksum) {
+TEST_P(AviFilm, AfterARemovalTheFilmDecodesToTheSameChecksum) {
     StreamCapture quiet;
     EXPECT_EQ(1, avi_remove_file_info(path_.c_str()));
     EXPECT_EQ(checksum_, decoded_checksum(path_));
 }
 
-TEST_P(RealFileTest, AStoredPictureIsARealJpegForOthers) {
+TEST_P(AviFilm, AStoredPictureIsARealJpegForOthers) {
     const std::string cover = folder_ / "cover.jpg";
     output_of("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=32x24 -frames:v 1 '" + cover + "'");
     const std::string jpeg = read_file(cover);
@@ -197,7 +197,7 @@ TEST_P(RealFileTest, AStoredPictureIsARealJpegForOthers) {
     EXPECT_EQ(checksum_, decoded_checksum(path_));
 }
 
-INSTANTIATE_TEST_SUITE_P(Films, RealFileTest,
+INSTANTIATE_TEST_SUITE_P(Films, AviFilm,
                          testing::Values(Film{"WithoutInfo", make_without_info, ""},
                                          Film{"InfoBeforeMovi", make_with_info_in_front, "Kept"},
                                          Film{"InfoAfterMovi", make_with_info_behind, "Kept"},
@@ -205,7 +205,7 @@ INSTANTIATE_TEST_SUITE_P(Films, RealFileTest,
                                          Film{"SoundOnly", make_sound_only, "Kept"}),
                          [](const auto& film) { return std::string(film.param.name); });
 
-TEST(RealFile, ARemovedListInFrontOfTheMediaIsGoneForOthersToo) {
+TEST(AviOneFilm, ARemovedListInFrontOfTheMediaIsGoneForOthersToo) {
     const ScratchFolder folder;
     const std::string path = folder / "film.avi";
     make_with_info_in_front(path);
@@ -215,7 +215,7 @@ TEST(RealFile, ARemovedListInFrontOfTheMediaIsGoneForOthersToo) {
     EXPECT_EQ("", probed_tags(path)["title"]);
 }
 
-TEST(RealFile, AnOpenDmlFilmWithASecondRiffIsLeftAloneWithError78) {
+TEST(AviOneFilm, AnOpenDmlFilmWithASecondRiffIsLeftAloneWithError78) {
     const ScratchFolder folder;
     const std::string path = folder / "film.avi";
     make_with_info_in_front(path);
@@ -233,7 +233,7 @@ TEST(RealFile, AnOpenDmlFilmWithASecondRiffIsLeftAloneWithError78) {
     EXPECT_TRUE(bytes == read_file(path));
 }
 
-TEST(RealFile, AWaveFileIsLeftAloneWithError5) {
+TEST(AviOneFilm, AWaveFileIsLeftAloneWithError5) {
     const ScratchFolder folder;
     const std::string path = folder / "sound.avi";
     output_of("ffmpeg -v error -nostdin -y -f lavfi -i sine=duration=1 -f wav '" + path + "'");

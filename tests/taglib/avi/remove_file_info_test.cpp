@@ -13,7 +13,7 @@
 namespace velmora::test {
 namespace {
 
-class RemoveFileInfoTest : public testing::Test {
+class AviRemove : public testing::Test {
 protected:
     int remove_from(const std::string& bytes) {
         write_file(path_, bytes);
@@ -36,19 +36,19 @@ protected:
     int error_ = 0;
 };
 
-TEST_F(RemoveFileInfoTest, AFileWithoutAnInfoListIsLeftAsItIs) {
+TEST_F(AviRemove, AFileWithoutAnInfoListIsLeftAsItIs) {
     EXPECT_EQ(1, remove_from(avi_without_info()));
     expect_file(avi_without_info());
     EXPECT_EQ(log_of_avi_without_info(), log_);
 }
 
-TEST_F(RemoveFileInfoTest, ALastListStaysBehindAShorterRiffChunk) {
+TEST_F(AviRemove, ALastListStaysBehindAShorterRiffChunk) {
     EXPECT_EQ(1, remove_from(avi_with_info_last()));
     expect_file(riff(88, hdrl() + movi() + idx1()) + old_info());
     EXPECT_EQ(log_of_avi_with_info_last() + "Writing <EOF> at 0x60\n", log_);
 }
 
-TEST_F(RemoveFileInfoTest, ALastListIsFoundAgainByTheNextLoadBecauseTheFileIsReadByItsLength) {
+TEST_F(AviRemove, ALastListIsFoundAgainByTheNextLoadBecauseTheFileIsReadByItsLength) {
     ASSERT_EQ(1, remove_from(avi_with_info_last()));
     _file_info_t info;
     StreamCapture quiet;
@@ -58,7 +58,7 @@ TEST_F(RemoveFileInfoTest, ALastListIsFoundAgainByTheNextLoadBecauseTheFileIsRea
     id3_free_file_info(&info);
 }
 
-TEST_F(RemoveFileInfoTest, AListThatIsNotLastBecomesJunkOfTheSameSize) {
+TEST_F(AviRemove, AListThatIsNotLastBecomesJunkOfTheSameSize) {
     EXPECT_EQ(1, remove_from(avi_with_info_before_movi()));
     expect_file(riff(
         124, hdrl() + chunk("JUNK", 28, "INFO" + chunk("INAM", 4, z("Old")) + chunk("ISTR", 4, z("Ann"))) +
@@ -66,7 +66,7 @@ TEST_F(RemoveFileInfoTest, AListThatIsNotLastBecomesJunkOfTheSameSize) {
     EXPECT_EQ(log_of_avi_with_info_before_movi() + "Writing <junk> at 0x28 size 0x1c\n", log_);
 }
 
-TEST_F(RemoveFileInfoTest, AListThatIsNotLastIsGoneForTheNextLoad) {
+TEST_F(AviRemove, AListThatIsNotLastIsGoneForTheNextLoad) {
     ASSERT_EQ(1, remove_from(avi_with_info_before_movi()));
     _file_info_t info;
     StreamCapture quiet;
@@ -75,39 +75,39 @@ TEST_F(RemoveFileInfoTest, AListThatIsNotLastIsGoneForTheNextLoad) {
     id3_free_file_info(&info);
 }
 
-TEST_F(RemoveFileInfoTest, OnlyTheFirstInfoListIsRemoved) {
+TEST_F(AviRemove, OnlyTheFirstInfoListIsRemoved) {
     EXPECT_EQ(1, remove_from(
                      riff(124, hdrl() + list(16, "INFO", chunk("IGNR", 4, z("One"))) + movi() + old_info())));
     expect_file(
         riff(124, hdrl() + chunk("JUNK", 16, "INFO" + chunk("IGNR", 4, z("One"))) + movi() + old_info()));
 }
 
-TEST_F(RemoveFileInfoTest, AWrongRiffSizeIsPutRight) {
+TEST_F(AviRemove, AWrongRiffSizeIsPutRight) {
     EXPECT_EQ(1, remove_from(riff(7, hdrl() + old_info() + movi())));
     expect_file(riff(
         100, hdrl() + chunk("JUNK", 28, "INFO" + chunk("INAM", 4, z("Old")) + chunk("ISTR", 4, z("Ann"))) +
                  movi()));
 }
 
-TEST_F(RemoveFileInfoTest, AnAvixFormKeepsItsType) {
+TEST_F(AviRemove, AnAvixFormKeepsItsType) {
     EXPECT_EQ(1, remove_from("RIFF" + le32(68) + "AVIX" + hdrl() + old_info()));
     expect_file("RIFF" + le32(32) + "AVIX" + hdrl() + old_info());
 }
 
-TEST_F(RemoveFileInfoTest, AFileThatIsNotThereIsReportedAsByAStore) {
+TEST_F(AviRemove, AFileThatIsNotThereIsReportedAsByAStore) {
     EXPECT_EQ(0, remove());
     EXPECT_EQ("avi_store_file_info: Couldn't open file\n", log_);
     EXPECT_EQ(ENOENT, error_);
 }
 
-TEST_F(RemoveFileInfoTest, AHeaderThatCantBeReadIsError5AndNothingChanges) {
+TEST_F(AviRemove, AHeaderThatCantBeReadIsError5AndNothingChanges) {
     errno = 78;
     EXPECT_EQ(0, remove_from("no AVI file"));
     EXPECT_EQ(5, error_);
     expect_file("no AVI file");
 }
 
-TEST_F(RemoveFileInfoTest, ASecondRiffIsError78AndNothingChanges) {
+TEST_F(AviRemove, ASecondRiffIsError78AndNothingChanges) {
     const std::string bytes = avi_with_info_last() + "RIFF" + le32(36) + "AVIX" + movi();
     EXPECT_EQ(0, remove_from(bytes));
     EXPECT_EQ(78, error_);

@@ -17,9 +17,9 @@ using namespace std::string_literals;
 namespace velmora::test {
 namespace {
 
-class StoreFileInfoTest : public testing::Test {
+class AviStore : public testing::Test {
 protected:
-    ~StoreFileInfoTest() override {
+    ~AviStore() override {
         fail_fake_image_encoding(false);
         image_release(info_.picture);
         EXPECT_EQ(0, fake_images_alive());
@@ -67,14 +67,14 @@ protected:
 
 // Where the list goes
 
-TEST_F(StoreFileInfoTest, WithoutAnInfoListOneIsAppendedAndTheRiffSizeRaised) {
+TEST_F(AviStore, WithoutAnInfoListOneIsAppendedAndTheRiffSizeRaised) {
     set_title("New");
     EXPECT_EQ(1, store_into(avi_without_info()));
     expect_file(riff(112, hdrl() + movi() + idx1() + list(16, "INFO", chunk("INAM", 4, z("New")))));
     EXPECT_EQ(log_of_avi_without_info() + "Writing <info> at 0x60 size 0x10\n", log_);
 }
 
-TEST_F(StoreFileInfoTest, AListThatIsNotLastBecomesJunkAndANewOneGoesToTheEnd) {
+TEST_F(AviStore, AListThatIsNotLastBecomesJunkAndANewOneGoesToTheEnd) {
     set_title("Newer");
     EXPECT_EQ(1, store_into(avi_with_info_before_movi()));
     expect_file(riff(
@@ -86,7 +86,7 @@ TEST_F(StoreFileInfoTest, AListThatIsNotLastBecomesJunkAndANewOneGoesToTheEnd) {
               log_);
 }
 
-TEST_F(StoreFileInfoTest, TheSecondStoreRewritesTheLastListInPlace) {
+TEST_F(AviStore, TheSecondStoreRewritesTheLastListInPlace) {
     set_title("Newer");
     ASSERT_EQ(1, store_into(avi_with_info_before_movi()));
     set_title("Newest title");
@@ -97,7 +97,7 @@ TEST_F(StoreFileInfoTest, TheSecondStoreRewritesTheLastListInPlace) {
                  list(38, "INFO", chunk("INAM", 13, z("Newest title") + '\0') + chunk("ISTR", 4, z("Ann")))));
 }
 
-TEST_F(StoreFileInfoTest, AShorterListLeavesTheOldTailBehindTheRiffChunk) {
+TEST_F(AviStore, AShorterListLeavesTheOldTailBehindTheRiffChunk) {
     set_title("N");
     EXPECT_EQ(1, store_into(avi_with_info_last()));
     expect_file(riff(122, hdrl() + movi() + idx1() +
@@ -106,7 +106,7 @@ TEST_F(StoreFileInfoTest, AShorterListLeavesTheOldTailBehindTheRiffChunk) {
     EXPECT_EQ(log_of_avi_with_info_last() + "Writing <info> at 0x60 size 0x1a\n", log_);
 }
 
-TEST_F(StoreFileInfoTest, AnOldTailThatParsesAsAChunkMakesTheListNotTheLastAnyMore) {
+TEST_F(AviStore, AnOldTailThatParsesAsAChunkMakesTheListNotTheLastAnyMore) {
     // Without its ICMT the list ends 12 bytes earlier, and the file's last 12 bytes are a whole chunk.
     const std::string sub_chunks = chunk("ICMT", 4, z("Any")) + chunk("INAM", 4, z("Old"));
     info_.flags = file_info_flag::desc;
@@ -118,7 +118,7 @@ TEST_F(StoreFileInfoTest, AnOldTailThatParsesAsAChunkMakesTheListNotTheLastAnyMo
                              chunk("INAM", 4, z("Old")) + list(16, "INFO", chunk("INAM", 4, z("New")))));
 }
 
-TEST_F(StoreFileInfoTest, ATailOfMoreThan4096BytesMakesTheFileUnreadable) {
+TEST_F(AviStore, ATailOfMoreThan4096BytesMakesTheFileUnreadable) {
     const std::string picture(5000, '\x01');
     const std::string sub_chunks = chunk("IPIC", 5000, picture) + chunk("INAM", 4, z("Old"));
     info_.flags = file_info_flag::picture;
@@ -128,13 +128,13 @@ TEST_F(StoreFileInfoTest, ATailOfMoreThan4096BytesMakesTheFileUnreadable) {
     EXPECT_EQ(5, error_);
 }
 
-TEST_F(StoreFileInfoTest, BytesBehindTheRiffChunkAreOverwrittenNotMoved) {
+TEST_F(AviStore, BytesBehindTheRiffChunkAreOverwrittenNotMoved) {
     set_title("New");
     EXPECT_EQ(1, store_into(riff(32, hdrl()) + std::string(30, '\1')));
     expect_file(riff(56, hdrl() + list(16, "INFO", chunk("INAM", 4, z("New")))) + std::string(6, '\1'));
 }
 
-TEST_F(StoreFileInfoTest, AfterAnOddLastChunkTheListBeginsBehindThePadByte) {
+TEST_F(AviStore, AfterAnOddLastChunkTheListBeginsBehindThePadByte) {
     set_title("New");
     EXPECT_EQ(1, store_into(riff(46, hdrl() + chunk("idx1", 5, "12345") + "p")));
     expect_file(
@@ -142,7 +142,7 @@ TEST_F(StoreFileInfoTest, AfterAnOddLastChunkTheListBeginsBehindThePadByte) {
     EXPECT_EQ("New", loaded_title());
 }
 
-TEST_F(StoreFileInfoTest, AMissingPadByteOfTheLastChunkBecomesZero) {
+TEST_F(AviStore, AMissingPadByteOfTheLastChunkBecomesZero) {
     set_title("New");
     EXPECT_EQ(1, store_into(riff(45, hdrl() + chunk("idx1", 5, "12345"))));
     expect_file(
@@ -150,34 +150,34 @@ TEST_F(StoreFileInfoTest, AMissingPadByteOfTheLastChunkBecomesZero) {
     EXPECT_EQ("New", loaded_title());
 }
 
-TEST_F(StoreFileInfoTest, AListInFrontOfAnOddLastChunkGoesBehindItsPadByteToo) {
+TEST_F(AviStore, AListInFrontOfAnOddLastChunkGoesBehindItsPadByteToo) {
     set_title("New");
     EXPECT_EQ(1, store_into(riff(57, hdrl() + list(4, "INFO", "") + chunk("idx1", 5, "12345"))));
     expect_file(riff(82, hdrl() + chunk("JUNK", 4, "INFO") + chunk("idx1", 5, "12345") + '\0' +
                              list(16, "INFO", chunk("INAM", 4, z("New")))));
 }
 
-TEST_F(StoreFileInfoTest, AChunkThatOverrunsTheFileIsGivenTheBytesThatItClaims) {
+TEST_F(AviStore, AChunkThatOverrunsTheFileIsGivenTheBytesThatItClaims) {
     set_title("New");
     EXPECT_EQ(1, store_into(riff(40, hdrl() + chunk("JUNK", 8, ""))));
     expect_file(riff(72, hdrl() + chunk("JUNK", 8, std::string(8, '\0')) +
                              list(16, "INFO", chunk("INAM", 4, z("New")))));
 }
 
-TEST_F(StoreFileInfoTest, OnlyTheFirstInfoListIsEdited) {
+TEST_F(AviStore, OnlyTheFirstInfoListIsEdited) {
     set_title("New");
     EXPECT_EQ(1, store_into(riff(92, hdrl() + list(16, "INFO", chunk("INAM", 4, z("One"))) + old_info())));
     expect_file(riff(116, hdrl() + chunk("JUNK", 16, "INFO" + chunk("INAM", 4, z("One"))) + old_info() +
                               list(16, "INFO", chunk("INAM", 4, z("New")))));
 }
 
-TEST_F(StoreFileInfoTest, AWrongRiffSizeIsPutRight) {
+TEST_F(AviStore, AWrongRiffSizeIsPutRight) {
     set_title("New");
     EXPECT_EQ(1, store_into(riff(0xFFFFFFFF, hdrl())));
     expect_file(riff(56, hdrl() + list(16, "INFO", chunk("INAM", 4, z("New")))));
 }
 
-TEST_F(StoreFileInfoTest, AnAvixFormKeepsItsType) {
+TEST_F(AviStore, AnAvixFormKeepsItsType) {
     set_title("New");
     EXPECT_EQ(1, store_into("RIFF" + le32(32) + "AVIX" + hdrl()));
     expect_file("RIFF" + le32(56) + "AVIX" + hdrl() + list(16, "INFO", chunk("INAM", 4, z("New"))));
@@ -185,7 +185,7 @@ TEST_F(StoreFileInfoTest, AnAvixFormKeepsItsType) {
 
 // The fields
 
-TEST_F(StoreFileInfoTest, EachFieldGoesToItsSubChunkInAFixedOrder) {
+TEST_F(AviStore, EachFieldGoesToItsSubChunkInAFixedOrder) {
     std::string texts[] = {"T", "AA", "SSS", "DDDD", "R", "GG"};
     info_.title = texts[0].data();
     info_.artist = texts[1].data();
@@ -209,7 +209,7 @@ TEST_F(StoreFileInfoTest, EachFieldGoesToItsSubChunkInAFixedOrder) {
                                     chunk("IPIC", 7, "\xFF\xD8\xFFjpeg" + std::string(1, '\0'))))); // 16
 }
 
-TEST_F(StoreFileInfoTest, AFieldWhoseFlagIsClearIsLeftAsItIs) {
+TEST_F(AviStore, AFieldWhoseFlagIsClearIsLeftAsItIs) {
     set_title("New");
     std::string artist = "not written";
     info_.artist = artist.data();
@@ -217,7 +217,7 @@ TEST_F(StoreFileInfoTest, AFieldWhoseFlagIsClearIsLeftAsItIs) {
     expect_file(riff(68, hdrl() + list(28, "INFO", chunk("INAM", 4, z("New")) + chunk("ISTR", 4, z("Ann")))));
 }
 
-TEST_F(StoreFileInfoTest, SubChunksOfOthersKeepTheirBytesAndTheirPlaces) {
+TEST_F(AviStore, SubChunksOfOthersKeepTheirBytesAndTheirPlaces) {
     set_title("New");
     ASSERT_EQ(1, store_into(riff(82, hdrl() + list(42, "INFO",
                                                    chunk("ISFT", 3, "Lav\0"s) + chunk("INAM", 4, z("Old")) +
@@ -227,32 +227,32 @@ TEST_F(StoreFileInfoTest, SubChunksOfOthersKeepTheirBytesAndTheirPlaces) {
                                            chunk("Ixyz", 6, "\0\1\2\3\4\5"s))));
 }
 
-TEST_F(StoreFileInfoTest, AListInsideTheInfoListIsWrittenBackUnchanged) {
+TEST_F(AviStore, AListInsideTheInfoListIsWrittenBackUnchanged) {
     set_title("New");
     const std::string inner = list(17, "iner", chunk("INAM", 5, "inner")) + '\0';
     ASSERT_EQ(1, store_into(riff(70, hdrl() + list(30, "INFO", inner))));
     expect_file(riff(82, hdrl() + list(42, "INFO", inner + chunk("INAM", 4, z("New")))));
 }
 
-TEST_F(StoreFileInfoTest, AnEmptyListInsideTheInfoListIsWrittenBackUnchanged) {
+TEST_F(AviStore, AnEmptyListInsideTheInfoListIsWrittenBackUnchanged) {
     set_title("New");
     ASSERT_EQ(1, store_into(riff(52, hdrl() + list(12, "INFO", chunk("LIST", 0, "")))));
     expect_file(riff(64, hdrl() + list(24, "INFO", chunk("LIST", 0, "") + chunk("INAM", 4, z("New")))));
 }
 
-TEST_F(StoreFileInfoTest, AnAbsentTextRemovesItsSubChunk) {
+TEST_F(AviStore, AnAbsentTextRemovesItsSubChunk) {
     info_.flags = file_info_flag::title;
     ASSERT_EQ(1, store_into(riff(68, hdrl() + old_info())));
     expect_file(riff(56, hdrl() + list(16, "INFO", chunk("ISTR", 4, z("Ann")))) + chunk("ISTR", 4, z("Ann")));
 }
 
-TEST_F(StoreFileInfoTest, AnEmptyTextRemovesItsSubChunk) {
+TEST_F(AviStore, AnEmptyTextRemovesItsSubChunk) {
     set_title("");
     ASSERT_EQ(1, store_into(riff(68, hdrl() + old_info())));
     EXPECT_EQ("", loaded_title());
 }
 
-TEST_F(StoreFileInfoTest, RemovingTakesTheFirstSubChunkOnlySoThatASecondSurfaces) {
+TEST_F(AviStore, RemovingTakesTheFirstSubChunkOnlySoThatASecondSurfaces) {
     info_.flags = file_info_flag::title;
     ASSERT_EQ(
         1, store_into(
@@ -260,33 +260,33 @@ TEST_F(StoreFileInfoTest, RemovingTakesTheFirstSubChunkOnlySoThatASecondSurfaces
     EXPECT_EQ("Two", loaded_title());
 }
 
-TEST_F(StoreFileInfoTest, Year0RemovesTheYear) {
+TEST_F(AviStore, Year0RemovesTheYear) {
     info_.flags = file_info_flag::year;
     ASSERT_EQ(1, store_into(riff(58, hdrl() + list(18, "INFO", chunk("ICRD", 5, z("1984") + '\0')))));
     expect_file(riff(44, hdrl() + list(4, "INFO", "")) + chunk("ICRD", 5, z("1984") + '\0'));
 }
 
-TEST_F(StoreFileInfoTest, ANegativeYearIsWrittenWithItsSign) {
+TEST_F(AviStore, ANegativeYearIsWrittenWithItsSign) {
     info_.flags = file_info_flag::year;
     info_.year = -44;
     ASSERT_EQ(1, store_into(riff(32, hdrl())));
     expect_file(riff(56, hdrl() + list(16, "INFO", chunk("ICRD", 4, z("-44")))));
 }
 
-TEST_F(StoreFileInfoTest, TheLongestYearIsWrittenWhole) {
+TEST_F(AviStore, TheLongestYearIsWrittenWhole) {
     info_.flags = file_info_flag::year;
     info_.year = -2147483647 - 1;
     ASSERT_EQ(1, store_into(riff(32, hdrl())));
     expect_file(riff(64, hdrl() + list(24, "INFO", chunk("ICRD", 12, z("-2147483648")))));
 }
 
-TEST_F(StoreFileInfoTest, NoPictureRemovesThePicture) {
+TEST_F(AviStore, NoPictureRemovesThePicture) {
     info_.flags = file_info_flag::picture;
     ASSERT_EQ(1, store_into(riff(56, hdrl() + list(16, "INFO", chunk("IPIC", 4, "\xFF\xD8\xFFj")))));
     expect_file(riff(44, hdrl() + list(4, "INFO", "")) + chunk("IPIC", 4, "\xFF\xD8\xFFj"));
 }
 
-TEST_F(StoreFileInfoTest, APictureThatCantBeEncodedLeavesTheStoredOne) {
+TEST_F(AviStore, APictureThatCantBeEncodedLeavesTheStoredOne) {
     info_.picture = image_from_bytes("\xFF\xD8\xFFjpeg", 7);
     info_.flags = file_info_flag::picture;
     fail_fake_image_encoding(true);
@@ -295,14 +295,14 @@ TEST_F(StoreFileInfoTest, APictureThatCantBeEncodedLeavesTheStoredOne) {
     expect_file(bytes);
 }
 
-TEST_F(StoreFileInfoTest, TheCallersPictureIsNotReleased) {
+TEST_F(AviStore, TheCallersPictureIsNotReleased) {
     info_.picture = image_from_bytes("\xFF\xD8\xFFjpeg", 7);
     info_.flags = file_info_flag::picture;
     ASSERT_EQ(1, store_into(avi_without_info()));
     EXPECT_EQ(1, fake_image_references(info_.picture));
 }
 
-TEST_F(StoreFileInfoTest, ATextOf100000BytesIsWrittenWhole) {
+TEST_F(AviStore, ATextOf100000BytesIsWrittenWhole) {
     const std::string text(100000, 't');
     set_title(text);
     ASSERT_EQ(1, store_into(riff(32, hdrl())));
@@ -311,30 +311,30 @@ TEST_F(StoreFileInfoTest, ATextOf100000BytesIsWrittenWhole) {
 
 // The flags
 
-TEST_F(StoreFileInfoTest, HandledFlagsAreClearedInTheCallersRecordAndOthersStay) {
+TEST_F(AviStore, HandledFlagsAreClearedInTheCallersRecordAndOthersStay) {
     info_.flags = 0xFFFFFFFF;
     ASSERT_EQ(1, store_into(avi_without_info()));
     EXPECT_EQ(0xFFFFFF00u, info_.flags);
 }
 
-TEST_F(StoreFileInfoTest, FlagsStaySetWhenTheHeaderCantBeRead) {
+TEST_F(AviStore, FlagsStaySetWhenTheHeaderCantBeRead) {
     info_.flags = 0xFF;
     ASSERT_EQ(0, store_into("no AVI file"));
     EXPECT_EQ(0xFFu, info_.flags);
 }
 
-TEST_F(StoreFileInfoTest, FlagsStaySetWhenTheFileCantBeOpened) {
+TEST_F(AviStore, FlagsStaySetWhenTheFileCantBeOpened) {
     info_.flags = 0xFF;
     ASSERT_EQ(0, store());
     EXPECT_EQ(0xFFu, info_.flags);
 }
 
-TEST_F(StoreFileInfoTest, WithoutFlagsAnEmptyListIsStillAppended) {
+TEST_F(AviStore, WithoutFlagsAnEmptyListIsStillAppended) {
     EXPECT_EQ(1, store_into(riff(32, hdrl())));
     expect_file(riff(44, hdrl() + list(4, "INFO", "")));
 }
 
-TEST_F(StoreFileInfoTest, WithoutFlagsAListThatIsNotLastStillMoves) {
+TEST_F(AviStore, WithoutFlagsAListThatIsNotLastStillMoves) {
     EXPECT_EQ(1, store_into(riff(100, hdrl() + old_info() + movi())));
     expect_file(riff(
         136, hdrl() + chunk("JUNK", 28, "INFO" + chunk("INAM", 4, z("Old")) + chunk("ISTR", 4, z("Ann"))) +
@@ -343,14 +343,14 @@ TEST_F(StoreFileInfoTest, WithoutFlagsAListThatIsNotLastStillMoves) {
 
 // Failures
 
-TEST_F(StoreFileInfoTest, AFileThatIsNotThereIsLoggedAndKeepsTheSystemsError) {
+TEST_F(AviStore, AFileThatIsNotThereIsLoggedAndKeepsTheSystemsError) {
     EXPECT_EQ(0, store());
     EXPECT_EQ("avi_store_file_info: Couldn't open file\n", log_);
     EXPECT_EQ(ENOENT, error_);
     EXPECT_FALSE(file_exists(path_));
 }
 
-TEST_F(StoreFileInfoTest, AHeaderThatCantBeReadIsError5AndNothingChanges) {
+TEST_F(AviStore, AHeaderThatCantBeReadIsError5AndNothingChanges) {
     errno = 78;
     set_title("New");
     EXPECT_EQ(0, store_into("no AVI file"));
@@ -359,7 +359,7 @@ TEST_F(StoreFileInfoTest, AHeaderThatCantBeReadIsError5AndNothingChanges) {
     expect_file("no AVI file");
 }
 
-TEST_F(StoreFileInfoTest, ASecondRiffIsError78AndNothingChanges) {
+TEST_F(AviStore, ASecondRiffIsError78AndNothingChanges) {
     const std::string bytes = avi_with_info_last() + "RIFF" + le32(36) + "AVIX" + movi();
     set_title("New");
     EXPECT_EQ(0, store_into(bytes));
@@ -367,7 +367,7 @@ TEST_F(StoreFileInfoTest, ASecondRiffIsError78AndNothingChanges) {
     expect_file(bytes);
 }
 
-TEST_F(StoreFileInfoTest, RemovedAndStoredAgainTheListIsRewrittenWhereItWas) {
+TEST_F(AviStore, RemovedAndStoredAgainTheListIsRewrittenWhereItWas) {
     write_file(path_, avi_with_info_last());
     {
         StreamCapture quiet;
