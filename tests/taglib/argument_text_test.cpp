@@ -104,6 +104,12 @@ TEST(UnquoteSpaces, RemovesOneQuoteAtEachEndAndNoneInside) {
     EXPECT_EQ("\"a\"b\"", unquoted("\"\"a\"b\"\""));
 }
 
+TEST(UnquoteSpaces, TouchesNothingBeforeASingleQuote) {
+    char text[] = "\"\"";
+    Util_UnquoteSpaces(text + 1);
+    EXPECT_STREQ("\"", text);
+}
+
 /** The copied argument, or "(none)" with the target checked to be untouched. */
 std::string copied(const char* command_line) {
     char argument[64];
@@ -174,7 +180,8 @@ TEST(GetNextArg, TakesTheCharacterAfterABackslashAsOrdinary) {
 }
 
 TEST(GetNextArg, StopsAtTheEndBehindALastBackslash) {
-    EXPECT_STREQ("", Util_GetNextArg("a\\"));
+    const char command_line[] = "a\\\0 b";
+    EXPECT_EQ(command_line + 2, Util_GetNextArg(command_line));
 }
 
 } // namespace

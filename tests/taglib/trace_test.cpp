@@ -181,6 +181,7 @@ TEST(Trace, ShowsTheReplacementCharacterForAnUnpairedSurrogate) {
     EXPECT_EQ("\xEF\xBF\xBD"
               "A",
               traced("%S", utf16("1EDD 4100").data()));
+    EXPECT_EQ("\xEF\xBF\xBD\xEE\x80\x80", traced("%S", utf16("34D8 00E0").data()));
     EXPECT_EQ("\xEF\xBF\xBD\xF0\x9D\x84\x9E", traced("%S", utf16("34D8 34D8 1EDD").data()));
 }
 
