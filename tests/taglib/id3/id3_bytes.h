@@ -81,6 +81,20 @@ struct Frame : _id3_frame_t {
     [[nodiscard]] std::string body() const;
 };
 
+/* A frame's members by value: they have no alignment, so nothing may refer to them. */
+[[nodiscard]] inline std::uint32_t id_in(const _id3_frame_t& frame) {
+    return frame.id;
+}
+[[nodiscard]] inline std::int32_t size_in(const _id3_frame_t& frame) {
+    return frame.size;
+}
+[[nodiscard]] inline std::uint16_t flags_in(const _id3_frame_t& frame) {
+    return frame.flags;
+}
+[[nodiscard]] inline const std::uint8_t* data_in(const _id3_frame_t& frame) {
+    return frame.data;
+}
+
 [[nodiscard]] std::uint32_t id_of(std::string_view name);
 
 } // namespace velmora::test

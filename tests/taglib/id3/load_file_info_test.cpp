@@ -2,6 +2,7 @@
 
 #include "fake_image/fake_image.h"
 #include "id3_bytes.h"
+#include "support/allocation_faults.h"
 #include "support/stream_capture.h"
 #include "support/system_call_faults.h"
 #include "zone.h"
@@ -402,6 +403,26 @@ TEST(Id3LoadInfo, AnyFailingCallGivesADocumentedResultAndLeavesNothingOpen) {
         EXPECT_EQ(wanted.log, info.log) << nth;
         EXPECT_EQ(0, faults.open_descriptors()) << nth;
     }
+}
+
+TEST(Id3LoadInfo, WithoutMemoryASlotStaysEmptyAndNothingIsLost) {
+    const ScratchFolder folder;
+    const std::string path = folder / "song.mp3";
+    write_file(path, leading_tag(4, text4("TALB", "a") + text4("TCON", "(17)") +
+                                        frame4("APIC", bytes("\0image/jpeg\0\x03\0") + jpeg)));
+    const StreamCapture log;
+    constexpr int requests = 3 * 2 + 2; // a body and a place for each frame, a copy of each text
+    for (int nth = 0; nth <= requests; ++nth) {
+        _file_info_t info;
+        {
+            const AllocationFaults no_memory(nth);
+            EXPECT_EQ(1, id3_load_file_info(path.c_str(), &info)) << nth;
+            EXPECT_TRUE(nth > 0 || no_memory.count() == requests);
+        }
+        EXPECT_EQ(nth == 0, info.title && info.genre && info.picture) << nth;
+        id3_free_file_info(&info);
+    }
+    EXPECT_EQ(0, fake_images_alive());
 }
 
 } // namespace

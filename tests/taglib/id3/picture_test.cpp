@@ -1,8 +1,8 @@
 #include "taglib/id3/picture.h"
 
-#include "allocation_faults.h"
 #include "fake_image/fake_image.h"
 #include "id3_bytes.h"
+#include "support/allocation_faults.h"
 #include "support/stream_capture.h"
 
 #include <gtest/gtest.h>
@@ -140,7 +140,7 @@ TEST(Id3Picture, WithoutMemoryForTheBodyIsLogged) {
     Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
     StreamCapture log;
     {
-        const AllocationFaults no_memory;
+        const AllocationFaults no_memory(1);
         EXPECT_EQ(0, id3_store_picture(&tag, id3_frame_id("APIC"), image));
     }
     EXPECT_EQ("id3_encode_picture: Couldn't allocate buffer\n", log.text());

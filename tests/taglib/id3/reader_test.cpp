@@ -1,6 +1,7 @@
 #include "taglib/id3/reader.h"
 
 #include "id3_bytes.h"
+#include "support/allocation_faults.h"
 #include "support/stream_capture.h"
 #include "support/system_call_faults.h"
 
@@ -317,16 +318,16 @@ TEST(Id3Load, FrameSizeIsPlainInVersion3AndSyncsafeInVersion4) {
     const std::string frame = "TALB" + hex("00 00 01 00 00 00") + std::string(256, 'x');
     const Load version3(leading_tag(3, frame));
     ASSERT_EQ(1, version3.tag.frame_count);
-    EXPECT_EQ(256, version3.tag.frames[0].size);
+    EXPECT_EQ(256, size_in(version3.tag.frames[0]));
     const Load version4(leading_tag(4, frame.substr(0, 10 + 128)));
     ASSERT_EQ(1, version4.tag.frame_count);
-    EXPECT_EQ(128, version4.tag.frames[0].size);
+    EXPECT_EQ(128, size_in(version4.tag.frames[0]));
 }
 
 TEST(Id3Load, FrameSizeTakesItsLastByteWhole) {
     const Load load(leading_tag(4, "TALB" + hex("00 00 00 80 00 00") + std::string(128, 'x')));
     ASSERT_EQ(1, load.tag.frame_count);
-    EXPECT_EQ(128, load.tag.frames[0].size);
+    EXPECT_EQ(128, size_in(load.tag.frames[0]));
 }
 
 TEST(Id3Load, Version2IsReadWithTenByteFrameHeaders) {
@@ -488,6 +489,41 @@ TEST(Id3Load, CostsTwoReadsAFrameAndTheHeader) {
     ASSERT_EQ(0, id3_load_descriptor_v2(file.handle(), &tag, at_start));
     EXPECT_EQ(1 + 3 * 2, watch.count(SystemCall::read));
     EXPECT_EQ(10 + 36, watch.bytes(SystemCall::read));
+}
+
+TEST(Id3Load, NoFrameTakesMoreMemoryThanTheLargestTag) {
+    for (const char* const size : {"FF FF FF FF", "00 04 00 01", "00 03 FF F6"}) {
+        OpenFile file(header(3, 0, 0x40000) + "TALB" + hex(size) + hex("00 00") + "abc");
+        const StreamCapture log;
+        const AllocationFaults watch;
+        Descriptor tag;
+        EXPECT_EQ(0, id3_load_descriptor_v2(file.handle(), &tag, at_start));
+        EXPECT_LE(watch.largest(), 0x40000u);
+    }
+}
+
+TEST(Id3Load, WithoutMemoryTheFramesReadSoFarAreKept) {
+    OpenFile file(leading_tag(4, text4("TALB", "a") + text4("TPE1", "b")));
+    const struct {
+        int request;
+        std::int32_t frames;
+        const char* log;
+    } cases[] = {
+        {1, 0, "id3_load_descriptor_v2: Failed to read frame data\n"},
+        {2, 0, "TALB = \"a\"\n"},
+        {3, 1, "TALB = \"a\"\nid3_load_descriptor_v2: Failed to read frame data\n"},
+        {4, 1, "TALB = \"a\"\nTPE1 = \"b\"\n"},
+    };
+    for (const auto& failing : cases) {
+        StreamCapture log;
+        Descriptor tag;
+        {
+            const AllocationFaults no_memory(failing.request);
+            EXPECT_EQ(0, id3_load_descriptor_v2(file.handle(), &tag, at_start));
+        }
+        EXPECT_EQ(failing.frames, tag.frame_count);
+        EXPECT_EQ(failing.log, log.text());
+    }
 }
 
 TEST(Id3Load, TagFullOfEmptyFramesLoadsWhole) {

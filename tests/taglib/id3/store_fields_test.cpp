@@ -1,9 +1,9 @@
 #include "taglib/id3/store_fields.h"
 
-#include "allocation_faults.h"
 #include "fake_image/fake_image.h"
 #include "id3_bytes.h"
 #include "stored_info.h"
+#include "support/allocation_faults.h"
 #include "zone.h"
 
 #include <gtest/gtest.h>
@@ -215,17 +215,32 @@ TEST(Id3StoreFields, PictureThatCanNotBeEncodedLeavesItsFrameAndTheRestIsStored)
     image_release(image);
 }
 
-TEST(Id3StoreFields, WithoutMemoryFailsWithTheFlagsCleared) {
-    Descriptor tag;
-    tag.add("TALB", "old");
-    StoredInfo info;
-    info.with_title("longer than before").with_rating("R").with_year(1999);
-    {
-        const AllocationFaults no_memory;
-        EXPECT_EQ(0, id3_store_fields(&tag, &info));
+TEST(Id3StoreFields, WithoutMemoryForAFrameFailsWithTheFlagsCleared) {
+    constexpr int requests = 1 + 2 + 2; // the old frame grows; a body and a place for each new one
+    for (int nth = 0; nth <= requests; ++nth) {
+        Descriptor tag;
+        tag.add("TALB", "old");
+        StoredInfo info;
+        info.with_title("longer than before").with_rating("R").with_year(1999);
+        const AllocationFaults no_memory(nth);
+        EXPECT_EQ(nth == 0 ? 1 : 0, id3_store_fields(&tag, &info)) << nth;
+        EXPECT_EQ(0u, info.flags) << nth;
+        EXPECT_TRUE(nth > 0 || no_memory.count() == requests);
     }
-    EXPECT_EQ((Rows{"TALB:old"}), tag.list());
-    EXPECT_EQ(0u, info.flags);
+}
+
+TEST(Id3StoreFields, WithoutMemoryForThePictureStoresTheRest) {
+    Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
+    const StreamCapture log;
+    for (const int nth : {1, 2, 3}) { // its body, its frame, the array
+        Descriptor tag;
+        StoredInfo info;
+        info.with_picture(image);
+        const AllocationFaults no_memory(nth);
+        EXPECT_EQ(1, id3_store_fields(&tag, &info)) << nth;
+        EXPECT_EQ(0, tag.frame_count);
+    }
+    image_release(image);
 }
 
 } // namespace

@@ -32,8 +32,8 @@ struct Loaded {
 };
 
 Loaded load(const std::string& source, int encoding, std::int32_t capacity = 64) {
-    char target[64];
-    std::memset(target, 'x', sizeof target);
+    char target[65] = {};
+    std::memset(target, 'x', 64);
     StreamCapture log;
     Loaded loaded;
     loaded.consumed = id3_load_string(raw(source), static_cast<std::int32_t>(source.size()),
