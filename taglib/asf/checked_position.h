@@ -5,11 +5,11 @@
 #include <cstdint>
 
 /** The typed readers and writers report nothing. What they did shows in the file's position, and these
-   functions look at it, so that a failing disk is never taken for a field that holds zero. */
+    functions look at it, so that a failing disk is never taken for a field that holds zero. */
 namespace velmora {
 
 /** Whether everything up to EXPECTED was read: the position is there, or the file ended on the way (what is
-   missing then counts as zero). False when a read failed or stopped early. */
+    missing then counts as zero). False when a read failed or stopped early. */
 [[nodiscard]] bool asf_read_reached(FIOFUNCSTRUCT* file, std::int64_t expected);
 
 /** Whether everything up to EXPECTED was written. */

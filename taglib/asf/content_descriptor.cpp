@@ -30,8 +30,8 @@ private:
     std::int64_t left_;
 };
 
-/** LENGTH bytes of the file in BYTES, nothing for length 0. False when there is no room or no memory for
- * them. */
+/** LENGTH bytes of the file in BYTES, nothing for length 0. False when there is no room or no memory for *
+    them. */
 bool read_bytes(FIOFUNCSTRUCT* file, std::uint16_t length, Room& room, AsfOwned<std::uint8_t>& bytes) {
     if (!room.take(length)) {
         return false;

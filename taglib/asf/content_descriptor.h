@@ -24,13 +24,13 @@ inline constexpr std::uint16_t qword = 4;     ///< 64-bit
 inline constexpr std::uint16_t word = 5;      ///< 16-bit
 } // namespace asf_value_type
 
+/** Both buffers are owned (malloc family). */
 struct _asf_content_descriptor_t {
-    std::uint16_t name_length; ///< bytes
-    std::uint8_t*
-        name; ///< raw UTF-16LE, owned (malloc family), maybe without a terminator; null for length 0
+    std::uint16_t name_length;  ///< bytes
+    std::uint8_t* name;         ///< raw UTF-16LE, maybe without a terminator; null for length 0
     std::uint16_t type;         ///< asf_value_type, or what else the file has
     std::uint16_t value_length; ///< bytes
-    std::uint8_t* value;        ///< as in the file, owned (malloc family); null for length 0
+    std::uint8_t* value;        ///< as in the file; null for length 0
 };
 
 /** A zeroed record, or null when memory is exhausted. */
@@ -42,14 +42,14 @@ void asf_free_content_descriptor(_asf_content_descriptor_t* descriptor);
 /** Bytes of DESCRIPTOR in the file: name length + value length + 6. */
 [[nodiscard]] std::uint32_t asf_content_descriptor_bytes(const _asf_content_descriptor_t* descriptor);
 
-/** Reads the descriptor at the current position into DESCRIPTOR (whose old contents are not freed), or into a
-   new record when DESCRIPTOR is null. What lies behind the end of the file is zero. Returns the record, or
-   null when memory is exhausted or the disk fails; DESCRIPTOR then owns nothing. */
+/** Reads the descriptor at the current position into DESCRIPTOR (whose old contents are not freed), or into
+    a new record when DESCRIPTOR is null. What lies behind the end of the file is zero. Returns the record,
+    or null when memory is exhausted or the disk fails; DESCRIPTOR then owns nothing. */
 _asf_content_descriptor_t* asf_read_content_descriptor(FIOFUNCSTRUCT* file,
                                                        _asf_content_descriptor_t* descriptor);
 
 /** The same for a descriptor that must end at or before the file position END: null for one that does not,
-   and nothing is allocated for a name or value that would run past it. */
+    and nothing is allocated for a name or value that would run past it. */
 _asf_content_descriptor_t* asf_read_content_descriptor_before(FIOFUNCSTRUCT* file,
                                                               _asf_content_descriptor_t* descriptor,
                                                               std::int64_t end);

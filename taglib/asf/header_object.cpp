@@ -120,7 +120,7 @@ _asf_object_t* ChildReader::parse(const _asf_object_t& child, bool last) {
 }
 
 /** A content description's strings may run past its declared size, into bytes that later children claim
-   again. All of them together can't be longer than the file, but for the last one. */
+    again. All of them together can't be longer than the file, but for the last one. */
 _asf_object_t* ChildReader::read_content_description(bool leads_on) {
     if (!leads_on || strings_ > file_end_) {
         return nullptr;

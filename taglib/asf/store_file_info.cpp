@@ -38,8 +38,8 @@ _asf_content_description_t* find_or_append_cd(AsfOpenHeader& opened) {
 }
 
 /** The first Extended Content Description. For a header that has none an empty one is made, which takes the
-   edits but stays outside the header (LOOSE owns it): what the header gets is its Content Description CD once
-   more. */
+    edits but stays outside the header (LOOSE owns it): what the header gets is its Content Description CD
+    once more. */
 _asf_ext_content_description_t* find_or_make_ecd(AsfOpenHeader& opened, _asf_content_description_t* cd,
                                                  LooseExtContentDescription& loose) {
     auto* const ecd = opened.find<_asf_ext_content_description_t>(ASF_ExtendedContentDescription);
@@ -76,7 +76,7 @@ void log_padding_size(std::uint64_t size) {
 }
 
 /** Lets the last PADDING (null for none) take up DIFF, the header's growth, where it can. False when memory
-   is exhausted. */
+    is exhausted. */
 [[nodiscard]] bool adjust_padding(_asf_header_object_t* header, _asf_object_t* padding, std::int64_t diff) {
     if (!padding) {
         if (diff > 0) {
@@ -138,7 +138,9 @@ std::int64_t header_growth(const _asf_header_object_t* header, std::uint64_t old
         return false;
     }
     _asf_object_t* const padding = find_padding(*header);
-    asf_apply_file_info(info, cd, ecd);
+    if (!asf_apply_file_info(info, cd, ecd)) {
+        return false;
+    }
     const std::int64_t diff = header_growth(header, old_size);
     DebugInfo("Diff size = %I64x\n", diff);
     if (!adjust_padding(header, padding, diff)) {

@@ -1,7 +1,7 @@
 #pragma once
 
-/** Makes allocations of this test program fail; --wrap leads malloc, calloc, realloc and strdup through here.
- */
+/** Makes allocations of this test program fail; --wrap leads malloc, calloc, realloc and strdup through
+    here. */
 namespace velmora::test {
 
 /** While an object lives, allocations are counted and the NTH one (1 is the first, 0 is none) fails. */
