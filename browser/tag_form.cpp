@@ -202,7 +202,7 @@ void TagForm::fillFields(const FormFillInfo* info) {
 }
 
 QString nsarray_to_nsstring(const QStringList& list, const QString& separator) {
-    return list.join(separator);
+    return list.isEmpty() ? QString() : list.join(separator);
 }
 
 } // namespace velmora

@@ -1,0 +1,143 @@
+#include "window_fixture.h"
+
+#include "imaging/CoverArtView.h"
+#include "weblookup/form_fill_info.h"
+
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QTest>
+
+namespace velmora {
+namespace {
+
+using test::textFrame;
+
+class FillFieldsTest : public test::WindowTest {
+protected:
+    static FormFillInfo everything() {
+        FormFillInfo info;
+        info.title = "Harbour Lights";
+        info.cast = QStringList{"Ann", "Bob"};
+        info.directors = QStringList{"Cy", "Di"};
+        info.description = "A plot.";
+        info.year = "2005";
+        info.genres = QStringList{"Drama", "Crime"};
+        info.rating = "PG-13";
+        info.coverArt = QImage(12, 10, QImage::Format_RGB32);
+        info.coverArt.fill(Qt::blue);
+        info.releaseDate = QDate(2005, 5, 12);
+        return info;
+    }
+    void openVideo() { openFile("a.mp4", textFrame("TALB", "Film")); }
+    QComboBox& rating() { return widget<QComboBox>("combo_rating"); }
+};
+
+TEST_F(FillFieldsTest, ShowsEverySlotInItsControl) {
+    openVideo();
+    const FormFillInfo info = everything();
+    controller().fillFields(&info);
+    EXPECT_EQ("Harbour Lights", entry("entry_title").text());
+    EXPECT_EQ("Cy, Di", entry("entry_album").text());
+    EXPECT_EQ("A plot.", widget<QPlainTextEdit>("entry_desc").toPlainText());
+    EXPECT_EQ("2005", entry("entry_year").text());
+    EXPECT_EQ("PG-13", rating().currentText());
+    EXPECT_EQ(QDate(2005, 5, 12), widget<QDateTimeEdit>("picker_dateTime").date());
+    EXPECT_EQ("Drama, Crime", widget<QComboBox>("combo_genre").currentText());
+    EXPECT_EQ("Ann\nBob", entry("entry_artist").text());
+    EXPECT_EQ(QSize(12, 10), widget<CoverArtView>("img_coverArt").image().size());
+    EXPECT_TRUE(enabled("btn_trimBorder"));
+}
+
+TEST_F(FillFieldsTest, OnlyRatingAndCoverArtReachTheModel) {
+    openVideo();
+    const FormFillInfo info = everything();
+    controller().fillFields(&info);
+    EXPECT_EQ("PG-13", file().rating());
+    EXPECT_TRUE(file().coverArt());
+    EXPECT_EQ("Film", file().title());
+    EXPECT_EQ("", file().cast());
+    EXPECT_EQ("", file().director());
+    EXPECT_EQ("", file().synopsis());
+    EXPECT_EQ("", file().genre());
+    EXPECT_EQ(0, file().year());
+    EXPECT_TRUE(document().isDocumentEdited());
+}
+
+TEST_F(FillFieldsTest, FieldsReachTheModelWhenThePersonTypesInThem) {
+    openVideo();
+    FormFillInfo info;
+    info.title = "Harbour";
+    controller().fillFields(&info);
+    EXPECT_FALSE(document().isDocumentEdited());
+    QTest::keyClicks(&entry("entry_title"), "!");
+    EXPECT_EQ("Harbour!", file().title());
+}
+
+TEST_F(FillFieldsTest, LogsItsSlotsInOrder) {
+    openVideo();
+    const FormFillInfo info = everything();
+    const std::size_t before = log().size();
+    controller().fillFields(&info);
+    EXPECT_EQ("title=Harbour Lights\ndescription=A plot.\nyear=2005\nrating=PG-13\ngot cover art\n",
+              log().substr(before));
+}
+
+TEST_F(FillFieldsTest, MissingSlotsLeaveTheirControlsAlone) {
+    openFile("a.mp4", textFrame("TALB", "Film") + textFrame("TPE1", "Cast") + textFrame("TYER", "1999"));
+    const FormFillInfo nothing;
+    controller().fillFields(&nothing);
+    EXPECT_EQ("Film", entry("entry_title").text());
+    EXPECT_EQ("Cast", entry("entry_artist").text());
+    EXPECT_EQ("1999", entry("entry_year").text());
+    EXPECT_FALSE(document().isDocumentEdited());
+}
+
+TEST_F(FillFieldsTest, EmptyTextEmptiesItsControl) {
+    openVideo();
+    FormFillInfo info;
+    info.title = "";
+    controller().fillFields(&info);
+    EXPECT_EQ("", entry("entry_title").text());
+    EXPECT_EQ("Film", file().title());
+}
+
+TEST_F(FillFieldsTest, UnknownRatingChangesNothing) {
+    openVideo();
+    FormFillInfo info;
+    info.rating = "X";
+    controller().fillFields(&info);
+    EXPECT_EQ("", rating().currentText());
+    EXPECT_FALSE(document().isDocumentEdited());
+}
+
+TEST_F(FillFieldsTest, EmptyRatingIsTheFirstItem) {
+    openVideo();
+    file().setRating("R");
+    FormFillInfo info;
+    info.rating = "";
+    controller().fillFields(&info);
+    EXPECT_EQ("", file().rating());
+    EXPECT_TRUE(document().isDocumentEdited());
+}
+
+TEST_F(FillFieldsTest, NullRecordChangesNothing) {
+    openVideo();
+    controller().fillFields(nullptr);
+    EXPECT_EQ("Film", entry("entry_title").text());
+}
+
+TEST_F(FillFieldsTest, WithoutAnOpenFileOnlyTheControlsChange) {
+    const FormFillInfo info = everything();
+    controller().fillFields(&info);
+    EXPECT_EQ("Harbour Lights", entry("entry_title").text());
+    EXPECT_FALSE(enabled("btn_saveTag"));
+}
+
+TEST(JoinedLists, SeparatorStandsBetweenTheElements) {
+    EXPECT_EQ("a, b, c", nsarray_to_nsstring({"a", "b", "c"}, ", "));
+    EXPECT_EQ("a", nsarray_to_nsstring({"a"}, ", "));
+    EXPECT_TRUE(nsarray_to_nsstring({}, ", ").isNull());
+}
+
+} // namespace
+} // namespace velmora

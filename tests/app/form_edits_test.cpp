@@ -1,0 +1,241 @@
+#include "window_fixture.h"
+
+#include "imaging/CoverArtView.h"
+
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QTest>
+#include <QWheelEvent>
+
+namespace velmora {
+namespace {
+
+using test::textFrame;
+
+class FormEditsTest : public test::WindowTest {
+protected:
+    void openAudio() {
+        openFile("a.mp3", textFrame("TIT2", "Z") + textFrame("TYER", "1999") + textFrame("TCON", "Jazz"));
+    }
+    void openVideo() { openFile("a.mp4", textFrame("TALB", "Film") + textFrame("TIT2", "plot")); }
+    void expectMarked(bool marked) {
+        EXPECT_EQ(marked, document().isDocumentEdited());
+        EXPECT_EQ(marked, enabled("btn_saveTag"));
+        EXPECT_EQ(marked, enabled("btn_revertTag"));
+    }
+    QComboBox& genre() { return widget<QComboBox>("combo_genre"); }
+    QComboBox& rating() { return widget<QComboBox>("combo_rating"); }
+    QPlainTextEdit& synopsis() { return widget<QPlainTextEdit>("entry_desc"); }
+};
+
+TEST_F(FormEditsTest, TypingReachesTheModelAtOnceAndMarksTheChange) {
+    openAudio();
+    QTest::keyClicks(&entry("entry_title"), "!");
+    EXPECT_EQ("Z!", file().title());
+    expectMarked(true);
+}
+
+TEST_F(FormEditsTest, TypingTheStoredTitleMarksNothing) {
+    openAudio();
+    controller().form().controlTextDidChange(&entry("entry_title"));
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, EveryKeystrokeIsLoggedAlsoWithoutAFile) {
+    QTest::keyClicks(&entry("entry_title"), "ab");
+    EXPECT_EQ(2, logged("in controlTextDidEndEditing:\n"));
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, SecondFieldsOfAudioAreArtistAndAlbum) {
+    openAudio();
+    type("entry_artist", "Who");
+    type("entry_album", "What");
+    EXPECT_EQ("Who", file().artist());
+    EXPECT_EQ("What", file().album());
+    EXPECT_EQ("", file().cast());
+    EXPECT_EQ("", file().director());
+}
+
+TEST_F(FormEditsTest, SecondFieldsOfVideoAreCastAndDirector) {
+    openVideo();
+    type("entry_artist", "Who");
+    type("entry_album", "What");
+    EXPECT_EQ("Who", file().cast());
+    EXPECT_EQ("What", file().director());
+    EXPECT_EQ("", file().artist());
+    EXPECT_EQ("", file().album());
+}
+
+TEST_F(FormEditsTest, YearIsStoredAsANumber) {
+    openAudio();
+    type("entry_year", "2004");
+    EXPECT_EQ(2004, file().year());
+    expectMarked(true);
+}
+
+TEST_F(FormEditsTest, ClearedYearIsZero) {
+    openAudio();
+    type("entry_year", "");
+    EXPECT_EQ(0, file().year());
+    expectMarked(true);
+}
+
+TEST_F(FormEditsTest, YearThatIsNoNumberIsZero) {
+    openAudio();
+    for (const char* text : {"abc", "19a", "99999999999", "1.5"}) {
+        file().setYear(1999);
+        type("entry_year", text);
+        EXPECT_EQ(0, file().year()) << text;
+    }
+}
+
+TEST_F(FormEditsTest, YearsAreComparedAsNumbers) {
+    openAudio();
+    entry("entry_year").setText("01999");
+    controller().form().controlTextDidChange(&entry("entry_year"));
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, TypedGenreIsTakenAsItIs) {
+    openAudio();
+    genre().lineEdit()->selectAll();
+    QTest::keyClicks(genre().lineEdit(), "drama");
+    EXPECT_EQ("drama", file().genre());
+    QTest::keyClick(genre().lineEdit(), Qt::Key_Return);
+    EXPECT_EQ("drama", file().genre());
+    EXPECT_EQ("drama", genre().currentText());
+    EXPECT_EQ(34, genre().count());
+}
+
+TEST_F(FormEditsTest, PickedGenreIsAnEdit) {
+    openAudio();
+    genre().setFocus();
+    genre().setCurrentIndex(12);
+    emit genre().textActivated(genre().itemText(12));
+    EXPECT_EQ("Drama", file().genre());
+    expectMarked(true);
+}
+
+TEST_F(FormEditsTest, UnknownControlWarnsAndChangesNothing) {
+    openAudio();
+    controller().form().controlTextDidChange(&entry("entry_search"));
+    EXPECT_EQ(1, logged("WARNING: unhandled control in controlTextDidEndEditing:\n"));
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, SearchTextIsNoEdit) {
+    openAudio();
+    QTest::keyClicks(&entry("entry_search"), "x");
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, SynopsisReachesTheModel) {
+    openVideo();
+    QTest::keyClicks(&synopsis(), "My ");
+    EXPECT_EQ("My plot", file().synopsis());
+    EXPECT_EQ(3, logged("description changed\n"));
+    expectMarked(true);
+}
+
+TEST_F(FormEditsTest, SynopsisLikeTheStoredOneMarksNothing) {
+    openVideo();
+    controller().form().textDidChange(&synopsis());
+    EXPECT_EQ(1, logged("description changed\n"));
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, AnotherTextViewMarksAChangeButStoresNothing) {
+    openVideo();
+    QPlainTextEdit other;
+    controller().form().textDidChange(&other);
+    EXPECT_EQ("plot", file().synopsis());
+    EXPECT_EQ(0, logged("description changed\n"));
+    expectMarked(true);
+}
+
+TEST_F(FormEditsTest, SynopsisWithoutAFileDoesNothing) {
+    QTest::keyClicks(&synopsis(), "x");
+    EXPECT_EQ(0, logged("description changed\n"));
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, ChosenRatingReachesTheModel) {
+    openVideo();
+    rating().setFocus();
+    QTest::keyClick(&rating(), Qt::Key_Down);
+    EXPECT_EQ("G", file().rating());
+    expectMarked(true);
+}
+
+TEST_F(FormEditsTest, ChoosingTheSameRatingAgainStillMarksAChange) {
+    openVideo();
+    emit rating().activated(rating().currentIndex());
+    EXPECT_EQ("", file().rating());
+    expectMarked(true);
+}
+
+TEST_F(FormEditsTest, EmptyRatingIsStoredAsEmpty) {
+    openVideo();
+    file().setRating("R");
+    emit rating().activated(0);
+    EXPECT_EQ("", file().rating());
+}
+
+TEST_F(FormEditsTest, RatingWithoutAFileDoesNothing) {
+    emit rating().activated(1);
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, DateInThePickerNeverReachesTheModel) {
+    openVideo();
+    const QDateTime date = file().dateTime();
+    auto& picker = widget<QDateTimeEdit>("picker_dateTime");
+    QTest::keyClick(&picker, Qt::Key_Up);
+    picker.setDateTime(QDateTime(QDate(2000, 1, 1), QTime()));
+    EXPECT_EQ(date, file().dateTime());
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, NewCoverArtReachesTheModel) {
+    openAudio();
+    QImage image(10, 8, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    auto& well = widget<CoverArtView>("img_coverArt");
+    well.setImage(image);
+    expectMarked(false);
+    controller().coverArtImageChanged(&well);
+    EXPECT_EQ(QSize(10, 8), file().coverArt().toQImage().size());
+    expectMarked(true);
+}
+
+TEST_F(FormEditsTest, EmptyCoverArtViewChangesNothing) {
+    openAudio();
+    controller().coverArtImageChanged(&widget<CoverArtView>("img_coverArt"));
+    EXPECT_FALSE(file().coverArt());
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, NewCoverArtDoesNotByItselfAllowTrimming) {
+    openAudio();
+    auto& well = widget<CoverArtView>("img_coverArt");
+    well.setImage(QImage(10, 8, QImage::Format_RGB32));
+    controller().coverArtImageChanged(&well);
+    EXPECT_FALSE(enabled("btn_trimBorder"));
+}
+
+TEST_F(FormEditsTest, WheelOverABoxWithoutFocusChangesNothing) {
+    openVideo();
+    entry("entry_title").setFocus();
+    for (QComboBox* box : {&genre(), &rating()}) {
+        const QString before = box->currentText();
+        QWheelEvent wheel(QPointF(5, 5), box->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(box, &wheel);
+        EXPECT_EQ(before, box->currentText());
+    }
+    expectMarked(false);
+}
+
+} // namespace
+} // namespace velmora

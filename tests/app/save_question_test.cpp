@@ -1,0 +1,148 @@
+#include "window_fixture.h"
+
+#include "platform/file_path.h"
+#include "support/bytes.h"
+
+#include <QTableView>
+
+namespace velmora {
+namespace {
+
+using test::QuestionAnswerer;
+using test::settle;
+using test::taggedFile;
+using test::textFrame;
+using test::waitUntil;
+
+/** Two listed files; the first is open and its title was changed to "edited". */
+class SaveQuestionTest : public test::WindowTest {
+protected:
+    SaveQuestionTest() {
+        openFile("a.mp3");
+        addFile("b.mp3", taggedFile(textFrame("TIT2", "B")));
+        type("entry_title", "edited");
+    }
+    int selectedRow() {
+        const auto rows = widget<QTableView>("tbl_mediaFiles").selectionModel()->selectedRows();
+        return rows.isEmpty() ? -1 : rows.first().row();
+    }
+    std::string bytes() { return test::read_file(folder_ / "a.mp3"); }
+    QuestionAnswerer answerWith(const QString& button) { return {*document().window(), button}; }
+    void selectAndWait(int row, const QuestionAnswerer& answer) {
+        auto& table = widget<QTableView>("tbl_mediaFiles");
+        row < 0 ? table.clearSelection() : table.selectRow(row);
+        EXPECT_TRUE(waitUntil([&] { return answer.questions() > 0; }));
+        settle();
+    }
+    const std::string original = taggedFile(textFrame("TIT2", "Z"));
+};
+
+TEST_F(SaveQuestionTest, NamesTheFileAndItsLoss) {
+    const QuestionAnswerer answer(*document().window(), "Cancel");
+    selectAndWait(1, answer);
+    EXPECT_EQ("Do you want to save the changes you made?", answer.messageText());
+    EXPECT_EQ("Your changes to \"" + path("a.mp3") + "\" will be lost if you don't save them.",
+              answer.informativeText());
+}
+
+TEST_F(SaveQuestionTest, CancelKeepsEverythingAndSelectsTheOldRow) {
+    const QuestionAnswerer answer(*document().window(), "Cancel");
+    selectAndWait(1, answer);
+    EXPECT_EQ(1, answer.questions());
+    EXPECT_EQ(path("a.mp3"), file().filename());
+    EXPECT_EQ("edited", entry("entry_title").text());
+    EXPECT_TRUE(document().isDocumentEdited());
+    EXPECT_EQ(0, selectedRow());
+    EXPECT_EQ(original, bytes());
+}
+
+TEST_F(SaveQuestionTest, DontSaveOpensTheOtherFileWithoutWriting) {
+    const QuestionAnswerer answer(*document().window(), "Don't Save");
+    selectAndWait(1, answer);
+    EXPECT_EQ(path("b.mp3"), file().filename());
+    EXPECT_EQ("B", entry("entry_title").text());
+    EXPECT_FALSE(document().isDocumentEdited());
+    EXPECT_EQ(original, bytes());
+}
+
+TEST_F(SaveQuestionTest, SaveWritesAndThenOpensTheOtherFile) {
+    const QuestionAnswerer answer(*document().window(), "Save");
+    selectAndWait(1, answer);
+    EXPECT_EQ(path("b.mp3"), file().filename());
+    EXPECT_FALSE(document().isDocumentEdited());
+    EXPECT_EQ(taggedFile(textFrame("TIT2", "edited")), bytes());
+}
+
+TEST_F(SaveQuestionTest, DeselectingAsksToo) {
+    const QuestionAnswerer answer(*document().window(), "Cancel");
+    selectAndWait(-1, answer);
+    EXPECT_EQ(0, selectedRow());
+    EXPECT_EQ("edited", entry("entry_title").text());
+}
+
+TEST_F(SaveQuestionTest, DeselectingAndNotSavingClosesTheFileAndEmptiesTheForm) {
+    const QuestionAnswerer answer(*document().window(), "Don't Save");
+    selectAndWait(-1, answer);
+    EXPECT_EQ(nullptr, document().mediaFile());
+    EXPECT_EQ("", entry("entry_title").text());
+    EXPECT_EQ(original, bytes());
+}
+
+TEST_F(SaveQuestionTest, SaveFromTheMenuDoesNotSpareTheQuestion) {
+    document().saveDocument();
+    const QuestionAnswerer answer(*document().window(), "Don't Save");
+    selectAndWait(1, answer);
+    EXPECT_EQ(1, answer.questions());
+}
+
+TEST_F(SaveQuestionTest, CancelledOpenLeavesTheErrorUntouched) {
+    const QuestionAnswerer answer(*document().window(), "Cancel");
+    Error error;
+    EXPECT_FALSE(document().readFromURL(fileUrlFromPath(path("b.mp3")), "mediafile", &error));
+    EXPECT_TRUE(error.domain.isEmpty());
+    EXPECT_TRUE(error.userInfo.isEmpty());
+}
+
+TEST_F(SaveQuestionTest, FailedSaveIsOnlyLoggedAndTheDocumentIsClosedAllTheSame) {
+    test::write_file(folder_ / "a.mp3", test::fileTaggedInFront());
+    const QuestionAnswerer answer(*document().window(), "Save");
+    EXPECT_TRUE(document().handleDirtySave());
+    EXPECT_EQ(nullptr, document().mediaFile());
+    EXPECT_EQ(1, logged("error saving file: \n"));
+}
+
+TEST_F(SaveQuestionTest, AnyOtherEndGoesOnWithTheFileAndTheCountKept) {
+    const QuestionAnswerer answer(*document().window(), QString());
+    EXPECT_TRUE(document().handleDirtySave());
+    EXPECT_EQ(path("a.mp3"), file().filename());
+    EXPECT_TRUE(document().isDocumentEdited());
+}
+
+TEST_F(SaveQuestionTest, OffersItsButtonsInOrderWithTheirKeys) {
+    QStringList titles;
+    QList<QKeySequence> shortcuts;
+    bool returnIsSave = false;
+    bool escapeIsCancel = false;
+    QTimer::singleShot(20, document().window(), [&] {
+        auto* box = document().window()->findChild<QMessageBox*>();
+        QMap<int, QPushButton*> byOrder;
+        for (auto* candidate : box->findChildren<QPushButton*>()) {
+            byOrder[candidate->property("orderOfAdding").toInt()] = candidate;
+        }
+        for (auto* candidate : byOrder) {
+            titles += candidate->text();
+            shortcuts += candidate->shortcut();
+        }
+        returnIsSave = box->defaultButton() == byOrder[0];
+        escapeIsCancel = box->escapeButton() == byOrder[1];
+        byOrder[1]->click();
+    });
+    EXPECT_FALSE(document().handleDirtySave());
+    EXPECT_EQ((QStringList{"Save", "Cancel", "Don't Save"}), titles);
+    EXPECT_EQ(QKeySequence(Qt::CTRL | Qt::Key_D), shortcuts.value(2));
+    EXPECT_TRUE(returnIsSave);
+    EXPECT_TRUE(escapeIsCancel);
+}
+
+} // namespace
+} // namespace velmora

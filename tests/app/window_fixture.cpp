@@ -1,0 +1,125 @@
+#include "window_fixture.h"
+
+#include "support/bytes.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTableView>
+#include <QTest>
+
+namespace velmora::test {
+
+namespace {
+
+std::string syncsafe(std::size_t value) {
+    return {static_cast<char>(value >> 21 & 0x7F), static_cast<char>(value >> 14 & 0x7F),
+            static_cast<char>(value >> 7 & 0x7F), static_cast<char>(value & 0x7F)};
+}
+
+} // namespace
+
+std::string textFrame(const std::string& id, const std::string& text) {
+    return id + syncsafe(text.size() + 1) + std::string(3, '\0') + text;
+}
+
+std::string taggedFile(const std::string& frames) {
+    const std::string rest = std::string("\x04\x00\x10", 3) + syncsafe(frames.size());
+    return pattern(64) + "ID3" + rest + frames + "3DI" + rest;
+}
+
+std::string fileTaggedInFront() {
+    return "ID3" + hex("03 00 00 00 00 00 0C") + "TIT2" + hex("00 00 00 02 00 00 00 5A") + pattern(64);
+}
+
+bool waitUntil(const std::function<bool()>& condition) {
+    return QTest::qWaitFor(condition, 10000);
+}
+
+void settle() {
+    // A few passes: what is posted may post again.
+    for (int i = 0; i < 5; ++i) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+QuestionAnswerer::QuestionAnswerer(QWidget& window, QString button)
+    : window_(window), button_(std::move(button)) {
+    timer_.setInterval(5);
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { look(); });
+    timer_.start();
+}
+
+void QuestionAnswerer::look() {
+    for (auto* box : window_.findChildren<QMessageBox*>()) {
+        if (!box->isVisible()) {
+            continue;
+        }
+        ++questions_;
+        messageText_ = box->text();
+        informativeText_ = box->informativeText();
+        for (auto* candidate : box->findChildren<QPushButton*>()) {
+            if (candidate->text() == button_) {
+                candidate->click();
+                return;
+            }
+        }
+        box->done(77);
+        return;
+    }
+}
+
+WindowTest::WindowTest() {
+    qputenv("HOME", QByteArray::fromStdString(folder_ / "home"));
+    QDir().mkpath(QString::fromStdString(folder_ / "home"));
+    document_ = std::make_unique<MyDocument>(termination_);
+    document_->makeWindow();
+    document_->showWindow();
+    EXPECT_TRUE(waitUntil([this] { return !controller().search().isSearchRunning(); }));
+}
+
+WindowTest::~WindowTest() {
+    document_.reset();
+    settle();
+    // A test may have told the application to end; an event loop of its own takes that back for the next one.
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QCoreApplication::exec();
+}
+
+QString WindowTest::addFile(const std::string& name, const std::string& bytes) {
+    write_file(folder_ / name, bytes);
+    EXPECT_TRUE(controller().addMediaFile(path(name)));
+    settle();
+    return path(name);
+}
+
+void WindowTest::select(int row) {
+    auto& table = widget<QTableView>("tbl_mediaFiles");
+    row < 0 ? table.clearSelection() : table.selectRow(row);
+    settle();
+}
+
+QString WindowTest::openFile(const std::string& name, const std::string& frames) {
+    const QString added = addFile(name, taggedFile(frames));
+    select(controller().table().model().numberOfRowsInTableView() - 1);
+    EXPECT_NE(nullptr, document().mediaFile());
+    return added;
+}
+
+void WindowTest::type(const char* name, const QString& text) {
+    auto& field = entry(name);
+    field.selectAll();
+    QTest::keyClick(&field, Qt::Key_Delete);
+    QTest::keyClicks(&field, text);
+}
+
+int WindowTest::logged(const std::string& text) {
+    const std::string all = log_.text();
+    int count = 0;
+    for (std::size_t at = all.find(text); at != std::string::npos; at = all.find(text, at + text.size())) {
+        ++count;
+    }
+    return count;
+}
+
+} // namespace velmora::test

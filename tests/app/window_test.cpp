@@ -1,0 +1,130 @@
+#include "window_fixture.h"
+
+#include "support/bytes.h"
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QTableView>
+
+namespace velmora {
+namespace {
+
+using test::textFrame;
+
+class WindowLayoutTest : public test::WindowTest {
+protected:
+    /** The controls that a person works with. */
+    QWidgetList controls() {
+        QWidgetList list;
+        for (const char* name :
+             {"btn_addFile",      "btn_addFolder",   "btn_stop",       "tbl_mediaFiles",   "entry_title",
+              "entry_year",       "entry_artist",    "combo_genre",    "entry_album",      "combo_rating",
+              "entry_desc",       "picker_dateTime", "img_coverArt",   "btn_loadCoverArt", "btn_trimBorder",
+              "btn_captureFrame", "btn_removeTag",   "btn_revertTag",  "btn_saveTag",      "combo_search",
+              "entry_search",     "btn_search",      "btn_searchBack", "btn_formFill"}) {
+            list += &widget<QWidget>(name);
+        }
+        return list;
+    }
+};
+
+TEST_F(WindowLayoutTest, EveryControlHasAnAccessibleNameAndAToolTip) {
+    for (const QWidget* control : controls()) {
+        EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName().toStdString();
+        EXPECT_FALSE(control->toolTip().isEmpty()) << control->objectName().toStdString();
+    }
+}
+
+TEST_F(WindowLayoutTest, EveryControlIsReachedByTab) {
+    QWidgetList reached;
+    QWidget* const first = &widget<QWidget>("btn_addFile");
+    QWidget* at = first;
+    do {
+        reached += at;
+        at = at->nextInFocusChain();
+    } while (at != first);
+    QWidgetList order;
+    for (QWidget* candidate : reached) {
+        if (controls().contains(candidate)) {
+            order += candidate;
+        }
+    }
+    EXPECT_EQ(controls(), order);
+    for (const QWidget* control : controls()) {
+        EXPECT_TRUE(control->focusPolicy() & Qt::TabFocus) << control->objectName().toStdString();
+    }
+}
+
+TEST_F(WindowLayoutTest, FieldsHaveTheirCaptionsAsBuddies) {
+    for (const auto& [caption, field] :
+         {std::pair("lbl_title", "entry_title"), std::pair("lbl_artist", "entry_artist"),
+          std::pair("lbl_album", "entry_album"), std::pair("lbl_year", "entry_year"),
+          std::pair("lbl_genre", "combo_genre"), std::pair("lbl_rating", "combo_rating"),
+          std::pair("lbl_desc", "entry_desc"), std::pair("lbl_dateTime", "picker_dateTime"),
+          std::pair("lbl_coverArt", "img_coverArt"), std::pair("lbl_movieName", "entry_search")}) {
+        EXPECT_EQ(&widget<QWidget>(field), widget<QLabel>(caption).buddy()) << caption;
+    }
+}
+
+TEST_F(WindowLayoutTest, FitsASmallScreen) {
+    EXPECT_LE(document().window()->minimumSizeHint().width(), 1024);
+    EXPECT_LE(document().window()->minimumSizeHint().height(), 700);
+}
+
+TEST_F(WindowLayoutTest, LongPathInTheStatusDoesNotWidenTheWindow) {
+    const int before = document().window()->minimumSizeHint().width();
+    widget<QLabel>("lbl_scanStatus").setText(QString(4000, 'x'));
+    EXPECT_EQ(before, document().window()->minimumSizeHint().width());
+}
+
+TEST_F(WindowLayoutTest, LabelsThatShowPathsShowThemAsTheyAre) {
+    EXPECT_EQ(Qt::PlainText, widget<QLabel>("lbl_scanStatus").textFormat());
+}
+
+TEST_F(WindowLayoutTest, TitleHasNoMarkForChanges) {
+    openFile();
+    type("entry_title", "edited");
+    EXPECT_EQ("KORVANE Velmora", document().window()->windowTitle());
+    EXPECT_FALSE(document().window()->isWindowModified());
+}
+
+TEST_F(WindowLayoutTest, ShortcutsAreTheStandardOnes) {
+    const auto shortcut = [this](const char* action) {
+        return document().window()->findChild<QAction*>(QLatin1String(action))->shortcut();
+    };
+    EXPECT_EQ(QKeySequence(QKeySequence::Save), shortcut("action_save"));
+    EXPECT_EQ(QKeySequence("Ctrl+Q"), shortcut("action_quit"));
+    EXPECT_EQ(QKeySequence(QKeySequence::Find), shortcut("action_find"));
+    EXPECT_EQ(QKeySequence(QKeySequence::Open), shortcut("action_addFile"));
+}
+
+TEST(WindowStart, SearchesMoviesMusicAndPicturesOfTheHomeFolderInThisOrder) {
+    const test::ScratchFolder home;
+    qputenv("HOME", QByteArray::fromStdString(home.path()));
+    for (const char* name : {"Movies", "Music", "Pictures", "Videos"}) {
+        ASSERT_TRUE(QDir(QString::fromStdString(home.path())).mkpath(name));
+        test::write_file(home / (std::string(name) + "/" + name + ".mp3"), test::pattern(102401));
+    }
+    test::StreamCapture log;
+    test::StreamCapture out(stdout);
+    ApplicationTermination termination;
+    MyDocument document(termination);
+    document.makeWindow();
+    EXPECT_TRUE(document.window()->findChild<QWidget*>("btn_stop")->isEnabled());
+    EXPECT_TRUE(test::waitUntil([&] { return !document.controller()->search().isSearchRunning(); }));
+    const auto& model = document.controller()->table().model();
+    QStringList names;
+    for (int row = 0; row < model.numberOfRowsInTableView(); ++row) {
+        names += model.index(row, MediaTableModel::columnIndex(u"filename")).data().toString();
+    }
+    EXPECT_EQ((QStringList{"Movies.mp3", "Music.mp3", "Pictures.mp3"}), names);
+    EXPECT_EQ("Search Done.", document.window()->findChild<QLabel*>("lbl_scanStatus")->text());
+    EXPECT_FALSE(document.window()->findChild<QWidget*>("btn_stop")->isEnabled());
+    EXPECT_EQ("***** GOT SEARCH DONE MESSAGE *****\n", out.text());
+}
+
+} // namespace
+} // namespace velmora

@@ -1,0 +1,332 @@
+#include "model/MediaFile.h"
+
+#include "platform/file_path.h"
+#include "support/bytes.h"
+#include "support/scratch_folder.h"
+#include "support/stream_capture.h"
+
+#include <QBuffer>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace velmora {
+namespace {
+
+using test::hex;
+using test::ScratchFolder;
+using test::StreamCapture;
+
+std::string frame(const std::string& id, const std::string& body) {
+    const std::size_t n = body.size();
+    std::string size = {static_cast<char>(n >> 21 & 0x7F), static_cast<char>(n >> 14 & 0x7F),
+                        static_cast<char>(n >> 7 & 0x7F), static_cast<char>(n & 0x7F)};
+    return id + size + std::string(2, '\0') + body;
+}
+
+std::string text(const std::string& id, const std::string& value) {
+    return frame(id, std::string(1, '\0') + value);
+}
+
+/** An ID3v2.4 tag with a footer around FRAMES. */
+std::string appendedTag(const std::string& frames) {
+    const std::size_t n = frames.size();
+    const std::string rest = std::string("\x04\x00\x10", 3) +
+                             std::string{static_cast<char>(n >> 21 & 0x7F), static_cast<char>(n >> 14 & 0x7F),
+                                         static_cast<char>(n >> 7 & 0x7F), static_cast<char>(n & 0x7F)};
+    return "ID3" + rest + frames + "3DI" + rest;
+}
+
+class MediaFileTest : public testing::Test {
+protected:
+    /** A file of NAME with 64 bytes of media and a tag of FRAMES behind them. */
+    QString tagged(const std::string& name, const std::string& frames) {
+        test::write_file(folder_ / name, test::pattern(64) + appendedTag(frames));
+        return path(name);
+    }
+    QString path(const std::string& name) { return QString::fromStdString(folder_ / name); }
+
+    ScratchFolder folder_;
+    StreamCapture log_;
+};
+
+const std::string fullTag = text("TALB", "X") + text("TPE1", "Y") + text("TIT2", "Z") + text("TPE3", "D") +
+                            frame("PRIV", std::string("WM/ParentalRating\0PG", 20)) + text("TCON", "(17)") +
+                            text("TYER", "1999");
+
+TEST_F(MediaFileTest, AudioShowsAlbumArtistAndTitleUnderTheirKeys) {
+    const auto file = MediaFile::initWithFile(tagged("a.mp3", fullTag));
+    ASSERT_TRUE(file);
+    EXPECT_EQ(1, file->mediaType());
+    EXPECT_EQ("X", file->album());
+    EXPECT_EQ("Y", file->artist());
+    EXPECT_EQ("Z", file->title());
+    EXPECT_EQ("Rock", file->genre());
+    EXPECT_EQ(1999, file->year());
+}
+
+TEST_F(MediaFileTest, AudioHasNoneOfAVideosTexts) {
+    const auto file = MediaFile::initWithFile(tagged("a.mp3", fullTag));
+    for (const char* key : {"cast", "director", "synopsis", "rating"}) {
+        ASSERT_TRUE(file->metadata().contains(key)) << key;
+        EXPECT_EQ("", file->metadata().value(key).toString()) << key;
+    }
+}
+
+TEST_F(MediaFileTest, VideoShowsTitleCastSynopsisDirectorAndRating) {
+    const auto file = MediaFile::initWithFile(tagged("a.mp4", fullTag));
+    ASSERT_TRUE(file);
+    EXPECT_EQ(2, file->mediaType());
+    EXPECT_EQ("X", file->title());
+    EXPECT_EQ("Y", file->cast());
+    EXPECT_EQ("Z", file->synopsis());
+    EXPECT_EQ("D", file->director());
+    EXPECT_EQ("PG", file->rating());
+    EXPECT_EQ("", file->metadata().value("artist").toString());
+    EXPECT_EQ("", file->metadata().value("album").toString());
+}
+
+TEST_F(MediaFileTest, ImagesAndOthersAreReadLikeAudio) {
+    for (const auto& [name, type] : {std::pair("a.png", 0), std::pair("a.xyz", 3)}) {
+        const auto file = MediaFile::initWithFile(tagged(name, fullTag));
+        ASSERT_TRUE(file) << name;
+        EXPECT_EQ(type, file->mediaType()) << name;
+        EXPECT_EQ("X", file->album()) << name;
+        EXPECT_EQ("", file->director()) << name;
+    }
+}
+
+TEST_F(MediaFileTest, FileWithoutATagHasEmptyValuesAndNoCoverArt) {
+    test::write_file(folder_ / "a.mp3", test::pattern(300));
+    const auto file = MediaFile::initWithFile(path("a.mp3"));
+    ASSERT_TRUE(file);
+    EXPECT_EQ("", file->title());
+    EXPECT_EQ("", file->album());
+    EXPECT_EQ(0, file->year());
+    EXPECT_FALSE(file->coverArt());
+    EXPECT_FALSE(file->metadata().contains("coverart"));
+    EXPECT_NE(std::string::npos,
+              log_.text().find("failed to load metadata for file " + (folder_ / "a.mp3") + "\n"));
+}
+
+TEST_F(MediaFileTest, LoadingLogsTheThreeTexts) {
+    (void)MediaFile::initWithFile(tagged("a.mp3", text("TALB", "X") + text("TIT2", "Z")));
+    EXPECT_NE(std::string::npos, log_.text().find("file info: title='X', artist='(null)', desc='Z'\n"));
+}
+
+TEST_F(MediaFileTest, UnreadableFileGivesNoObject) {
+    EXPECT_FALSE(MediaFile::initWithFile(path("missing.mp3")));
+}
+
+TEST_F(MediaFileTest, FileWithoutReadPermissionGivesNoObject) {
+    const QString file = tagged("a.mp3", fullTag);
+    ASSERT_EQ(0, ::chmod((folder_ / "a.mp3").c_str(), 0));
+    ASSERT_EQ(0, ::chmod(folder_.path().c_str(), 0755));
+    if (::geteuid() != 0) {
+        EXPECT_FALSE(MediaFile::initWithFile(file));
+        return;
+    }
+    // The check goes by the real user, as which the root user stops being privileged here.
+    ASSERT_EQ(0, ::setresuid(65534, 65534, 0));
+    const bool opened = MediaFile::initWithFile(file) != nullptr;
+    ASSERT_EQ(0, ::setresuid(0, 0, 0));
+    EXPECT_FALSE(opened);
+}
+
+TEST_F(MediaFileTest, Latin1TextIsShownAsLatin1) {
+    const auto file = MediaFile::initWithFile(tagged("a.mp3", text("TIT2", "caf\xE9")));
+    EXPECT_EQ(QString::fromLatin1("caf\xE9"), file->title());
+}
+
+TEST_F(MediaFileTest, DateIsTheMomentOfLoadingWhateverTheTagSays) {
+    const QDateTime before = QDateTime::currentDateTime();
+    const auto file = MediaFile::initWithFile(tagged("a.mp3", text("TDRC", "2008-05-04T:10:20:30")));
+    EXPECT_GE(file->dateTime(), before.addMSecs(-1));
+    EXPECT_LE(file->dateTime(), QDateTime::currentDateTime());
+}
+
+TEST_F(MediaFileTest, DvdFolderReadsItsSideFile) {
+    test::write_file(folder_ / "VIDEO_TS.IFO", "dvd");
+    test::write_file(folder_ / "VIDEO_TS.TAG", appendedTag(text("TALB", "Film")));
+    const auto file = MediaFile::initWithFile(path("VIDEO_TS.IFO"));
+    ASSERT_TRUE(file);
+    EXPECT_EQ(path("VIDEO_TS.TAG"), file->filename());
+    EXPECT_EQ(2, file->mediaType());
+    EXPECT_EQ("Film", file->title());
+}
+
+TEST_F(MediaFileTest, DiscImageWithoutASideFileOpensEmpty) {
+    test::write_file(folder_ / "movie.iso", appendedTag(text("TALB", "Not this")));
+    const auto file = MediaFile::initWithFile(path("movie.iso"));
+    ASSERT_TRUE(file);
+    EXPECT_EQ(path("movie.TAG"), file->filename());
+    EXPECT_EQ("", file->title());
+    EXPECT_FALSE(test::file_exists(folder_ / "movie.TAG"));
+}
+
+TEST_F(MediaFileTest, NameWithAnyByteOpens) {
+    const std::string name = "a#?%20<b>\xE9\xFF\n.mp3";
+    test::write_file(folder_ / name, test::pattern(64) + appendedTag(text("TIT2", "Z")));
+    const auto file = MediaFile::initWithFile(pathFromBytes(QByteArray::fromStdString(folder_ / name)));
+    ASSERT_TRUE(file);
+    EXPECT_EQ("Z", file->title());
+    file->setTitle("New");
+    EXPECT_TRUE(file->saveMetadata(nullptr));
+    EXPECT_NE(std::string::npos, test::read_file(folder_ / name).find("New"));
+}
+
+TEST_F(MediaFileTest, SavingAudioWritesTheFramesItWasReadFrom) {
+    auto file =
+        MediaFile::initWithFile(tagged("a.mp3", text("TALB", "X") + text("TPE1", "Y") + text("TIT2", "Z")));
+    file->setTitle("new title");
+    file->setYear(2001);
+    ASSERT_TRUE(file->saveMetadata(nullptr));
+    EXPECT_EQ(test::pattern(64) + appendedTag(text("TALB", "X") + text("TPE1", "Y") +
+                                              text("TIT2", "new title") + text("TYER", "2001")),
+              test::read_file(folder_ / "a.mp3"));
+}
+
+TEST_F(MediaFileTest, SavingVideoWritesDirectorAndRatingToo) {
+    test::write_file(folder_ / "a.mp4", test::pattern(64));
+    auto file = MediaFile::initWithFile(path("a.mp4"));
+    file->setTitle("T");
+    file->setCast("C");
+    file->setSynopsis("S");
+    file->setDirector("D");
+    file->setRating("PG");
+    file->setGenre("Drama");
+    ASSERT_TRUE(file->saveMetadata(nullptr));
+    EXPECT_EQ(test::pattern(64) +
+                  appendedTag(text("TALB", "T") + text("TPE1", "C") + text("TIT2", "S") + text("TPE3", "D") +
+                              frame("PRIV", std::string("WM/ParentalRating\0PG", 20)) +
+                              text("TCON", "Drama")),
+              test::read_file(folder_ / "a.mp4"));
+}
+
+TEST_F(MediaFileTest, TextsAreStoredAsUtf8) {
+    test::write_file(folder_ / "a.mp3", test::pattern(64));
+    auto file = MediaFile::initWithFile(path("a.mp3"));
+    file->setTitle(QString::fromUtf8("caf\xC3\xA9"));
+    ASSERT_TRUE(file->saveMetadata(nullptr));
+    EXPECT_EQ(test::pattern(64) + appendedTag(text("TIT2", "caf\xC3\xA9")),
+              test::read_file(folder_ / "a.mp3"));
+}
+
+TEST_F(MediaFileTest, EmptyTextAndYearZeroLeaveTheStoredFieldsAlone) {
+    auto file = MediaFile::initWithFile(tagged("a.mp3", text("TIT2", "Z") + text("TYER", "1999")));
+    file->setTitle("");
+    file->setYear(0);
+    ASSERT_TRUE(file->saveMetadata(nullptr));
+    EXPECT_EQ(test::pattern(64) + appendedTag(text("TIT2", "Z") + text("TYER", "1999")),
+              test::read_file(folder_ / "a.mp3"));
+}
+
+TEST_F(MediaFileTest, SavingKeepsTheValuesAsTheyWere) {
+    auto file = MediaFile::initWithFile(tagged("a.mp3", text("TIT2", "Z")));
+    file->setTitle("A");
+    const QVariantMap before = file->metadata();
+    ASSERT_TRUE(file->saveMetadata(nullptr));
+    EXPECT_EQ(before, file->metadata());
+}
+
+TEST_F(MediaFileTest, SavingLogsWhatIsWrittenAndWhere) {
+    auto file = MediaFile::initWithFile(tagged("a.mp3", text("TIT2", "Z")));
+    file->setYear(1999);
+    const std::size_t before = log_.text().size();
+    ASSERT_TRUE(file->saveMetadata(nullptr));
+    const std::string expected = "writing new media tag:\n  title=\n  artist=\n  description=Z\n genre=\n"
+                                 "  director=(null)\n rating=(null)\n  year=1999\nsaving tag to file " +
+                                 (folder_ / "a.mp3") + "\n";
+    EXPECT_EQ(expected, log_.text().substr(before, expected.size()));
+}
+
+TEST_F(MediaFileTest, FailedSaveFillsTheErrorForAnAlert) {
+    // A small file whose tag is in front is rewritten through a temporary file, which is never there to open.
+    test::write_file(folder_ / "a.mp3", "ID3" + hex("03 00 00 00 00 00 0C") + "TIT2" +
+                                            hex("00 00 00 02 00 00 00 5A") + test::pattern(64));
+    const auto file = MediaFile::initWithFile(path("a.mp3"));
+    ASSERT_EQ("Z", file->title());
+    Error error;
+    EXPECT_FALSE(file->saveMetadata(&error));
+    EXPECT_EQ(NSMachErrorDomain, error.domain);
+    EXPECT_EQ(0, error.code);
+    EXPECT_EQ(path("a.mp3"), error.userInfo.value(NSFilePathErrorKey).toString());
+    EXPECT_EQ("Unable to write tags to file \"a.mp3\".",
+              error.userInfo.value(NSLocalizedDescriptionKey).toString());
+    EXPECT_EQ("Be sure you have permissions to write to the file, and that it is a valid media file.",
+              error.userInfo.value(NSLocalizedRecoverySuggestionErrorKey).toString());
+    EXPECT_TRUE(log_.text().ends_with("failed to write tag\n"));
+}
+
+TEST_F(MediaFileTest, FailedSaveWithoutAnErrorSlotOnlyLogs) {
+    const QString name = tagged("a.mp3", text("TIT2", "Z"));
+    const auto file = MediaFile::initWithFile(name);
+    ASSERT_EQ(0, ::unlink((folder_ / "a.mp3").c_str()));
+    ASSERT_EQ(0, ::mkdir((folder_ / "a.mp3").c_str(), 0700));
+    EXPECT_FALSE(file->saveMetadata(nullptr));
+}
+
+TEST_F(MediaFileTest, CoverArtIsReadAndWrittenAsAPicture) {
+    QImage picture(32, 24, QImage::Format_RGB32);
+    picture.fill(Qt::darkGreen);
+    test::write_file(folder_ / "a.mp3", test::pattern(64));
+    auto file = MediaFile::initWithFile(path("a.mp3"));
+    file->setCoverArt(ImageRef::fromQImage(picture));
+    ASSERT_TRUE(file->saveMetadata(nullptr));
+    const auto again = MediaFile::initWithFile(path("a.mp3"));
+    ASSERT_TRUE(again->coverArt());
+    EXPECT_EQ(QSize(32, 24), again->coverArt().toQImage().size());
+}
+
+TEST_F(MediaFileTest, CastListIsJoinedWithCommas) {
+    auto file = MediaFile::initWithFile(tagged("a.mp4", ""));
+    file->setCastList({"Ann", "Bob", "Cy"});
+    EXPECT_EQ("Ann, Bob, Cy", file->cast());
+    file->setCastList({"Ann"});
+    EXPECT_EQ("Ann", file->cast());
+    file->setCastList({});
+    EXPECT_EQ("", file->cast());
+}
+
+TEST_F(MediaFileTest, SettersStoreUnderTheirKeys) {
+    auto file = MediaFile::initWithFile(tagged("a.mp3", ""));
+    file->setTitle("1");
+    file->setArtist("2");
+    file->setAlbum("3");
+    file->setCast("4");
+    file->setDirector("5");
+    file->setGenre("6");
+    file->setRating("7");
+    file->setSynopsis("8");
+    file->setYear(9);
+    const QDateTime date(QDate(2001, 2, 3), QTime(4, 5));
+    file->setDateTime(date);
+    const QVariantMap& values = file->metadata();
+    EXPECT_EQ("1", values["title"].toString());
+    EXPECT_EQ("2", values["artist"].toString());
+    EXPECT_EQ("3", values["album"].toString());
+    EXPECT_EQ("4", values["cast"].toString());
+    EXPECT_EQ("5", values["director"].toString());
+    EXPECT_EQ("6", values["genre"].toString());
+    EXPECT_EQ("7", values["rating"].toString());
+    EXPECT_EQ("8", values["synopsis"].toString());
+    EXPECT_EQ(9, values["year"].toInt());
+    EXPECT_EQ(date, values["datetime"].toDateTime());
+}
+
+TEST_F(MediaFileTest, WindowsMediaFileGoesToItsModule) {
+    test::write_file(folder_ / "clip.wmv", test::pattern(300));
+    (void)MediaFile::initWithFile(path("clip.wmv"));
+    EXPECT_NE(std::string::npos, log_.text().find("asf_read_header_object: Not a valid header\n"));
+}
+
+TEST_F(MediaFileTest, AviFileGoesToItsModule) {
+    test::write_file(folder_ / "clip.divx", test::pattern(300));
+    (void)MediaFile::initWithFile(path("clip.divx"));
+    EXPECT_NE(std::string::npos, log_.text().find("avi_read_header: Not a RIFF header\n"));
+}
+
+} // namespace
+} // namespace velmora
