@@ -98,7 +98,7 @@ void TagWebBrowser::fillFromPage() {
         fill = FormFill::initWithWebFrame(*view->mainFrame(), selectedSite(), fetch);
     }
     appLog(QStringLiteral("in formFill\n"));
-    if (fill == nullptr) {
+    if (fill == nullptr || self == nullptr) {
         return;
     }
     const FormFillInfo* const info = fill->formFillInfo();

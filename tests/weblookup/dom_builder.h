@@ -1,21 +1,13 @@
 #pragma once
 
 #include "platform/web/dom_node.h"
+#include "support/qt_printing.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <memory>
-#include <ostream>
 #include <vector>
-
-/** Readable failure messages. */
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}
-inline void PrintTo(const QStringList& list, std::ostream* out) {
-    *out << '[' << list.join(QLatin1String("|")).toStdString() << ']';
-}
 
 /** Pages for the extractors' tests, written down by hand:
 

@@ -40,7 +40,7 @@ TEST(ImdbPage, WithoutATitleElementLogsNothing) {
 
 TEST(ImdbTitle, EndsBeforeTheLastBracketAndKeepsItsTrailingBlank) {
     EXPECT_EQ(read({title("Some Film (2005)")}).title, QString("Some Film "));
-    EXPECT_EQ(read({title("Film (Part 2) (2005)")}).title, QString("Film (Part 2) "));
+    EXPECT_EQ(read({title("Film (Vol. 2) (2005)")}).title, QString("Film (Vol. 2) "));
     EXPECT_EQ(read({title("Alpha (1999) (V)")}).title, QString("Alpha (1999) "));
 }
 

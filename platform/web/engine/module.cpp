@@ -8,13 +8,30 @@ namespace velmora {
 
 namespace {
 
-/** Silences the engine's remark, while it starts, that it found no graphics hardware to draw with. */
+QLoggingCategory::CategoryFilter nextFilter = nullptr;
+
+void silenceEngineContext(QLoggingCategory* category) {
+    if (nextFilter != nullptr) {
+        nextFilter(category);
+    }
+    if (qstrcmp(category->categoryName(), "qt.webenginecontext") == 0) {
+        category->setEnabled(QtInfoMsg, false);
+        category->setEnabled(QtWarningMsg, false);
+    }
+}
+
+/** Keeps what the engine has to say about the graphics hardware that it does not use out of the log while it
+ * starts. */
 class QuietStart {
 public:
     QuietStart() : warned_(category()->isEnabled(QtWarningMsg)) {
         category()->setEnabled(QtWarningMsg, false);
+        nextFilter = QLoggingCategory::installFilter(silenceEngineContext);
     }
-    ~QuietStart() { category()->setEnabled(QtWarningMsg, warned_); }
+    ~QuietStart() {
+        QLoggingCategory::installFilter(nextFilter);
+        category()->setEnabled(QtWarningMsg, warned_);
+    }
     QuietStart(const QuietStart&) = delete;
     QuietStart& operator=(const QuietStart&) = delete;
 
@@ -31,12 +48,17 @@ class EngineModule : public QObject, public WebEngineModule {
     Q_INTERFACES(velmora::WebEngineModule)
 public:
     std::unique_ptr<WebEngine> makeEngine(WebEngineListener& listener, QWidget* parent) override {
-        // Pages of text and a few pictures need no graphics hardware, and its drivers would take part of the
-        // window.
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
         const QuietStart quiet;
+        if (!started_) {
+            // Pages of text and a few pictures need no graphics hardware.
+            QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+            started_ = true;
+        }
         return std::make_unique<PageEngine>(listener, parent);
     }
+
+private:
+    bool started_ = false;
 };
 
 } // namespace velmora

@@ -5,6 +5,8 @@
 #include <QWebEngineScript>
 #include <QWebEngineSettings>
 
+#include <csignal>
+
 namespace velmora {
 
 namespace {
@@ -33,7 +35,24 @@ PageEngine::PageEngine(WebEngineListener& listener, QWidget* parent)
 PageEngine::~PageEngine() = default;
 
 void PageEngine::load(const QUrl& url) {
-    page_->load(url);
+    if (mayBeStuck()) {
+        endProcessAndLoad(url);
+    } else {
+        page_->load(url);
+    }
+}
+
+/** A page of the same site would be loaded by the same process, and so wait for the script as well. */
+void PageEngine::endProcessAndLoad(const QUrl& url) {
+    const qint64 process = page_->renderProcessPid();
+    if (process <= 0 || ::kill(static_cast<pid_t>(process), SIGKILL) != 0) {
+        page_->load(url);
+        return;
+    }
+    QObject::connect(
+        page_.get(), &QWebEnginePage::renderProcessTerminated, page_.get(),
+        [page = page_.get(), url] { page->load(url); },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 bool PageEngine::canGoBack() const {
@@ -49,8 +68,12 @@ void PageEngine::takeSnapshot(SnapshotTaker take) {
         take(QString());
         return;
     }
+    ++*unanswered_;
     page_->runJavaScript(snapshotScript_, QWebEngineScript::ApplicationWorld,
-                         [take = std::move(take)](const QVariant& text) { take(text.toString()); });
+                         [take = std::move(take), unanswered = unanswered_](const QVariant& text) {
+                             --*unanswered;
+                             take(text.toString());
+                         });
 }
 
 } // namespace velmora

@@ -1,0 +1,92 @@
+#include "platform/web/dom_snapshot.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora::test {
+namespace {
+
+std::shared_ptr<const DomDocument> readNodes(const char* nodes) {
+    return readDomSnapshot(
+        QString::fromUtf8(R"({"url":"http://x/","nodes":%1})").arg(QString::fromUtf8(nodes)));
+}
+
+TEST(DomSnapshot, GivesTheTreeInOrder) {
+    const auto document =
+        readNodes(R"([[-1,0,"HTML",null,1],[0,1,"#text","a"],[0,0,"B",null,1],[2,1,"#text","b"],
+                                        [0,1,"#text","c"]])");
+    ASSERT_NE(document, nullptr);
+    const DomNode* const html = document->root()->firstChild;
+    EXPECT_EQ(html->nodeName, "HTML");
+    EXPECT_EQ(html->nextSibling, nullptr);
+    EXPECT_EQ(html->firstChild->data, QString("a"));
+    EXPECT_EQ(html->firstChild->nextSibling->firstChild->data, QString("b"));
+    EXPECT_EQ(html->firstChild->nextSibling->firstChild->parentNode->nodeName, "B");
+    EXPECT_EQ(html->lastChild->data, QString("c"));
+    EXPECT_EQ(document->url, "http://x/");
+}
+
+TEST(DomSnapshot, GivesEveryColumn) {
+    const auto document = readNodes(R"([[-1,5,"IMG",null,1,"a b",["id","x","alt",""],"n","http://x/s"]])");
+    ASSERT_NE(document, nullptr);
+    const DomNode* const node = document->root()->firstChild;
+    EXPECT_EQ(node->domClass, DomClass::DOMHTMLImageElement);
+    EXPECT_TRUE(node->isHTMLElement);
+    EXPECT_EQ(node->data, std::nullopt);
+    EXPECT_EQ(node->className, "a b");
+    EXPECT_EQ(node->getAttribute(u"id"), QString("x"));
+    EXPECT_EQ(node->getAttribute(u"alt"), QString(""));
+    EXPECT_EQ(node->getAttribute(u"src"), std::nullopt);
+    EXPECT_EQ(node->name, "n");
+    EXPECT_EQ(node->src, "http://x/s");
+}
+
+TEST(DomSnapshot, ReadsTheNumberOfEachClass) {
+    const auto document =
+        readNodes(R"([[-1,0,"x"],[-1,1,"x"],[-1,2,"x"],[-1,3,"x"],[-1,4,"x"],[-1,5,"x"],[-1,6,"x"],
+                                        [-1,7,"x"]])");
+    ASSERT_NE(document, nullptr);
+    const DomClass expected[] = {DomClass::Other,
+                                 DomClass::DOMText,
+                                 DomClass::DOMHTMLAnchorElement,
+                                 DomClass::DOMHTMLTableRowElement,
+                                 DomClass::DOMHTMLTableCellElement,
+                                 DomClass::DOMHTMLImageElement,
+                                 DomClass::DOMHTMLLIElement,
+                                 DomClass::DOMHTMLBRElement};
+    const DomNode* node = document->root()->firstChild;
+    for (const DomClass domClass : expected) {
+        ASSERT_NE(node, nullptr);
+        EXPECT_EQ(node->domClass, domClass);
+        node = node->nextSibling;
+    }
+}
+
+TEST(DomSnapshot, KeepsTextThatIsEmptyAndTextBeyondTheBasicPlane) {
+    const auto document = readNodes(R"([[-1,1,"#text",""],[-1,1,"#text","\ud83d\ude00 \u0000"]])");
+    ASSERT_NE(document, nullptr);
+    EXPECT_EQ(document->root()->firstChild->data, QString(""));
+    EXPECT_EQ(document->root()->lastChild->data, QString::fromUtf8("\xF0\x9F\x98\x80 \0", 6));
+}
+
+TEST(DomSnapshot, OfAPageWithoutNodesIsADocument) {
+    EXPECT_NE(readNodes("[]"), nullptr);
+}
+
+TEST(DomSnapshot, OfAnotherFormIsNone) {
+    for (const char* const text :
+         {"", "x", "[]", "{}", R"({"url":"x"})", R"({"nodes":[]})", R"({"url":1,"nodes":[]})",
+          R"({"url":"x","nodes":{}})", R"({"url":"x","nodes":[)"}) {
+        EXPECT_EQ(readDomSnapshot(QString::fromUtf8(text)), nullptr) << text;
+    }
+}
+
+TEST(DomSnapshot, WithABadNodeIsNone) {
+    for (const char* const nodes : {"[5]", "[[]]", R"([[0,1,"#text","own parent"]])", R"([[-2,1,"#text"]])",
+                                    R"([[-1,1,"#text"],[1,1,"#text"]])", R"([[-1,8,"x"]])",
+                                    R"([[-1,-1,"x"]])", R"([["-1",1,"x"]])", R"([[-1,1,5]])"}) {
+        EXPECT_EQ(readNodes(nodes), nullptr) << nodes;
+    }
+}
+
+} // namespace
+} // namespace velmora::test

@@ -1,0 +1,139 @@
+#include "platform/web/image_fetch.h"
+
+#include "page_server.h"
+#include "support/scratch_folder.h"
+
+#include <QBuffer>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTimer>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+namespace velmora::test {
+namespace {
+
+QByteArray picture(int width, const char* format = "PNG") {
+    QImage image(width, 3, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return bytes;
+}
+
+class ImageFetch : public testing::Test {
+protected:
+    PageServer server;
+    QObject context;
+
+    /** The width of the picture at PATH; 0 for none. */
+    int fetchedWidth(const QString& path) {
+        const std::optional<QImage> image = fetchImage(server.url(path), &context);
+        return image ? image->width() : -1;
+    }
+};
+
+TEST_F(ImageFetch, GivesThePictureWhateverItsNameAndTypeSay) {
+    server.serve("/a.txt", Answer{.body = picture(7, "JPEG"), .type = "text/plain"});
+    EXPECT_EQ(fetchedWidth("/a.txt"), 7);
+}
+
+TEST_F(ImageFetch, WaitsForASlowServer) {
+    server.serve("/slow", Answer{.body = picture(7), .delayMilliseconds = 700});
+    EXPECT_EQ(fetchedWidth("/slow"), 7);
+}
+
+TEST_F(ImageFetch, TakesTheBodyThatComesWithAnErrorStatus) {
+    server.serve("/404", Answer{.body = picture(7), .status = 404});
+    server.serve("/503", Answer{.body = picture(8), .status = 503});
+    EXPECT_EQ(fetchedWidth("/404"), 7);
+    EXPECT_EQ(fetchedWidth("/503"), 8);
+}
+
+TEST_F(ImageFetch, OfWhatIsNoPictureIsNone) {
+    server.serve("/page", "<p>Not a picture</p>");
+    server.serve("/empty", "");
+    EXPECT_EQ(fetchedWidth("/page"), 0);
+    EXPECT_EQ(fetchedWidth("/empty"), 0);
+    EXPECT_EQ(fetchedWidth("/unknown"), 0);
+}
+
+TEST_F(ImageFetch, OfAConnectionThatBreaksIsNoneEvenWhenAPictureCame) {
+    server.serve("/broken", Answer{.body = picture(7, "JPEG"), .end = Answer::End::Broken});
+    EXPECT_EQ(fetchedWidth("/broken"), 0);
+}
+
+TEST_F(ImageFetch, OfAServerThatIsNotThereIsNone) {
+    const QUrl url = server.url("/x");
+    server.close();
+    const std::optional<QImage> image = fetchImage(url, &context);
+    ASSERT_TRUE(image.has_value());
+    EXPECT_TRUE(image->isNull());
+}
+
+TEST_F(ImageFetch, FollowsARedirection) {
+    server.serve("/moved", Answer{.status = 302, .extraHeaders = "Location: /there\r\n"});
+    server.serve("/there", Answer{.body = picture(7)});
+    EXPECT_EQ(fetchedWidth("/moved"), 7);
+}
+
+TEST_F(ImageFetch, AsksTheServerEveryTime) {
+    server.serve("/a", Answer{.body = picture(7), .extraHeaders = "Cache-Control: max-age=3600\r\n"});
+    EXPECT_EQ(fetchedWidth("/a"), 7);
+    EXPECT_EQ(fetchedWidth("/a"), 7);
+    EXPECT_EQ(server.requests(), QStringList({"/a", "/a"}));
+}
+
+TEST_F(ImageFetch, ReadsDataAddresses) {
+    const QUrl url("data:image/png;base64," + QString::fromLatin1(picture(6).toBase64()));
+    EXPECT_EQ(fetchImage(url, &context)->width(), 6);
+}
+
+TEST_F(ImageFetch, ReadsFiles) {
+    const ScratchFolder folder;
+    const QString path = QString::fromStdString(folder / "a # b.png");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(picture(5));
+    file.close();
+    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(path), &context)->width(), 5);
+    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(path + "x"), &context)->width(), 0);
+}
+
+TEST_F(ImageFetch, DoesNotWaitForAPipeOrADevice) {
+    const ScratchFolder folder;
+    const std::string path = folder / "pipe";
+    ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(QString::fromStdString(path)), &context)->width(), 0);
+    EXPECT_EQ(fetchImage(QUrl("file:///dev/zero"), &context)->width(), 0);
+}
+
+TEST_F(ImageFetch, KnowsNoOtherSchemes) {
+    for (const char* const address :
+         {"ftp://127.0.0.1/x", "javascript:1", "qrc:/x", "x.png", "//127.0.0.1/x"}) {
+        EXPECT_EQ(fetchImage(QUrl(address), &context)->width(), 0) << address;
+    }
+}
+
+TEST_F(ImageFetch, HandlesEventsWhileItWaits) {
+    server.serve("/slow", Answer{.body = picture(7), .delayMilliseconds = 200});
+    bool handled = false;
+    QTimer::singleShot(0, &context, [&handled] { handled = true; });
+    EXPECT_EQ(fetchedWidth("/slow"), 7);
+    EXPECT_TRUE(handled);
+}
+
+TEST_F(ImageFetch, EndsWithoutAResultWhenTheContextGoesAway) {
+    server.serve("/never", Answer{.end = Answer::End::Silent});
+    auto* const window = new QWidget;
+    QTimer::singleShot(50, window, [window] { delete window; });
+    EXPECT_EQ(fetchImage(server.url("/never"), window), std::nullopt);
+}
+
+} // namespace
+} // namespace velmora::test

@@ -1,0 +1,250 @@
+#include "web_view_fixture.h"
+
+#include <QElapsedTimer>
+
+#include <cstdio>
+
+namespace velmora::test {
+namespace {
+
+class WebViewDocument : public WebViewTest {};
+
+const DomNode* one(const std::shared_ptr<const DomDocument>& document, QStringView tag) {
+    const auto found =
+        document == nullptr ? std::vector<const DomNode*>() : document->getElementsByTagName(tag);
+    return found.empty() ? nullptr : found.front();
+}
+
+/** The nodes below NODE in short: name or, for text, its data. */
+QString outline(const DomNode* node) {
+    QStringList parts;
+    for (const DomNode* child = node->firstChild; child != nullptr; child = child->nextSibling) {
+        parts.append(child->data ? child->nodeName + '=' + *child->data
+                                 : child->nodeName + '(' + outline(child) + ')');
+    }
+    return parts.join(' ');
+}
+
+TEST_F(WebViewDocument, HasCommentsAndWhiteSpaceAndAdjacentTexts) {
+    const auto document = documentOf("<p> <!--note-->a<b>c</b>\n</p>"
+                                     "<script>document.querySelector('p').append('x', 'y')</script>");
+    ASSERT_NE(one(document, u"p"), nullptr);
+    EXPECT_EQ(outline(one(document, u"p")),
+              "#text=  #comment=note #text=a B(#text=c) #text=\n #text=x #text=y");
+}
+
+TEST_F(WebViewDocument, HasTheExactClassOfEachNode) {
+    const auto document =
+        documentOf("<a>t</a><table><tr><td></td><th></th></tr></table><img><ul><li></li></ul><br>"
+                   "<b></b><svg><a></a></svg>");
+    ASSERT_NE(document, nullptr);
+    EXPECT_EQ(one(document, u"a")->domClass, DomClass::DOMHTMLAnchorElement);
+    EXPECT_EQ(one(document, u"a")->firstChild->domClass, DomClass::DOMText);
+    EXPECT_EQ(one(document, u"tr")->domClass, DomClass::DOMHTMLTableRowElement);
+    EXPECT_EQ(one(document, u"td")->domClass, DomClass::DOMHTMLTableCellElement);
+    EXPECT_EQ(one(document, u"th")->domClass, DomClass::DOMHTMLTableCellElement);
+    EXPECT_EQ(one(document, u"img")->domClass, DomClass::DOMHTMLImageElement);
+    EXPECT_EQ(one(document, u"li")->domClass, DomClass::DOMHTMLLIElement);
+    EXPECT_EQ(one(document, u"br")->domClass, DomClass::DOMHTMLBRElement);
+    EXPECT_EQ(one(document, u"b")->domClass, DomClass::Other);
+    EXPECT_TRUE(one(document, u"b")->isHTMLElement);
+    EXPECT_EQ(document->getElementsByTagName(u"a").at(1)->domClass, DomClass::Other);
+    EXPECT_FALSE(document->getElementsByTagName(u"a").at(1)->isHTMLElement);
+}
+
+TEST_F(WebViewDocument, TakesACdataSectionForNoText) {
+    const auto document =
+        documentOf("<html xmlns='http://www.w3.org/1999/xhtml'><body><p><![CDATA[c]]>t</p></body></html>",
+                   "application/xhtml+xml");
+    const DomNode* const p = one(document, u"p");
+    ASSERT_NE(p, nullptr);
+    EXPECT_EQ(p->firstChild->domClass, DomClass::Other);
+    EXPECT_EQ(p->firstChild->data, QString("c"));
+    EXPECT_EQ(p->lastChild->domClass, DomClass::DOMText);
+}
+
+TEST_F(WebViewDocument, HasClassNamesAsTheyStand) {
+    const auto document = documentOf("<div class=' info '></div><svg class='info'></svg>");
+    ASSERT_NE(document, nullptr);
+    EXPECT_EQ(one(document, u"div")->className, " info ");
+    EXPECT_EQ(one(document, u"svg")->className, "");
+    EXPECT_FALSE(one(document, u"svg")->isHTMLElement);
+}
+
+TEST_F(WebViewDocument, HasNamesAndAttributes) {
+    const auto document = documentOf("<a name='poster' ID='x' title=''></a>");
+    const DomNode* const anchor = one(document, u"a");
+    ASSERT_NE(anchor, nullptr);
+    EXPECT_EQ(anchor->name, "poster");
+    EXPECT_EQ(anchor->getAttribute(u"id"), QString("x"));
+    EXPECT_EQ(anchor->getAttribute(u"title"), QString(""));
+    EXPECT_EQ(anchor->getAttribute(u"href"), std::nullopt);
+}
+
+TEST_F(WebViewDocument, HasAddressesAsThePageResolvesThem) {
+    const auto document = documentOf("<base href='http://films.example/dir/'><img src='a b.jpg'><img><img "
+                                     "src=''><img src='http://[bad/'>");
+    ASSERT_NE(document, nullptr);
+    const auto images = document->getElementsByTagName(u"img");
+    ASSERT_EQ(images.size(), 4U);
+    EXPECT_EQ(images[0]->src, "http://films.example/dir/a%20b.jpg");
+    EXPECT_EQ(images[1]->src, "");
+    EXPECT_EQ(images[3]->src, "http://[bad/");
+}
+
+TEST_F(WebViewDocument, HasTheTitleAsItStands) {
+    documentOf("<title>\n  A   film (2005) \n</title>");
+    EXPECT_EQ(shownTitle(), "\n  A   film (2005) \n");
+}
+
+TEST_F(WebViewDocument, HasATbodyThatTheParserMadeAndNoneInAScriptsTable) {
+    const auto document =
+        documentOf("<table id=a><tr><td></table><table id=b></table><script>"
+                   "document.getElementById('b').append(document.createElement('tr'))</script>");
+    ASSERT_NE(document, nullptr);
+    EXPECT_EQ(outline(document->getElementsByTagName(u"table").at(0)), "TBODY(TR(TD()))");
+    EXPECT_EQ(outline(document->getElementsByTagName(u"table").at(1)), "TR()");
+}
+
+TEST_F(WebViewDocument, HasLettersOfAnyScript) {
+    documentOf("<title>\xC3\x84 \xE6\x98\xA0 \xF0\x9F\x98\x80</title>");
+    EXPECT_EQ(shownTitle(), QString::fromUtf8("\xC3\x84 \xE6\x98\xA0 \xF0\x9F\x98\x80"));
+}
+
+TEST_F(WebViewDocument, KnowsItsAddress) {
+    EXPECT_EQ(documentOf("<p>")->url, server.url("/page").toString());
+}
+
+TEST_F(WebViewDocument, IsAsTheScriptsHaveMadeIt) {
+    const auto document = documentOf("<title>one</title><div></div><script>document.title = 'two';"
+                                     "document.querySelector('div').className = 'info'</script>");
+    EXPECT_EQ(shownTitle(), "two");
+    EXPECT_EQ(one(document, u"div")->className, "info");
+}
+
+// Hostile pages
+
+TEST_F(WebViewDocument, IsTrueOnAPageThatReplacesPrototypes) {
+    const auto document = documentOf(R"(<title>true</title><div class="info">a</div><script>
+        for (const p of [Node, Element, HTMLElement, Document, CharacterData, HTMLAnchorElement, HTMLImageElement]) {
+            for (const name of Object.getOwnPropertyNames(p.prototype)) {
+                try { Object.defineProperty(p.prototype, name, {get() { return 'false'; }, value: undefined}); } catch (e) {}
+                try { p.prototype[name] = () => 'false'; } catch (e) {}
+            }
+        }
+        Object.prototype.toJSON = Array.prototype.toJSON = String.prototype.toJSON = () => 'false';
+        JSON.stringify = () => 'false'; Object.getPrototypeOf = () => null; Array.prototype.push = () => 0;
+        Map.prototype.get = () => 1; window.Node = window.Text = window.HTMLElement = function () {};
+        </script>)");
+    EXPECT_EQ(shownTitle(), "true");
+    ASSERT_NE(one(document, u"div"), nullptr);
+    EXPECT_EQ(one(document, u"div")->className, "info");
+    EXPECT_EQ(outline(one(document, u"div")), "#text=a");
+}
+
+TEST_F(WebViewDocument, IsTrueOnAPageThatNamesItsElementsLikeProperties) {
+    const auto document = documentOf(
+        "<form class=info><input name=firstChild><input name=nextSibling><input name=parentNode><input "
+        "name=nodeName>"
+        "<input name=className><input name=attributes><input name=getAttribute><input name=getAttributeNames>"
+        "<input name=nodeType><input name=childNodes></form>"
+        "<img name=documentElement><img name=firstChild><img name=URL><form name=getElementsByTagName></form>"
+        "<embed name=createTreeWalker><img id=Node><img id=Text><img id=JSON><img id=Object><p>end</p>");
+    const DomNode* const form = one(document, u"form");
+    ASSERT_NE(form, nullptr);
+    EXPECT_EQ(form->nodeName, "FORM");
+    EXPECT_EQ(form->className, "info");
+    EXPECT_EQ(form->firstChild->getAttribute(u"name"), QString("firstChild"));
+    EXPECT_EQ(document->getElementsByTagName(u"input").size(), 10U);
+    EXPECT_EQ(outline(one(document, u"p")), "#text=end");
+    EXPECT_EQ(document->url, server.url("/page").toString());
+}
+
+/** A page whose script nests DEPTH elements in each other. */
+QByteArray deepPage(const char* style, int depth) {
+    return "<title>deep</title><body style='" + QByteArray(style) + "'><script>let p = document.body;" +
+           "for (let i = 0; i < " + QByteArray::number(depth) +
+           "; ++i) { const d = document.createElement('div'); p.append(d); p = d; } "
+           "p.append('bottom');</script>";
+}
+
+TEST_F(WebViewDocument, OfTenThousandLevelsIsWhole) {
+    const auto document = documentOf(deepPage("display: none", 10000));
+    ASSERT_NE(document, nullptr);
+    const auto levels = document->getElementsByTagName(u"div");
+    ASSERT_EQ(levels.size(), 10000U);
+    EXPECT_EQ(levels.back()->firstChild->data, QString("bottom"));
+}
+
+TEST_F(WebViewDocument, OfAPageThatTheEngineBreaksOnIsNoneAndTheNextOneIsWhole) {
+    server.serve("/deep", deepPage("", 50000));
+    view->loadRequest(server.url("/deep"));
+    waitFor(1500);
+    (void)document();
+    server.serve("/next", "<title>next</title>");
+    load("/next");
+    EXPECT_EQ(shownTitle(), "next");
+}
+
+TEST_F(WebViewDocument, OfMegabytesOfTextIsWhole) {
+    // Hidden, since the engine takes its time to lay such a text out.
+    const auto document = documentOf("<p hidden>" + QByteArray(8 << 20, 'x') + "</p>");
+    ASSERT_NE(one(document, u"p"), nullptr);
+    qsizetype length = 0;
+    for (const DomNode* part = one(document, u"p")->firstChild; part != nullptr; part = part->nextSibling) {
+        length += part->data->size();
+    }
+    EXPECT_EQ(length, 8 << 20);
+}
+
+TEST_F(WebViewDocument, OfAPageBeyondAllMeasureIsNone) {
+    EXPECT_EQ(documentOf("<p></p><script>const t = 'x'.repeat(1 << 20); for (let i = 0; i < 65; ++i)"
+                         "document.querySelector('p').append(document.createComment(t));</script>"),
+              nullptr);
+}
+
+TEST_F(WebViewDocument, OfAPageWhoseScriptsNeverRestIsNoneAfterTheTimeLimit) {
+    server.serve("/busy", "<title>busy</title><script>setTimeout(() => { for (;;) {} }, 200)</script>");
+    load("/busy");
+    waitFor(500);
+    view->setDocumentTimeLimit(std::chrono::milliseconds(300));
+    QElapsedTimer time;
+    time.start();
+    EXPECT_EQ(document(), nullptr);
+    EXPECT_LT(time.elapsed(), 10000);
+    server.serve("/next", "<title>next</title>");
+    load("/next");
+    view->setDocumentTimeLimit(std::chrono::seconds(20));
+    EXPECT_EQ(shownTitle(), "next");
+}
+
+TEST_F(WebViewDocument, OfADeadPageIsNone) {
+    documentOf("<title>alive</title>");
+    view->loadRequest(QUrl("chrome://crash"));
+    waitFor(1000);
+    view->setDocumentTimeLimit(std::chrono::seconds(600));
+    EXPECT_EQ(document(), nullptr);
+    server.serve("/next", "<title>next</title>");
+    load("/next");
+    EXPECT_EQ(shownTitle(), "next");
+}
+
+TEST_F(WebViewDocument, OfTwentyThousandNodesIsWhole) {
+    QByteArray html = "<title>large</title>";
+    for (int i = 0; i < 5000; ++i) {
+        html += "<p class='c'><b id='n" + QByteArray::number(i) + "'>text</b> more</p>";
+    }
+    server.serve("/page", html);
+    load("/page");
+    for (int round = 0; round < 3; ++round) {
+        QElapsedTimer time;
+        time.start();
+        const auto taken = document();
+        std::printf("20,000 nodes copied in %lld ms\n", static_cast<long long>(time.elapsed()));
+        ASSERT_NE(taken, nullptr);
+        EXPECT_EQ(taken->getElementsByTagName(u"b").size(), 5000U);
+    }
+}
+
+} // namespace
+} // namespace velmora::test

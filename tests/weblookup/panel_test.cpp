@@ -1,0 +1,393 @@
+#include "fake_engine.h"
+#include "panel_fixture.h"
+#include "support/stream_capture.h"
+
+#include <QApplication>
+#include <QTimer>
+
+namespace velmora::test {
+namespace {
+
+class Panel : public testing::Test {
+protected:
+    Panel()
+        : view(new WebView(FakeEngine::maker(engine), nullptr)), window(new PanelWindow(view)),
+          panel(window->panel) {}
+    ~Panel() override { delete window; }
+
+    /** Has the engine load a page, so that it exists. */
+    void load() {
+        panel->entry_search->setText("x");
+        panel->search();
+    }
+    void loadPage(const QString& title) {
+        load();
+        engine.listener->loadStarted(FrameKind::Main);
+        engine.listener->loadFinished(FrameKind::Main);
+        engine.snapshot = snapshotText(title);
+    }
+    [[nodiscard]] const std::vector<FormFillInfo>& records() const { return window->receiver.records; }
+
+    FakeEngine::State engine;
+    WebView* view;
+    QPointer<PanelWindow> window;
+    QPointer<TagWebBrowser> panel;
+};
+
+QStringList itemsOf(const QComboBox& box) {
+    QStringList items;
+    for (int i = 0; i < box.count(); ++i) {
+        items.append(box.itemText(i));
+    }
+    return items;
+}
+
+TEST_F(Panel, AwakeningFillsThePopupWithTheThreeSites) {
+    panel->combo_search->addItem("left over");
+    panel->awakeFromNib();
+    EXPECT_EQ(itemsOf(*panel->combo_search), QStringList({"IMDb", "Amazon", "Google"}));
+}
+
+TEST_F(Panel, AwakeningTwiceSearchesOncePerPress) {
+    panel->awakeFromNib();
+    panel->entry_search->setText("x");
+    panel->btn_search->click();
+    EXPECT_EQ(engine.loaded.size(), 1);
+}
+
+TEST_F(Panel, SettingTheSearchFieldIsLogged) {
+    StreamCapture log;
+    panel->setSearchField("My Film %1 (2)");
+    EXPECT_EQ(log.text(), "set search field to My Film %1 (2)\n");
+    EXPECT_EQ(panel->entry_search->text(), "My Film %1 (2)");
+}
+
+// Search
+
+TEST_F(Panel, SearchHandsTheAddressOfTheChosenSiteToTheView) {
+    panel->entry_search->setText("it's & <b>");
+    for (const int site : {0, 1, 2}) {
+        panel->combo_search->setCurrentIndex(site);
+        panel->search();
+    }
+    ASSERT_EQ(engine.loaded.size(), 3);
+    EXPECT_EQ(engine.loaded[0].toEncoded(), "http://www.imdb.com/find?q=it's%20&%20%3Cb%3E");
+    EXPECT_EQ(engine.loaded[1].toEncoded(), "http://www.amazon.com/exec/obidos/search-handle-url/"
+                                            "index%3Dblended%26field-keywords%3Dit's%20&%20%3Cb%3E");
+    EXPECT_EQ(engine.loaded[2].toEncoded(), "http://www.google.com/search?q=it's%20&%20%3Cb%3E");
+}
+
+TEST_F(Panel, SearchForNothingLoadsNothingAndChangesNoControl) {
+    panel->btn_formFill->setEnabled(true);
+    panel->search();
+    EXPECT_EQ(engine.made, 0);
+    EXPECT_TRUE(panel->btn_formFill->isEnabled());
+    EXPECT_FALSE(panel->btn_searchBack->isEnabled());
+    EXPECT_FALSE(panel->progress_search->isAnimating());
+}
+
+TEST_F(Panel, SearchForABlankLoads) {
+    panel->entry_search->setText(" ");
+    panel->search();
+    ASSERT_EQ(engine.loaded.size(), 1);
+    EXPECT_EQ(engine.loaded[0].toEncoded(), "http://www.imdb.com/find?q=%20");
+}
+
+TEST_F(Panel, SearchWithoutASiteLoadsNothing) {
+    panel->combo_search->setCurrentIndex(-1);
+    panel->entry_search->setText("x");
+    panel->search();
+    EXPECT_TRUE(engine.loaded.isEmpty());
+}
+
+TEST_F(Panel, SearchAsksTheHostsOfItsTable) {
+    panel->searchHosts = {"127.0.0.1:99", "b", "c"};
+    load();
+    EXPECT_EQ(engine.loaded.value(0).toEncoded(), "http://127.0.0.1:99/find?q=x");
+}
+
+TEST_F(Panel, ReturnInTheSearchFieldSearches) {
+    panel->entry_search->setText("x");
+    emit panel->entry_search->returnPressed();
+    EXPECT_EQ(engine.loaded.size(), 1);
+}
+
+TEST_F(Panel, EngineIsMadeByTheFirstSearchAndKept) {
+    window->show();
+    QApplication::processEvents();
+    EXPECT_EQ(engine.made, 0);
+    EXPECT_FALSE(view->canGoBack());
+    load();
+    load();
+    EXPECT_EQ(engine.made, 1);
+}
+
+// Load notifications
+
+TEST_F(Panel, StartOfAnyFrameStopsTheFormFillAndStartsTheProgress) {
+    load();
+    for (const FrameKind kind : {FrameKind::Main, FrameKind::Sub}) {
+        panel->btn_formFill->setEnabled(true);
+        panel->progress_search->stopAnimation();
+        engine.listener->loadStarted(kind);
+        EXPECT_FALSE(panel->btn_formFill->isEnabled());
+        EXPECT_TRUE(panel->progress_search->isAnimating());
+    }
+}
+
+TEST_F(Panel, StartAndFinishOfAnyFrameSetTheBackButtonAsTheViewCanGoBack) {
+    load();
+    for (const FrameKind kind : {FrameKind::Main, FrameKind::Sub}) {
+        for (const bool can : {true, false}) {
+            engine.canGoBack = can;
+            panel->btn_searchBack->setEnabled(!can);
+            engine.listener->loadStarted(kind);
+            EXPECT_EQ(panel->btn_searchBack->isEnabled(), can);
+            panel->btn_searchBack->setEnabled(!can);
+            engine.listener->loadFinished(kind);
+            EXPECT_EQ(panel->btn_searchBack->isEnabled(), can);
+        }
+    }
+}
+
+TEST_F(Panel, FinishOfTheMainFrameEnablesTheFormFillAndStopsTheProgress) {
+    load();
+    engine.listener->loadStarted(FrameKind::Main);
+    engine.listener->loadFinished(FrameKind::Main);
+    EXPECT_TRUE(panel->btn_formFill->isEnabled());
+    EXPECT_FALSE(panel->progress_search->isAnimating());
+}
+
+TEST_F(Panel, FinishOfASubframeDoesNotEnableTheFormFill) {
+    load();
+    engine.listener->loadStarted(FrameKind::Main);
+    engine.listener->loadFinished(FrameKind::Sub);
+    EXPECT_FALSE(panel->btn_formFill->isEnabled());
+    EXPECT_TRUE(panel->progress_search->isAnimating());
+}
+
+TEST_F(Panel, SubframeThatStartsLateStopsTheFormFillUntilTheNextMainFrame) {
+    load();
+    engine.listener->loadStarted(FrameKind::Main);
+    engine.listener->loadFinished(FrameKind::Main);
+    engine.listener->loadStarted(FrameKind::Sub);
+    engine.listener->loadFinished(FrameKind::Sub);
+    EXPECT_FALSE(panel->btn_formFill->isEnabled());
+    EXPECT_TRUE(panel->progress_search->isAnimating());
+    engine.listener->loadFinished(FrameKind::Main);
+    EXPECT_TRUE(panel->btn_formFill->isEnabled());
+}
+
+TEST_F(Panel, FailureOfAnyFrameOnlyStopsTheProgress) {
+    load();
+    for (const FrameKind kind : {FrameKind::Main, FrameKind::Sub}) {
+        engine.canGoBack = false;
+        engine.listener->loadStarted(FrameKind::Main);
+        engine.canGoBack = true;
+        engine.listener->loadFailed(kind);
+        EXPECT_FALSE(panel->progress_search->isAnimating());
+        EXPECT_FALSE(panel->btn_formFill->isEnabled());
+        EXPECT_FALSE(panel->btn_searchBack->isEnabled());
+    }
+}
+
+TEST_F(Panel, BothFailureNotificationsAreTheSame) {
+    for (const auto failed : {&TagWebBrowser::webViewDidFailLoadWithError,
+                              &TagWebBrowser::webViewDidFailProvisionalLoadWithError}) {
+        panel->progress_search->startAnimation();
+        panel->btn_formFill->setEnabled(true);
+        (panel->*failed)(view, view->mainFrame());
+        EXPECT_FALSE(panel->progress_search->isAnimating());
+        EXPECT_TRUE(panel->btn_formFill->isEnabled());
+    }
+}
+
+TEST_F(Panel, MainFrameThatFinishesAfterAFailureEnablesTheFormFill) {
+    load();
+    engine.listener->loadStarted(FrameKind::Main);
+    engine.listener->loadFailed(FrameKind::Main);
+    engine.listener->loadStarted(FrameKind::Main);
+    engine.listener->loadFinished(FrameKind::Main);
+    EXPECT_TRUE(panel->btn_formFill->isEnabled());
+}
+
+TEST_F(Panel, BackButtonGoesBackWhereTheViewCan) {
+    load();
+    panel->btn_searchBack->setEnabled(true);
+    panel->btn_searchBack->click();
+    EXPECT_EQ(engine.wentBack, 0);
+    engine.canGoBack = true;
+    panel->btn_searchBack->click();
+    EXPECT_EQ(engine.wentBack, 1);
+}
+
+// Form fill
+
+TEST_F(Panel, FormFillHandsTheRecordToTheController) {
+    loadPage("Film (2005)");
+    StreamCapture log;
+    panel->btn_formFill->click();
+    EXPECT_EQ(log.text(), "in formFill\n<title> tag has \"Film (2005)\"\ngot FormFillInfo struct\n");
+    ASSERT_EQ(records().size(), 1U);
+    EXPECT_EQ(records()[0].title, QString("Film "));
+}
+
+TEST_F(Panel, FormFillReadsThePageAsOneOfTheSiteInThePopup) {
+    loadPage("Shop: Film (2005)");
+    panel->combo_search->setCurrentIndex(1);
+    panel->formFill();
+    ASSERT_EQ(records().size(), 1U);
+    EXPECT_EQ(records()[0].title, QString("Film (2005)"));
+}
+
+TEST_F(Panel, FormFillOfASearchEngineIsLoggedAndChangesNothing) {
+    loadPage("Film (2005)");
+    panel->combo_search->setCurrentIndex(2);
+    StreamCapture log;
+    panel->formFill();
+    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_TRUE(records().empty());
+}
+
+TEST_F(Panel, FormFillBeforeTheFirstLoadIsLoggedAndStartsNoEngine) {
+    StreamCapture log;
+    panel->formFill();
+    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_EQ(engine.made, 0);
+    EXPECT_TRUE(records().empty());
+}
+
+TEST_F(Panel, FormFillWithoutADocumentIsLoggedAndChangesNothing) {
+    load();
+    StreamCapture log;
+    for (const char* const text : {"", "no JSON", "{}", R"({"url":"x","nodes":[[5,1,"#text","a"]]})"}) {
+        engine.snapshot = QString(text);
+        panel->formFill();
+    }
+    EXPECT_EQ(log.text(), "in formFill\nin formFill\nin formFill\nin formFill\n");
+    EXPECT_TRUE(records().empty());
+}
+
+TEST_F(Panel, FormFillWithoutAControllerIsHarmless) {
+    loadPage("Film");
+    panel->controller = nullptr;
+    StreamCapture log;
+    panel->formFill();
+    EXPECT_NE(log.text().find("got FormFillInfo struct\n"), std::string::npos);
+}
+
+TEST_F(Panel, FormFillWithoutAnyControlIsLoggedOnly) {
+    TagWebBrowser bare;
+    bare.awakeFromNib();
+    bare.setSearchField("x");
+    bare.search();
+    StreamCapture log;
+    bare.formFill();
+    EXPECT_EQ(log.text(), "in formFill\n");
+}
+
+// Waiting for the page
+
+/** Presses "Fill Form" on a page that keeps its document back, and does MEANWHILE during the wait. */
+void fillWhile(TagWebBrowser& panel, const std::function<void()>& meanwhile) {
+    QTimer::singleShot(0, &panel, meanwhile);
+    panel.formFill();
+}
+
+TEST_F(Panel, PressWhileWaitingDoesNothing) {
+    load();
+    StreamCapture log;
+    fillWhile(*panel, [this] {
+        panel->formFill();
+        panel->btn_formFill->click();
+        engine.waitingTaker(snapshotText("Film"));
+    });
+    EXPECT_EQ(engine.snapshotsAsked, 1);
+    EXPECT_EQ(records().size(), 1U);
+    EXPECT_EQ(log.text(), "in formFill\n<title> tag has \"Film\"\ngot FormFillInfo struct\n");
+}
+
+TEST_F(Panel, CanFillAgainAfterAWait) {
+    load();
+    fillWhile(*panel, [this] { engine.waitingTaker(snapshotText("One")); });
+    fillWhile(*panel, [this] { engine.waitingTaker(snapshotText("Two")); });
+    ASSERT_EQ(records().size(), 2U);
+    EXPECT_EQ(records()[1].title, QString("Two"));
+}
+
+TEST_F(Panel, DeathOfThePageEndsTheWaitWithoutADocument) {
+    load();
+    StreamCapture log;
+    fillWhile(*panel, [this] { engine.listener->pageLost(); });
+    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_TRUE(records().empty());
+}
+
+TEST_F(Panel, NextPageEndsTheWaitWithoutADocument) {
+    load();
+    StreamCapture log;
+    fillWhile(*panel, [this] { engine.listener->loadStarted(FrameKind::Main); });
+    EXPECT_EQ(log.text(), "in formFill\n");
+}
+
+TEST_F(Panel, SubframeThatLoadsDoesNotEndTheWait) {
+    load();
+    fillWhile(*panel, [this] {
+        engine.listener->loadStarted(FrameKind::Sub);
+        engine.waitingTaker(snapshotText("Film"));
+    });
+    EXPECT_EQ(records().size(), 1U);
+}
+
+TEST_F(Panel, DocumentThatComesAfterTheWaitIsDropped) {
+    load();
+    fillWhile(*panel, [this] { engine.listener->pageLost(); });
+    engine.waitingTaker(snapshotText("Late"));
+    EXPECT_TRUE(records().empty());
+}
+
+TEST_F(Panel, PageThatNeverAnswersHasNoDocumentAfterTheTimeLimit) {
+    load();
+    view->setDocumentTimeLimit(std::chrono::milliseconds(20));
+    StreamCapture log;
+    panel->formFill();
+    EXPECT_EQ(log.text(), "in formFill\n");
+}
+
+TEST_F(Panel, WindowThatGoesAwayDuringTheWaitEndsIt) {
+    load();
+    StreamCapture log;
+    fillWhile(*panel, [this] { delete window; });
+    EXPECT_EQ(log.text(), "in formFill\n");
+}
+
+TEST_F(Panel, ViewThatGoesAwayDuringTheWaitEndsIt) {
+    load();
+    StreamCapture log;
+    fillWhile(*panel, [this] { delete view; });
+    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_TRUE(records().empty());
+}
+
+TEST_F(Panel, PanelThatGoesAwayDuringTheWaitHandsNothingOn) {
+    load();
+    QTimer::singleShot(0, view, [this] {
+        delete panel;
+        engine.waitingTaker(snapshotText("Film"));
+    });
+    panel->formFill();
+    EXPECT_TRUE(records().empty());
+}
+
+TEST_F(Panel, SearchDuringTheWaitLoads) {
+    load();
+    fillWhile(*panel, [this] {
+        load();
+        engine.listener->loadStarted(FrameKind::Main);
+    });
+    EXPECT_EQ(engine.loaded.size(), 2);
+    EXPECT_TRUE(records().empty());
+}
+
+} // namespace
+} // namespace velmora::test
