@@ -70,6 +70,7 @@ public:
 private:
     void connectController();
     void connectCommands();
+    void makeRoomForWebPage();
 
     ApplicationTermination& termination_;
     std::unique_ptr<MediaFile> mediaFile_;

@@ -69,6 +69,15 @@ void MyDocument::windowControllerDidLoadNib() {
     termination_.setDelegate(this);
 }
 
+/** The page gets its share of the window once there is a page to see. */
+void MyDocument::makeRoomForWebPage() {
+    disconnect(ui_->webview_search, &WebView::didStartProvisionalLoad, this, nullptr);
+    const int height = ui_->split_main->height();
+    if (ui_->box_web->height() < height / 3) {
+        ui_->split_main->setSizes({height / 2, height / 2});
+    }
+}
+
 void MyDocument::showWindow() {
     window_->show();
     ui_->tbl_mediaFiles->setFocus();
@@ -87,6 +96,7 @@ void MyDocument::connectController() {
     webBrowser_->progress_search = ui_->progress_search;
     webBrowser_->webview_search = ui_->webview_search;
     webBrowser_->awakeFromNib();
+    connect(ui_->webview_search, &WebView::didStartProvisionalLoad, this, &MyDocument::makeRoomForWebPage);
 }
 
 void MyDocument::connectCommands() {
