@@ -8,7 +8,7 @@ namespace velmora {
 namespace {
 
 /** The most rows of one chunk: an insertion moves at most as many pointers. */
-constexpr std::size_t chunkCapacity = 512;
+constexpr std::size_t chunkCapacity = 256;
 
 } // namespace
 

@@ -5,7 +5,8 @@
 
 #include <QFileIconProvider>
 #include <QFileInfo>
-#include <QHash>
+
+#include <map>
 
 namespace velmora {
 namespace {
@@ -18,20 +19,20 @@ QIcon askDesktop(const QString& path) {
 } // namespace
 
 QIcon fileIcon(const QString& path) {
-    static QHash<QString, QIcon> iconsByExtension;
+    static std::map<QString, QIcon, std::less<>> iconsByExtension;
 
     const QString extension = pathExtension(path);
     // Without an extension the desktop goes by what the file is or holds, and so does a folder's icon.
     if (extension.isEmpty()) {
         return askDesktop(path);
     }
-    if (const auto known = iconsByExtension.constFind(extension); known != iconsByExtension.constEnd()) {
-        return *known;
+    if (const auto known = iconsByExtension.find(extension); known != iconsByExtension.end()) {
+        return known->second;
     }
     const QIcon icon = askDesktop(path);
     const std::optional<FileAttributes> attributes = fileAttributes(pathBytes(path));
     if (attributes && !attributes->isDirectory) {
-        iconsByExtension.insert(extension, icon);
+        iconsByExtension.emplace(extension, icon);
     }
     return icon;
 }

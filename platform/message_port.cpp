@@ -7,7 +7,6 @@
 #include <chrono>
 #include <deque>
 #include <mutex>
-#include <optional>
 #include <utility>
 
 namespace velmora {
@@ -36,25 +35,22 @@ public:
         return true;
     }
 
-    std::optional<PortMessage> pop() {
+    /** All messages that are queued now, in their order. */
+    std::deque<PortMessage> takeAll() {
         const std::lock_guard lock(mutex_);
-        if (messages_.empty()) {
-            return std::nullopt;
-        }
-        PortMessage first = std::move(messages_.front());
-        messages_.pop_front();
-        return first;
+        return std::exchange(messages_, {});
     }
 
-    /** RECEIVER is woken once for all messages that arrive until it takes note of it. */
+    /** From now on RECEIVER is woken when messages come: once for all that come until it takes note. */
     void serve(QObject* receiver) {
         const std::lock_guard lock(mutex_);
         receiver_ = receiver;
-        awake_ = false;
-        wakeReceiver();
+        if (!messages_.empty()) {
+            wakeReceiver();
+        }
     }
 
-    /** The receiver has come: wake it again for whatever is or will be left. */
+    /** The receiver takes note that it was woken. */
     void receiverCame() {
         const std::lock_guard lock(mutex_);
         awake_ = false;
@@ -83,7 +79,7 @@ private:
     }
 
     void wakeReceiver() {
-        if (!receiver_ || awake_ || messages_.empty()) {
+        if (!receiver_ || awake_) {
             return;
         }
         awake_ = true;
@@ -137,17 +133,22 @@ void MessagePort::handleQueuedMessages() {
     QElapsedTimer slice;
     slice.start();
     // A handler may start a modal loop, or ask for the port to be deleted.
-    while (ModalLoop::depth() == 0 && slice.elapsed() < sliceLength) {
-        const std::optional<PortMessage> message = queue_->pop();
-        if (!message) {
+    while (ModalLoop::depth() == 0) {
+        if (taken_.empty()) {
+            taken_ = queue_->takeAll();
+        }
+        if (taken_.empty()) {
             return;
         }
-        if (delegate_) {
-            delegate_(*message);
+        if (slice.elapsed() >= sliceLength) {
+            queue_->wakeAgain();
+            return;
         }
-    }
-    if (ModalLoop::depth() == 0) {
-        queue_->wakeAgain();
+        const PortMessage message = std::move(taken_.front());
+        taken_.pop_front();
+        if (delegate_) {
+            delegate_(message);
+        }
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QObject>
 
+#include <deque>
 #include <functional>
 #include <memory>
 
@@ -61,6 +62,8 @@ private:
     void handleQueuedMessages();
 
     std::shared_ptr<PortQueue> queue_;
+    /** Out of the queue and not yet handled. */
+    std::deque<PortMessage> taken_;
     Delegate delegate_;
     ModalLoopWatch modalLoopWatch_;
 };
