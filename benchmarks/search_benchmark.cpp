@@ -1,0 +1,233 @@
+/** What a search of a large library costs: 100,000 files of more than 100 KiB in 1,000 folders.
+
+    Prints each cost in milliseconds, as a multiple of what it is measured against, and as ok or TOO SLOW.
+   Ends with 1 when anything is too slow. Start it with the offscreen platform on a machine without a display.
+ */
+
+#include "browser/folder_walk.h"
+#include "browser/media_search.h"
+#include "browser/media_table.h"
+#include "platform/file_path.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+
+#include <fcntl.h>
+#include <malloc.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace velmora;
+
+constexpr int folderCount = 1000;
+constexpr int filesPerFolder = 100;
+constexpr int fileCount = folderCount * filesPerFolder;
+constexpr off_t fileSize = 200'000;
+
+/** Names in no order, as a person's are. */
+std::string fileName(unsigned number) {
+    const unsigned scattered = number * 2654435761U;
+    return "a recording of some evening " + std::to_string(scattered) + ".mp3";
+}
+
+bool makeFile(const std::string& path) {
+    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
+    if (file < 0) {
+        return false;
+    }
+    const bool sized = ftruncate(file, fileSize) == 0;
+    return close(file) == 0 && sized;
+}
+
+bool makeLibrary(const std::string& root) {
+    unsigned number = 0;
+    for (int folder = 0; folder < folderCount; ++folder) {
+        const std::string path = root + "/folder " + std::to_string(folder);
+        if (mkdir(path.c_str(), 0755) != 0) {
+            return false;
+        }
+        for (int file = 0; file < filesPerFolder; ++file) {
+            if (!makeFile(path + '/' + fileName(number++))) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+double milliseconds(const QElapsedTimer& timer) {
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+/** The fastest of three runs of MEASURE. */
+template <class Measure>
+double best(Measure measure) {
+    return std::min({measure(), measure(), measure()});
+}
+
+double runFind(const std::string& root) {
+    const std::string command = "find '" + root + "' -type f -size +100k > /dev/null";
+    QElapsedTimer timer;
+    timer.start();
+    if (std::system(command.c_str()) != 0) {
+        std::fputs("find failed\n", stderr);
+        std::exit(2);
+    }
+    return milliseconds(timer);
+}
+
+class Counter : public FolderWalkListener {
+public:
+    bool searchRunning() const override { return true; }
+    void enteringFolder(const QByteArray&) override {}
+    void foundFile(const QByteArray&) override { ++files; }
+
+    int files = 0;
+};
+
+double runWalk(const std::string& root) {
+    Counter counter;
+    QElapsedTimer timer;
+    timer.start();
+    searchFolder(QByteArray::fromStdString(root), counter);
+    const double time = milliseconds(timer);
+    if (counter.files != fileCount) {
+        std::fprintf(stderr, "the walk found %d files\n", counter.files);
+        std::exit(2);
+    }
+    return time;
+}
+
+class NoDocument : public MediaDocument {
+public:
+    QString displayName() const override { return {}; }
+    bool readFromURL(const std::optional<QUrl>&, const QString&, Error*) override { return false; }
+    MediaFile* mediaFile() const override { return nullptr; }
+    bool saveMediaFile(Error*) override { return false; }
+};
+
+/** The longest time between two beats of a timer that is always due. */
+class GapMeter {
+public:
+    GapMeter() {
+        QObject::connect(&timer_, &QTimer::timeout, [this] { beat(); });
+        sinceBeat_.start();
+        timer_.start(1);
+    }
+
+    double longest() const { return longest_; }
+
+private:
+    void beat() {
+        longest_ = std::max(longest_, milliseconds(sinceBeat_));
+        sinceBeat_.restart();
+    }
+
+    QTimer timer_;
+    QElapsedTimer sinceBeat_;
+    double longest_ = 0;
+};
+
+struct Listing {
+    double time = 0;
+    double longestGap = 0;
+    double bytesPerRow = 0;
+};
+
+/** Lists the whole library in a shown window. SORTCOLUMN is an index into the table's columns, -1 for no
+ * order. */
+Listing runListing(const std::string& root, int sortColumn) {
+    NoDocument document;
+    QTableView view;
+    view.resize(800, 600);
+    view.show();
+    MediaTable table(view, document, {});
+    if (sortColumn >= 0) {
+        table.tableViewDidClickTableColumn(sortColumn);
+    }
+    MediaSearch search;
+    QObject::connect(&search, &MediaSearch::fileFound, &table, &MediaTable::addMediaFile);
+    QCoreApplication::processEvents();
+
+    malloc_trim(0);
+    const struct mallinfo2 before = mallinfo2();
+    QElapsedTimer timer;
+    timer.start();
+    QEventLoop loop;
+    double time = 0;
+    QObject::connect(view.model(), &QAbstractItemModel::rowsInserted, &loop, [&] {
+        if (view.model()->rowCount() == fileCount) {
+            time = milliseconds(timer);
+            // The gap that this belongs to counts too.
+            QTimer::singleShot(20, &loop, &QEventLoop::quit);
+        }
+    });
+    const GapMeter gaps;
+    search.queueFolders({pathFromBytes(QByteArray::fromStdString(root))});
+    loop.exec();
+    const struct mallinfo2 after = mallinfo2();
+    const auto inUse = [](const struct mallinfo2& info) {
+        return static_cast<double>(info.uordblks + info.hblkhd);
+    };
+    return {time, gaps.longest(), (inUse(after) - inUse(before)) / fileCount};
+}
+
+Listing bestListing(const std::string& root, int sortColumn) {
+    Listing result = runListing(root, sortColumn);
+    for (int again = 0; again < 2; ++again) {
+        const Listing next = runListing(root, sortColumn);
+        result.time = std::min(result.time, next.time);
+        result.longestGap = std::max(result.longestGap, next.longestGap);
+        result.bytesPerRow = std::max(result.bytesPerRow, next.bytesPerRow);
+    }
+    return result;
+}
+
+bool report(const char* what, double value, const char* unit, double limit) {
+    const bool ok = value <= limit;
+    std::printf("%-46s %10.2f %-12s limit %8.2f  %s\n", what, value, unit, limit, ok ? "ok" : "TOO SLOW");
+    return ok;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    const QTemporaryDir folder;
+    const std::string root = folder.path().toStdString();
+    if (!folder.isValid() || !makeLibrary(root)) {
+        std::fputs("can't make the library\n", stderr);
+        return 2;
+    }
+    // A search logs each folder and its end.
+    if (!std::freopen("/dev/null", "w", stderr)) {
+        return 2;
+    }
+
+    const double find = best([&] { return runFind(root); });
+    const double walk = best([&] { return runWalk(root); });
+    const Listing unsorted = bestListing(root, -1);
+    const Listing sorted = bestListing(root, MediaTableModel::columnIndex(u"filename"));
+
+    std::printf("find %.1f ms, walk %.1f ms, listing %.1f ms, listing by name %.1f ms\n", find, walk,
+                unsorted.time, sorted.time);
+    bool ok = report("walk", walk / find, "x find", 1.5);
+    ok &= report("listing in the order of arrival", unsorted.time / walk, "x walk", 3);
+    ok &= report("listing in the order of names", sorted.time / walk, "x walk", 5);
+    ok &= report("longest gap in the event loop", unsorted.longestGap, "ms", 50);
+    ok &= report("longest gap in the event loop, by name", sorted.longestGap, "ms", 50);
+    ok &= report("memory of a row", std::max(unsorted.bytesPerRow, sorted.bytesPerRow), "bytes", 1024);
+    return ok ? 0 : 1;
+}
