@@ -1,7 +1,7 @@
 #include "taglib/asf/content_description.h"
 
 #include "asf_bytes.h"
-#include "failing_allocations.h"
+#include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/stream_capture.h"
 #include "taglib/asf/guids.h"
@@ -135,7 +135,7 @@ TEST(AsfContentDescription, AStringThatFindsNoMemoryIsAbsentAndTheOthersAreRead)
     OpenBytes file(five_strings);
     _asf_content_description_t* cd = nullptr;
     {
-        const FailingAllocation second_string(3);
+        const AllocationFaults second_string(3);
         cd = asf_read_content_description(file.file(), nullptr);
     }
     const Cd owner(cd);
@@ -149,7 +149,7 @@ TEST(AsfContentDescription, AStringThatFindsNoMemoryIsAbsentAndTheOthersAreRead)
 
 TEST(AsfContentDescription, ReadWithoutMemoryForTheRecordFails) {
     OpenBytes file(five_strings);
-    const FailingAllocation record(1);
+    const AllocationFaults record(1);
     EXPECT_EQ(nullptr, asf_read_content_description(file.file(), nullptr));
 }
 

@@ -1,7 +1,7 @@
 #include "taglib/asf/content_descriptor.h"
 
 #include "asf_bytes.h"
-#include "failing_allocations.h"
+#include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/stream_capture.h"
 
@@ -90,7 +90,7 @@ TEST(AsfContentDescriptor, ReadBehindTheEndOfTheFileGivesZeros) {
 TEST(AsfContentDescriptor, ReadFailsWithoutMemory) {
     for (int nth = 1; nth <= 3; ++nth) {
         OpenBytes file(word_descriptor);
-        const FailingAllocation allocation(nth);
+        const AllocationFaults allocation(nth);
         EXPECT_EQ(nullptr, asf_read_content_descriptor(file.file(), nullptr)) << nth;
         EXPECT_GE(allocation.count(), nth) << nth;
     }
@@ -100,7 +100,7 @@ TEST(AsfContentDescriptor, ReadThatFailsLeavesAGivenRecordEmpty) {
     OpenBytes file(word_descriptor);
     _asf_content_descriptor_t given{};
     given.type = 4;
-    const FailingAllocation value(2);
+    const AllocationFaults value(2);
     EXPECT_EQ(nullptr, asf_read_content_descriptor(file.file(), &given));
     EXPECT_EQ(0, given.type);
     EXPECT_EQ(nullptr, given.name);

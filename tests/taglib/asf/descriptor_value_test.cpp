@@ -1,7 +1,7 @@
 #include "taglib/asf/descriptor_value.h"
 
 #include "asf_bytes.h"
-#include "failing_allocations.h"
+#include "support/allocation_faults.h"
 #include "support/bytes.h"
 
 #include <gtest/gtest.h>
@@ -125,7 +125,7 @@ TEST(AsfStoreValue, UnknownTypeLeavesTheSlotAlone) {
 TEST(AsfStoreValue, ExhaustedMemoryLeavesTheSlotAlone) {
     std::uint8_t buffer[1] = {42};
     std::uint8_t* slot = buffer;
-    const FailingAllocation value(1);
+    const AllocationFaults value(1);
     EXPECT_EQ(0, asf_store_value(&slot, 0, "text"));
     EXPECT_EQ(buffer, slot);
 }

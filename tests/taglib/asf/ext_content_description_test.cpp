@@ -1,7 +1,7 @@
 #include "taglib/asf/ext_content_description.h"
 
 #include "asf_bytes.h"
-#include "failing_allocations.h"
+#include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/stream_capture.h"
 #include "taglib/asf/descriptor_value.h"
@@ -145,20 +145,20 @@ TEST(AsfExtContentDescription, ReadFailsOnASizeThatLeadsNowhere) {
 TEST(AsfExtContentDescription, ReadFailsWithoutMemory) {
     int allocations = 0;
     {
-        const FailingAllocation none;
+        const AllocationFaults none;
         const Ecd ecd = ecd_of(two_descriptors);
         allocations = none.count();
     }
     for (int nth = 1; nth <= allocations; ++nth) {
         OpenBytes file(two_descriptors);
-        const FailingAllocation allocation(nth);
+        const AllocationFaults allocation(nth);
         EXPECT_EQ(nullptr, asf_read_ext_content_description(file.file(), nullptr)) << nth;
     }
 }
 
 TEST(AsfExtContentDescription, ALyingCountCostsNoMoreThanTheFileHas) {
     OpenBytes file(object_of_size(ecd_guid, 26, u16(0xFFFF)) + std::string(100000, '\xFF'));
-    const FailingAllocation none;
+    const AllocationFaults none;
     EXPECT_EQ(nullptr, asf_read_ext_content_description(file.file(), nullptr));
     EXPECT_LT(none.largest(), 256u);
     EXPECT_LT(none.count(), 4);
@@ -213,7 +213,7 @@ TEST(AsfInsertDescriptor, AppendsAndAddsToCountAndSize) {
 TEST(AsfInsertDescriptor, FailsWithoutMemory) {
     const Ecd ecd = ecd_of(two_descriptors);
     _asf_content_descriptor_t added{};
-    const FailingAllocation array(1);
+    const AllocationFaults array(1);
     EXPECT_EQ(0, asf_insert_content_descriptor(ecd.get(), &added));
     EXPECT_EQ(2, ecd->count);
     EXPECT_EQ(0x36u, ecd->size);
@@ -403,7 +403,7 @@ TEST(AsfSetDescriptor, ANameLongerThanAHundredAndTwentyEightUnitsIsAppendedEachT
 TEST(AsfSetDescriptor, WithoutMemoryForTheDescriptorFails) {
     for (int nth = 1; nth <= 2; ++nth) {
         const Ecd ecd(asf_init_ext_content_description());
-        const FailingAllocation allocation(nth);
+        const AllocationFaults allocation(nth);
         EXPECT_EQ(0, asf_set_content_descriptor_str(ecd.get(), "A", 0, "x")) << nth;
         EXPECT_EQ(0, ecd->count) << nth;
     }

@@ -1,6 +1,6 @@
 #include "asf_bytes.h"
-#include "failing_allocations.h"
 #include "fake_image/fake_image.h"
+#include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
@@ -147,7 +147,7 @@ TEST_P(AsfFaults, EveryAllocationOfAStoreMayFail) {
     write_file(path_, GetParam().before);
     int allocations = 0;
     {
-        const FailingAllocation watch;
+        const AllocationFaults watch;
         ASSERT_EQ(1, store());
         allocations = watch.count();
     }
@@ -159,7 +159,7 @@ TEST_P(AsfFaults, EveryAllocationOfAStoreMayFail) {
         const SystemCallFaults calls;
         int result = 0;
         {
-            const FailingAllocation allocation(nth);
+            const AllocationFaults allocation(nth);
             result = store();
         }
         EXPECT_EQ(0, calls.open_descriptors()) << nth;
@@ -231,7 +231,7 @@ TEST(AsfLoadFaults, EveryAllocationOfALoadMayFail) {
     const StreamCapture quiet;
     int allocations = 0;
     {
-        const FailingAllocation watch;
+        const AllocationFaults watch;
         ASSERT_EQ(1, asf_load_file_info(path.c_str(), &info));
         allocations = watch.count();
     }
@@ -239,7 +239,7 @@ TEST(AsfLoadFaults, EveryAllocationOfALoadMayFail) {
     for (int nth = 1; nth <= allocations; ++nth) {
         const SystemCallFaults calls;
         {
-            const FailingAllocation allocation(nth);
+            const AllocationFaults allocation(nth);
             if (asf_load_file_info(path.c_str(), &info) == 0) {
                 EXPECT_EQ(5, errno) << nth;
             }

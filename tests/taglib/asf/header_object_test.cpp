@@ -1,7 +1,7 @@
 #include "taglib/asf/header_object.h"
 
 #include "asf_bytes.h"
-#include "failing_allocations.h"
+#include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/stream_capture.h"
 #include "taglib/asf/content_description.h"
@@ -206,14 +206,14 @@ TEST(AsfHeaderRead, FailsWithoutMemory) {
     int allocations = 0;
     {
         Header header;
-        const FailingAllocation none;
+        const AllocationFaults none;
         ASSERT_TRUE(read(header, bytes));
         allocations = none.count();
     }
     int failures = 0;
     for (int nth = 1; nth <= allocations; ++nth) {
         Header header;
-        const FailingAllocation allocation(nth);
+        const AllocationFaults allocation(nth);
         failures += read(header, bytes) ? 0 : 1;
     }
     // The strings of the content description alone may be absent.
@@ -347,7 +347,7 @@ TEST(AsfInsertObject, AppendsAndAddsTheSizeAndTwentyFour) {
 TEST(AsfInsertObject, FailsWithoutMemory) {
     Header header;
     _asf_object_t object{};
-    const FailingAllocation array(1);
+    const AllocationFaults array(1);
     EXPECT_EQ(0, asf_insert_object(&header, &object));
     EXPECT_EQ(0u, header.child_count);
     EXPECT_EQ(0u, header.size);

@@ -1,5 +1,5 @@
 #include "asf_bytes.h"
-#include "failing_allocations.h"
+#include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
@@ -47,7 +47,7 @@ protected:
     /** Neither load nor store take the file; both say so, and the file stays as it is. */
     void expect_unreadable(const std::string& bytes, const std::string& what) {
         write(bytes);
-        const FailingAllocation allocations;
+        const AllocationFaults allocations;
         const SystemCallFaults calls;
         EXPECT_EQ(0, load()) << what;
         EXPECT_EQ(5, error_) << what;

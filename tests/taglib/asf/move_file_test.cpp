@@ -1,7 +1,7 @@
 #include "taglib/asf/move_file.h"
 
 #include "asf_bytes.h"
-#include "failing_allocations.h"
+#include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
@@ -145,7 +145,7 @@ TEST(AsfMoveFile, FailsWithoutAWordWhenTheDataBeginsBehindTheFile) {
 TEST(AsfMoveFile, FailsWithoutMemory) {
     OpenBytes file(header + pattern(65536));
     StreamCapture quiet;
-    const FailingAllocation buffer(1);
+    const AllocationFaults buffer(1);
     EXPECT_EQ(0, asf_move_file(file.file(), 16, 26));
     EXPECT_EQ(header + pattern(65536), file.bytes());
 }

@@ -1,8 +1,8 @@
 #include "taglib/asf/picture.h"
 
 #include "asf_bytes.h"
-#include "failing_allocations.h"
 #include "fake_image/fake_image.h"
+#include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/stream_capture.h"
 
@@ -237,7 +237,7 @@ TEST(AsfStorePicture, SaysSoWhenThereIsNoMemoryForTheValue) {
     const Ecd ecd(asf_init_ext_content_description());
     const OwnedImage image = image_of(jpeg);
     StreamCapture log;
-    const FailingAllocation value(1);
+    const AllocationFaults value(1);
     EXPECT_EQ(0, asf_store_picture(ecd.get(), image.get()));
     EXPECT_EQ("asf_store_picture: Couldn't allocate buffer\n", log.text());
     EXPECT_EQ(0, ecd->count);
@@ -247,7 +247,7 @@ TEST(AsfStorePicture, FailsWithoutMemoryForTheDescriptor) {
     for (int nth = 2; nth <= 4; ++nth) {
         const Ecd ecd(asf_init_ext_content_description());
         const OwnedImage image = image_of(jpeg);
-        const FailingAllocation allocation(nth);
+        const AllocationFaults allocation(nth);
         EXPECT_EQ(0, asf_store_picture(ecd.get(), image.get())) << nth;
         EXPECT_EQ(0, ecd->count) << nth;
     }
