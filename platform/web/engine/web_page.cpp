@@ -39,8 +39,8 @@ void WebPage::reportLostProcess() {
 }
 
 void WebPage::followInThisPage(QWebEngineNewWindowRequest& request) {
-    if (request.isUserInitiated()) {
-        request.openIn(this);
+    if (request.isUserInitiated() && !request.requestedUrl().isLocalFile()) {
+        load(request.requestedUrl());
     }
 }
 
