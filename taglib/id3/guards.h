@@ -32,11 +32,13 @@ private:
 };
 
 /** A tag, zeroed at first. */
-struct Id3Descriptor : _id3_file_desc_t {
-    Id3Descriptor() : _id3_file_desc_t{} {}
-    ~Id3Descriptor() { id3_free_descriptor(this); }
+struct Id3Descriptor {
+    Id3Descriptor() = default;
+    ~Id3Descriptor() { id3_free_descriptor(&tag); }
     Id3Descriptor(const Id3Descriptor&) = delete;
     Id3Descriptor& operator=(const Id3Descriptor&) = delete;
+
+    _id3_file_desc_t tag{};
 };
 
 } // namespace velmora

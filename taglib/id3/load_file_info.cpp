@@ -179,11 +179,11 @@ int id3_load_file_info(const char* path, _file_info_t* info) {
         return 0;
     }
     Id3Descriptor descriptor;
-    if (id3_load_descriptor_v2(file.handle(), &descriptor, true) < 0 &&
-        id3_load_descriptor_v2(file.handle(), &descriptor, false) < 0) {
+    if (id3_load_descriptor_v2(file.handle(), &descriptor.tag, true) < 0 &&
+        id3_load_descriptor_v2(file.handle(), &descriptor.tag, false) < 0) {
         return load_from_v1(file.handle(), info) ? 1 : 0;
     }
-    load_from_v2(descriptor, path, info);
+    load_from_v2(descriptor.tag, path, info);
     return 1;
 }
 

@@ -1,8 +1,8 @@
 #include "picture.h"
 
 #include "../image_files.h"
-#include "../path.h"
 #include "../trace.h"
+#include "folder.h"
 #include "text.h"
 
 #include <cstdlib>
@@ -58,9 +58,7 @@ Image* id3_load_picture(const _id3_frame_t* frame) {
 }
 
 Image* id3_load_albumart(const char* media_path, const GUID& guid) {
-    std::string folder = media_path;
-    PathRemoveFileSpec(folder.data());
-    const std::string name = std::string(folder.c_str()) + "/AlbumArt_" + GUIDNAME(guid);
+    const std::string name = id3_folder_of(media_path) + "/AlbumArt_" + GUIDNAME(guid);
     if (Image* const large = Util_LoadJpgFileToBmp((name + "_Large.jpg").c_str())) {
         return large;
     }

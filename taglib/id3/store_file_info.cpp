@@ -2,6 +2,7 @@
 
 #include "../path.h"
 #include "../trace.h"
+#include "folder.h"
 #include "guards.h"
 #include "header_v1.h"
 #include "reader.h"
@@ -13,7 +14,6 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
-#include <string>
 #include <unistd.h>
 
 namespace velmora {
@@ -38,9 +38,7 @@ public:
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
     [[nodiscard]] bool make_name(const char* media_path) {
-        std::string folder = media_path;
-        PathRemoveFileSpec(folder.data());
-        if (GetTempFileName(folder.c_str(), "VLT", 0, name_) == 0) {
+        if (GetTempFileName(id3_folder_of(media_path).c_str(), "VLT", 0, name_) == 0) {
             name_[0] = 0;
             return false;
         }
@@ -152,12 +150,12 @@ int id3_store_file_info(const char* path, _file_info_t* info) {
         return 0;
     }
     Id3Descriptor descriptor;
-    const std::int64_t position = find_write_position(media.handle(), &descriptor);
-    if (!id3_store_fields(&descriptor, info)) {
+    const std::int64_t position = find_write_position(media.handle(), &descriptor.tag);
+    if (!id3_store_fields(&descriptor.tag, info)) {
         return 0;
     }
-    const bool stored = position != 0 ? store_in_place(media, position, &descriptor)
-                                      : store_through_copy(path, media, &descriptor);
+    const bool stored = position != 0 ? store_in_place(media, position, &descriptor.tag)
+                                      : store_through_copy(path, media, &descriptor.tag);
     if (!stored) {
         return 0;
     }

@@ -1,6 +1,7 @@
 #include "id3_bytes.h"
 #include "stored_info.h"
 #include "support/system_call_faults.h"
+#include "taglib/id3/folder.h"
 
 #include <gtest/gtest.h>
 
@@ -130,6 +131,12 @@ TEST(Id3StoreLeading, FileOfNothingButAnAppendedTagTakesThisWay) {
     EXPECT_EQ(0, store.result);
     EXPECT_EQ("TALB = \"old\"\nid3_store_file_info: couldn't reopen temp file\n", store.log);
     EXPECT_EQ(appended_tag(text4("TALB", "old")), song.contents());
+}
+
+TEST(Id3StoreLeading, FolderIsWhatStandsInFrontOfTheLastSlash) {
+    EXPECT_EQ("/a/b", id3_folder_of("/a/b/c.mp3"));
+    EXPECT_EQ("", id3_folder_of("/c.mp3"));
+    EXPECT_EQ("c.mp3", id3_folder_of("c.mp3"));
 }
 
 // With one, made by the name generator
