@@ -1,0 +1,582 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>Velmora</name>
+    <message>
+        <source>Unable to open file &quot;%@&quot;.</source>
+        <translation>Die Datei „%@“ kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>KORVANE Velmora</source>
+        <translation>KORVANE Velmora</translation>
+    </message>
+    <message>
+        <source>Velmora can only open local files.</source>
+        <translation>Velmora kann nur lokale Dateien öffnen.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Die Datei ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>Please ensure the file is readable and is a valid media file.</source>
+        <translation>Bitte stellen Sie sicher, dass die Datei lesbar und eine gültige Mediendatei ist.</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes you made?</source>
+        <translation>Möchten Sie Ihre Änderungen sichern?</translation>
+    </message>
+    <message>
+        <source>Your changes to &quot;%@&quot; will be lost if you don&#x27;t save them.</source>
+        <translation>Ihre Änderungen an „%@“ gehen verloren, wenn Sie sie nicht sichern.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Don&#x27;t Save</source>
+        <translation>Nicht sichern</translation>
+    </message>
+    <message>
+        <source>Add Files</source>
+        <translation>Dateien hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Folders</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>Load Cover Art</source>
+        <translation>Titelbild laden</translation>
+    </message>
+    <message>
+        <source>Search Done.</source>
+        <translation>Suche beendet.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>Adults Only</source>
+        <translation>Nur für Erwachsene</translation>
+    </message>
+    <message>
+        <source>Animated</source>
+        <translation>Zeichentrick</translation>
+    </message>
+    <message>
+        <source>Art</source>
+        <translation>Kunst</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Business / Financial</source>
+        <translation>Wirtschaft / Finanzen</translation>
+    </message>
+    <message>
+        <source>Children</source>
+        <translation>Kinder</translation>
+    </message>
+    <message>
+        <source>Comedy</source>
+        <translation>Komödie</translation>
+    </message>
+    <message>
+        <source>Consumer</source>
+        <translation>Verbraucher</translation>
+    </message>
+    <message>
+        <source>Cooking</source>
+        <translation>Kochen</translation>
+    </message>
+    <message>
+        <source>Crime</source>
+        <translation>Krimi</translation>
+    </message>
+    <message>
+        <source>Documentary</source>
+        <translation>Dokumentation</translation>
+    </message>
+    <message>
+        <source>Drama</source>
+        <translation>Drama</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>Bildung</translation>
+    </message>
+    <message>
+        <source>Game Show</source>
+        <translation>Spielshow</translation>
+    </message>
+    <message>
+        <source>Gay / Lesbian</source>
+        <translation>Schwul / Lesbisch</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Gesundheit</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Feiertage</translation>
+    </message>
+    <message>
+        <source>House / Garden</source>
+        <translation>Haus / Garten</translation>
+    </message>
+    <message>
+        <source>Mystery</source>
+        <translation>Mystery</translation>
+    </message>
+    <message>
+        <source>Nature</source>
+        <translation>Natur</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Nachrichten</translation>
+    </message>
+    <message>
+        <source>Performing Arts</source>
+        <translation>Darstellende Kunst</translation>
+    </message>
+    <message>
+        <source>Reality</source>
+        <translation>Reality</translation>
+    </message>
+    <message>
+        <source>Romance</source>
+        <translation>Liebesfilm</translation>
+    </message>
+    <message>
+        <source>Science Fiction</source>
+        <translation>Science-Fiction</translation>
+    </message>
+    <message>
+        <source>Self Improvement</source>
+        <translation>Selbsthilfe</translation>
+    </message>
+    <message>
+        <source>Soap</source>
+        <translation>Seifenoper</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Spanisch</translation>
+    </message>
+    <message>
+        <source>Special</source>
+        <translation>Sondersendung</translation>
+    </message>
+    <message>
+        <source>Sports</source>
+        <translation>Sport</translation>
+    </message>
+    <message>
+        <source>Talk</source>
+        <translation>Talkshow</translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation>Reisen</translation>
+    </message>
+    <message>
+        <source>Western</source>
+        <translation>Western</translation>
+    </message>
+    <message>
+        <source>Artist:</source>
+        <translation>Interpret:</translation>
+    </message>
+    <message>
+        <source>Album:</source>
+        <translation>Album:</translation>
+    </message>
+    <message>
+        <source>Cast:</source>
+        <translation>Darsteller:</translation>
+    </message>
+    <message>
+        <source>Director:</source>
+        <translation>Regie:</translation>
+    </message>
+    <message>
+        <source>Cover art</source>
+        <translation>Titelbild</translation>
+    </message>
+    <message>
+        <source>Drop or paste an image here</source>
+        <translation>Ein Bild hier ablegen oder einfügen</translation>
+    </message>
+    <message>
+        <source>Cover art: drop or paste an image here</source>
+        <translation>Titelbild: ein Bild hier ablegen oder einfügen</translation>
+    </message>
+    <message>
+        <source>Drop an image here</source>
+        <translation>Bild hier ablegen</translation>
+    </message>
+    <message>
+        <source>Unable to write tags to file &quot;%@&quot;.</source>
+        <translation>Die Angaben können nicht in die Datei „%@“ geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Be sure you have permissions to write to the file, and that it is a valid media file.</source>
+        <translation>Stellen Sie sicher, dass Sie in die Datei schreiben dürfen und dass sie eine gültige Mediendatei ist.</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Preview picture</source>
+        <translation>Vorschaubild</translation>
+    </message>
+    <message>
+        <source>Preview of the selected file</source>
+        <translation>Vorschau der ausgewählten Datei</translation>
+    </message>
+    <message>
+        <source>Play or pause the preview</source>
+        <translation>Vorschau abspielen oder anhalten</translation>
+    </message>
+    <message>
+        <source>Position in the preview</source>
+        <translation>Stelle in der Vorschau</translation>
+    </message>
+</context>
+<context>
+    <name>MyDocument</name>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>D&amp;ateien hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add files to the list</source>
+        <translation>Dateien in die Liste aufnehmen</translation>
+    </message>
+    <message>
+        <source>Add F&amp;older…</source>
+        <translation>&amp;Ordner hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Search a folder for media files</source>
+        <translation>Einen Ordner nach Mediendateien durchsuchen</translation>
+    </message>
+    <message>
+        <source>Turns while folders are searched</source>
+        <translation>Dreht sich, während Ordner durchsucht werden</translation>
+    </message>
+    <message>
+        <source>Search in progress</source>
+        <translation>Suche läuft</translation>
+    </message>
+    <message>
+        <source>The folder that is being searched</source>
+        <translation>Der Ordner, der gerade durchsucht wird</translation>
+    </message>
+    <message>
+        <source>Search status</source>
+        <translation>Stand der Suche</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>Sto&amp;pp</translation>
+    </message>
+    <message>
+        <source>Stop the search</source>
+        <translation>Die Suche anhalten</translation>
+    </message>
+    <message>
+        <source>The media files found; type a name to find one</source>
+        <translation>Die gefundenen Mediendateien; tippen Sie einen Namen, um eine zu finden</translation>
+    </message>
+    <message>
+        <source>Media files</source>
+        <translation>Mediendateien</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>The title of the film or song</source>
+        <translation>Der Titel des Films oder Lieds</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>&amp;Year:</source>
+        <translation>&amp;Jahr:</translation>
+    </message>
+    <message>
+        <source>The year of release</source>
+        <translation>Das Erscheinungsjahr</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Jahr</translation>
+    </message>
+    <message>
+        <source>Artist:</source>
+        <translation>Interpret:</translation>
+    </message>
+    <message>
+        <source>The artist of a song, the cast of a film</source>
+        <translation>Der Interpret eines Lieds, die Darsteller eines Films</translation>
+    </message>
+    <message>
+        <source>Artist or cast</source>
+        <translation>Interpret oder Darsteller</translation>
+    </message>
+    <message>
+        <source>&amp;Genre:</source>
+        <translation>&amp;Genre:</translation>
+    </message>
+    <message>
+        <source>The genre: choose one or type your own</source>
+        <translation>Das Genre: wählen Sie eines oder tippen Sie ein eigenes</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Album:</source>
+        <translation>Album:</translation>
+    </message>
+    <message>
+        <source>The album of a song, the director of a film</source>
+        <translation>Das Album eines Lieds, die Regie eines Films</translation>
+    </message>
+    <message>
+        <source>Album or director</source>
+        <translation>Album oder Regie</translation>
+    </message>
+    <message>
+        <source>Rat&amp;ing:</source>
+        <translation>&amp;Freigabe:</translation>
+    </message>
+    <message>
+        <source>The parental rating of a film</source>
+        <translation>Die Altersfreigabe eines Films</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Freigabe</translation>
+    </message>
+    <message>
+        <source>Sy&amp;nopsis:</source>
+        <translation>I&amp;nhalt:</translation>
+    </message>
+    <message>
+        <source>What the film is about</source>
+        <translation>Wovon der Film handelt</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Datum:</translation>
+    </message>
+    <message>
+        <source>The date, for information: it is not written into the file</source>
+        <translation>Das Datum, zur Kenntnis: es wird nicht in die Datei geschrieben</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>&amp;Cover Art:</source>
+        <translation>Tite&amp;lbild:</translation>
+    </message>
+    <message>
+        <source>The cover art; drop an image here</source>
+        <translation>Das Titelbild; legen Sie ein Bild hier ab</translation>
+    </message>
+    <message>
+        <source>Cover art</source>
+        <translation>Titelbild</translation>
+    </message>
+    <message>
+        <source>&amp;Load…</source>
+        <translation>&amp;Laden …</translation>
+    </message>
+    <message>
+        <source>Load cover art from an image file</source>
+        <translation>Das Titelbild aus einer Bilddatei laden</translation>
+    </message>
+    <message>
+        <source>Tri&amp;m</source>
+        <translation>Beschn&amp;eiden</translation>
+    </message>
+    <message>
+        <source>Trim a border of one colour off the cover art</source>
+        <translation>Einen einfarbigen Rand vom Titelbild abschneiden</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>A preview of the file</source>
+        <translation>Eine Vorschau der Datei</translation>
+    </message>
+    <message>
+        <source>This file can’t be previewed.</source>
+        <translation>Für diese Datei gibt es keine Vorschau.</translation>
+    </message>
+    <message>
+        <source>Preview failed</source>
+        <translation>Keine Vorschau</translation>
+    </message>
+    <message>
+        <source>Ta&amp;ke Frame</source>
+        <translation>Einzel&amp;bild nehmen</translation>
+    </message>
+    <message>
+        <source>Take the frame shown as cover art</source>
+        <translation>Das gezeigte Einzelbild als Titelbild nehmen</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Tag</source>
+        <translation>Angaben &amp;verwerfen</translation>
+    </message>
+    <message>
+        <source>Forget the changes without writing them</source>
+        <translation>Die Änderungen vergessen, ohne sie zu schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Read the file again and drop the changes</source>
+        <translation>Die Datei neu lesen und die Änderungen verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Sichern</translation>
+    </message>
+    <message>
+        <source>Write the changes into the file</source>
+        <translation>Die Änderungen in die Datei schreiben</translation>
+    </message>
+    <message>
+        <source>Look &amp;up:</source>
+        <translation>S&amp;uchen:</translation>
+    </message>
+    <message>
+        <source>The site to search</source>
+        <translation>Die Website, auf der gesucht wird</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>The text to search for</source>
+        <translation>Der gesuchte Text</translation>
+    </message>
+    <message>
+        <source>Search text</source>
+        <translation>Suchtext</translation>
+    </message>
+    <message>
+        <source>Searc&amp;h</source>
+        <translation>Suc&amp;hen</translation>
+    </message>
+    <message>
+        <source>Search the site for the text</source>
+        <translation>Auf der Website nach dem Text suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>Zurüc&amp;k</translation>
+    </message>
+    <message>
+        <source>Go back to the page before</source>
+        <translation>Zur vorigen Seite zurückgehen</translation>
+    </message>
+    <message>
+        <source>Turns while a page loads</source>
+        <translation>Dreht sich, während eine Seite lädt</translation>
+    </message>
+    <message>
+        <source>Page loading</source>
+        <translation>Seite lädt</translation>
+    </message>
+    <message>
+        <source>Fill Form</source>
+        <translation>Formular ausfüllen</translation>
+    </message>
+    <message>
+        <source>Fill the form from the page shown</source>
+        <translation>Das Formular aus der gezeigten Seite ausfüllen</translation>
+    </message>
+    <message>
+        <source>The page</source>
+        <translation>Die Seite</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Webseite</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Find in List</source>
+        <translation>In der Liste &amp;suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Load Cover Art…</source>
+        <translation>Titelbild &amp;laden …</translation>
+    </message>
+    <message>
+        <source>Look &amp;Up on the Web</source>
+        <translation>Im &amp;Web nachschlagen</translation>
+    </message>
+</context>
+</TS>

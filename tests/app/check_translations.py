@@ -1,0 +1,52 @@
+#!/usr/bin/env python3
+"""Every text that the program shows stands in every translation table, with its placeholders, and no table holds a text
+that is not shown any more. Usage: check_translations.py SOURCE_FOLDER"""
+
+import pathlib
+import re
+import sys
+import xml.etree.ElementTree as xml
+
+FOLDERS = ["app", "browser", "imaging", "model", "platform", "weblookup"]
+LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
+
+
+def texts_of_code(root):
+    for folder in FOLDERS:
+        for source in (root / folder).rglob("*.cpp"):
+            code = source.read_text()
+            for call in re.findall(r'(?:localised\(|QT_TRANSLATE_NOOP\("Velmora",)\s*' + LITERALS, code):
+                text = "".join(re.findall(r'"((?:[^"\\]|\\.)*)"', call))
+                yield ("Velmora", text.replace('\\"', '"'))
+
+
+def texts_of_layout(root):
+    for string in xml.parse(root / "app" / "MyDocument.ui").iter("string"):
+        if string.text and string.get("notr") != "true":
+            yield ("MyDocument", string.text)
+
+
+def texts_of_table(table):
+    for context in xml.parse(table).iter("context"):
+        for message in context.iter("message"):
+            yield (context.findtext("name"), message.findtext("source")), message.findtext("translation")
+
+
+def main():
+    root = pathlib.Path(sys.argv[1])
+    shown = set(texts_of_code(root)) | set(texts_of_layout(root))
+    failures = [] if len(shown) > 100 else [f"only {len(shown)} texts were found in the program"]
+    for table in sorted((root / "app" / "translations").glob("*.ts")):
+        translated = dict(texts_of_table(table))
+        for text in sorted(shown):
+            translation = translated.get(text)
+            if not translation:
+                failures.append(f"{table.name}: no translation of {text}")
+            elif translation.count("%@") != text[1].count("%@"):
+                failures.append(f"{table.name}: placeholders differ in {text}")
+        failures += [f"{table.name}: not shown any more: {text}" for text in sorted(set(translated) - shown)]
+    print("\n".join(failures) or f"{len(shown)} texts checked")
+    return 1 if failures else 0
+
+
+sys.exit(main())
