@@ -231,6 +231,40 @@ INSTANTIATE_TEST_SUITE_P(Files, AviFault,
                                          Sample{"InfoLast", avi_with_info_last(), 96, 132}),
                          [](const auto& sample) { return std::string(sample.param.name); });
 
+/** Where the operation wrote no bytes; -1 when it did not. */
+std::int64_t position_of_empty_write(const SystemCallFaults& watch) {
+    for (const SystemCallRecord& record : watch.records()) {
+        if (record.call == SystemCall::write && record.requested == 0) {
+            return record.position;
+        }
+    }
+    return -1;
+}
+
+TEST(AviEndMark, AStoreWritesNoBytesBehindTheListAndDoesNotCutTheFile) {
+    const ScratchFolder folder;
+    const std::string path = folder / "file.avi";
+    write_file(path, avi_with_info_last());
+    _file_info_t info{};
+    info.flags = file_info_flag::title;
+    StreamCapture quiet;
+    SystemCallFaults watch;
+    EXPECT_EQ(1, avi_store_file_info(path.c_str(), &info));
+    EXPECT_EQ(96 + 24, position_of_empty_write(watch));
+    EXPECT_EQ(132u, read_file(path).size());
+}
+
+TEST(AviEndMark, ARemovalWritesNoBytesAtTheListAndDoesNotCutTheFile) {
+    const ScratchFolder folder;
+    const std::string path = folder / "file.avi";
+    write_file(path, avi_with_info_last());
+    StreamCapture quiet;
+    SystemCallFaults watch;
+    EXPECT_EQ(1, avi_remove_file_info(path.c_str()));
+    EXPECT_EQ(96, position_of_empty_write(watch));
+    EXPECT_EQ(132u, read_file(path).size());
+}
+
 TEST(AviRemoveFault, JunkThatCantBeWrittenIsLogged) {
     const ScratchFolder folder;
     const std::string path = folder / "file.avi";
@@ -244,6 +278,18 @@ TEST(AviRemoveFault, JunkThatCantBeWrittenIsLogged) {
                                                    "avi_remove_file_info: Error writing <junk> tag\n",
               log.text());
     EXPECT_EQ(avi_with_info_before_movi(), read_file(path));
+}
+
+TEST(AviLoadFault, AFailingCloseDoesNotHideWhyTheHeaderWasRefused) {
+    const ScratchFolder folder;
+    const std::string path = folder / "file.avi";
+    write_file(path, avi_without_info() + "RIFF" + le32(36) + "AVIX" + movi());
+    StreamCapture quiet;
+    SystemCallFaults faults;
+    faults.fail(SystemCall::close, 1, EIO);
+    _file_info_t info;
+    EXPECT_EQ(0, avi_load_file_info(path.c_str(), &info));
+    EXPECT_EQ(78, errno);
 }
 
 TEST(AviLoadFault, ASubChunkThatCantBeReadIsEmptyAndTheOthersAreLoaded) {
