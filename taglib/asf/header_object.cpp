@@ -203,10 +203,7 @@ _asf_object_t* asf_find_object(const _asf_header_object_t* header, const GUID& g
 _asf_header_object_t* asf_read_header_object(FIOFUNCSTRUCT* file, _asf_header_object_t* header) {
     *header = {};
     const std::int64_t start = fio_ltell(file);
-    if (!asf_read_object(file, header)) {
-        return nullptr;
-    }
-    if (header->guid != ASF_HeaderObject) {
+    if (!asf_read_object(file, header) || header->guid != ASF_HeaderObject) {
         DebugError("asf_read_header_object: Not a valid header\n");
         return nullptr;
     }

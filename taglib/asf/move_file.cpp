@@ -1,6 +1,7 @@
 #include "move_file.h"
 
 #include "../trace.h"
+#include "checked_position.h"
 #include "owned.h"
 
 #include <algorithm>
@@ -65,9 +66,13 @@ private:
 int asf_move_file(FIOFUNCSTRUCT* file, std::int64_t from, std::int64_t to) {
     DebugInfo("asf_move_file: from %I64x to %I64x\n", from, to);
     const std::int64_t end = fio_lseek(file, 0, SEEK_END);
+    if (from < 0 || to < 0 || from > end ||
+        asf_position_behind(to, static_cast<std::uint64_t>(end - from)) < 0) {
+        return 0;
+    }
     const std::int64_t size = end - from;
     Transfer transfer(file, size);
-    if (end < 0 || !transfer.ready()) {
+    if (!transfer.ready()) {
         return 0;
     }
     const bool from_the_back = from < to;

@@ -15,8 +15,8 @@ namespace velmora {
     1 to 65,535 bytes can not, and give 0. A move towards the end has then already copied one piece of
     65,536 bytes, the last ones of the file, if the file has as many.
 
-    Returns 0 also when memory is exhausted, FROM lies behind the file's end, or the file can't be read or
-    written, which leaves the data partly moved. */
+    Returns 0 also when memory is exhausted, FROM or TO is no position that the data can have, or the file
+   can't be read or written, which leaves the data partly moved. */
 [[nodiscard]] int asf_move_file(FIOFUNCSTRUCT* file, std::int64_t from, std::int64_t to);
 
 } // namespace velmora

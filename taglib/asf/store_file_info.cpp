@@ -84,7 +84,7 @@ void log_padding_size(std::uint64_t size) {
         }
         if (diff < 0) {
             // Only traced: without a padding to grow the header shrinks and the data moves back.
-            const auto saved = static_cast<std::uint64_t>(-diff);
+            const std::uint64_t saved = 0 - static_cast<std::uint64_t>(diff);
             log_padding_size(saved >= asf_object_header_size ? saved - asf_object_header_size
                                                              : new_padding_size);
         }
@@ -101,7 +101,7 @@ void log_padding_size(std::uint64_t size) {
         padding->size -= growth;
     } else if (diff < 0) {
         DebugInfo("asf_store_file_info: Increasing pad size\n");
-        padding->size += static_cast<std::uint64_t>(-diff);
+        padding->size -= static_cast<std::uint64_t>(diff); // which is negative
     }
     log_padding_size(padding->size);
     return true;

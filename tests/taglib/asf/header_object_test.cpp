@@ -137,12 +137,14 @@ TEST(AsfHeaderRead, RefusesAnotherGuid) {
               log.text());
 }
 
-TEST(AsfHeaderRead, RefusesAnEmptyFileWithoutAWord) {
-    OpenBytes file("");
-    Header header;
-    StreamCapture log;
-    EXPECT_EQ(nullptr, asf_read_header_object(file.file(), &header));
-    EXPECT_EQ("", log.text());
+TEST(AsfHeaderRead, RefusesAFileWithoutAWholeGuid) {
+    for (std::size_t length = 0; length < 16; ++length) {
+        OpenBytes file(header_object({}).substr(0, length));
+        Header header;
+        StreamCapture log;
+        EXPECT_EQ(nullptr, asf_read_header_object(file.file(), &header)) << length;
+        EXPECT_EQ("asf_read_header_object: Not a valid header\n", log.text()) << length;
+    }
 }
 
 TEST(AsfHeaderRead, RefusesAChildThatReachesPastTheHeader) {

@@ -169,6 +169,23 @@ TEST_F(HostileAsfHeader, LargerThanTheFileIsNotStoredWhereTheDataWouldHaveToMove
     EXPECT_EQ(0, store());
 }
 
+TEST_F(HostileAsfHeader, SizesAroundTheLastFilePositionAreNotStored) {
+    for (const std::uint64_t size : {0x7FFFFFFFFFFFFFFFull, 0x8000000000000000ull, 0x8000000000000022ull,
+                                     0x8000000000000076ull, 0xFFFFFFFFFFFFFF00ull, 0xFFFFFFFFFFFFFFFFull}) {
+        write(header_object_of_size(size, {content_description("", ""), ext_content_description({})}) +
+              pattern(100000));
+        EXPECT_EQ(1, load()) << size;
+        EXPECT_EQ(0, store()) << size;
+        EXPECT_LT(read_file(path_).size(), 200000u) << size;
+        write(header_object_of_size(size,
+                                    {content_description("", ""), ext_content_description({}), padding(40)}) +
+              pattern(100000));
+        EXPECT_EQ(1, load()) << size;
+        EXPECT_EQ(0, store()) << size;
+        EXPECT_LT(read_file(path_).size(), 200000u) << size;
+    }
+}
+
 TEST_F(HostileAsfHeader, PaddingBehindTheEndOfTheFileTakesAStore) {
     const std::string ecd = ext_content_description({});
     write(object_of_size(header_guid, 30 + 34 + ecd.size() + 5000,

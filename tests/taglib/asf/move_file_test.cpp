@@ -11,6 +11,8 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <limits>
+#include <utility>
 
 namespace velmora {
 namespace {
@@ -140,6 +142,20 @@ TEST(AsfMoveFile, FailsWithoutAWordWhenTheDataBeginsBehindTheFile) {
         EXPECT_EQ(std::string::npos, moved.log.find("Error")) << to;
     }
     EXPECT_EQ(0, move(header, 1ll << 62, (1ll << 62) + 10).result);
+}
+
+TEST(AsfMoveFile, FailsWithoutAWordForPositionsThatAFileCanNotHave) {
+    const std::string bytes = header + pattern(200000);
+    constexpr std::int64_t last = std::numeric_limits<std::int64_t>::max();
+    constexpr std::int64_t first = std::numeric_limits<std::int64_t>::min();
+    const std::pair<std::int64_t, std::int64_t> moves[] = {{-256, 100}, {-256, -300}, {first, 100}, {16, -1},
+                                                           {16, first}, {16, last},   {last, 16}};
+    for (const auto& [from, to] : moves) {
+        const Move moved = move(bytes, from, to);
+        EXPECT_EQ(0, moved.result) << from << " to " << to;
+        EXPECT_TRUE(bytes == moved.bytes) << from << " to " << to;
+        EXPECT_EQ(std::string::npos, moved.log.find("Error")) << from << " to " << to;
+    }
 }
 
 TEST(AsfMoveFile, FailsWithoutMemory) {
