@@ -4,8 +4,11 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QInputMethodEvent>
 #include <QTableView>
 #include <QTest>
+
+#include <algorithm>
 
 namespace velmora::test {
 
@@ -110,7 +113,14 @@ void WindowTest::type(const char* name, const QString& text) {
     auto& field = entry(name);
     field.selectAll();
     QTest::keyClick(&field, Qt::Key_Delete);
-    QTest::keyClicks(&field, text);
+    const bool onKeyboard = std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    if (onKeyboard) {
+        QTest::keyClicks(&field, text);
+        return;
+    }
+    QInputMethodEvent event; // other scripts come from an input method
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(&field, &event);
 }
 
 int WindowTest::logged(const std::string& text) {
