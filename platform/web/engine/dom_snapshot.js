@@ -17,6 +17,7 @@
     const nextSibling = reader(Node, 'nextSibling');
     const parentNode = reader(Node, 'parentNode');
     const nodeName = reader(Node, 'nodeName');
+    const nodeType = reader(Node, 'nodeType');
     const data = reader(CharacterData, 'data');
     const className = reader(Element, 'className');
     const anchorName = reader(HTMLAnchorElement, 'name');
@@ -24,6 +25,8 @@
     const documentUrl = reader(Document, 'URL');
     const attributeNames = (element) => Element.prototype.getAttributeNames.call(element);
     const attribute = (element, name) => Element.prototype.getAttribute.call(element, name);
+
+    const characterData = [Node.TEXT_NODE, Node.CDATA_SECTION_NODE, Node.PROCESSING_INSTRUCTION_NODE, Node.COMMENT_NODE];
 
     const other = 0, anchor = 2, image = 5;
     const classes = new Map([
@@ -56,11 +59,12 @@
 
     function columns(node, parent) {
         const exactClass = classes.get(Object.getPrototypeOf(node)) || other;
-        if (node instanceof CharacterData) {
+        const type = nodeType(node);
+        if (characterData.includes(type)) {
             textLength += data(node).length;
             return [parent, exactClass, nodeName(node), data(node)];
         }
-        if (!(node instanceof Element)) {
+        if (type !== Node.ELEMENT_NODE) {
             return [parent, exactClass, nodeName(node)];
         }
         const isHtml = node instanceof HTMLElement;
