@@ -31,6 +31,22 @@ TEST_F(WebViewLoad, OfAServersErrorPageIsAFinishedLoad) {
     EXPECT_NE(document(), nullptr);
 }
 
+TEST_F(WebViewLoad, OfAnErrorStatusWithoutAPageFails) {
+    server.serve("/gone", Answer{.status = 410});
+    load("/gone");
+    EXPECT_EQ(events, QStringList({"start main", "fail main"}));
+    EXPECT_EQ(document(), nullptr);
+}
+
+TEST_F(WebViewLoad, ThatAServerAnswersWithNoContentFailsAndKeepsThePage) {
+    server.serve("/a", "<title>A</title>");
+    server.serve("/nothing", Answer{.status = 204});
+    load("/a");
+    load("/nothing");
+    EXPECT_EQ(events, QStringList({"start main", "fail main"}));
+    EXPECT_EQ(shownTitle(), "A");
+}
+
 TEST_F(WebViewLoad, FromAServerThatIsNotThereFails) {
     server.serve("/a", "<title>A</title>");
     load("/a");

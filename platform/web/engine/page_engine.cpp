@@ -35,7 +35,9 @@ PageEngine::PageEngine(WebEngineListener& listener, QWidget* parent)
 PageEngine::~PageEngine() = default;
 
 void PageEngine::load(const QUrl& url) {
-    if (mayBeStuck()) {
+    const bool stuck = mayBeStuck();
+    *awaited_ = 0;
+    if (stuck) {
         endProcessAndLoad(url);
     } else {
         page_->load(url);
@@ -68,10 +70,13 @@ void PageEngine::takeSnapshot(SnapshotTaker take) {
         take(QString());
         return;
     }
-    ++*unanswered_;
+    const int number = ++snapshots_;
+    *awaited_ = number;
     page_->runJavaScript(snapshotScript_, QWebEngineScript::ApplicationWorld,
-                         [take = std::move(take), unanswered = unanswered_](const QVariant& text) {
-                             --*unanswered;
+                         [take = std::move(take), awaited = awaited_, number](const QVariant& text) {
+                             if (*awaited == number) {
+                                 *awaited = 0;
+                             }
                              take(text.toString());
                          });
 }

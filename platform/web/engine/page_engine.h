@@ -23,11 +23,14 @@ public:
 private:
     /** A page that was asked for its document and has not answered may be stuck in a script that never ends.
      */
-    [[nodiscard]] bool mayBeStuck() const { return *unanswered_ > 0 && !page_->isLost(); }
+    [[nodiscard]] bool mayBeStuck() const { return *awaited_ != 0 && !page_->isLost(); }
     void endProcessAndLoad(const QUrl& url);
 
     QString snapshotScript_;
-    std::shared_ptr<int> unanswered_ = std::make_shared<int>(0);
+    int snapshots_ = 0;
+    /** The number of the snapshot that the page owes; 0 for none. Shared with answers, which may outlive the
+     * engine. */
+    std::shared_ptr<int> awaited_ = std::make_shared<int>(0);
     QWebEngineProfile profile_;
     std::unique_ptr<WebPage> page_;
     std::unique_ptr<QWebEngineView> view_;
