@@ -10,7 +10,9 @@
 #include <QVideoSink>
 
 #include <chrono>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 namespace velmora {
@@ -20,11 +22,40 @@ namespace {
  */
 constexpr std::chrono::milliseconds openDelay(150);
 
-/** Opening a pipe or a device could block for ever. */
-bool isRegularFile(const QString& path) {
-    struct stat status {};
-    return ::stat(pathBytes(path).constData(), &status) == 0 && S_ISREG(status.st_mode);
-}
+/** A file that the player neither opens nor rejects in this time (one that ends before its first frame, say)
+ * has failed. */
+constexpr std::chrono::seconds decisionDeadline(10);
+
+/** An open regular file. Pipes and devices, which could block for ever, are not opened. */
+class RegularFile {
+public:
+    explicit RegularFile(const QString& path)
+        : descriptor_(::open(pathBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {
+        struct stat status {};
+        isRegular_ = descriptor_ >= 0 && ::fstat(descriptor_, &status) == 0 && S_ISREG(status.st_mode);
+    }
+    ~RegularFile() {
+        if (descriptor_ >= 0) {
+            ::close(descriptor_);
+        }
+    }
+    RegularFile(const RegularFile&) = delete;
+    RegularFile& operator=(const RegularFile&) = delete;
+
+    [[nodiscard]] bool isOpen() const { return isRegular_; }
+
+    /** An address for the file while this object lives. The player reads addresses as UTF-8: a path of other
+       bytes goes by the open file's number instead. */
+    [[nodiscard]] QUrl url(const QString& path) const {
+        const bool isUtf8 = path.toUtf8() == pathBytes(path);
+        return isUtf8 ? fileUrlFromPath(path)
+                      : QUrl(QStringLiteral("file:///proc/self/fd/%1").arg(descriptor_));
+    }
+
+private:
+    int descriptor_;
+    bool isRegular_;
+};
 
 } // namespace
 
@@ -32,8 +63,10 @@ bool isRegularFile(const QString& path) {
    file that was let go can't be taken for one about the file that followed. */
 class Movie::Player : public QObject {
 public:
-    explicit Player(Movie& movie) : movie_(movie) {
+    Player(Movie& movie, const QString& path) : movie_(movie), file_(path) {
         player_.setVideoSink(&sink_);
+        deadline_.setSingleShot(true);
+        connect(&deadline_, &QTimer::timeout, this, &Player::fail);
         connect(&player_, &QMediaPlayer::mediaStatusChanged, this, &Player::statusChanged);
         connect(&player_, &QMediaPlayer::errorOccurred, this, &Player::fail);
         connect(&player_, &QMediaPlayer::positionChanged, &movie_, &Movie::positionChanged);
@@ -42,12 +75,20 @@ public:
         connect(&sink_, &QVideoSink::videoFrameChanged, &movie_, &Movie::frameChanged);
     }
 
-    void load(const QString& path) { player_.setSource(fileUrlFromPath(path)); }
+    void load(const QString& path) {
+        if (!file_.isOpen()) {
+            fail();
+            return;
+        }
+        deadline_.start(decisionDeadline);
+        player_.setSource(file_.url(path));
+    }
 
     /** Nothing is heard of the file any more; the object goes as soon as none of its own calls is running. */
     void letGo() {
         player_.disconnect();
         sink_.disconnect();
+        deadline_.stop();
         player_.setSource(QUrl());
         deleteLater();
     }
@@ -76,6 +117,7 @@ private:
             fail();
         } else if (status == QMediaPlayer::LoadedMedia && outcome_ == Outcome::Undecided) {
             outcome_ = Outcome::Opened;
+            deadline_.stop();
             hasVideo_ = player_.hasVideo();
             if (hasVideo_) {
                 player_.pause(); // a movie that neither plays nor pauses has no frame
@@ -87,11 +129,14 @@ private:
     void fail() {
         if (outcome_ == Outcome::Undecided) {
             outcome_ = Outcome::Failed;
+            deadline_.stop();
             emit movie_.failed();
         }
     }
 
     Movie& movie_;
+    RegularFile file_;
+    QTimer deadline_;
     QVideoSink sink_;
     QMediaPlayer player_;
     Outcome outcome_ = Outcome::Undecided;
@@ -126,11 +171,7 @@ void Movie::close() {
 }
 
 void Movie::openNow() {
-    if (!isRegularFile(path_)) {
-        emit failed();
-        return;
-    }
-    player_ = new Player(*this);
+    player_ = new Player(*this, path_);
     player_->load(path_);
 }
 

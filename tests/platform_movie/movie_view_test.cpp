@@ -1,0 +1,131 @@
+#include "movie_fixture.h"
+
+#include "platform/movie/movie_view.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+
+namespace velmora::test {
+namespace {
+
+class MovieViewTest : public MovieTest {
+protected:
+    MovieViewTest() {
+        view.resize(400, 300);
+        view.show();
+    }
+
+    void openFilm() {
+        open(avi());
+        ASSERT_EQ(opened.count(), 1);
+        view.setMovie(&movie);
+        ASSERT_TRUE(waitForFrame(isFirstFrame));
+    }
+
+    [[nodiscard]] QAbstractButton* button() { return view.findChild<QAbstractButton*>(); }
+    [[nodiscard]] QAbstractSlider* slider() { return view.findChild<QAbstractSlider*>(); }
+
+    /** How much of the view, in per cent, is about COLOUR. */
+    [[nodiscard]] int share(const QColor& colour) {
+        const QImage picture = view.grab().toImage();
+        int count = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const QColor pixel = picture.pixelColor(x, y);
+                count += std::abs(pixel.red() - colour.red()) < 60 &&
+                                 std::abs(pixel.green() - colour.green()) < 60 &&
+                                 std::abs(pixel.blue() - colour.blue()) < 60
+                             ? 1
+                             : 0;
+            }
+        }
+        return count * 100 / (picture.width() * picture.height());
+    }
+
+    MovieView view;
+};
+
+TEST_F(MovieViewTest, IsBlackAndOutOfUseWithoutAMovie) {
+    EXPECT_EQ(view.movie(), nullptr);
+    EXPECT_GT(share(Qt::black), 70);
+    EXPECT_FALSE(button()->isEnabled());
+    EXPECT_FALSE(slider()->isEnabled());
+}
+
+TEST_F(MovieViewTest, ShowsTheFirstFrame) {
+    openFilm();
+    for (const QColor& colour : {QColor(Qt::red), QColor(Qt::green), QColor(Qt::blue)}) {
+        EXPECT_GT(share(colour), 12) << colour.name().toStdString();
+    }
+    EXPECT_TRUE(button()->isEnabled());
+    EXPECT_TRUE(slider()->isEnabled());
+}
+
+TEST_F(MovieViewTest, AMovieThatIsTakenAwayLeavesNothing) {
+    openFilm();
+    view.setMovie(nullptr);
+    EXPECT_EQ(share(Qt::red), 0);
+    EXPECT_FALSE(button()->isEnabled());
+    EXPECT_FALSE(slider()->isEnabled());
+    EXPECT_EQ(slider()->value(), 0);
+}
+
+TEST_F(MovieViewTest, AMovieThatIsClosedLeavesNothing) {
+    openFilm();
+    movie.close();
+    EXPECT_EQ(share(Qt::red), 0);
+}
+
+TEST_F(MovieViewTest, AMovieThatIsDestroyedLeavesNothing) {
+    auto* other = new Movie;
+    QSignalSpy otherOpened(other, &Movie::opened);
+    view.setMovie(other);
+    other->open(avi());
+    ASSERT_TRUE(otherOpened.wait(patience));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isFirstFrame(other->currentFrame()); }, patience));
+    EXPECT_TRUE(button()->isEnabled());
+    delete other;
+    EXPECT_EQ(view.movie(), nullptr);
+    EXPECT_FALSE(button()->isEnabled());
+    EXPECT_EQ(share(Qt::red), 0);
+}
+
+TEST_F(MovieViewTest, SoundAloneCannotBePlayed) {
+    open(mp3());
+    view.setMovie(&movie);
+    EXPECT_FALSE(button()->isEnabled());
+    EXPECT_FALSE(slider()->isEnabled());
+}
+
+TEST_F(MovieViewTest, TheButtonPlaysAndPauses) {
+    openFilm();
+    QTest::mouseClick(button(), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return movie.isPlaying(); }, patience));
+    QTest::mouseClick(button(), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !movie.isPlaying(); }, patience));
+}
+
+TEST_F(MovieViewTest, TheSliderMovesTheMovie) {
+    openFilm();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return slider()->maximum() > 1500; }, patience));
+    slider()->setValue(1500);
+    EXPECT_TRUE(waitForFrame(isYellow));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return share(Qt::yellow) > 50; }, patience));
+}
+
+TEST_F(MovieViewTest, TheSliderFollowsTheMovie) {
+    openFilm();
+    movie.play();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return slider()->value() > 200; }, patience));
+}
+
+TEST_F(MovieViewTest, EveryControlHasANameAndATip) {
+    for (const QWidget* control :
+         {static_cast<const QWidget*>(button()), static_cast<const QWidget*>(slider())}) {
+        EXPECT_FALSE(control->accessibleName().isEmpty());
+        EXPECT_FALSE(control->toolTip().isEmpty());
+    }
+}
+
+} // namespace
+} // namespace velmora::test
