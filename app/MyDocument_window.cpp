@@ -55,6 +55,7 @@ void MyDocument::makeWindow() {
     window_ = std::make_unique<DocumentWindow>();
     ui_ = std::make_unique<Ui::MyDocument>();
     ui_->setupUi(window_.get());
+    ui_->split_upper->setSizes({400, 600}); // a proportion, whatever the window's width
     window_->setObjectName(windowNibName());
     window_->setWindowTitle(displayName());
     window_->setDelegate(this);
