@@ -14,6 +14,11 @@ bool asf_read_reached(FIOFUNCSTRUCT* file, std::int64_t expected) {
     return end >= 0 && position < expected && position >= end;
 }
 
+bool asf_read_zero_padded(FIOFUNCSTRUCT* file, std::int64_t start, std::uint8_t* bytes, std::size_t length) {
+    return fio_read(file, bytes, length) == static_cast<ssize_t>(length) ||
+           asf_read_reached(file, start + static_cast<std::int64_t>(length));
+}
+
 bool asf_write_reached(FIOFUNCSTRUCT* file, std::int64_t expected) {
     return fio_ltell(file) == expected;
 }

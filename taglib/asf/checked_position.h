@@ -12,6 +12,11 @@ namespace velmora {
     missing then counts as zero). False when a read failed or stopped early. */
 [[nodiscard]] bool asf_read_reached(FIOFUNCSTRUCT* file, std::int64_t expected);
 
+/** Reads LENGTH bytes at START, the file's position, into zeroed BYTES. What lies behind the file's end stays
+    zero. False when the read failed or stopped early. */
+[[nodiscard]] bool asf_read_zero_padded(FIOFUNCSTRUCT* file, std::int64_t start, std::uint8_t* bytes,
+                                        std::size_t length);
+
 /** Whether everything up to EXPECTED was written. */
 [[nodiscard]] bool asf_write_reached(FIOFUNCSTRUCT* file, std::int64_t expected);
 

@@ -1,8 +1,11 @@
 #include "object.h"
 
+#include "../byte_order.h"
 #include "../trace.h"
 #include "checked_position.h"
+#include "read_at.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <unistd.h>
 
@@ -32,16 +35,22 @@ _asf_object_t* asf_init_object() {
 }
 
 _asf_object_t* asf_read_object(FIOFUNCSTRUCT* file, _asf_object_t* object) {
-    const std::int64_t start = fio_ltell(file);
+    return asf_read_object_at(file, fio_ltell(file), object);
+}
+
+_asf_object_t* asf_read_object_at(FIOFUNCSTRUCT* file, std::int64_t start, _asf_object_t* object) {
+    std::uint8_t bytes[asf_object_header_size] = {};
     _asf_object_t header{};
-    if (fio_read(file, header.guid.bytes, sizeof header.guid.bytes) != sizeof header.guid.bytes) {
+    constexpr auto whole = static_cast<ssize_t>(sizeof bytes);
+    const ssize_t count = fio_read(file, bytes, sizeof bytes);
+    if (start < 0 || count < static_cast<ssize_t>(sizeof header.guid.bytes) ||
+        (count < whole && !asf_read_reached(file, start + whole))) {
         return nullptr;
     }
-    header.size = fio_get_le64(file);
-    if (start < 0 || !asf_read_reached(file, start + asf_object_header_size)) {
-        return nullptr;
-    }
-    log_object(fio_ltell(file) - asf_object_header_size, header);
+    std::copy_n(bytes, sizeof header.guid.bytes, header.guid.bytes);
+    header.size = load_le64(bytes + sizeof header.guid.bytes);
+    // Counted back from where the read ended.
+    log_object(start + count - whole, header);
     if (!object) {
         object = asf_init_object();
     }
@@ -61,8 +70,11 @@ int asf_store_object(FIOFUNCSTRUCT* file, const _asf_object_t* object) {
 }
 
 _asf_object_t* asf_read_padding_object(FIOFUNCSTRUCT* file, _asf_object_t* object) {
-    const std::int64_t start = fio_ltell(file);
-    _asf_object_t* const read = asf_read_object(file, object);
+    return asf_read_padding_object_at(file, fio_ltell(file), object);
+}
+
+_asf_object_t* asf_read_padding_object_at(FIOFUNCSTRUCT* file, std::int64_t start, _asf_object_t* object) {
+    _asf_object_t* const read = asf_read_object_at(file, start, object);
     if (!read) {
         return nullptr;
     }

@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <fstream>
 #include <functional>
+#include <ostream>
 
 namespace velmora {
 namespace {
@@ -25,6 +26,10 @@ struct Scenario {
     std::string before;
     std::string genre;
 };
+
+void PrintTo(const Scenario& scenario, std::ostream* stream) {
+    *stream << scenario.name;
+}
 
 /** read_file in one read: it is called for every call of every store. */
 std::string bytes_of(const std::string& path) {

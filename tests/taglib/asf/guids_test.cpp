@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,10 @@ struct KnownGuid {
     GUID guid;
     std::string_view bytes;
 };
+
+void PrintTo(const KnownGuid& known, std::ostream* stream) {
+    *stream << known.name;
+}
 
 class Guids : public testing::TestWithParam<KnownGuid> {};
 

@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <list>
 #include <map>
+#include <ostream>
 #include <sstream>
 
 /** Songs and films made by ffmpeg. What is stored is read back by ffprobe, TagLib and mutagen, what mutagen
@@ -88,6 +89,10 @@ struct Kind {
     const char* options;
     bool has_video;
 };
+
+void PrintTo(const Kind& kind, std::ostream* stream) {
+    *stream << kind.name;
+}
 
 const Kind kinds[] = {
     {"wma", "-f lavfi -i sine=frequency=440:duration=10 -c:a wmav2 -b:a 128k", false},
