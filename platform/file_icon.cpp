@@ -7,31 +7,34 @@
 #include <QFileInfo>
 
 #include <map>
+#include <optional>
 
 namespace velmora {
 namespace {
 
-QIcon askDesktop(const QString& path) {
-    const QFileIconProvider provider;
-    return provider.icon(QFileInfo(path));
+/** The icon of a file that Qt can't look at: it is gone, or its name is not UTF-8. */
+QIcon plainIcon(const QString& path) {
+    const std::optional<FileAttributes> attributes = fileAttributes(pathBytes(path));
+    const bool isFolder = attributes && attributes->isDirectory;
+    return QFileIconProvider().icon(isFolder ? QFileIconProvider::Folder : QFileIconProvider::File);
 }
 
 } // namespace
 
 QIcon fileIcon(const QString& path) {
-    static std::map<QString, QIcon, std::less<>> iconsByExtension;
+    static std::map<QString, QIcon> iconsByExtension;
 
     const QString extension = pathExtension(path);
-    // Without an extension the desktop goes by what the file is or holds, and so does a folder's icon.
-    if (extension.isEmpty()) {
-        return askDesktop(path);
-    }
     if (const auto known = iconsByExtension.find(extension); known != iconsByExtension.end()) {
         return known->second;
     }
-    const QIcon icon = askDesktop(path);
-    const std::optional<FileAttributes> attributes = fileAttributes(pathBytes(path));
-    if (attributes && !attributes->isDirectory) {
+    const QFileInfo file(path);
+    if (!file.exists()) {
+        return plainIcon(path);
+    }
+    const QIcon icon = QFileIconProvider().icon(file);
+    // Without an extension the desktop goes by what the file is or holds, and so does a folder's icon.
+    if (!extension.isEmpty() && !file.isDir()) {
         iconsByExtension.emplace(extension, icon);
     }
     return icon;

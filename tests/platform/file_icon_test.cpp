@@ -1,5 +1,7 @@
 #include "platform/file_icon.h"
 
+#include "platform/file_path.h"
+
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 
@@ -42,6 +44,20 @@ TEST(FileIcon, FolderDoesNotDecideForFilesWithItsExtension) {
     test::write_file(scratch / "a.flac", "abc");
     const QIcon folderIcon = iconOf(folder);
     EXPECT_NE(folderIcon.pixmap(16).toImage(), iconOf(scratch / "a.flac").pixmap(16).toImage());
+}
+
+TEST(FileIcon, FileWhoseNameIsNotUtf8HasOneAndDoesNotDecideForOthers) {
+    const test::ScratchFolder scratch;
+    test::write_file(scratch / "caf\xE9.ogg", "abc");
+    test::write_file(scratch / "a.ogg", "abc");
+    test::write_file(scratch / "b.ogg", "abc");
+    const QIcon icon = fileIcon(pathFromBytes(QByteArray::fromStdString(scratch / "caf\xE9.ogg")));
+    EXPECT_FALSE(icon.pixmap(16).isNull());
+    EXPECT_EQ(iconOf(scratch / "a.ogg").cacheKey(), iconOf(scratch / "b.ogg").cacheKey());
+}
+
+TEST(FileIcon, FileThatIsGoneHasOne) {
+    EXPECT_FALSE(iconOf("/no/such/file.aiff").pixmap(16).isNull());
 }
 
 } // namespace
