@@ -1,0 +1,53 @@
+// A window at the top left of the screen from which a file can be dragged: another program, as the cover art
+// view sees it. Its arguments are the paths of the files; "--image" instead drags a green image without a
+// file.
+
+#include <QApplication>
+#include <QDrag>
+#include <QImage>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QUrl>
+#include <QWidget>
+
+namespace {
+
+class DragSource : public QWidget {
+protected:
+    void mouseMoveEvent(QMouseEvent* event) override {
+        if (!(event->buttons() & Qt::LeftButton)) {
+            return;
+        }
+        auto* drag = new QDrag(this);
+        drag->setMimeData(data());
+        drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+    }
+
+private:
+    [[nodiscard]] static QMimeData* data() {
+        auto* data = new QMimeData;
+        const QStringList arguments = QApplication::arguments().mid(1);
+        if (arguments.contains(QStringLiteral("--image"))) {
+            QImage image(30, 20, QImage::Format_RGB32);
+            image.fill(Qt::green);
+            data->setImageData(image);
+            return data;
+        }
+        QList<QUrl> urls;
+        for (const QString& path : arguments) {
+            urls << QUrl::fromLocalFile(path);
+        }
+        data->setUrls(urls);
+        return data;
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    DragSource source;
+    source.setGeometry(0, 0, 200, 200);
+    source.show();
+    return QApplication::exec();
+}
