@@ -29,6 +29,15 @@ QColor shadowed(const QColor& colour, qreal level) {
                            qRound(colour.blue() * rest), colour.alpha());
 }
 
+/** IMAGE at SIZE. A much larger one is thinned out first: smoothing every pixel would hold up the window. */
+QPixmap scaledTo(const QSize& size, const QImage& image) {
+    constexpr int oversampling = 4;
+    const QSize enough = size * oversampling;
+    const bool isMuchLarger = image.width() > enough.width() && image.height() > enough.height();
+    const QImage source = isMuchLarger ? image.scaled(enough) : image;
+    return QPixmap::fromImage(source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
 /** The clipboard's contents; null when it has none. */
 const QMimeData* clipboardData() {
     return QGuiApplication::clipboard()->mimeData();
@@ -210,11 +219,10 @@ void CoverArtView::drawImage(QPainter& painter) {
     if (shown.width() > area.width() || shown.height() > area.height()) {
         shown.scale(area.size(), Qt::KeepAspectRatio);
     }
-    // Scaling a large image takes longer than a repaint should: it is done once for each size.
     const qreal ratio = devicePixelRatioF();
     const QSize pixels = (shown * ratio).toSize().expandedTo(QSize(1, 1));
     if (scaled_.size() != pixels) {
-        scaled_ = QPixmap::fromImage(image_.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        scaled_ = scaledTo(pixels, image_);
     }
     scaled_.setDevicePixelRatio(ratio);
     QRectF target(QPointF(), QSizeF(pixels) / ratio);
