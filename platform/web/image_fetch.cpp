@@ -1,5 +1,6 @@
 #include "image_fetch.h"
 
+#include "input_block.h"
 #include "platform/modal_loop.h"
 
 #include <QEventLoop>
@@ -66,7 +67,8 @@ std::optional<QImage> fetchImage(const QUrl& url, const QObject* context) {
     QObject::connect(context, &QObject::destroyed, &wait, &QEventLoop::quit);
     if (!reply->isFinished()) {
         const ModalLoop blocking;
-        wait.exec(QEventLoop::ExcludeUserInputEvents);
+        const InputBlock noInput;
+        wait.exec();
     }
     if (!reply->isFinished()) {
         reply->abort();

@@ -11,8 +11,8 @@ namespace velmora {
 
 /** Fetches the image at URL ("http:", "https:", "data:", or a regular file as "file:") and blocks until the
    transfer has ended or failed: no time limit, no cache, no second try; redirections are followed. Events are
-   handled meanwhile, except a person's input, which waits. What came decides, not the file's name and not the
-   server's status: a null image stands for a transfer that failed and for content that is no image.
+   handled meanwhile, except a person's input (see InputBlock). What came decides, not the file's name and not
+   the server's status: a null image stands for a transfer that failed and for content that is no image.
 
     No value when the fetch was cut short because CONTEXT, the part of the window that asked, went away or the
    program quits. */

@@ -1,6 +1,7 @@
 #include "web_view.h"
 
 #include "dom_snapshot.h"
+#include "input_block.h"
 #include "platform/modal_loop.h"
 
 #include <QEventLoop>
@@ -127,7 +128,8 @@ std::shared_ptr<const DomDocument> WebView::takeDocument() {
     if (!wait->ended) {
         QTimer::singleShot(documentTimeLimit_, &wait->loop, [raw = wait.get()] { raw->end(QString()); });
         const ModalLoop blocking;
-        wait->loop.exec(QEventLoop::ExcludeUserInputEvents);
+        const InputBlock noInput;
+        wait->loop.exec();
     }
     if (self != nullptr) {
         documentWait_.reset();

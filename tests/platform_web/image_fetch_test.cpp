@@ -6,6 +6,8 @@
 #include <QBuffer>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QPushButton>
+#include <QTest>
 #include <QTimer>
 #include <QWidget>
 
@@ -126,6 +128,19 @@ TEST_F(ImageFetch, HandlesEventsWhileItWaits) {
     QTimer::singleShot(0, &context, [&handled] { handled = true; });
     EXPECT_EQ(fetchedWidth("/slow"), 7);
     EXPECT_TRUE(handled);
+}
+
+TEST_F(ImageFetch, KeepsAPersonsInputOutWhileItWaits) {
+    server.serve("/slow", Answer{.body = picture(7), .delayMilliseconds = 200});
+    QPushButton button;
+    button.show();
+    int clicks = 0;
+    QObject::connect(&button, &QPushButton::clicked, &button, [&clicks] { ++clicks; });
+    QTimer::singleShot(20, &button, [&button] { QTest::mouseClick(&button, Qt::LeftButton); });
+    EXPECT_EQ(fetchedWidth("/slow"), 7);
+    EXPECT_EQ(clicks, 0);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(ImageFetch, EndsWithoutAResultWhenTheContextGoesAway) {

@@ -1,0 +1,88 @@
+#include "platform/web/input_block.h"
+
+#include <QCloseEvent>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace velmora::test {
+namespace {
+
+class InputBlockTest : public testing::Test {
+protected:
+    InputBlockTest() : layout(&window) {
+        layout.addWidget(&field);
+        layout.addWidget(&button);
+        QObject::connect(&button, &QPushButton::clicked, &window, [this] { ++clicks; });
+        window.show();
+        window.activateWindow();
+        field.setFocus();
+        QCoreApplication::processEvents();
+    }
+    void type() { QTest::keyClicks(&field, "a"); }
+    void click() { QTest::mouseClick(&button, Qt::LeftButton); }
+
+    QWidget window;
+    QVBoxLayout layout;
+    QLineEdit field;
+    QPushButton button;
+    int clicks = 0;
+};
+
+TEST_F(InputBlockTest, KeepsKeysAndClicksFromTheProgramWhileItLives) {
+    {
+        const InputBlock block;
+        type();
+        click();
+    }
+    EXPECT_EQ(field.text().toStdString(), "");
+    EXPECT_EQ(clicks, 0);
+    type();
+    click();
+    EXPECT_EQ(field.text().toStdString(), "a");
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(InputBlockTest, KeepsShortcutsFromTheProgram) {
+    QShortcut shortcut(QKeySequence("Ctrl+S"), &window);
+    int uses = 0;
+    QObject::connect(&shortcut, &QShortcut::activated, &window, [&uses] { ++uses; });
+    {
+        const InputBlock block;
+        QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
+    }
+    EXPECT_EQ(uses, 0);
+    QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(uses, 1);
+}
+
+TEST_F(InputBlockTest, LetsAWindowBeClosed) {
+    const InputBlock block;
+    QCloseEvent close;
+    QCoreApplication::sendEvent(&window, &close);
+    EXPECT_TRUE(close.isAccepted());
+    window.close();
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(InputBlockTest, LetsAQuestionBeAnswered) {
+    const InputBlock block;
+    QDialog question(&window);
+    question.setModal(true);
+    QPushButton answer(&question);
+    QObject::connect(&answer, &QPushButton::clicked, &question, &QDialog::accept);
+    question.show();
+    QCoreApplication::processEvents();
+    QTest::mouseClick(&answer, Qt::LeftButton);
+    EXPECT_EQ(question.result(), QDialog::Accepted);
+    click();
+    EXPECT_EQ(clicks, 0);
+}
+
+} // namespace
+} // namespace velmora::test
