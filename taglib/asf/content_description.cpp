@@ -1,9 +1,11 @@
 #include "content_description.h"
 
+#include "../byte_order.h"
 #include "../trace.h"
 #include "checked_position.h"
 #include "guids.h"
 #include "owned.h"
+#include "read_at.h"
 #include "utf16.h"
 
 #include <array>
@@ -48,9 +50,6 @@ void log_object_lines(std::int64_t start, const _asf_content_description_t* cd) 
 /** False when the bytes can't be had although the file holds them. */
 bool read_strings(FIOFUNCSTRUCT* file, std::int64_t start, _asf_content_description_t* cd) {
     std::int64_t position = start + fixed_size;
-    if (!asf_read_reached(file, position)) {
-        return false;
-    }
     for (const StringField& field : string_fields) {
         const std::uint16_t length = cd->*field.length;
         if (length == 0) {
@@ -64,7 +63,7 @@ bool read_strings(FIOFUNCSTRUCT* file, std::int64_t start, _asf_content_descript
             continue;
         }
         cd->*field.text = text;
-        if (fio_read(file, text, length) != length && !asf_read_reached(file, position)) {
+        if (!asf_read_zero_padded(file, position - length, text, length)) {
             return false;
         }
     }
@@ -72,8 +71,14 @@ bool read_strings(FIOFUNCSTRUCT* file, std::int64_t start, _asf_content_descript
 }
 
 bool read_body(FIOFUNCSTRUCT* file, std::int64_t start, _asf_content_description_t* cd) {
+    std::uint8_t lengths[2 * string_fields.size()] = {};
+    if (!asf_read_zero_padded(file, start + asf_object_header_size, lengths, sizeof lengths)) {
+        return false;
+    }
+    const std::uint8_t* at = lengths;
     for (const StringField& field : string_fields) {
-        cd->*field.length = fio_get_le16(file);
+        cd->*field.length = load_le16(at);
+        at += 2;
     }
     if (!read_strings(file, start, cd)) {
         return false;
@@ -119,6 +124,11 @@ std::uint32_t asf_get_content_description_size(const _asf_content_description_t*
 
 _asf_content_description_t* asf_read_content_description(FIOFUNCSTRUCT* file,
                                                          _asf_content_description_t* cd) {
+    return asf_read_content_description_at(file, fio_ltell(file), cd);
+}
+
+_asf_content_description_t* asf_read_content_description_at(FIOFUNCSTRUCT* file, std::int64_t start,
+                                                            _asf_content_description_t* cd) {
     AsfOwned<_asf_content_description_t> made;
     if (!cd) {
         made.reset(asf_new_record<_asf_content_description_t>());
@@ -128,8 +138,7 @@ _asf_content_description_t* asf_read_content_description(FIOFUNCSTRUCT* file,
         }
     }
     *cd = {};
-    const std::int64_t start = fio_ltell(file);
-    if (!asf_read_object(file, cd)) {
+    if (!asf_read_object_at(file, start, cd)) {
         return nullptr;
     }
     if (!read_body(file, start, cd)) {

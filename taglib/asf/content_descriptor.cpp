@@ -1,7 +1,8 @@
 #include "content_descriptor.h"
 
+#include "../byte_order.h"
 #include "../trace.h"
-#include "checked_position.h"
+#include "ahead_reader.h"
 #include "descriptor_value.h"
 #include "owned.h"
 #include "utf16.h"
@@ -14,34 +15,17 @@ namespace {
 
 constexpr std::uint32_t fixed_size = 6;
 
-/** The bytes that a descriptor may still take. */
-class Room {
-public:
-    explicit Room(std::int64_t bytes) : left_(bytes) {}
-    [[nodiscard]] bool take(std::int64_t bytes) {
-        if (bytes > left_) {
-            return false;
-        }
-        left_ -= bytes;
-        return true;
-    }
-
-private:
-    std::int64_t left_;
-};
-
-/** LENGTH bytes of the file in BYTES, nothing for length 0. False when there is no room or no memory for *
-    them. */
-bool read_bytes(FIOFUNCSTRUCT* file, std::uint16_t length, Room& room, AsfOwned<std::uint8_t>& bytes) {
-    if (!room.take(length)) {
-        return false;
-    }
+/** LENGTH bytes of FIELDS in BYTES, nothing for length 0. False when they can't be had or there is no memory
+   for them. */
+bool read_bytes(AsfAheadReader* fields, std::uint16_t length, AsfOwned<std::uint8_t>& bytes) {
     if (length == 0) {
         return true;
     }
+    if (length > fields->left()) {
+        return false;
+    }
     bytes.reset(asf_new_bytes(length));
-    // A short count shows in the position, which the caller compares.
-    return bytes && fio_read(file, bytes.get(), length) >= 0;
+    return bytes && fields->read(bytes.get(), length);
 }
 
 void log_name(std::int64_t position, const _asf_content_descriptor_t& descriptor) {
@@ -104,25 +88,39 @@ _asf_content_descriptor_t* asf_read_content_descriptor(FIOFUNCSTRUCT* file,
 _asf_content_descriptor_t* asf_read_content_descriptor_before(FIOFUNCSTRUCT* file,
                                                               _asf_content_descriptor_t* descriptor,
                                                               std::int64_t end) {
+    const std::int64_t start = fio_ltell(file);
+    if (start < 0) {
+        if (descriptor) {
+            *descriptor = {};
+        }
+        return nullptr;
+    }
+    AsfAheadReader fields(file, start, end, 0);
+    return asf_read_content_descriptor_from(&fields, descriptor);
+}
+
+_asf_content_descriptor_t* asf_read_content_descriptor_from(AsfAheadReader* fields,
+                                                            _asf_content_descriptor_t* descriptor) {
     if (descriptor) {
         *descriptor = {};
     }
-    const std::int64_t start = fio_ltell(file);
-    Room room(end - start);
+    const std::int64_t start = fields->position();
     AsfOwned<std::uint8_t> name;
     AsfOwned<std::uint8_t> value;
     _asf_content_descriptor_t read{};
-    if (start < 0 || !room.take(fixed_size)) {
+    std::uint8_t name_length[2] = {};
+    std::uint8_t type_and_length[4] = {};
+    if (fields->left() < fixed_size || !fields->read(name_length, sizeof name_length)) {
         return nullptr;
     }
-    read.name_length = fio_get_le16(file);
-    if (!read_bytes(file, read.name_length, room, name)) {
+    read.name_length = load_le16(name_length);
+    if (!read_bytes(fields, read.name_length, name) ||
+        !fields->read(type_and_length, sizeof type_and_length)) {
         return nullptr;
     }
-    read.type = fio_get_le16(file);
-    read.value_length = fio_get_le16(file);
-    if (!read_bytes(file, read.value_length, room, value) ||
-        !asf_read_reached(file, start + asf_content_descriptor_bytes(&read))) {
+    read.type = load_le16(type_and_length);
+    read.value_length = load_le16(type_and_length + 2);
+    if (!read_bytes(fields, read.value_length, value)) {
         return nullptr;
     }
     if (!descriptor) {

@@ -14,6 +14,8 @@
 */
 namespace velmora {
 
+class AsfAheadReader;
+
 /** Value types. A file may hold others: those are kept and written back unchanged. */
 namespace asf_value_type {
 inline constexpr std::uint16_t unicode = 0;   ///< UTF-16LE text
@@ -53,6 +55,10 @@ _asf_content_descriptor_t* asf_read_content_descriptor(FIOFUNCSTRUCT* file,
 _asf_content_descriptor_t* asf_read_content_descriptor_before(FIOFUNCSTRUCT* file,
                                                               _asf_content_descriptor_t* descriptor,
                                                               std::int64_t end);
+
+/** The same with the bytes that FIELDS gives, in front of its end. */
+_asf_content_descriptor_t* asf_read_content_descriptor_from(AsfAheadReader* fields,
+                                                            _asf_content_descriptor_t* descriptor);
 
 /** Writes DESCRIPTOR. Returns 1; a failed write shows in the file's position only. */
 int asf_store_content_descriptor(FIOFUNCSTRUCT* file, const _asf_content_descriptor_t* descriptor);

@@ -1,10 +1,13 @@
 #include "ext_content_description.h"
 
+#include "../byte_order.h"
 #include "../trace.h"
+#include "ahead_reader.h"
 #include "checked_position.h"
 #include "descriptor_value.h"
 #include "guids.h"
 #include "owned.h"
+#include "read_at.h"
 #include "utf16.h"
 
 #include <algorithm>
@@ -69,9 +72,8 @@ void log_object_lines(std::int64_t start, const _asf_ext_content_description_t* 
     return true;
 }
 
-/** Reads COUNT descriptors that end at or before END. The array grows with what is really there. */
-bool read_descriptors(FIOFUNCSTRUCT* file, _asf_ext_content_description_t* ecd, std::uint16_t count,
-                      std::int64_t end) {
+/** Reads COUNT descriptors. The array grows with what is really there. */
+bool read_descriptors(AsfAheadReader fields, _asf_ext_content_description_t* ecd, std::uint16_t count) {
     std::size_t capacity = 0;
     while (ecd->count < count) {
         if (ecd->count == capacity) {
@@ -80,7 +82,7 @@ bool read_descriptors(FIOFUNCSTRUCT* file, _asf_ext_content_description_t* ecd, 
                 return false;
             }
         }
-        _asf_content_descriptor_t* const descriptor = asf_read_content_descriptor_before(file, nullptr, end);
+        _asf_content_descriptor_t* const descriptor = asf_read_content_descriptor_from(&fields, nullptr);
         if (!descriptor) {
             return false;
         }
@@ -89,17 +91,20 @@ bool read_descriptors(FIOFUNCSTRUCT* file, _asf_ext_content_description_t* ecd, 
     return true;
 }
 
-bool read_body(FIOFUNCSTRUCT* file, std::int64_t start, _asf_ext_content_description_t* ecd) {
-    const std::uint16_t count = fio_get_le16(file);
+bool read_body(FIOFUNCSTRUCT* file, std::int64_t start, std::int64_t file_end,
+               _asf_ext_content_description_t* ecd) {
+    std::uint8_t count_bytes[fixed_size - asf_object_header_size] = {};
     const std::int64_t next = asf_position_behind(start, ecd->size);
-    const std::int64_t file_end = asf_file_end(file);
-    if (next < 0 || file_end < 0 || !asf_read_reached(file, start + fixed_size)) {
+    if (next < 0 || file_end < 0 ||
+        !asf_read_zero_padded(file, start + asf_object_header_size, count_bytes, sizeof count_bytes)) {
         return false;
     }
+    const std::uint16_t count = load_le16(count_bytes);
     log_object_lines(start, ecd);
     DebugInfo("  NumEntries = %d\n", count);
-    return read_descriptors(file, ecd, count, std::min(next, file_end)) &&
-           fio_lseek(file, next, SEEK_SET) == next;
+    const AsfAheadReader fields(file, start + fixed_size, std::min(next, file_end),
+                                AsfAheadReader::most_ahead);
+    return read_descriptors(fields, ecd, count) && fio_lseek(file, next, SEEK_SET) == next;
 }
 
 } // namespace
@@ -135,6 +140,12 @@ std::uint32_t asf_get_ext_content_description_size(const _asf_ext_content_descri
 
 _asf_ext_content_description_t* asf_read_ext_content_description(FIOFUNCSTRUCT* file,
                                                                  _asf_ext_content_description_t* ecd) {
+    return asf_read_ext_content_description_at(file, fio_ltell(file), asf_file_end(file), ecd);
+}
+
+_asf_ext_content_description_t* asf_read_ext_content_description_at(FIOFUNCSTRUCT* file, std::int64_t start,
+                                                                    std::int64_t file_end,
+                                                                    _asf_ext_content_description_t* ecd) {
     AsfOwned<_asf_ext_content_description_t> made;
     if (!ecd) {
         made.reset(asf_new_record<_asf_ext_content_description_t>());
@@ -144,11 +155,10 @@ _asf_ext_content_description_t* asf_read_ext_content_description(FIOFUNCSTRUCT* 
         }
     }
     *ecd = {};
-    const std::int64_t start = fio_ltell(file);
-    if (!asf_read_object(file, ecd)) {
+    if (!asf_read_object_at(file, start, ecd)) {
         return nullptr;
     }
-    if (!read_body(file, start, ecd)) {
+    if (!read_body(file, start, file_end, ecd)) {
         free_descriptors(ecd);
         return nullptr;
     }

@@ -1,11 +1,13 @@
 #include "header_object.h"
 
+#include "../byte_order.h"
 #include "../trace.h"
 #include "checked_position.h"
 #include "content_description.h"
 #include "ext_content_description.h"
 #include "guids.h"
 #include "owned.h"
+#include "read_at.h"
 
 #include <algorithm>
 #include <bit>
@@ -43,8 +45,9 @@ void free_child(_asf_object_t* child) {
 /** Reads the children of one header object. */
 class ChildReader {
 public:
-    ChildReader(FIOFUNCSTRUCT* file, _asf_header_object_t* header)
-        : file_(file), header_(header), position_(fio_ltell(file)), file_end_(asf_file_end(file)) {}
+    /** The children begin at START, where FILE is. */
+    ChildReader(FIOFUNCSTRUCT* file, _asf_header_object_t* header, std::int64_t start)
+        : file_(file), header_(header), position_(start), file_end_(asf_file_end(file)) {}
 
     /** Reads COUNT children; HEADER counts those that it has. False when they are fewer. */
     [[nodiscard]] bool read(std::uint32_t count);
@@ -83,7 +86,7 @@ bool ChildReader::read(std::uint32_t count) {
 /** The child at the running position, or null. LAST: no other one follows. */
 _asf_object_t* ChildReader::read_child(bool last) {
     _asf_object_t child{};
-    if (!asf_read_object(file_, &child)) {
+    if (!asf_read_object_at(file_, position_, &child)) {
         return nullptr;
     }
     const auto position = static_cast<std::uint64_t>(position_);
@@ -92,31 +95,36 @@ _asf_object_t* ChildReader::read_child(bool last) {
                    position, child.size, header_->size);
         return nullptr;
     }
-    if (asf_position_behind(position_, child.size) < 0 ||
-        fio_lseek(file_, position_, SEEK_SET) != position_) {
+    if (asf_position_behind(position_, child.size) < 0) {
         return nullptr;
     }
     _asf_object_t* const parsed = parse(child, last);
     if (parsed) {
-        // The header was read twice, from a file that others may write to: the record is what it was parsed
-        // as.
+        // A header may have been read twice, from a file that others may write to: the record is what it was
+        // parsed as.
         *parsed = child;
     }
     return parsed;
 }
 
 _asf_object_t* ChildReader::parse(const _asf_object_t& child, bool last) {
+    const bool is_cd = child.guid == ASF_ContentDescription;
+    const bool is_ecd = child.guid == ASF_ExtendedContentDescription;
+    if (!is_cd && !is_ecd && child.guid != ASF_PaddingObject) {
+        return read_raw_block(child);
+    }
+    // The readers of these begin with the object header.
+    if (fio_lseek(file_, position_, SEEK_SET) != position_) {
+        return nullptr;
+    }
     const bool leads_on = last || child.size > 0;
-    if (child.guid == ASF_ContentDescription) {
+    if (is_cd) {
         return read_content_description(leads_on);
     }
-    if (child.guid == ASF_ExtendedContentDescription) {
-        return leads_on ? asf_read_ext_content_description(file_, nullptr) : nullptr;
+    if (is_ecd) {
+        return leads_on ? asf_read_ext_content_description_at(file_, position_, file_end_, nullptr) : nullptr;
     }
-    if (child.guid == ASF_PaddingObject) {
-        return child.size > 0 ? asf_read_padding_object(file_, nullptr) : nullptr;
-    }
-    return read_raw_block(child);
+    return child.size > 0 ? asf_read_padding_object_at(file_, position_, nullptr) : nullptr;
 }
 
 /** A content description's strings may run past its declared size, into bytes that later children claim
@@ -125,7 +133,7 @@ _asf_object_t* ChildReader::read_content_description(bool leads_on) {
     if (!leads_on || strings_ > file_end_) {
         return nullptr;
     }
-    _asf_content_description_t* const cd = asf_read_content_description(file_, nullptr);
+    _asf_content_description_t* const cd = asf_read_content_description_at(file_, position_, nullptr);
     if (cd) {
         strings_ += asf_content_description_bytes(cd);
     }
@@ -139,9 +147,11 @@ _asf_object_t* ChildReader::read_raw_block(const _asf_object_t& child) {
         return nullptr;
     }
     AsfOwned<_asf_object_t> block(static_cast<_asf_object_t*>(std::malloc(child.size)));
-    if (!block || fio_read(file_, block.get(), child.size) != static_cast<ssize_t>(child.size)) {
+    const std::uint64_t body = child.size - asf_object_header_size;
+    if (!block || (body > 0 && fio_read(file_, block.get() + 1, body) != static_cast<ssize_t>(body))) {
         return nullptr;
     }
+    *block = child;
     return block.release();
 }
 
@@ -203,20 +213,21 @@ _asf_object_t* asf_find_object(const _asf_header_object_t* header, const GUID& g
 _asf_header_object_t* asf_read_header_object(FIOFUNCSTRUCT* file, _asf_header_object_t* header) {
     *header = {};
     const std::int64_t start = fio_ltell(file);
-    if (!asf_read_object(file, header) || header->guid != ASF_HeaderObject) {
+    if (!asf_read_object_at(file, start, header) || header->guid != ASF_HeaderObject) {
         DebugError("asf_read_header_object: Not a valid header\n");
         return nullptr;
     }
-    const std::uint32_t count = fio_get_le32(file);
-    header->reserved = fio_get_le16(file);
-    if (start < 0 || !asf_read_reached(file, start + asf_header_object_fixed_size)) {
+    std::uint8_t fields[asf_header_object_fixed_size - asf_object_header_size] = {};
+    if (!asf_read_zero_padded(file, start + asf_object_header_size, fields, sizeof fields)) {
         return nullptr;
     }
+    const std::uint32_t count = load_le32(fields);
+    header->reserved = load_le16(fields + 4);
     DebugInfo("[%I64x] HeaderObject\n", start);
     DebugInfo("Size = 0x%I64x\n", header->size);
     DebugInfo("NumObjects = %d\n", count);
     DebugInfo("Reserved = 0x%x\n", header->reserved);
-    ChildReader reader(file, header);
+    ChildReader reader(file, header, start + asf_header_object_fixed_size);
     if (!reader.read(count)) {
         return nullptr;
     }
