@@ -50,10 +50,21 @@ private:
         }
         if (fio_lseek(file_, target, SEEK_SET) != target ||
             fio_write(file_, buffer_.get(), length) != static_cast<ssize_t>(length)) {
+            put_back(source, target, length);
             DebugError("asf_move_file: Error writing file\n");
             return false;
         }
         return true;
+    }
+
+    /** A write towards the end that stopped on its way, as on a full disk, lies over data that is nowhere
+       else by now but in the buffer. With that at its old place again no byte is lost. */
+    void put_back(std::int64_t source, std::int64_t target, std::size_t length) {
+        if (source < target && target - source < static_cast<std::int64_t>(length) &&
+            fio_lseek(file_, target, SEEK_SET) == target) {
+            const auto behind = static_cast<std::size_t>(target - source);
+            (void)fio_write(file_, buffer_.get() + behind, length - behind);
+        }
     }
 
     FIOFUNCSTRUCT* file_;

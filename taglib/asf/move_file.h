@@ -16,7 +16,9 @@ namespace velmora {
     65,536 bytes, the last ones of the file, if the file has as many.
 
     Returns 0 also when memory is exhausted, FROM or TO is no position that the data can have, or the file
-   can't be read or written, which leaves the data partly moved. */
+   can't be read or written, which leaves the data partly moved: every byte of it is at its old place or at
+   its new one.
+   */
 [[nodiscard]] int asf_move_file(FIOFUNCSTRUCT* file, std::int64_t from, std::int64_t to);
 
 } // namespace velmora

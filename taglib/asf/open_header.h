@@ -2,6 +2,8 @@
 
 #include "header_object.h"
 
+#include <utility>
+
 namespace velmora {
 
 /** The error number that tells callers of a file whose header can't be read. */
@@ -15,15 +17,19 @@ public:
     AsfOpenHeader& operator=(const AsfOpenHeader&) = delete;
     ~AsfOpenHeader() {
         asf_free_header_object(&header_);
-        if (is_open_) {
-            fio_close(&file_);
-        }
+        (void)close();
     }
 
     /** Opens PATH with open(2)'s FLAGS. */
     [[nodiscard]] bool open(const char* path, int flags) {
         is_open_ = fio_open(path, flags, 0, &file_) >= 0;
         return is_open_;
+    }
+    /** Closes the file if it is open; false when the system reports that something it held back could not be
+        written. */
+    [[nodiscard]] bool close() {
+        const bool was_open = std::exchange(is_open_, false);
+        return !was_open || fio_close(&file_) == 0;
     }
     /** Reads the header object. */
     [[nodiscard]] bool read() { return asf_read_header_object(&file_, &header_) != nullptr; }

@@ -161,7 +161,7 @@ int asf_store_file_info(const char* path, const _file_info_t* info) {
             return 0;
         }
         if (opened.read()) {
-            return store(opened, *info) ? 1 : 0;
+            return store(opened, *info) && opened.close() ? 1 : 0;
         }
     }
     errno = asf_header_unreadable;

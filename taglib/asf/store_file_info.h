@@ -16,7 +16,8 @@ namespace velmora {
       too);
     - the header can't be written (it is then partly new);
     - the media data can't be moved towards the start, which a shrinking header does last (the header is
-      then the new one).
+      then the new one);
+    - the system reports only when the file is closed that something could not be written.
 
     The file is edited in place. Growth is taken from the padding object when that is the header's last
     child and larger than the growth, whatever it leaves of it; else the data moves, and a header without
