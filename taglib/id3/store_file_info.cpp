@@ -100,6 +100,13 @@ std::int64_t length_in_file(const _id3_file_desc_t& descriptor) {
     return footer ? length + static_cast<std::int64_t>(sizeof(Id3TagHeader)) : length;
 }
 
+/** Whether nothing is left to read, by the file's length too: a read of no bytes alone is no proof. */
+bool is_at_end(FIOFUNCSTRUCT* file) {
+    const std::int64_t position = fio_ltell(file);
+    const std::int64_t end = fio_lseek(file, 0, SEEK_END);
+    return end >= 0 && position >= end;
+}
+
 /** Writes the tag and what follows the old tag in MEDIA to the temporary file and closes both. */
 bool write_copy(TemporaryFile& copy, Id3File& media, _id3_file_desc_t* descriptor) {
     const std::int64_t old_length = length_in_file(*descriptor);
@@ -109,7 +116,7 @@ bool write_copy(TemporaryFile& copy, Id3File& media, _id3_file_desc_t* descripto
     }
     // A copy that can't be closed cleanly may not be complete, and the original is about to go.
     if (fio_lseek(media.handle(), old_length, SEEK_SET) != old_length ||
-        !id3_append_file(copy.handle(), media.handle()) || !copy.close()) {
+        !id3_append_file(copy.handle(), media.handle()) || !is_at_end(media.handle()) || !copy.close()) {
         DebugError("id3_store_file_info: couldn't append file data\n");
         return false;
     }

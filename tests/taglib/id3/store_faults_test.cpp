@@ -204,6 +204,8 @@ TEST(Id3StoreFaults, LeadingTagThroughACopy) {
         {read_call, 0, album + append_log},
         {write_call, 0, album + append_log},
         {read_call, 0, album + append_log},
+        {seek_call, 0, album + append_log}, // whether that was all
+        {seek_call, 0, album + append_log},
         {close_call, 0, album + append_log}, // the copy may not be complete
         {close_call, 1, album},              // the original, which was only read
         {SystemCall::unlink, 0, album + "id3_store_file_info: couldn't delete original file\n"},
@@ -213,7 +215,7 @@ TEST(Id3StoreFaults, LeadingTagThroughACopy) {
     const std::string after = leading_tag(4, text4("TALB", "b")) + media;
     run_with_each_call_failing(
         before, expected, [&](const FaultyStore& store, int nth, const std::string& where) {
-            if (nth == 22) {
+            if (nth == 24) {
                 EXPECT_EQ("", store.contents()) << where;
                 EXPECT_EQ(after, store.temporary_contents()) << where;
                 return;
@@ -260,6 +262,22 @@ TEST(Id3StoreFaults, ShortReadsOfTheMediaAreCompletedByLaterOnes) {
     const FaultyStore store(before, 5, read_call, cut_short); // footer, header, frame, body, media
     expect_documented(store, expected, "read 5");
     EXPECT_EQ(leading_tag(4, text4("TALB", "b")) + media, store.contents());
+}
+
+TEST(Id3StoreFaults, AReadOfNoBytesInFrontOfTheEndLeavesTheOriginal) {
+    const std::string before = leading_tag(4, text4("TALB", "a")) + pattern(100'000);
+    for (int nth = 5; nth <= 6; ++nth) { // footer, header, frame, body, media, media
+        const ScratchFolder folder;
+        write_file(folder / "song.mp3", before);
+        SystemCallFaults faults;
+        faults.create_generated_names();
+        faults.cut_short(SystemCall::read, nth, 0);
+        StoredInfo info;
+        const Store store(folder / "song.mp3", info.with_title("b"));
+        EXPECT_EQ(0, store.result) << nth;
+        EXPECT_TRUE(store.log.ends_with(append_log)) << nth;
+        EXPECT_EQ(before, read_file(folder / "song.mp3")) << nth;
+    }
 }
 
 TEST(Id3StoreFaults, FullDiskLeavesTheOriginalOfACopy) {
