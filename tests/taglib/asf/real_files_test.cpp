@@ -1,5 +1,6 @@
 #include "fake_image/fake_image.h"
 #include "support/bytes.h"
+#include "support/command.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
 #include "taglib/asf/load_file_info.h"
@@ -9,8 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <list>
 #include <map>
 #include <ostream>
@@ -23,22 +22,6 @@ namespace {
 
 using namespace test;
 
-/** What a shell command prints, error messages included; the test fails when the command does. */
-std::string output_of(const std::string& command) {
-    std::FILE* const pipe = ::popen(("{ " + command + " ; } 2>&1").c_str(), "r");
-    if (!pipe) {
-        ADD_FAILURE() << command;
-        return "";
-    }
-    std::string text;
-    std::array<char, 4096> buffer{};
-    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe)) {
-        text.append(buffer.data(), count);
-    }
-    EXPECT_EQ(0, ::pclose(pipe)) << command << "\n" << text;
-    return text;
-}
-
 /** Runs a Python script that finds the file in `path` and its tags in `tags`. */
 std::string mutagen(const std::string& path, const std::string& script) {
     const std::string program =
@@ -50,14 +33,14 @@ std::string mutagen(const std::string& path, const std::string& script) {
         script;
     const ScratchFolder folder;
     write_file(folder / "script.py", program);
-    return output_of(std::string(SYSTEM_PYTHON) + " '" + (folder / "script.py") + "' '" + path + "'");
+    return run_command(std::string(SYSTEM_PYTHON) + " '" + (folder / "script.py") + "' '" + path + "'");
 }
 
 /** The tags that ffprobe finds. */
 std::map<std::string, std::string> probed_tags(const std::string& path) {
-    std::istringstream lines(output_of("ffprobe -v error -show_entries format_tags"
-                                       " -of default=noprint_wrappers=1 '" +
-                                       path + "'"));
+    std::istringstream lines(run_command("ffprobe -v error -show_entries format_tags"
+                                         " -of default=noprint_wrappers=1 '" +
+                                         path + "'"));
     std::map<std::string, std::string> tags;
     for (std::string line; std::getline(lines, line);) {
         const std::size_t equals = line.find('=');
@@ -69,13 +52,13 @@ std::map<std::string, std::string> probed_tags(const std::string& path) {
 
 /** Decodes the whole file; the checksum of the audio, for which ffmpeg must have nothing to say. */
 std::string decoded(const std::string& path) {
-    EXPECT_EQ("", output_of("ffmpeg -v error -nostdin -i '" + path + "' -f null -"));
-    return output_of("ffmpeg -v error -nostdin -i '" + path + "' -map 0:a -f md5 -");
+    EXPECT_EQ("", run_command("ffmpeg -v error -nostdin -i '" + path + "' -f null -"));
+    return run_command("ffmpeg -v error -nostdin -i '" + path + "' -map 0:a -f md5 -");
 }
 
 /** The checksum of the pictures of a film. */
 std::string decoded_frames(const std::string& path) {
-    return output_of("ffmpeg -v error -nostdin -i '" + path + "' -map 0:v -f md5 -");
+    return run_command("ffmpeg -v error -nostdin -i '" + path + "' -map 0:v -f md5 -");
 }
 
 const std::string e_acute = "\xC3\xA9";
@@ -115,8 +98,8 @@ protected:
     }
 
     void make(const std::string& metadata) {
-        EXPECT_EQ("", output_of(std::string("ffmpeg -v error -nostdin -y ") + GetParam().options + " " +
-                                metadata + " '" + path_ + "'"));
+        EXPECT_EQ("", run_command(std::string("ffmpeg -v error -nostdin -y ") + GetParam().options + " " +
+                                  metadata + " '" + path_ + "'"));
     }
 
     std::string media() { return decoded(path_) + (GetParam().has_video ? decoded_frames(path_) : ""); }

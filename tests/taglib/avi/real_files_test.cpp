@@ -1,6 +1,7 @@
 #include "avi_bytes.h"
 #include "fake_image/fake_image.h"
 #include "support/bytes.h"
+#include "support/command.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
 #include "taglib/avi/load_file_info.h"
@@ -9,9 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cerrno>
-#include <cstdio>
 #include <map>
 #include <ostream>
 #include <sstream>
@@ -23,35 +22,19 @@ using namespace std::string_literals;
 namespace velmora::test {
 namespace {
 
-/** What a shell command prints; the test fails when the command does. */
-std::string output_of(const std::string& command) {
-    std::FILE* const pipe = ::popen(command.c_str(), "r");
-    if (!pipe) {
-        ADD_FAILURE() << command;
-        return "";
-    }
-    std::string text;
-    std::array<char, 4096> buffer{};
-    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe)) {
-        text.append(buffer.data(), count);
-    }
-    EXPECT_EQ(0, ::pclose(pipe)) << command;
-    return text;
-}
-
 void make_film(const std::string& path, const std::string& options) {
-    output_of("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=64x48:rate=10:duration=1"
-              " -f lavfi -i sine=frequency=440:duration=1 -c:v mpeg4 -fflags +bitexact " +
-              options + " '" + path + "'");
+    run_command("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=64x48:rate=10:duration=1"
+                " -f lavfi -i sine=frequency=440:duration=1 -c:v mpeg4 -fflags +bitexact " +
+                options + " '" + path + "'");
 }
 
 std::string decoded_checksum(const std::string& path) {
-    return output_of("ffmpeg -v error -nostdin -i '" + path + "' -f md5 -");
+    return run_command("ffmpeg -v error -nostdin -i '" + path + "' -f md5 -");
 }
 
 /** The tags that ffprobe finds. */
 std::map<std::string, std::string> probed_tags(const std::string& path) {
-    std::istringstream lines(output_of(
+    std::istringstream lines(run_command(
         "ffprobe -v error -show_entries format_tags -of default=noprint_wrappers=1 '" + path + "'"));
     std::map<std::string, std::string> tags;
     for (std::string line; std::getline(lines, line);) {
@@ -177,7 +160,7 @@ TEST_P(AviFilm, AfterARemovalTheFilmDecodesToTheSameChecksum) {
 
 TEST_P(AviFilm, AStoredPictureIsARealJpegForOthers) {
     const std::string cover = folder_ / "cover.jpg";
-    output_of("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=32x24 -frames:v 1 '" + cover + "'");
+    run_command("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=32x24 -frames:v 1 '" + cover + "'");
     const std::string jpeg = read_file(cover);
     Image* const picture = image_from_bytes(jpeg.data(), jpeg.size());
     _file_info_t info{};
@@ -193,7 +176,7 @@ TEST_P(AviFilm, AStoredPictureIsARealJpegForOthers) {
     EXPECT_EQ(le32(static_cast<std::uint32_t>(jpeg.size())), film.substr(ipic + 4, 4));
     write_file(cover, film.substr(ipic + 8, jpeg.size()));
     EXPECT_EQ("32,24\n",
-              output_of("ffprobe -v error -show_entries stream=width,height -of csv=p=0 '" + cover + "'"));
+              run_command("ffprobe -v error -show_entries stream=width,height -of csv=p=0 '" + cover + "'"));
     EXPECT_EQ(checksum_, decoded_checksum(path_));
 }
 
@@ -236,7 +219,7 @@ TEST(AviOneFilm, AnOpenDmlFilmWithASecondRiffIsLeftAloneWithError78) {
 TEST(AviOneFilm, AWaveFileIsLeftAloneWithError5) {
     const ScratchFolder folder;
     const std::string path = folder / "sound.avi";
-    output_of("ffmpeg -v error -nostdin -y -f lavfi -i sine=duration=1 -f wav '" + path + "'");
+    run_command("ffmpeg -v error -nostdin -y -f lavfi -i sine=duration=1 -f wav '" + path + "'");
     const std::string bytes = read_file(path);
     StreamCapture quiet;
     _file_info_t info{};

@@ -2,13 +2,11 @@
 #include "id3_bytes.h"
 #include "libid3tag_reader.h"
 #include "stored_info.h"
+#include "support/command.h"
 #include "support/system_call_faults.h"
 #include "taglib/id3/load_file_info.h"
 
 #include <gtest/gtest.h>
-
-#include <array>
-#include <cstdio>
 
 /** Songs made by ffmpeg and tagged by ffmpeg and mutagen are read by us; what we store is read by libid3tag
    and mutagen, and the songs still decode to the same samples. */
@@ -17,36 +15,20 @@ namespace {
 
 using Values = std::vector<std::string>;
 
-/** What a shell command prints; the test fails when the command does. */
-std::string output_of(const std::string& command) {
-    std::FILE* const pipe = ::popen(command.c_str(), "r");
-    if (!pipe) {
-        ADD_FAILURE() << command;
-        return "";
-    }
-    std::string text;
-    std::array<char, 4096> buffer{};
-    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe)) {
-        text.append(buffer.data(), count);
-    }
-    EXPECT_EQ(0, ::pclose(pipe)) << command;
-    return text;
-}
-
 /** The folder's files and what is done with them. */
 class RealFiles : public testing::Test {
 protected:
     /** A second of sound as an MP3 file with what OPTIONS ask for, made of INPUTS beside the sound. */
     std::string make_song(const std::string& options, const std::string& inputs = "") {
         const std::string path = folder_ / "song.mp3";
-        output_of("ffmpeg -v error -nostdin -y -f lavfi -i sine=frequency=440:duration=1 " + inputs +
-                  " -c:a libmp3lame -b:a 64k " + options + " " + path);
+        run_command("ffmpeg -v error -nostdin -y -f lavfi -i sine=frequency=440:duration=1 " + inputs +
+                    " -c:a libmp3lame -b:a 64k " + options + " " + path);
         return path;
     }
     std::string make_untagged_song() { return make_song("-id3v2_version 0 -write_id3v1 0 -write_xing 0"); }
     std::string make_picture() {
         const std::string path = folder_ / "cover.jpg";
-        output_of("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=64x64 -frames:v 1 " + path);
+        run_command("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=64x64 -frames:v 1 " + path);
         return path;
     }
     /** Runs a Python program that has mutagen's ID3 names and the song's path. */
@@ -54,11 +36,11 @@ protected:
         const std::string script = folder_ / "tag.py";
         write_file(script, "import mutagen.id3\nglobals().update(vars(mutagen.id3))\nsong = '" + path +
                                "'\n" + program);
-        return output_of("/usr/bin/python3 " + script);
+        return run_command("/usr/bin/python3 " + script);
     }
     /** ffmpeg takes an appended tag for a last, bad frame and says so; that is left out. */
     [[nodiscard]] static std::string decoded_checksum(const std::string& path) {
-        return output_of("ffmpeg -v fatal -nostdin -i " + path + " -map 0:a -f md5 -");
+        return run_command("ffmpeg -v fatal -nostdin -i " + path + " -map 0:a -f md5 -");
     }
     /** Loads the song into info(). */
     void load(const std::string& path) {
