@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <ctime>
+#include <optional>
 #include <sys/time.h>
 #include <sys/times.h>
 #include <unistd.h>
@@ -13,12 +14,12 @@ namespace {
 constexpr std::int64_t seconds_between_epochs = 11'644'473'600;
 constexpr std::int64_t units_per_second = 10'000'000;
 
-/** Local broken-down time as seconds since 1970 in 64 bits; 0 when it is out of the calendar's range. */
-std::int64_t seconds_of_local_time(std::tm time) {
+/** Local broken-down time as seconds since 1970 in 64 bits; nothing when no calendar has it. */
+std::optional<std::int64_t> seconds_of_local_time(std::tm time) {
     time.tm_isdst = -1;
     time.tm_wday = -1; // stays so only on failure: -1 alone is also the second before 1970
     const std::time_t seconds = std::mktime(&time);
-    return time.tm_wday < 0 ? 0 : seconds;
+    return time.tm_wday < 0 ? std::nullopt : std::optional<std::int64_t>(seconds);
 }
 
 } // namespace
@@ -48,8 +49,9 @@ std::int32_t ParseID3Time(const char* text) {
     }
     time.tm_year -= 1900;
     time.tm_mon -= 1;
+    const std::optional<std::int64_t> seconds = seconds_of_local_time(time);
     const std::int64_t zone = (std::int64_t{zone_hours} * 60 + zone_minutes) * 60;
-    return static_cast<std::int32_t>(seconds_of_local_time(time) + zone);
+    return seconds ? static_cast<std::int32_t>(*seconds + zone) : 0;
 }
 
 char* FormatID3Time(std::int32_t seconds, char* text) {

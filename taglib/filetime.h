@@ -24,8 +24,8 @@ void timet_to_filetime(std::int32_t seconds, FILETIME* time);
 [[nodiscard]] std::int32_t filetime_to_timet(FILETIME time);
 
 /** Reads "%d-%d-%dT:%d:%d:%d+%d:%d" (local time, zone optional) the ordinary way. Returns seconds since 1970,
-   or 0 when fewer than six values are there, the year is below 1900 or the month below 1. The ID3 frames have
-   rules of their own and do not use this pair. */
+   or 0 when fewer than six values are there, the year is below 1900, the month below 1 or no calendar has the
+   time. The ID3 frames have rules of their own and do not use this pair. */
 [[nodiscard]] std::int32_t ParseID3Time(const char* text);
 /** Bytes that FormatID3Time's target must hold. */
 inline constexpr std::size_t id3_time_capacity = 64;

@@ -130,6 +130,7 @@ TEST_F(Id3TimeTest, IsCutTo32Bits) {
 
 TEST_F(Id3TimeTest, IsZeroForAYearBeyondTheCalendar) {
     EXPECT_EQ(0, ParseID3Time("2147483647-2147483647-01T:00:00:00"));
+    EXPECT_EQ(0, ParseID3Time("2147483647-2147483647-01T:00:00:00+2:00"));
 }
 
 std::string formatted(std::int32_t seconds) {
