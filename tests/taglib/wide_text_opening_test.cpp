@@ -9,9 +9,17 @@
 namespace {
 bool refuse = false;
 std::string openings; // "to<from", each
+int conversions = 0;
 } // namespace
 
 // NOLINTBEGIN(bugprone-reserved-identifier)
+extern "C" std::size_t __real_iconv(iconv_t handle, char** in, std::size_t* in_left, char** out,
+                                    std::size_t* out_left);
+extern "C" std::size_t __wrap_iconv(iconv_t handle, char** in, std::size_t* in_left, char** out,
+                                    std::size_t* out_left) {
+    ++conversions;
+    return __real_iconv(handle, in, in_left, out, out_left);
+}
 extern "C" iconv_t __real_iconv_open(const char* to, const char* from);
 extern "C" iconv_t __wrap_iconv_open(const char* to, const char* from) {
     openings += std::string(to) + "<" + from + " ";
@@ -59,6 +67,17 @@ TEST(BcsToUni, OpensItsConverterOnFirstSuccessAndKeepsIt) {
     EXPECT_STREQ(L"Bu", target);
 
     EXPECT_EQ("WCHAR_T<UTF-8 WCHAR_T<UTF-8 ", openings);
+}
+
+TEST(WideText, EachConversionIsOneCallOfIconvAlsoAfterAFailure) {
+    wchar_t wide[3] = L"uu";
+    char bytes[8] = {};
+    refuse = false;
+    conversions = 0;
+    EXPECT_NE(0u, bcstouni("\xFF", wide, sizeof wide));
+    EXPECT_EQ(0u, bcstouni("A", wide, sizeof wide));
+    EXPECT_EQ(0u, unitobcs(L"", bytes, sizeof bytes));
+    EXPECT_EQ(3, conversions);
 }
 
 } // namespace
