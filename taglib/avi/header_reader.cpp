@@ -22,20 +22,28 @@ struct ChunkHeader {
     std::uint32_t size;
 };
 
-/** Reads held against the file's length, so that the end of the file and a failing medium are told apart. */
+/** Reads held against the file's length, so that the end of the file and a failing medium are told apart.
+   Nobody else moves in the file meanwhile. */
 class Reader {
 public:
-    explicit Reader(FIOFUNCSTRUCT* file) : file_(file), length_(fio_lseek(file, 0, SEEK_END)) {}
+    explicit Reader(FIOFUNCSTRUCT* file)
+        : file_(file), length_(fio_lseek(file, 0, SEEK_END)), position_(length_) {}
 
     /** The file's length, or -1. */
     [[nodiscard]] std::int64_t length() const { return length_; }
     /** Whether bytes that the file has could not be read. */
     [[nodiscard]] bool failed() const { return failed_; }
 
+    [[nodiscard]] std::int64_t position() const { return position_; }
+
     bool seek(std::int64_t position) {
+        if (position == position_ && in_place_) {
+            return true; // as where an item follows on the one before it
+        }
         position_ = position;
         const bool arrived = fio_lseek(file_, position, SEEK_SET) == position;
         failed_ |= !arrived;
+        in_place_ = arrived;
         return arrived;
     }
 
@@ -44,6 +52,7 @@ public:
         const std::int64_t expected = std::clamp<std::int64_t>(length_ - position_, 0, count);
         const std::int64_t got = fio_read(file_, buffer, count);
         failed_ |= got < expected;
+        in_place_ = in_place_ && got == count;
         position_ += count;
         return got == count;
     }
@@ -64,7 +73,8 @@ public:
 private:
     FIOFUNCSTRUCT* file_;
     std::int64_t length_;
-    std::int64_t position_ = 0;
+    std::int64_t position_;
+    bool in_place_ = false; ///< the file is at the position
     bool failed_ = false;
 };
 
@@ -145,7 +155,7 @@ void load_sub_chunks(Reader& reader, std::int64_t base, _avi_item_t* list) {
 class TopLevel {
 public:
     TopLevel(FIOFUNCSTRUCT* file, _avi_item_t* root)
-        : file_(file), root_(root), reader_(file), limit_(reader_.length() - header_size) {}
+        : root_(root), reader_(file), limit_(reader_.length() - header_size) {}
 
     /** False for what is no readable AVI file. */
     bool read() {
@@ -233,7 +243,8 @@ private:
             DebugInfo("[%08lx] <list> type %s size 0x%x\n", shown_offset, riff_tag(item.list_type),
                       item.size);
             if (item.list_type == fourcc::info) {
-                avi_load_item_list(file_, &item);
+                load_sub_chunks(reader_, reader_.position() - 4, &item);
+                item.incomplete |= reader_.failed();
             }
         } else {
             DebugInfo("[%08lx] <%s> size 0x%x\n", shown_offset, riff_tag(item.fourcc), item.size);
@@ -251,7 +262,6 @@ private:
         return true;
     }
 
-    FIOFUNCSTRUCT* file_;
     _avi_item_t* root_;
     Reader reader_;
     std::int64_t limit_;
