@@ -18,6 +18,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <vector>
 
 /** Every function of the tag library that writes, run once for each system call that it makes and for each
@@ -317,6 +318,20 @@ bool failure_is_explained(const Outcome& outcome, const Fault& fault) {
     return asf_header_cut || outcome.error == 5 || (fault.error != 0 && outcome.error == fault.error);
 }
 
+/** Whether the system said only at a close that something written may be lost. */
+bool close_of_written_file_failed(const Outcome& outcome) {
+    std::set<std::string> written;
+    for (const SystemCallRecord& call : outcome.calls) {
+        if (call.call == SystemCall::write && call.result > 0) {
+            written.insert(call.path);
+        }
+        if (call.call == SystemCall::close && call.error != 0 && written.count(call.path) > 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /** What is wrong with OUTCOME; empty when nothing is. */
 std::string violation(const Operation& operation, const Fault& fault, const Outcome& outcome,
                       const Outcome& success) {
@@ -333,7 +348,8 @@ std::string violation(const Operation& operation, const Fault& fault, const Outc
     if (!media_survives(operation, outcome, success)) {
         found += " media lost;";
     }
-    if (outcome.result == 1 && !success_is_true(operation, outcome, success)) {
+    if (outcome.result == 1 &&
+        (!success_is_true(operation, outcome, success) || close_of_written_file_failed(outcome))) {
         found += " success without the result;";
     }
     if (outcome.result == 0 && !failure_is_explained(outcome, fault)) {
