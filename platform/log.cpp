@@ -1,5 +1,7 @@
 #include "log.h"
 
+#include "file_path.h"
+
 #include <QByteArray>
 
 #include <cstdio>
@@ -7,7 +9,8 @@
 namespace velmora {
 
 void appLog(const QString& text) {
-    QByteArray line = text.toUtf8();
+    // Like toUtf8, but a path in the text keeps bytes that are no UTF-8.
+    QByteArray line = pathBytes(text);
     if (!line.endsWith('\n')) {
         line += '\n';
     }

@@ -495,6 +495,16 @@ TEST_F(MediaSearchTest, NoMessageIsHandledWhileAModalLoopRuns) {
     EXPECT_EQ(3, files_.size());
 }
 
+TEST_F(MediaSearchTest, LogShowsAPathByteForByte) {
+    const std::string folder = scratch_ / "f\xE4#?%41<b>";
+    ASSERT_EQ(0, mkdir(folder.c_str(), 0755));
+    const std::string log = logOf([&] {
+        search_->queueFolders({pathFromBytes(QByteArray::fromStdString(folder))});
+        runLoopUntilDone();
+    });
+    EXPECT_THAT(log, HasSubstr("search: entering " + folder + "\n"));
+}
+
 TEST_F(MediaSearchTest, PathsOfAnyBytesArriveByteForByte) {
     const std::string folder = scratch_ / "f\xE4\n#?%41<b>";
     ASSERT_EQ(0, mkdir(folder.c_str(), 0755));
