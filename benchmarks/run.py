@@ -1,0 +1,203 @@
+#!/usr/bin/python3
+"""run.py BUILD_FOLDER: runs every benchmark of the build and prints one table, in Markdown, with ratios and targets.
+
+Each ratio comes from one run of one program (or, for the starts, one loop) in which the two sides take turns, and is a
+ratio of medians. Time is processor time, user and system together, unless a row says otherwise: it is what the work
+costs on a machine that has other things to do. Ends with 1 when a target is missed.
+"""
+
+import json
+import os
+import platform
+import re
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+KINDS = [("leading", "MP3 with the tag in front"), ("appended", "MP3 with an appended tag"), ("asf", "ASF"),
+         ("avi", "AVI")]
+STORES = [("appended", "MP3 with an appended tag"), ("asf", "ASF with room in its padding"),
+          ("avi", "AVI with INFO last")]
+
+
+class Table:
+    """Rows of cells, and whether every target was met."""
+
+    def __init__(self):
+        self.rows = []
+        self.met = True
+
+    def add(self, work, ours, yardstick, value, target, limit, measured, closed=""):
+        met = measured <= limit
+        self.met = self.met and met
+        self.rows.append((work, ours, closed, yardstick, value, target, "yes" if met else "**no**"))
+
+    def add_ratio(self, work, ours, yardstick, name, limit, closed=None):
+        ratio = ours / yardstick
+        self.add(work, duration(ours), f"{name}: {duration(yardstick)}", f"{ratio:.2f}", f"at most {limit}", limit,
+                 ratio, "" if closed is None else f"{duration(closed)} ({closed / yardstick:.2f})")
+
+    def write(self):
+        head = ("work", "Velmora", "standard error closed", "yardstick", "ratio or figure", "target", "met")
+        for row in (head, ["---"] * len(head), *self.rows):
+            print("| " + " | ".join(row) + " |")
+
+
+def duration(nanoseconds):
+    for unit, size in (("s", 1e9), ("ms", 1e6), ("µs", 1e3)):
+        if nanoseconds >= size:
+            return f"{nanoseconds / size:.3g} {unit}"
+    return f"{nanoseconds:.3g} ns"
+
+
+def google_benchmark(command, repetitions, *options):
+    """{name: median processor time in ns} of a program of Google Benchmark."""
+    with tempfile.NamedTemporaryFile(suffix=".json") as out:
+        subprocess.run([*command, f"--benchmark_repetitions={repetitions}", f"--benchmark_out={out.name}",
+                        "--benchmark_enable_random_interleaving=true", "--benchmark_out_format=json", *options],
+                       check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        runs = json.load(out)["benchmarks"]
+    times = {}
+    units = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+    for run in runs:
+        if run.get("error_occurred"):
+            sys.exit(f"{run['name']}: {run['error_message']}")
+        if run["run_type"] == "iteration":
+            name = re.sub("/iterations:.*", "", run["run_name"])
+            times.setdefault(name, []).append(run["cpu_time"] * units[run["time_unit"]])
+    return {name: statistics.median(values) for name, values in times.items()}
+
+
+def add_tags(table, programs, library):
+    tag_benchmark = [f"{programs}/tag_benchmark", library]
+    limits = {"leading": 0.65, "appended": 0.70, "asf": 0.80, "avi": 0.70}
+    times = google_benchmark(tag_benchmark, 15, "--benchmark_filter=read|store", "--benchmark_min_time=0.03")
+    names = {"leading": "TagLib, tags only", "appended": "TagLib's parser and a footer search", "asf": "TagLib",
+             "avi": "TagLib's RIFF classes"}
+    for kind, text in KINDS:
+        work = f"read {kind}"
+        table.add_ratio(f"read the tags of 12 files, {text}", times[f"{work}/velmora"], times[f"{work}/yardstick"],
+                        names[kind], limits[kind], times[f"{work}/closed"])
+    add_calls(table, programs, library)
+    limits = {"appended": 0.40, "asf": 0.05, "avi": 0.05}
+    for kind, text in STORES:
+        work = f"store {kind}"
+        table.add_ratio(f"store a title in place, {text}", times[f"{work}/velmora"], times[f"{work}/yardstick"],
+                        names[kind], limits[kind], times[f"{work}/closed"])
+        if kind == "avi":
+            table.add_ratio(f"the same, beside a reader that takes every list in whole", times[f"{work}/velmora"],
+                            times[f"{work}/whole lists"], names[kind], limits[kind], times[f"{work}/closed"])
+            table.add_ratio(f"the same work as a plain loop: the fewest reads and writes",
+                            times[f"{work}/fewest calls"], times[f"{work}/yardstick"], names[kind], limits[kind])
+    for kind, text in STORES:
+        work = f"store {kind}"
+        table.add_ratio(f"the same store in a file of 1 GiB, {text}", times[f"{work}/large"],
+                        times[f"{work}/velmora"], "in a small file", 2.0)
+    times = google_benchmark(tag_benchmark, 5, "--benchmark_filter=move")
+    table.add_ratio("move 1 GiB of ASF data, up and back", times["move/velmora"], times["move/yardstick"],
+                    "a plain loop in steps of 1 MiB", 1.3)
+
+
+def task_cost(programs, *arguments):
+    return int(subprocess.run([f"{programs}/task_cost", *arguments], check=True, capture_output=True, text=True).stdout)
+
+
+def add_calls(table, programs, library):
+    with open(f"{library}/elements.txt", encoding="utf-8") as file:
+        counts = [line.rsplit(" ", 1) for line in file]
+    for (kind, text), (path, elements) in zip(KINDS, counts):
+        calls = task_cost(programs, "calls", path)
+        limit = 2 * int(elements) + 8
+        what = {"asf": "objects and attributes", "avi": "chunks"}.get(kind, "frames")
+        table.add(f"system calls of a read, {text}", f"{calls}", f"{int(elements)} {what}", f"{calls}",
+                  f"at most {limit}", limit, calls)
+
+
+def add_memory(table, programs, library):
+    bare = statistics.median(task_cost(programs, "memory", "bare") for _ in range(5))
+    tasks = [(f"read, {text}, 1 GiB", "read", f"{library}/large/{name}")
+             for text, name in (("MP3", "song.mp3"), ("ASF", "song.wma"), ("AVI", "film.avi"))]
+    tasks.append(("read, MP3 with the tag in front", "read", f"{library}/leading/02.mp3"))
+    tasks.append(("move of 1 GiB", "move", f"{library}/large/song.wma"))
+    for text, task, path in tasks:
+        peak = statistics.median(task_cost(programs, "memory", task, path) for _ in range(3))
+        above = (peak - bare) / 1024
+        table.add(f"peak memory of a {text}", f"{peak / 1024:.1f} MiB", f"the bare process: {bare / 1024:.1f} MiB",
+                  f"{above:.1f} MiB above", "at most 8 MiB above", 8, above)
+
+
+def add_trim(table, programs):
+    times = google_benchmark([f"{programs}/bitmap_trim_benchmark"], 9, "--benchmark_min_time=0.05")
+    read = times["Read"]
+    table.add_ratio("bitmap_trim, 4000 x 4000, blank", times["Blank"], read, "one vectorised read", 1.5)
+    copy = times["CopyOfBox/200"]
+    ratio = (times["Border/200"] - copy) / read
+    table.add("bitmap_trim, 4000 x 4000, border of 200", duration(times["Border/200"]),
+              f"one vectorised read: {duration(read)}, one copy of the box: {duration(copy)}",
+              f"{ratio:.2f} and the copy", "at most 0.5 and the copy", 0.5, ratio)
+
+
+def add_search(table, programs):
+    run = subprocess.run([f"{programs}/search_benchmark"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
+                         check=False, env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+    match = re.search(r"find ([\d.]+) ms, walk ([\d.]+) ms, listing ([\d.]+) ms, listing by name ([\d.]+) ms", run.stdout)
+    if not match:
+        sys.exit("search_benchmark failed")
+    find, walk, unsorted, by_name = (float(value) * 1e6 for value in match.groups())
+    table.add_ratio("walk of 100,000 files", walk, find, "find with the same size test", 1.5)
+    table.add_ratio("list 100,000 files, unsorted", unsorted, walk, "the walk alone", 3)
+    table.add_ratio("list 100,000 files, sorted by name", by_name, walk, "the walk alone", 5)
+
+
+def start(program, home):
+    """Processor and wall time in ns until the program has painted its window, at which it ends."""
+    environment = {**os.environ, "HOME": home, "QT_QPA_PLATFORM": "offscreen"}
+    began = time.monotonic_ns()
+    process = subprocess.Popen([program], env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    _, status, usage = os.wait4(process.pid, 0)
+    took = time.monotonic_ns() - began
+    process.returncode = status
+    if status != 0:
+        sys.exit(f"{program} failed")
+    return (usage.ru_utime + usage.ru_stime) * 1e9, took
+
+
+def add_start(table, programs):
+    both = [f"{programs}/start_of_velmora", f"{programs}/start_of_bare_window"]
+    times = {program: [] for program in both}
+    with tempfile.TemporaryDirectory() as home:
+        for _ in range(16):
+            for program in both:
+                times[program].append(start(program, home))
+    # The first round reads the programs from the disk.
+    velmora, bare = ([statistics.median(column) for column in zip(*times[program][1:])] for program in both)
+    table.add_ratio("start to first paint", velmora[0], bare[0], "a bare window with the same widgets, empty", 1.3)
+    table.add_ratio("the same, by the clock", velmora[1], bare[1], "a bare window with the same widgets, empty", 1.3)
+
+
+def machine():
+    memory = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / (1 << 30)
+    load = os.getloadavg()[1]
+    return (f"{os.cpu_count()} cores of {platform.machine()}, {memory:.0f} GiB of memory, files in the page cache; "
+            f"load of the last five minutes {load:.1f}.")
+
+
+def main():
+    programs = f"{os.path.abspath(sys.argv[1])}/benchmarks"
+    table = Table()
+    with tempfile.TemporaryDirectory() as library:
+        subprocess.run([sys.executable, f"{HERE}/make_library.py", library], check=True)
+        add_tags(table, programs, library)
+        add_memory(table, programs, library)
+    add_trim(table, programs)
+    add_search(table, programs)
+    add_start(table, programs)
+    table.write()
+    print(f"\n{machine()}")
+    return 0 if table.met else 1
+
+
+sys.exit(main())
