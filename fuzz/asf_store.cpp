@@ -12,12 +12,24 @@ constexpr std::uint8_t remove_instead = 0x01;
 /** Without as much data as the move's buffer takes, no data is moved. */
 constexpr std::uint8_t much_data = 0x02;
 
+/** 70,000 bytes without long repeats. */
+const std::string& pattern() {
+    static const std::string bytes = [] {
+        std::string made;
+        for (std::uint32_t i = 0; i < 70000; ++i) {
+            made.push_back(static_cast<char>(i * 2654435761u >> 24));
+        }
+        return made;
+    }();
+    return bytes;
+}
+
 constexpr std::size_t object_header_size = 24;
 
+/** What the file does not have counts as zero. */
 std::uint64_t le64_at(const std::string& file, std::size_t position) {
-    return position + 8 <= file.size()
-               ? Input(reinterpret_cast<const std::uint8_t*>(file.data()) + position, 8).number(8)
-               : 0;
+    const std::string bytes = file.substr(std::min(position, file.size()), 8);
+    return Input(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()).number(8);
 }
 
 /** The children of FILE's header, found without the code under test. */
@@ -26,7 +38,7 @@ struct Header {
         static const std::string ecd_guid =
             "\x40\xA4\xD0\xD2\x07\xE3\xD2\x11\x97\xF0" + std::string(1, '\0') + "\xA0\xC9\x5E\xA8\x50";
         std::uint64_t at = 30;
-        for (std::uint64_t i = le64_at(file, 24) & 0xFFFFFFFF; i > 0 && at + 24 <= file.size(); --i) {
+        for (std::uint64_t i = le64_at(file, 24) & 0xFFFFFFFF; i > 0 && at < file.size(); --i) {
             const std::uint64_t child = le64_at(file, at + 16);
             // A padding object may be smaller than its own header, which then lies over what follows.
             overhang |= child < object_header_size;
@@ -93,8 +105,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::uint8_t choices = input.byte();
     const TagEdit edit(input);
     std::string before = input.rest();
-    for (std::uint32_t i = 0; choices & much_data && i < 70000; ++i) {
-        before.push_back(static_cast<char>(i * 2654435761u >> 24));
+    if (choices & much_data) {
+        before += pattern();
     }
     const MediaFile file(before);
     const DescriptorCheck descriptors;
@@ -113,8 +125,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     const Header old_header(before);
-    if (old_header.size > 0x7FFFFFFF) {
-        return 0; // header sizes are computed in 32 bits
+    // Sizes are computed in 32 bits; and what is appended behind an overhanging padding lies over its header.
+    if (old_header.size > 0x7FFFFFFF || old_header.overhang) {
+        return 0;
     }
     if (result == 0) {
         require_media_in_place(before, after, old_header);
