@@ -132,7 +132,7 @@ Bounds find_bounds(const std::uint32_t* pixels, std::uint32_t width, std::uint32
     }
     for (std::uint32_t y = bounds.y0; y <= bounds.y1; ++y) {
         // A row's pixels left of x0 and right of x1 are all that can still widen the box.
-        bounds.x0 = std::min(bounds.x0, border_at_start(border, row(y), bounds.x0));
+        bounds.x0 = border_at_start(border, row(y), bounds.x0);
         const std::uint32_t right = width - 1 - bounds.x1;
         const std::uint32_t clear = border_at_end(border, row(y) + bounds.x1 + 1, right);
         bounds.x1 += right - clear;

@@ -16,7 +16,7 @@ namespace velmora::test {
 class MovieTest : public testing::Test {
 protected:
     static constexpr int patience = 20000; ///< milliseconds for something that must happen
-    static constexpr int silence = 700; ///< milliseconds in which something that must not happen would have
+    static constexpr int silence = 400; ///< milliseconds in which something that must not happen would have
 
     /** Waits for the file opened last to be decided. */
     void waitForDecision() {
