@@ -9,7 +9,6 @@
 #include "weblookup/form_fill_receiver.h"
 
 #include <QObject>
-#include <QPointer>
 
 class QLabel;
 class QPushButton;
@@ -25,6 +24,7 @@ class TagWebBrowser;
 /** The window's controls that the controller works with, made by the window layout. All of them must be set
    and outlive the controller. */
 struct VelmoraOutlets : TagFormOutlets {
+    QPushButton* btn_captureFrame = nullptr;
     QPushButton* btn_addFile = nullptr;
     QPushButton* btn_addFolder = nullptr;
     QPushButton* btn_stop = nullptr;
@@ -85,7 +85,6 @@ public:
     [[nodiscard]] TagForm& form() { return form_; }
     [[nodiscard]] MediaTable& table() { return table_; }
     [[nodiscard]] MediaSearch& search() { return search_; }
-    [[nodiscard]] const VelmoraOutlets& outlets() const { return outlets_; }
 
 private:
     void connectSearch();

@@ -12,11 +12,12 @@ class MediaDocument : public Document {
 public:
     using Document::Document;
 
-    /** The open media file, owned by the document; null when none is open. Replaced by each successful readFromURL. */
+    /** The open media file, owned by the document; null when none is open. Good until the next readFromURL or
+       question about unsaved changes. */
     [[nodiscard]] virtual MediaFile* mediaFile() const = 0;
 
-    /** Writes the open file's metadata into the file. False, with ERROR (may be null) filled, when that failed; false
-        also when no file is open. The change count stays as it is. */
+    /** Writes the open file's metadata into the file. False, with ERROR (may be null) filled, when that
+       failed; false also when no file is open. The change count stays as it is. */
     virtual bool saveMediaFile(Error* error) = 0;
 };
 

@@ -52,6 +52,8 @@ void TagForm::setUpControls() {
     genre->setCompleter(nullptr); // it would rewrite "drama" to "Drama" behind the person's back
     genre->setCurrentIndex(-1);
     genre->clearEditText();
+    // Leaving the box would pick the item whose name it shows, which is no edit of the person's.
+    disconnect(genre->lineEdit(), &QLineEdit::editingFinished, genre, nullptr);
     connect(genre->lineEdit(), &QLineEdit::textEdited, this, [this, genre] { controlTextDidChange(genre); });
     connect(genre, &QComboBox::textActivated, this, [this, genre] { controlTextDidChange(genre); });
 
@@ -94,10 +96,9 @@ void TagForm::clearUI() {
     outlets_.combo_rating->setCurrentIndex(0);
     setSynopsisText(none);
     outlets_.img_coverArt->setImage(QImage());
-    for (QPushButton* button : {outlets_.btn_captureFrame, outlets_.btn_trimBorder, outlets_.btn_loadCoverArt,
-                                outlets_.btn_removeTag}) {
-        button->setEnabled(false);
-    }
+    outlets_.btn_trimBorder->setEnabled(false);
+    outlets_.btn_loadCoverArt->setEnabled(false);
+    outlets_.btn_removeTag->setEnabled(false);
     disableSaveAndRevert();
 }
 

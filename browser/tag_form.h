@@ -37,7 +37,6 @@ struct TagFormOutlets {
     QPushButton* btn_revertTag = nullptr;
     QPushButton* btn_removeTag = nullptr;
     QPushButton* btn_loadCoverArt = nullptr;
-    QPushButton* btn_captureFrame = nullptr;
     QPushButton* btn_trimBorder = nullptr;
 };
 

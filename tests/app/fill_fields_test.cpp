@@ -73,6 +73,19 @@ TEST_F(FillFieldsTest, FieldsReachTheModelWhenThePersonTypesInThem) {
     EXPECT_EQ("Harbour!", file().title());
 }
 
+TEST_F(FillFieldsTest, PassingThroughTheFilledGenreDoesNotStoreIt) {
+    openVideo();
+    FormFillInfo info;
+    info.genres = QStringList{"Drama"};
+    controller().fillFields(&info);
+    auto& genre = widget<QComboBox>("combo_genre");
+    genre.setFocus();
+    QTest::keyClick(genre.lineEdit(), Qt::Key_Tab);
+    EXPECT_EQ("Drama", genre.currentText());
+    EXPECT_EQ("", file().genre());
+    EXPECT_FALSE(document().isDocumentEdited());
+}
+
 TEST_F(FillFieldsTest, LogsItsSlotsInOrder) {
     openVideo();
     const FormFillInfo info = everything();

@@ -90,6 +90,12 @@ TEST_F(FormEditsTest, YearThatIsNoNumberIsZero) {
     }
 }
 
+TEST_F(FormEditsTest, BlanksAroundTheYearDoNotMatter) {
+    openAudio();
+    type("entry_year", " 2004 ");
+    EXPECT_EQ(2004, file().year());
+}
+
 TEST_F(FormEditsTest, YearsAreComparedAsNumbers) {
     openAudio();
     entry("entry_year").setText("01999");
@@ -110,11 +116,19 @@ TEST_F(FormEditsTest, TypedGenreIsTakenAsItIs) {
 
 TEST_F(FormEditsTest, PickedGenreIsAnEdit) {
     openAudio();
-    genre().setFocus();
-    genre().setCurrentIndex(12);
-    emit genre().textActivated(genre().itemText(12));
-    EXPECT_EQ("Drama", file().genre());
+    QTest::keyClick(&genre(), Qt::Key_Down);
+    EXPECT_EQ("Action", file().genre());
     expectMarked(true);
+}
+
+TEST_F(FormEditsTest, PassingThroughTheGenreBoxIsNoEdit) {
+    openFile("a.mp3", textFrame("TCON", "Drama"));
+    const int before = logged("in controlTextDidEndEditing:\n");
+    genre().setFocus();
+    QTest::keyClick(genre().lineEdit(), Qt::Key_Return);
+    QTest::keyClick(genre().lineEdit(), Qt::Key_Tab);
+    EXPECT_EQ(before, logged("in controlTextDidEndEditing:\n"));
+    expectMarked(false);
 }
 
 TEST_F(FormEditsTest, UnknownControlWarnsAndChangesNothing) {

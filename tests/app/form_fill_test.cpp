@@ -185,6 +185,15 @@ TEST_F(FormFillTest, FolderImageStandsInForMissingCoverArtAndCountsAsAChange) {
     EXPECT_TRUE(enabled("btn_trimBorder"));
 }
 
+TEST_F(FormFillTest, FolderImageCountsAsAChangeAgainAfterRevert) {
+    writeImage("folder.jpg", 40, 30);
+    openFile("a.mp3");
+    controller().revertToSaved();
+    test::settle();
+    EXPECT_TRUE(document().isDocumentEdited());
+    EXPECT_TRUE(enabled("btn_revertTag"));
+}
+
 TEST_F(FormFillTest, FolderImageHasThatNameExactly) {
     writeImage("Folder.jpg", 40, 30);
     openFile("a.mp3");
