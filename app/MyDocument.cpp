@@ -104,6 +104,9 @@ void MyDocument::saveDocument() {
 }
 
 bool MyDocument::handleDirtySave() {
+    if (questionLoop_) {
+        return false; // already asked, and not answered yet
+    }
     Alert alert;
     alert.setMessageText(localised("Do you want to save the changes you made?"));
     alert.setInformativeText(localised("Your changes to \"%@\" will be lost if you don't save them.",

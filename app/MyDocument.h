@@ -52,8 +52,10 @@ public:
        clears that. */
     void saveDocument();
 
-    /** Asks what to do with the changes of the open file, and does it. False when the person cancelled;
-       otherwise the file is closed, its changes written or dropped. */
+    /** Asks what to do with the changes of the open file, and does it. False when the person cancelled, and
+       while the question is on the screen already. True otherwise: the file is closed, its changes written or
+       dropped. A question that goes away without an answer counts as true and leaves the file and its changes
+       as they are. */
     [[nodiscard]] bool handleDirtySave();
     /** The end of the question's sheet. */
     void needsSaveAlertDone(int returnCode);

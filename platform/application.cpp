@@ -21,7 +21,6 @@ void ApplicationTermination::terminate() {
         return;
     }
     terminating_ = true;
-    emit willTerminate();
     // Not quit(): that would close the windows again, and ask again.
     QCoreApplication::exit(0);
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 
 namespace velmora {
 
@@ -32,10 +31,6 @@ public:
 
     /** Whether the end was granted. */
     [[nodiscard]] bool isTerminating() const { return terminating_; }
-
-signals:
-    /** The end was granted; the event loop is told right after this. */
-    void willTerminate();
 
 private:
     void lastWindowClosed();

@@ -1,7 +1,5 @@
 #include "document_window.h"
 
-#include "modal_loop.h"
-
 #include <QCloseEvent>
 
 namespace velmora {
@@ -10,7 +8,7 @@ void DocumentWindow::closeEvent(QCloseEvent* event) {
     if (!delegate_) {
         return;
     }
-    if (ModalLoop::depth() > 0 || !delegate_->windowShouldClose()) {
+    if (!delegate_->windowShouldClose()) {
         event->ignore();
         return;
     }

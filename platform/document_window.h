@@ -14,8 +14,8 @@ public:
     virtual void windowWillClose() = 0;
 };
 
-/** The window of a document. It asks its delegate before it closes, and stays open while a question of the
-   document is still unanswered. */
+/** The window of a document. It asks its delegate before it closes: also while a modal loop runs, so that
+   nobody is locked in behind a wait that does not end. */
 class DocumentWindow : public QMainWindow {
     Q_OBJECT
 public:

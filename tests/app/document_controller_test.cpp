@@ -19,9 +19,10 @@ TEST(VelmoraDocumentController, ReviewReportsAllReviewedAtOnce) {
 }
 
 TEST(VelmoraDocumentController, ReviewWithoutSomebodyToTellDoesNothing) {
-    const test::StreamCapture log;
+    test::StreamCapture log;
     VelmoraDocumentController controller;
     controller.reviewUnsavedDocumentsWithAlertTitle("x", true, {});
+    EXPECT_EQ("", log.text());
 }
 
 TEST(VelmoraDocumentController, OlderRequestLogsAndAgrees) {

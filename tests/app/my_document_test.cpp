@@ -96,17 +96,15 @@ TEST_F(MyDocumentTest, MissingFileIsRefusedAndTheOpenFileStays) {
 }
 
 TEST_F(MyDocumentTest, UnreadableFileIsRefusedAndNoFileIsOpen) {
-    if (::geteuid() != 0) {
-        GTEST_SKIP() << "needs another user to be refused";
-    }
     ASSERT_TRUE(open(write("a.mp3")));
     const QString secret = write("secret.mp3");
     ASSERT_EQ(0, ::chmod((folder_ / "secret.mp3").c_str(), 0));
     ASSERT_EQ(0, ::chmod(folder_.path().c_str(), 0755));
+    const bool isRoot = ::geteuid() == 0; // whom no file refuses: nobody opens it instead
+    ASSERT_TRUE(!isRoot || ::setresuid(65534, 65534, 0) == 0);
     Error error;
-    ASSERT_EQ(0, ::setresuid(65534, 65534, 0));
     const bool opened = open(secret, &error);
-    ASSERT_EQ(0, ::setresuid(0, 0, 0));
+    ASSERT_TRUE(!isRoot || ::setresuid(0, 0, 0) == 0);
     EXPECT_FALSE(opened);
     EXPECT_EQ("Please ensure the file is readable and is a valid media file.", suggestion(error));
     EXPECT_EQ(nullptr, document().mediaFile());

@@ -1,9 +1,12 @@
 #include "window_fixture.h"
 
+#include "platform/modal_loop.h"
 #include "support/bytes.h"
 
 #include <QAction>
 #include <QApplication>
+
+#include <unistd.h>
 
 namespace velmora {
 namespace {
@@ -93,9 +96,28 @@ TEST_F(QuittingTest, WindowStaysWhileTheQuestionIsOnTheScreen) {
     EXPECT_TRUE(document().window()->isVisible());
 }
 
-TEST_F(QuittingTest, DestroyingTheDocumentDuringASearchWaitsForTheWorkerOnly) {
-    controller().search().queueFolders({QStringLiteral("/usr/share")});
+TEST_F(QuittingTest, WindowCanBeClosedWhileTheProgramWaitsForSomethingElse) {
+    openFile();
+    const ModalLoop pageOnItsWay;
+    EXPECT_TRUE(document().window()->close());
+    EXPECT_TRUE(termination_.isTerminating());
+}
+
+TEST_F(QuittingTest, DestroyingTheDocumentDuringASearchEndsIt) {
+    // Two ways back to the start in every folder: this search would not end in a lifetime.
+    for (const char* name : {"/again", "/andAgain"}) {
+        ASSERT_EQ(0, ::symlink(".", (folder_.path() + name).c_str()));
+    }
+    controller().search().queueFolders({path("")});
+    ASSERT_TRUE(test::waitUntil([this] { return logged("search: entering ") > 20; }));
     document_.reset();
+    EXPECT_TRUE(log().ends_with("search thread exiting\n"));
+}
+
+TEST_F(QuittingTest, CloseCommandClosesTheWindow) {
+    document().window()->findChild<QAction*>("action_close")->trigger();
+    EXPECT_FALSE(document().window()->isVisible());
+    EXPECT_TRUE(termination_.isTerminating());
 }
 
 } // namespace

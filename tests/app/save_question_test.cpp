@@ -3,7 +3,11 @@
 #include "platform/file_path.h"
 #include "support/bytes.h"
 
+#include <QAction>
 #include <QTableView>
+#include <QTest>
+
+#include <unistd.h>
 
 namespace velmora {
 namespace {
@@ -27,7 +31,6 @@ protected:
         return rows.isEmpty() ? -1 : rows.first().row();
     }
     std::string bytes() { return test::read_file(folder_ / "a.mp3"); }
-    QuestionAnswerer answerWith(const QString& button) { return {*document().window(), button}; }
     void selectAndWait(int row, const QuestionAnswerer& answer) {
         auto& table = widget<QTableView>("tbl_mediaFiles");
         row < 0 ? table.clearSelection() : table.selectRow(row);
@@ -116,6 +119,48 @@ TEST_F(SaveQuestionTest, AnyOtherEndGoesOnWithTheFileAndTheCountKept) {
     EXPECT_TRUE(document().handleDirtySave());
     EXPECT_EQ(path("a.mp3"), file().filename());
     EXPECT_TRUE(document().isDocumentEdited());
+}
+
+TEST_F(SaveQuestionTest, ComesBeforeTheAddressIsLookedAt) {
+    const QuestionAnswerer answer(*document().window(), "Don't Save");
+    Error error;
+    EXPECT_FALSE(document().readFromURL(QUrl("http://localhost/b.mp3"), "mediafile", &error));
+    EXPECT_EQ(1, answer.questions());
+    EXPECT_EQ(nullptr, document().mediaFile());
+    EXPECT_FALSE(error.userInfo.isEmpty());
+}
+
+TEST_F(SaveQuestionTest, IsNotAskedASecondTimeWhileItIsOnTheScreen) {
+    int boxes = 0;
+    bool closed = true;
+    QTimer::singleShot(20, document().window(), [&] {
+        document().window()->findChild<QAction*>("action_quit")->trigger();
+        closed = document().readFromURL(std::nullopt, QString(), nullptr);
+        const auto all = document().window()->findChildren<QMessageBox*>();
+        boxes = static_cast<int>(all.size());
+        QTest::keyClick(all.first(), Qt::Key_Escape);
+    });
+    EXPECT_FALSE(document().handleDirtySave());
+    EXPECT_EQ(1, boxes);
+    EXPECT_FALSE(closed);
+    EXPECT_FALSE(termination_.isTerminating());
+    EXPECT_EQ("edited", file().title());
+}
+
+TEST_F(SaveQuestionTest, OtherFileThatHasVanishedLeavesTheFormAsItIsWithNoFileBehindIt) {
+    ASSERT_EQ(0, ::unlink((folder_ / "b.mp3").c_str()));
+    const QuestionAnswerer answer(*document().window(), "Don't Save");
+    Error error;
+    EXPECT_FALSE(document().readFromURL(fileUrlFromPath(path("b.mp3")), "mediafile", &error));
+    EXPECT_EQ("The file does not exist.",
+              error.userInfo.value(NSLocalizedRecoverySuggestionErrorKey).toString());
+    EXPECT_EQ(nullptr, document().mediaFile());
+    EXPECT_EQ("edited", entry("entry_title").text());
+    EXPECT_TRUE(enabled("btn_saveTag"));
+    type("entry_title", "more");
+    button("btn_saveTag").click();
+    EXPECT_FALSE(document().isDocumentEdited());
+    EXPECT_EQ(original, bytes());
 }
 
 TEST_F(SaveQuestionTest, OffersItsButtonsInOrderWithTheirKeys) {

@@ -5,7 +5,6 @@
 #include "platform/document_window.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
-#include "platform/modal_loop.h"
 
 #include "support/stream_capture.h"
 
@@ -85,15 +84,6 @@ TEST(DocumentWindow, ClosesOnlyWhenTheDelegateAgrees) {
     EXPECT_FALSE(window.isVisible());
 }
 
-TEST(DocumentWindow, StaysOpenWhileAQuestionIsUnanswered) {
-    testing::StrictMock<MockWindowDelegate> delegate;
-    DocumentWindow window;
-    window.setDelegate(&delegate);
-    window.show();
-    const ModalLoop question;
-    EXPECT_FALSE(window.close());
-}
-
 class MockApplicationDelegate : public ApplicationDelegate {
 public:
     MOCK_METHOD(bool, applicationShouldTerminateAfterLastWindowClosed, (), (override));
@@ -133,6 +123,37 @@ TEST(ApplicationTermination, SecondRequestWhileTheFirstAsksDoesNothing) {
         return ApplicationDelegate::TerminateReply::Cancel;
     });
     termination.terminate();
+}
+
+/** Runs the event loop, closes the only window in it, and returns the loop's code; 1 when nothing ended it.
+ */
+int codeOfLoopThatClosesTheLastWindow() {
+    QWidget window;
+    window.show();
+    QTimer::singleShot(0, &window, &QWidget::close);
+    QTimer::singleShot(200, &window, [] { QCoreApplication::exit(1); });
+    return QApplication::exec();
+}
+
+TEST(ApplicationTermination, LastWindowsCloseAsksWhetherToEndAndThenEnds) {
+    testing::StrictMock<MockApplicationDelegate> delegate;
+    ApplicationTermination termination;
+    termination.setDelegate(&delegate);
+    const testing::InSequence inOrder;
+    EXPECT_CALL(delegate, applicationShouldTerminateAfterLastWindowClosed).WillOnce(testing::Return(true));
+    EXPECT_CALL(delegate, applicationShouldTerminate)
+        .WillOnce(testing::Return(ApplicationDelegate::TerminateReply::Now));
+    EXPECT_EQ(0, codeOfLoopThatClosesTheLastWindow());
+    EXPECT_TRUE(termination.isTerminating());
+}
+
+TEST(ApplicationTermination, LastWindowsCloseAloneEndsNothing) {
+    testing::StrictMock<MockApplicationDelegate> delegate;
+    ApplicationTermination termination;
+    termination.setDelegate(&delegate);
+    EXPECT_CALL(delegate, applicationShouldTerminateAfterLastWindowClosed).WillOnce(testing::Return(false));
+    EXPECT_EQ(1, codeOfLoopThatClosesTheLastWindow());
+    EXPECT_FALSE(termination.isTerminating());
 }
 
 TEST(BusyIndicator, TurnsBetweenStartAndStopAndKeepsItsPlace) {
