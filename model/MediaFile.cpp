@@ -9,11 +9,20 @@
 #include "taglib/file_info.h"
 
 #include <array>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace velmora {
 
 namespace {
+
+/** Pipes and devices don't count: opening one may wait for ever. */
+bool isReadableFile(const QString& path) {
+    const QByteArray bytes = pathBytes(path);
+    struct stat status {};
+    return ::access(bytes.constData(), R_OK) == 0 && ::stat(bytes.constData(), &status) == 0 &&
+           (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode));
+}
 
 QString decodedSlot(const char* text) {
     return text ? decodeTagText(QByteArrayView(text)) : QString();
@@ -81,7 +90,7 @@ Error unableToWrite(const QString& path) {
 } // namespace
 
 std::unique_ptr<MediaFile> MediaFile::initWithFile(const QString& path) {
-    if (::access(pathBytes(path).constData(), R_OK) != 0) {
+    if (!isReadableFile(path)) {
         return nullptr;
     }
     std::unique_ptr<MediaFile> file(new MediaFile);

@@ -21,11 +21,10 @@ constexpr std::array videoExtensions = {"avi", "divx", "dvr-ms", "flv", "ifo", "
 constexpr std::array audioExtensions = {"ac3", "flac", "m4a", "m4p", "mp2", "mp3", "wav", "wma"};
 constexpr std::array imageExtensions = {"bmp", "jpeg", "jpg", "png", "tif", "tiff"};
 
-constexpr TagModule id3Module = {"ID3", id3_load_file_info, id3_store_file_info};
-constexpr TagModule asfModule = {"ASF", asf_load_file_info, [](const char* path, _file_info_t* info) {
-                                     return asf_store_file_info(path, info);
-                                 }};
-constexpr TagModule aviModule = {"AVI", avi_load_file_info, avi_store_file_info};
+constexpr TagModule id3Module = {id3_load_file_info, id3_store_file_info};
+constexpr TagModule asfModule = {
+    asf_load_file_info, [](const char* path, _file_info_t* info) { return asf_store_file_info(path, info); }};
+constexpr TagModule aviModule = {avi_load_file_info, avi_store_file_info};
 
 struct ModuleRow {
     const char* extension;

@@ -15,7 +15,6 @@ enum MediaType : int { imageMedia = 0, audioMedia = 1, videoMedia = 2, otherMedi
 /** The functions that read and write one kind of tag. Both take the path in the file system's encoding and
    return non-zero for success. */
 struct TagModule {
-    const char* name;
     int (*load)(const char* path, _file_info_t* info);
     int (*store)(const char* path, _file_info_t* info);
 };
