@@ -404,7 +404,7 @@
     </message>
     <message>
         <source>&amp;Date:</source>
-        <translation>&amp;Datum:</translation>
+        <translation>Datu&amp;m:</translation>
     </message>
     <message>
         <source>The date, for information: it is not written into the file</source>
@@ -416,7 +416,7 @@
     </message>
     <message>
         <source>&amp;Cover Art:</source>
-        <translation>Tite&amp;lbild:</translation>
+        <translation>T&amp;itelbild:</translation>
     </message>
     <message>
         <source>The cover art; drop an image here</source>
@@ -436,7 +436,7 @@
     </message>
     <message>
         <source>Tri&amp;m</source>
-        <translation>Beschn&amp;eiden</translation>
+        <translation>Bes&amp;chneiden</translation>
     </message>
     <message>
         <source>Trim a border of one colour off the cover art</source>
@@ -460,7 +460,7 @@
     </message>
     <message>
         <source>Ta&amp;ke Frame</source>
-        <translation>Einzel&amp;bild nehmen</translation>
+        <translation>&amp;Einzelbild nehmen</translation>
     </message>
     <message>
         <source>Take the frame shown as cover art</source>

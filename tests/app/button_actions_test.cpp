@@ -2,8 +2,11 @@
 
 #include "browser/movie_preview.h"
 #include "imaging/CoverArtView.h"
+#include "platform/busy_indicator.h"
+#include "platform/file_path.h"
 #include "support/bytes.h"
 
+#include <QAction>
 #include <QFileDialog>
 #include <QPainter>
 #include <QTableView>
@@ -82,6 +85,54 @@ TEST_F(ButtonActionsTest, RevertWithoutAFileDoesNothing) {
     controller().revertToSaved();
     settle();
     EXPECT_EQ("", log().substr(before));
+}
+
+TEST_F(ButtonActionsTest, RevertWithoutASelectedRowReopensNothing) {
+    test::write_file(folder_ / "a.mp3", original);
+    ASSERT_TRUE(document().readFromURL(fileUrlFromPath(path("a.mp3")), "mediafile", nullptr));
+    controller().fillUI();
+    type("entry_title", "new");
+    button("btn_revertTag").click();
+    settle();
+    EXPECT_EQ("new", entry("entry_title").text());
+    EXPECT_EQ("new", file().title());
+    EXPECT_FALSE(document().isDocumentEdited());
+}
+
+TEST_F(ButtonActionsTest, StopEndsTheSearch) {
+    for (const char* name : {"/again", "/andAgain"}) {
+        ASSERT_EQ(0, ::symlink(".", (folder_.path() + name).c_str()));
+    }
+    controller().addFolderSelected(1, {path("")});
+    ASSERT_TRUE(enabled("btn_stop"));
+    EXPECT_TRUE(widget<BusyIndicator>("progress_mediaSearch").isAnimating());
+    button("btn_stop").click();
+    EXPECT_TRUE(test::waitUntil([this] { return !enabled("btn_stop"); }));
+    EXPECT_FALSE(widget<BusyIndicator>("progress_mediaSearch").isAnimating());
+}
+
+TEST_F(ButtonActionsTest, MenuCommandsDoWhatTheirButtonsDo) {
+    const auto choose = [this](const char* name) {
+        document().window()->findChild<QAction*>(QLatin1String(name))->trigger();
+    };
+    openFile();
+    for (const auto& [name, mode] : {std::pair("action_addFile", QFileDialog::ExistingFiles),
+                                     std::pair("action_addFolder", QFileDialog::Directory),
+                                     std::pair("action_loadCoverArt", QFileDialog::ExistingFile)}) {
+        choose(name);
+        ASSERT_NE(nullptr, panel()) << name;
+        EXPECT_EQ(mode, panel()->fileMode()) << name;
+        panel()->reject();
+        settle();
+    }
+    type("entry_title", "new");
+    choose("action_revert");
+    settle();
+    EXPECT_EQ("Z", entry("entry_title").text());
+    choose("action_lookUp");
+    EXPECT_EQ(&entry("entry_search"), document().window()->focusWidget());
+    choose("action_find");
+    EXPECT_EQ(&widget<QTableView>("tbl_mediaFiles"), document().window()->focusWidget());
 }
 
 TEST_F(ButtonActionsTest, RevertOfAVanishedFileSaysSo) {

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Every text that the program shows stands in every translation table, with its placeholders, and no table holds a text
-that is not shown any more. Usage: check_translations.py SOURCE_FOLDER"""
+that is not shown any more. In no language does the window give one letter to two controls: the Alt key would then only
+move between them. Usage: check_translations.py SOURCE_FOLDER"""
 
 import pathlib
 import re
@@ -26,6 +27,20 @@ def texts_of_layout(root):
             yield ("MyDocument", string.text)
 
 
+def texts_with_letters(root):
+    """The texts of the window's controls and menu titles that have a letter for the Alt key."""
+    for widget in xml.parse(root / "app" / "MyDocument.ui").iter("widget"):
+        for entry in widget.findall("property"):
+            text = entry.findtext("string") or ""
+            if entry.get("name") in ("text", "title") and "&" in text:
+                yield text
+
+
+def letters_given_twice(texts):
+    letters = [text[text.index("&") + 1].lower() for text in texts if "&" in text]
+    return sorted({letter for letter in letters if letters.count(letter) > 1})
+
+
 def texts_of_table(table):
     for context in xml.parse(table).iter("context"):
         for message in context.iter("message"):
@@ -36,6 +51,9 @@ def main():
     root = pathlib.Path(sys.argv[1])
     shown = set(texts_of_code(root)) | set(texts_of_layout(root))
     failures = [] if len(shown) > 100 else [f"only {len(shown)} texts were found in the program"]
+    lettered = list(texts_with_letters(root))
+    failures += [] if len(lettered) > 15 else [f"only {len(lettered)} letters were found in the window"]
+    failures += [f"letter given twice: {letter}" for letter in letters_given_twice(lettered)]
     for table in sorted((root / "app" / "translations").glob("*.ts")):
         translated = dict(texts_of_table(table))
         for text in sorted(shown):
@@ -44,6 +62,8 @@ def main():
                 failures.append(f"{table.name}: no translation of {text}")
             elif translation.count("%@") != text[1].count("%@"):
                 failures.append(f"{table.name}: placeholders differ in {text}")
+        twice = letters_given_twice([translated.get(("MyDocument", text)) or "" for text in lettered])
+        failures += [f"{table.name}: letter given twice: {letter}" for letter in twice]
         failures += [f"{table.name}: not shown any more: {text}" for text in sorted(set(translated) - shown)]
     print("\n".join(failures) or f"{len(shown)} texts checked")
     return 1 if failures else 0

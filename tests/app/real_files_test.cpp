@@ -4,6 +4,7 @@
 #include "window_fixture.h"
 
 #include "imaging/CoverArtView.h"
+#include "platform/movie/movie_view.h"
 #include "support/bytes.h"
 #include "support/command.h"
 
@@ -157,6 +158,16 @@ TEST_F(RealFilesTest, LetterboxedFrameIsTrimmedAndSaved) {
     EXPECT_NEAR(180, cover().height(), 4);
 }
 
+TEST_F(RealFilesTest, SongIsAMovieWithoutAFrame) {
+    open("song.mp3", tone + "-b:a 128k");
+    ASSERT_TRUE(waitUntil([this] { return logged("got movie\n") == 1; })) << log();
+    EXPECT_FALSE(enabled("btn_captureFrame"));
+    EXPECT_FALSE(widget<QLabel>("lbl_previewFailed").isVisibleTo(document().window()));
+    controller().grabFrame();
+    EXPECT_EQ(1, logged("failed to get frame from movie\n"));
+    EXPECT_FALSE(document().isDocumentEdited());
+}
+
 TEST_F(RealFilesTest, QuickRunDownTheListOpensTheLastMovieOnly) {
     for (const char* name : {"a.avi", "b.avi", "c.avi"}) {
         open(name, "-f lavfi -i testsrc2=s=160x120:r=5:d=1 -c:v mpeg4");
@@ -168,6 +179,10 @@ TEST_F(RealFilesTest, QuickRunDownTheListOpensTheLastMovieOnly) {
     EXPECT_TRUE(waitUntil([&] { return enabled("btn_captureFrame"); }));
     EXPECT_EQ(path("a.avi"), file().filename());
     EXPECT_EQ(before + 1, logged("got movie\n"));
+    EXPECT_NE(nullptr, widget<MovieView>("view_preview").movie());
+    select(-1);
+    EXPECT_EQ(nullptr, widget<MovieView>("view_preview").movie());
+    EXPECT_FALSE(enabled("btn_captureFrame"));
 }
 
 } // namespace

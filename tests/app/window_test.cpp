@@ -3,11 +3,11 @@
 #include "support/bytes.h"
 
 #include <QAbstractButton>
-#include <QAbstractSpinBox>
-#include <QComboBox>
+#include <QApplication>
 #include <QDir>
 #include <QLabel>
 #include <QTableView>
+#include <QTest>
 
 namespace velmora {
 namespace {
@@ -82,6 +82,25 @@ TEST_F(WindowLayoutTest, LongPathInTheStatusDoesNotWidenTheWindow) {
 
 TEST_F(WindowLayoutTest, LabelsThatShowPathsShowThemAsTheyAre) {
     EXPECT_EQ(Qt::PlainText, widget<QLabel>("lbl_scanStatus").textFormat());
+}
+
+TEST_F(WindowLayoutTest, SearchedFolderIsShown) {
+    emit controller().search().scanStatusChanged("/a/<b>x");
+    EXPECT_EQ("/a/<b>x", widget<QLabel>("lbl_scanStatus").text());
+}
+
+TEST_F(WindowLayoutTest, TabKeyLeavesEveryControlOfTheForm) {
+    openFile();
+    QApplication::setActiveWindow(document().window());
+    for (const char* name : {"tbl_mediaFiles", "entry_title", "entry_year", "entry_artist", "combo_genre",
+                             "entry_album", "entry_desc", "img_coverArt"}) {
+        QWidget& control = widget<QWidget>(name);
+        control.setFocus();
+        ASSERT_EQ(&control, QApplication::focusWidget()) << name;
+        QTest::keyClick(&control, Qt::Key_Tab);
+        EXPECT_NE(&control, QApplication::focusWidget()) << name;
+    }
+    EXPECT_FALSE(document().isDocumentEdited());
 }
 
 TEST_F(WindowLayoutTest, TitleHasNoMarkForChanges) {
