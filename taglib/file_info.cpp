@@ -5,6 +5,12 @@
 
 namespace velmora {
 
+bool take_flag(_file_info_t* info, std::uint32_t flag) {
+    const bool was_set = (info->flags & flag) != 0;
+    info->flags &= ~flag;
+    return was_set;
+}
+
 int id3_free_file_info(_file_info_t* info) {
     std::free(info->title);
     std::free(info->artist);

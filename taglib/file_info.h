@@ -42,6 +42,9 @@ struct _file_info_t {
     std::uint64_t time; ///< recording time as a FILETIME
 };
 
+/** Whether the flag is set in INFO; it no longer is afterwards. */
+[[nodiscard]] bool take_flag(_file_info_t* info, std::uint32_t flag);
+
 /** Frees what a loaded record owns, whatever module filled it, and zeroes the record, so that a second call
    is harmless. Returns 0. */
 int id3_free_file_info(_file_info_t* info);

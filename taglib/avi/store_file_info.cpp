@@ -29,20 +29,21 @@ _avi_item_t* find_or_append_info_list(AviFile* avi) {
     return avi_insert_item(&avi->root, &list, static_cast<std::uint32_t>(-1));
 }
 
-void set_or_remove_text(_avi_item_t* list, std::uint32_t fourcc, const char* text) {
+/** False when memory runs out. */
+bool set_or_remove_text(_avi_item_t* list, std::uint32_t fourcc, const char* text) {
     if (text && *text) {
-        avi_set_item_data(list, fourcc, text, avi_text_size);
-    } else {
-        avi_remove_tag(list, fourcc);
+        return avi_set_item_data(list, fourcc, text, avi_text_size) != 0;
     }
+    avi_remove_tag(list, fourcc);
+    return true;
 }
 
-void set_or_remove_year(_avi_item_t* list, std::int32_t year) {
+bool set_or_remove_year(_avi_item_t* list, std::int32_t year) {
     std::array<char, 16> text{};
     if (year != 0) {
         std::snprintf(text.data(), text.size(), "%d", year);
     }
-    set_or_remove_text(list, avi_year_fourcc, text.data());
+    return set_or_remove_text(list, avi_year_fourcc, text.data());
 }
 
 void set_or_remove_picture(_avi_item_t* list, const Image* picture) {
@@ -53,25 +54,21 @@ void set_or_remove_picture(_avi_item_t* list, const Image* picture) {
     }
 }
 
-/** Whether the flag is set in INFO; it no longer is afterwards. */
-bool take_flag(_file_info_t* info, std::uint32_t flag) {
-    const bool was_set = (info->flags & flag) != 0;
-    info->flags &= ~flag;
-    return was_set;
-}
-
-void apply_fields(_avi_item_t* list, _file_info_t* info) {
+/** Puts the fields into the list in memory. False when a text or the year is not there for want of memory. */
+bool apply_fields(_avi_item_t* list, _file_info_t* info) {
+    bool applied = true;
     for (const AviTextField& field : avi_text_fields) {
         if (take_flag(info, field.flag)) {
-            set_or_remove_text(list, field.fourcc, info->*field.text);
+            applied &= set_or_remove_text(list, field.fourcc, info->*field.text);
         }
     }
     if (take_flag(info, file_info_flag::year)) {
-        set_or_remove_year(list, info->year);
+        applied &= set_or_remove_year(list, info->year);
     }
     if (take_flag(info, file_info_flag::picture)) {
         set_or_remove_picture(list, info->picture);
     }
+    return applied;
 }
 
 /** Writes the INFO list, measured anew, at its offset. */
@@ -84,10 +81,9 @@ bool write_info_list(AviFile* avi, _avi_item_t* list) {
 
 bool store_tags(AviFile* avi, _file_info_t* info) {
     _avi_item_t* list = find_or_append_info_list(avi);
-    if (!list) {
+    if (!list || !apply_fields(list, info)) {
         return false;
     }
-    apply_fields(list, info);
     if (avi_sizeof_item(list) > std::numeric_limits<std::uint32_t>::max()) {
         DebugError("avi_store_file_info: Error writing <info> tag\n");
         errno = EFBIG;

@@ -18,8 +18,9 @@ namespace velmora {
    old list stays behind the RIFF chunk.
 
     Returns 1, or 0 on failure. With a file that can't be opened (errno as open left it), with more than one
-   RIFF chunk (errno 78) and with a header that can't be read (errno 5) no byte is changed. When a write
-   fails, errno is the system's, and the RIFF size field is still the old one. */
+   RIFF chunk (errno 78), with a header that can't be read (errno 5) and without memory for a text (errno
+   ENOMEM) no byte is changed. When a write fails, errno is the system's, and the RIFF size field is still the
+   old one. */
 [[nodiscard]] int avi_store_file_info(const char* path, _file_info_t* info);
 
 } // namespace velmora

@@ -60,13 +60,6 @@ bool store_recording_time(_id3_file_desc_t* descriptor, std::uint64_t time) {
     return store_text(descriptor, id3_frame_id("TDRC"), text);
 }
 
-/** Whether BIT is set in INFO; clears it. */
-bool take_flag(_file_info_t* info, std::uint32_t bit) {
-    const bool set = info->flags & bit;
-    info->flags &= ~bit;
-    return set;
-}
-
 } // namespace
 
 int id3_store_fields(_id3_file_desc_t* descriptor, _file_info_t* info) {

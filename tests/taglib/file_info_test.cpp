@@ -54,6 +54,15 @@ TEST(FileInfo, FlagsHaveTheirBits) {
     EXPECT_EQ(0x8000u, file_info_flag::tag_present);
 }
 
+TEST(FileInfo, AFlagThatIsTakenWasSetAndIsClearedAlone) {
+    _file_info_t info{};
+    info.flags = 0x8011;
+    EXPECT_TRUE(take_flag(&info, file_info_flag::year));
+    EXPECT_EQ(0x8001u, info.flags);
+    EXPECT_FALSE(take_flag(&info, file_info_flag::year));
+    EXPECT_EQ(0x8001u, info.flags);
+}
+
 TEST(FreeFileInfo, ZeroesTheWholeRecordAndReturnsZero) {
     _file_info_t info = loaded();
     EXPECT_EQ(0, id3_free_file_info(&info));

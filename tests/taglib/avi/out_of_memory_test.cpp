@@ -1,6 +1,8 @@
 #include "avi_bytes.h"
+#include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
+#include "support/stream_capture.h"
 #include "taglib/avi/item_data.h"
 #include "taglib/avi/load_file_info.h"
 #include "taglib/avi/store_file_info.h"
@@ -14,7 +16,6 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-/** Each test runs in a child process that may not have more than a GiB of memory. */
 namespace velmora::test {
 namespace {
 
@@ -42,6 +43,7 @@ void limit_memory() {
     std::_Exit(holds ? 0 : 1);
 }
 
+/** Each test runs in a child process that may not have more than a GiB of memory. */
 class AviOutOfMemory : public testing::Test {
 protected:
     void SetUp() override {
@@ -101,6 +103,27 @@ TEST_F(AviOutOfMemory, AStoreThatCouldNotWriteEverySubChunkBackIsRefused) {
             finish(result == 0 && errno == 5 && info.flags == file_info_flag::title);
         },
         testing::ExitedWithCode(0), "");
+}
+
+TEST(AviStoreOutOfMemory, WhicheverRequestFailsTheStoreFailsAndChangesNoByte) {
+    const ScratchFolder folder;
+    const std::string path = folder / "file.avi";
+    char title[] = "A longer title";
+    const StreamCapture quiet;
+    // Reading: the top level's array three times, the list's twice, two texts. Storing: the title, the year
+    // and the list's array, junk's place in the full top level.
+    constexpr int requests = 3 + 2 + 2 + 3 + 1;
+    for (int nth = 0; nth <= requests; ++nth) {
+        write_file(path, avi_with_info_before_movi());
+        _file_info_t info{};
+        info.title = title;
+        info.year = 1999;
+        info.flags = file_info_flag::title | file_info_flag::year;
+        const AllocationFaults no_memory(nth);
+        EXPECT_EQ(nth == 0 ? 1 : 0, avi_store_file_info(path.c_str(), &info)) << nth;
+        EXPECT_TRUE(nth == 0 || read_file(path) == avi_with_info_before_movi()) << nth;
+        EXPECT_TRUE(nth > 0 || no_memory.count() == requests) << no_memory.count();
+    }
 }
 
 } // namespace
