@@ -22,12 +22,21 @@ namespace velmora {
 
 namespace {
 
-/** A combo box follows the wheel only while it has the focus: scrolling past it must not edit the file. */
+/** Combo boxes follow the wheel only while they have the focus, which the wheel does not give them: scrolling
+   past one must not edit the file. */
 class WheelNeedsFocus : public QObject {
 public:
     using QObject::QObject;
+    void watch(QComboBox& box) {
+        box.setFocusPolicy(Qt::StrongFocus);
+        box.installEventFilter(this);
+    }
     bool eventFilter(QObject* watched, QEvent* event) override {
-        return event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus();
+        if (event->type() != QEvent::Wheel || static_cast<QWidget*>(watched)->hasFocus()) {
+            return false;
+        }
+        event->ignore(); // whatever the box lies on may scroll
+        return true;
     }
 };
 
@@ -65,8 +74,8 @@ void TagForm::setUpControls() {
             [this] { textDidChange(outlets_.entry_desc); });
 
     auto* wheelFilter = new WheelNeedsFocus(this);
-    rating->installEventFilter(wheelFilter);
-    genre->installEventFilter(wheelFilter);
+    wheelFilter->watch(*rating);
+    wheelFilter->watch(*genre);
 }
 
 MediaFile* TagForm::file() const {
