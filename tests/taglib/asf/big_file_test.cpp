@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <chrono>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
@@ -116,41 +114,6 @@ TEST(AsfLargeFile, AStoreMovesAGibibyteThroughALittleMemory) {
     const std::int64_t to = from + 34 + 1024; // the attribute and a new padding
     EXPECT_TRUE(pattern(1000) == large.read(to, 1000));
     EXPECT_TRUE(pattern(1000, 2) == large.read(to + size - 1000, 2000));
-}
-
-/** Shifts everything from FROM on by DISTANCE in steps of 1 MiB, from the back, and does nothing else. */
-void plain_shift(int descriptor, std::int64_t from, std::int64_t distance) {
-    std::vector<char> buffer(mebibyte);
-    std::int64_t left = ::lseek(descriptor, 0, SEEK_END) - from;
-    while (left > 0) {
-        const std::int64_t step = std::min(left, mebibyte);
-        left -= step;
-        ASSERT_EQ(step, ::pread(descriptor, buffer.data(), static_cast<std::size_t>(step), from + left));
-        ASSERT_EQ(step, ::pwrite(descriptor, buffer.data(), static_cast<std::size_t>(step),
-                                 from + left + distance));
-    }
-}
-
-TEST(AsfLargeFile, AMoveTakesAtMostAThirdLongerThanAPlainLoop) {
-    LargeFile large(256 * mebibyte);
-    FIOFUNCSTRUCT file{};
-    ASSERT_EQ(0, fio_open(large.path().c_str(), O_RDWR, 0, &file));
-    const StreamCapture quiet;
-    using Clock = std::chrono::steady_clock;
-    auto best_move = Clock::duration::max();
-    auto best_plain = Clock::duration::max();
-    plain_shift(file.descriptor, 5000, 1000);
-    // The best of several rounds: the machine may be busy.
-    for (int round = 0; round < 3 || (round < 12 && best_move > best_plain * 1.3); ++round) {
-        auto start = Clock::now();
-        plain_shift(file.descriptor, 5000, 1000);
-        best_plain = std::min(best_plain, Clock::now() - start);
-        start = Clock::now();
-        EXPECT_EQ(1, asf_move_file(&file, 5000, 6000));
-        best_move = std::min(best_move, Clock::now() - start);
-    }
-    fio_close(&file);
-    EXPECT_LE(best_move, best_plain * 1.3);
 }
 
 } // namespace
