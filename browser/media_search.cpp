@@ -9,6 +9,7 @@
 
 #include <cstdio>
 #include <optional>
+#include <utility>
 
 namespace velmora {
 namespace {
