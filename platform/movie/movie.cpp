@@ -68,7 +68,7 @@ public:
         deadline_.setSingleShot(true);
         connect(&deadline_, &QTimer::timeout, this, &Player::fail);
         connect(&player_, &QMediaPlayer::mediaStatusChanged, this, &Player::statusChanged);
-        connect(&player_, &QMediaPlayer::errorOccurred, this, &Player::fail);
+        connect(&player_, &QMediaPlayer::errorOccurred, this, &Player::errorOccurred);
         connect(&player_, &QMediaPlayer::positionChanged, &movie_, &Movie::positionChanged);
         connect(&player_, &QMediaPlayer::durationChanged, &movie_, &Movie::positionChanged);
         connect(&player_, &QMediaPlayer::playbackStateChanged, &movie_, &Movie::playingChanged);
@@ -86,8 +86,9 @@ public:
 
     /** Nothing is heard of the file any more; the object goes as soon as none of its own calls is running. */
     void letGo() {
-        player_.disconnect();
-        sink_.disconnect();
+        player_.disconnect(this);
+        player_.disconnect(&movie_);
+        sink_.disconnect(&movie_);
         deadline_.stop();
         player_.setSource(QUrl());
         deleteLater();
@@ -110,20 +111,38 @@ public:
 private:
     enum class Outcome { Undecided, Opened, Failed };
 
-    /** The first event that decides counts. A player may well report a success and then an error, for example
-       for a sound track that nothing here can play. */
     void statusChanged(QMediaPlayer::MediaStatus status) {
-        if (status == QMediaPlayer::InvalidMedia) {
-            fail();
-        } else if (status == QMediaPlayer::LoadedMedia && outcome_ == Outcome::Undecided) {
-            outcome_ = Outcome::Opened;
-            deadline_.stop();
-            hasVideo_ = player_.hasVideo();
-            if (hasVideo_) {
-                player_.pause(); // a movie that neither plays nor pauses has no frame
-            }
-            emit movie_.opened(hasVideo_);
+        if (status == QMediaPlayer::LoadedMedia) {
+            succeed();
+        } else if (status == QMediaPlayer::InvalidMedia) {
+            errorOccurred();
         }
+    }
+
+    /** A file of sound alone always ends in an error, because its track is connected to no output, and now
+       and then the error is heard of before the success. A file that can't be opened never gets as far as to
+       have a track. */
+    void errorOccurred() {
+        if (player_.hasAudio() && !player_.hasVideo()) {
+            succeed();
+        } else {
+            fail();
+        }
+    }
+
+    // The first event that decides counts; whatever the player says later changes nothing.
+
+    void succeed() {
+        if (outcome_ != Outcome::Undecided) {
+            return;
+        }
+        outcome_ = Outcome::Opened;
+        deadline_.stop();
+        hasVideo_ = player_.hasVideo();
+        if (hasVideo_) {
+            player_.pause(); // a movie that neither plays nor pauses has no frame
+        }
+        emit movie_.opened(hasVideo_);
     }
 
     void fail() {

@@ -74,7 +74,7 @@ TEST_F(MovieTest, ThePictureInASoundFileIsNoVideo) {
 }
 
 TEST_F(MovieTest, AnErrorAfterASuccessChangesNothing) {
-    open(mp3()); // without a sound device the player reports an error once it has opened the file
+    open(mp3()); // the player reports an error for its sound once it has opened the file
     QTest::qWait(silence);
     EXPECT_EQ(opened.count(), 1);
     EXPECT_EQ(failed.count(), 0);
