@@ -11,12 +11,15 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <limits>
 
 namespace velmora {
 
 namespace {
 
 constexpr std::uint64_t new_padding_size = 1024;
+/** Sizes are added up in 32 bits: of a larger header not even the children's places would be known. */
+constexpr std::uint64_t largest_header = std::numeric_limits<std::uint32_t>::max();
 
 struct FreeExtContentDescription {
     void operator()(_asf_ext_content_description_t* ecd) const { asf_free_ext_content_description(ecd); }
@@ -160,7 +163,7 @@ int asf_store_file_info(const char* path, const _file_info_t* info) {
             DebugError("asf_store_file_info: Couldn't open file\n");
             return 0;
         }
-        if (opened.read()) {
+        if (opened.read() && opened.header()->size <= largest_header) {
             return store(opened, *info) && opened.close() ? 1 : 0;
         }
     }

@@ -9,7 +9,7 @@ namespace velmora {
     Returns 1, or 0:
 
     - the file can't be opened (errno as open left it);
-    - its header can't be read (errno 5, the file unchanged);
+    - its header can't be read or is larger than 0xFFFFFFFF bytes (errno 5, the file unchanged);
     - memory is exhausted (the file unchanged, unless it is the move below that finds none);
     - the media data can't be moved towards the end, which a growing header does first, as when the data has
       less than 65,536 bytes (see asf_move_file: what the failed move copied stays, over the header's end

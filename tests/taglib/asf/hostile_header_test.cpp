@@ -169,6 +169,18 @@ TEST_F(HostileAsfHeader, LargerThanTheFileIsNotStoredWhereTheDataWouldHaveToMove
     EXPECT_EQ(0, store());
 }
 
+TEST_F(HostileAsfHeader, BeyondThirtyTwoBitsIsNotStoredIntoAndStaysAsItIs) {
+    // What a store appends behind the padding would go to where the padding says that it ends.
+    const std::uint64_t padding_size = 1ull << 40;
+    const std::string bytes = header_object_of_size(
+        2 * padding_size, {other_object(), object_of_size(padding_guid, padding_size, "")});
+    write(bytes);
+    EXPECT_EQ(1, load());
+    EXPECT_EQ(0, store());
+    EXPECT_EQ(5, error_);
+    EXPECT_EQ(bytes, read_file(path_));
+}
+
 TEST_F(HostileAsfHeader, SizesAroundTheLastFilePositionAreNotStored) {
     for (const std::uint64_t size : {0x7FFFFFFFFFFFFFFFull, 0x8000000000000000ull, 0x8000000000000022ull,
                                      0x8000000000000076ull, 0xFFFFFFFFFFFFFF00ull, 0xFFFFFFFFFFFFFFFFull}) {
