@@ -72,7 +72,7 @@ void require_media_moved_whole(const std::string& before, const std::string& aft
     file that is large all the same, the last piece was moved. */
 void require_media_in_place(const std::string& before, const std::string& after, const Header& old_header) {
     require(after.size() >= before.size(), "a file never gets shorter");
-    if (before.size() < 65536 && old_header.size <= before.size()) {
+    if (before.size() < 65536) {
         const std::size_t covered = Header(after).overhang ? object_header_size : 0;
         const std::size_t from = std::min<std::size_t>(old_header.size + covered, before.size());
         require(after.size() == std::max(before.size(), old_header.size + covered) ||
@@ -119,15 +119,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const _file_info_t info = edit.record();
     const bool removes = choices & remove_instead;
     const int result = removes ? asf_remove_file_info(file.path()) : asf_store_file_info(file.path(), &info);
+    const Header old_header(before);
+    if (old_header.size > before.size() && readable) {
+        // There is no media data, but there may be a hole where the header says that its padding is.
+        require(old_header.size <= 0xFFFFFFFF || result == 0, "a header beyond 32 bits is refused");
+        require(file.size() <= std::max<std::uint64_t>(before.size(), old_header.size + 65536),
+                "a file does not grow much beyond its header");
+        return 0;
+    }
     const std::string after = file.bytes();
     if (!readable) {
         require(result == 0 && after == before, "a file with an unreadable header is unchanged");
         return 0;
     }
-    const Header old_header(before);
-    // Sizes are computed in 32 bits; and what is appended behind an overhanging padding lies over its header.
-    if (old_header.size > 0x7FFFFFFF || old_header.overhang) {
-        return 0;
+    if (old_header.overhang) {
+        return 0; // what is appended behind an overhanging padding lies over its header
     }
     if (result == 0) {
         require_media_in_place(before, after, old_header);

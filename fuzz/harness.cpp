@@ -107,6 +107,12 @@ const char* MediaFile::path() const {
     return media_path().c_str();
 }
 
+std::uint64_t MediaFile::size() const {
+    std::error_code ignored;
+    const std::uintmax_t size = std::filesystem::file_size(path(), ignored);
+    return size == static_cast<std::uintmax_t>(-1) ? 0 : size;
+}
+
 std::string MediaFile::bytes() const {
     std::string bytes;
     const int file = ::open(path(), O_RDONLY | O_CLOEXEC);

@@ -42,6 +42,8 @@ public:
     MediaFile& operator=(const MediaFile&) = delete;
 
     [[nodiscard]] const char* path() const;
+    /** 0 when the file is gone. */
+    [[nodiscard]] std::uint64_t size() const;
     /** The whole contents; nothing when the file is gone. */
     [[nodiscard]] std::string bytes() const;
     /** Whether the folder holds anything else. */
