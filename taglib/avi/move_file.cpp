@@ -12,9 +12,21 @@ namespace velmora {
 namespace {
 
 constexpr std::int64_t window_size = 65536;
+/** No file reaches it, and the size of an item added to what is below does not overflow. */
+constexpr std::uint64_t first_impossible_offset = std::uint64_t{1} << 62;
 
 std::int64_t piece_size(std::int64_t remaining) {
     return static_cast<std::uint32_t>(remaining) <= window_size ? window_size : remaining;
+}
+
+bool read_failed() {
+    DebugError("avi_move_file: Error reading file\n");
+    return false;
+}
+
+bool write_failed() {
+    DebugError("avi_move_file: Error writing file\n");
+    return false;
 }
 
 class Mover {
@@ -48,15 +60,9 @@ private:
             return read_failed();
         }
         if (fio_lseek(file_, to, SEEK_SET) != to || fio_write(file_, window_.get(), bytes) != count) {
-            DebugError("avi_move_file: Error writing file\n");
-            return false;
+            return write_failed();
         }
         return true;
-    }
-
-    static bool read_failed() {
-        DebugError("avi_move_file: Error reading file\n");
-        return false;
     }
 
     FIOFUNCSTRUCT* file_;
@@ -70,6 +76,12 @@ int avi_move_file(FIOFUNCSTRUCT* file, const _avi_item_t* item, std::uint64_t to
     Mover mover(file);
     if (!mover.ready()) {
         return 0;
+    }
+    if (item->offset >= first_impossible_offset) {
+        return read_failed();
+    }
+    if (to >= first_impossible_offset) {
+        return write_failed();
     }
     const auto target = static_cast<std::int64_t>(to);
     const auto origin = static_cast<std::int64_t>(item->offset);

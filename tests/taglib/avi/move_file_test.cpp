@@ -114,6 +114,25 @@ TEST_F(AviMoveFile, ALyingSizeIsAReadErrorAndCostsNothing) {
     EXPECT_EQ("avi_move_file: Error reading file\n", log_);
 }
 
+TEST_F(AviMoveFile, ATargetThatNoFileReachesIsAWriteError) {
+    const std::string before = pattern(150000);
+    write_file(path_, before);
+    for (const std::uint64_t to :
+         {0x7FFFFFFFFFFFFFFFu, 0x7FFFFFFFFFFE0000u, 0x8000000000000000u, ~std::uint64_t{0}}) {
+        EXPECT_EQ(0, move(0, 140000, to)) << to;
+        expect_file(before);
+        EXPECT_EQ("avi_move_file: Error writing file\n", log_) << to;
+    }
+}
+
+TEST_F(AviMoveFile, AnItemBeyondEveryFileIsAReadError) {
+    write_file(path_, "short");
+    for (const std::uint64_t offset : {0x7FFFFFFFFFFFFFFFu, 0x8000000000000000u, ~std::uint64_t{0}}) {
+        EXPECT_EQ(0, move(offset, 140000, 10)) << offset;
+        EXPECT_EQ("avi_move_file: Error reading file\n", log_) << offset;
+    }
+}
+
 TEST_F(AviMoveFile, TheLow32BitsOfTheRemainderChooseThePiece) {
     // Size field 0xFFFFFFF9 makes 2^32 + 1 bytes: their low 32 bits say 1, so that a piece of 65,536 bytes
     // comes first.
