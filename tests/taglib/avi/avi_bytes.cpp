@@ -1,5 +1,8 @@
 #include "avi_bytes.h"
 
+#include "support/stream_capture.h"
+#include "taglib/avi/load_file_info.h"
+
 #include <gtest/gtest.h>
 
 namespace velmora::test {
@@ -81,6 +84,15 @@ std::string log_of_avi_with_info_last() {
            "[00000060] <list> type INFO size 0x1c\n"
            "[0000006c]        <INAM> size 0x4\n"
            "[00000078]        <ISTR> size 0x4\n";
+}
+
+std::string loaded_title(const std::string& path) {
+    StreamCapture quiet;
+    _file_info_t info;
+    EXPECT_EQ(1, avi_load_file_info(path.c_str(), &info));
+    const std::string title = info.title ? info.title : "";
+    id3_free_file_info(&info);
+    return title;
 }
 
 OpenFile::OpenFile(const std::string& path, int flags) {

@@ -44,6 +44,9 @@ namespace velmora::test {
 [[nodiscard]] std::string log_of_avi_with_info_before_movi();
 [[nodiscard]] std::string log_of_avi_with_info_last();
 
+/** The title that a load finds in the file; empty when it has none. A load that fails, fails the test. */
+[[nodiscard]] std::string loaded_title(const std::string& path);
+
 /** A file opened through the library, closed with the object. */
 class OpenFile {
 public:

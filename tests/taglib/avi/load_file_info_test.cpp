@@ -122,6 +122,11 @@ TEST_F(AviLoad, AnEmptyTextLeavesTheFieldEmptyEvenWhenASecondSubChunkHasOne) {
     EXPECT_EQ(nullptr, info_.title);
 }
 
+TEST_F(AviLoad, OneCharacterIsAText) {
+    ASSERT_EQ(1, load_info(14, chunk("INAM", 2, z("M"))));
+    EXPECT_STREQ("M", info_.title);
+}
+
 TEST_F(AviLoad, ATextNeedsNoTerminatingZero) {
     ASSERT_EQ(1, load_info(16, chunk("INAM", 4, "Four")));
     EXPECT_STREQ("Four", info_.title);
