@@ -119,6 +119,12 @@ TEST(Id3Presence, FooterThatPointsInFrontOfTheFileIsRefused) {
     EXPECT_EQ("id3_is_present_v2: Invalid footer offset\n", found.log);
 }
 
+TEST(Id3Presence, FileThatIsNothingButAFooterPointsInFrontOfItself) {
+    const Found found = find(header(4, 0x10, 0, "3DI"), at_end);
+    EXPECT_EQ(-1, found.offset);
+    EXPECT_EQ("id3_is_present_v2: Invalid footer offset\n", found.log);
+}
+
 TEST(Id3Presence, FooterThatLeadsToNoHeaderIsRefusedSilently) {
     const Found found = find("1234567890" + header(4, 0x10, 0, "3DI"), at_end);
     EXPECT_EQ(-1, found.offset);
@@ -190,6 +196,10 @@ TEST(Id3Locate, FooterThatPointsInFrontOfTheFileIsRefused) {
                    "id3_load_descriptor_v2: Invalid footer offset\n");
     expect_refused(header(4, 0x10, 0) + header(4, 0x10, 0x0FFFFFFF, "3DI"), at_end,
                    "id3_load_descriptor_v2: Invalid footer offset\n");
+}
+
+TEST(Id3Locate, FileThatIsNothingButAFooterIsRefused) {
+    expect_refused(header(4, 0x10, 0, "3DI"), at_end, "id3_load_descriptor_v2: Invalid footer offset\n");
 }
 
 TEST(Id3Locate, FooterThatLeadsToNoHeaderIsRefused) {

@@ -220,6 +220,8 @@ TEST(Id3Text, StoreBytesIsCutToTheCapacity) {
               stored([](std::uint8_t* t) { return id3_store_bytes(t, 2, "abcdef", -1); }));
     EXPECT_EQ(std::pair(2, std::string("ab######")),
               stored([](std::uint8_t* t) { return id3_store_bytes(t, 2, "abcdef", 6); }));
+    EXPECT_EQ(std::pair(1, std::string("a#######")),
+              stored([](std::uint8_t* t) { return id3_store_bytes(t, 1, "abcdef", 6); }));
 }
 
 TEST(Id3Text, StoreBytesWithoutRoomOrLengthStoresNothing) {

@@ -55,6 +55,16 @@ TEST(Id3Writer, Version4FrameSizesAreSyncsafe) {
               to_hex(file.contents().substr(0, 20)));
 }
 
+TEST(Id3Writer, EmptyFrameIsOneWriteOfItsHeader) {
+    Descriptor tag;
+    start(tag, 4, 0);
+    tag.add("TPE1", "");
+    OpenFile file("");
+    const SystemCallFaults watch;
+    EXPECT_EQ(1, id3_store_descriptor_v2(file.handle(), &tag));
+    EXPECT_EQ(2, watch.count(SystemCall::write)); // the tag's header and the frame's
+}
+
 TEST(Id3Writer, TagIsWrittenAtTheCurrentPosition) {
     Descriptor tag;
     start(tag, 4, 0);
