@@ -88,10 +88,12 @@ def add_tags(table, programs, library):
         table.add_ratio(f"store a title in place, {text}", times[f"{work}/velmora"], times[f"{work}/yardstick"],
                         names[kind], limits[kind], times[f"{work}/closed"])
         if kind == "avi":
-            table.add_ratio(f"the same, beside a reader that takes every list in whole", times[f"{work}/velmora"],
+            table.add_ratio("the same, beside a search for the list that reads every list in whole", times[f"{work}/velmora"],
                             times[f"{work}/whole lists"], names[kind], limits[kind], times[f"{work}/closed"])
-            table.add_ratio(f"the same work as a plain loop: the fewest reads and writes",
-                            times[f"{work}/fewest calls"], times[f"{work}/yardstick"], names[kind], limits[kind])
+            # No product's figure, and no target of its own: how far down the ratio could go at all.
+            fewest, yardstick = times[f"{work}/fewest calls"], times[f"{work}/yardstick"]
+            table.rows.append(("the same as a plain loop of the fewest reads and writes", "", "",
+                               f"{duration(fewest)} beside {duration(yardstick)}", f"{fewest / yardstick:.2f}", "", ""))
     for kind, text in STORES:
         work = f"store {kind}"
         table.add_ratio(f"the same store in a file of 1 GiB, {text}", times[f"{work}/large"],
@@ -143,13 +145,14 @@ def add_trim(table, programs):
 def add_search(table, programs):
     run = subprocess.run([f"{programs}/search_benchmark"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
                          check=False, env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
-    match = re.search(r"find ([\d.]+) ms, walk ([\d.]+) ms, listing ([\d.]+) ms, listing by name ([\d.]+) ms", run.stdout)
-    if not match:
-        sys.exit("search_benchmark failed")
-    find, walk, unsorted, by_name = (float(value) * 1e6 for value in match.groups())
-    table.add_ratio("walk of 100,000 files", walk, find, "find with the same size test", 1.5)
-    table.add_ratio("list 100,000 files, unsorted", unsorted, walk, "the walk alone", 3)
-    table.add_ratio("list 100,000 files, sorted by name", by_name, walk, "the walk alone", 5)
+    for how, name in ((", by the clock", "clock"), ("", "processor")):
+        match = re.search(name + r": find (.+) ms, walk (.+) ms, listing (.+) ms, listing by name (.+) ms", run.stdout)
+        if not match:
+            sys.exit("search_benchmark failed")
+        find, walk, unsorted, by_name = (float(value) * 1e6 for value in match.groups())
+        table.add_ratio(f"walk of 100,000 files{how}", walk, find, "find with the same size test", 1.5)
+        table.add_ratio(f"list 100,000 files, unsorted{how}", unsorted, walk, "the walk alone", 3)
+        table.add_ratio(f"list 100,000 files, sorted by name{how}", by_name, walk, "the walk alone", 5)
 
 
 def start(program, home):
@@ -175,7 +178,7 @@ def add_start(table, programs):
     # The first round reads the programs from the disk.
     velmora, bare = ([statistics.median(column) for column in zip(*times[program][1:])] for program in both)
     table.add_ratio("start to first paint", velmora[0], bare[0], "a bare window with the same widgets, empty", 1.3)
-    table.add_ratio("the same, by the clock", velmora[1], bare[1], "a bare window with the same widgets, empty", 1.3)
+    table.add_ratio("start to first paint, by the clock", velmora[1], bare[1], "a bare window with the same widgets, empty", 1.3)
 
 
 def machine():

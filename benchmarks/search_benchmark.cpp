@@ -1,8 +1,10 @@
 /** What a search of a large library costs: 100,000 files of more than 100 KiB in 1,000 folders.
 
-    Prints each cost in milliseconds of processor time (all threads, user and system), as a multiple of what
-   it is measured against, and as ok or TOO SLOW. The measures take turns; each cost is the median. Ends with
-   1 when anything is too slow. Start it with the offscreen platform on a machine without a display.
+    Prints each cost in milliseconds, by the clock and of processor time (all threads, user and system), as a
+   multiple of what it is measured against, and as ok or TOO SLOW. A listing works in two threads at once, so
+   the clock is what it is judged by; processor time is there for a machine that has other things to do. The
+   measures take turns; each cost is the median. Ends with 1 when anything is too slow. Start it with the
+   offscreen platform on a machine without a display.
  */
 
 #include "browser/folder_walk.h"
@@ -74,6 +76,11 @@ double milliseconds(const QElapsedTimer& timer) {
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
+struct Cost {
+    double clock = 0;
+    double processor = 0;
+};
+
 double milliseconds(const timeval& time) {
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
 }
@@ -89,19 +96,39 @@ double processorTime() {
     return sum;
 }
 
+class CostMeter {
+public:
+    CostMeter() { clock_.start(); }
+    Cost cost() const { return {milliseconds(clock_), processorTime() - processorAtStart_}; }
+
+private:
+    double processorAtStart_ = processorTime();
+    QElapsedTimer clock_;
+};
+
 double median(std::vector<double> values) {
     std::sort(values.begin(), values.end());
     return values[values.size() / 2];
 }
 
-double runFind(const std::string& root) {
+Cost median(const std::vector<Cost>& costs) {
+    std::vector<double> clocks;
+    std::vector<double> processors;
+    for (const Cost& cost : costs) {
+        clocks.push_back(cost.clock);
+        processors.push_back(cost.processor);
+    }
+    return {median(clocks), median(processors)};
+}
+
+Cost runFind(const std::string& root) {
     const std::string command = "find '" + root + "' -type f -size +100k > /dev/null";
-    const double start = processorTime();
+    const CostMeter meter;
     if (std::system(command.c_str()) != 0) {
         std::fputs("find failed\n", stderr);
         std::exit(2);
     }
-    return processorTime() - start;
+    return meter.cost();
 }
 
 class Counter : public FolderWalkListener {
@@ -113,16 +140,16 @@ public:
     int files = 0;
 };
 
-double runWalk(const std::string& root) {
+Cost runWalk(const std::string& root) {
     Counter counter;
-    const double start = processorTime();
+    const CostMeter meter;
     searchFolder(QByteArray::fromStdString(root), counter);
-    const double time = processorTime() - start;
+    const Cost cost = meter.cost();
     if (counter.files != fileCount) {
         std::fprintf(stderr, "the walk found %d files\n", counter.files);
         std::exit(2);
     }
-    return time;
+    return cost;
 }
 
 class NoDocument : public MediaDocument {
@@ -156,7 +183,7 @@ private:
 };
 
 struct Listing {
-    double time = 0;
+    Cost cost;
     double longestGap = 0;
     double bytesPerRow = 0;
 };
@@ -178,12 +205,12 @@ Listing runListing(const std::string& root, int sortColumn) {
 
     malloc_trim(0);
     const struct mallinfo2 before = mallinfo2();
-    const double start = processorTime();
+    const CostMeter meter;
     QEventLoop loop;
-    double time = 0;
+    Cost cost;
     QObject::connect(view.model(), &QAbstractItemModel::rowsInserted, &loop, [&] {
         if (view.model()->rowCount() == fileCount) {
-            time = processorTime() - start;
+            cost = meter.cost();
             // The gap that this belongs to counts too.
             QTimer::singleShot(20, &loop, &QEventLoop::quit);
         }
@@ -195,19 +222,19 @@ Listing runListing(const std::string& root, int sortColumn) {
     const auto inUse = [](const struct mallinfo2& info) {
         return static_cast<double>(info.uordblks + info.hblkhd);
     };
-    return {time, gaps.longest(), (inUse(after) - inUse(before)) / fileCount};
+    return {cost, gaps.longest(), (inUse(after) - inUse(before)) / fileCount};
 }
 
-/** The median time of LISTINGS, and the worst of everything else. */
+/** The median cost of LISTINGS, and the worst of everything else. */
 Listing summary(const std::vector<Listing>& listings) {
     Listing result;
-    std::vector<double> times;
+    std::vector<Cost> costs;
     for (const Listing& listing : listings) {
-        times.push_back(listing.time);
+        costs.push_back(listing.cost);
         result.longestGap = std::max(result.longestGap, listing.longestGap);
         result.bytesPerRow = std::max(result.bytesPerRow, listing.bytesPerRow);
     }
-    result.time = median(times);
+    result.cost = median(costs);
     return result;
 }
 
@@ -233,8 +260,8 @@ int main(int argc, char** argv) {
     }
 
     constexpr int rounds = 5;
-    std::vector<double> finds;
-    std::vector<double> walks;
+    std::vector<Cost> finds;
+    std::vector<Cost> walks;
     std::vector<Listing> unsortedListings;
     std::vector<Listing> sortedListings;
     for (int round = 0; round < rounds; ++round) {
@@ -243,16 +270,20 @@ int main(int argc, char** argv) {
         unsortedListings.push_back(runListing(root, -1));
         sortedListings.push_back(runListing(root, MediaTableModel::columnIndex(u"filename")));
     }
-    const double find = median(finds);
-    const double walk = median(walks);
+    const Cost find = median(finds);
+    const Cost walk = median(walks);
     const Listing unsorted = summary(unsortedListings);
     const Listing sorted = summary(sortedListings);
 
-    std::printf("find %.1f ms, walk %.1f ms, listing %.1f ms, listing by name %.1f ms\n", find, walk,
-                unsorted.time, sorted.time);
-    bool ok = report("walk", walk / find, "x find", 1.5);
-    ok &= report("listing in the order of arrival", unsorted.time / walk, "x walk", 3);
-    ok &= report("listing in the order of names", sorted.time / walk, "x walk", 5);
+    const auto print = [&](const char* how, double Cost::*cost) {
+        std::printf("%s: find %.1f ms, walk %.1f ms, listing %.1f ms, listing by name %.1f ms\n", how,
+                    find.*cost, walk.*cost, unsorted.cost.*cost, sorted.cost.*cost);
+    };
+    print("clock", &Cost::clock);
+    print("processor", &Cost::processor);
+    bool ok = report("walk", walk.clock / find.clock, "x find", 1.5);
+    ok &= report("listing in the order of arrival", unsorted.cost.clock / walk.clock, "x walk", 3);
+    ok &= report("listing in the order of names", sorted.cost.clock / walk.clock, "x walk", 5);
     ok &= report("longest gap in the event loop", unsorted.longestGap, "ms", 50);
     ok &= report("longest gap in the event loop, by name", sorted.longestGap, "ms", 50);
     ok &= report("memory of a row", std::max(unsorted.bytesPerRow, sorted.bytesPerRow), "bytes", 1024);
