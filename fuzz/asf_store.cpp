@@ -43,6 +43,9 @@ struct Header {
             // A padding object may be smaller than its own header, which then lies over what follows.
             overhang |= child < object_header_size;
             has_ecd |= file.compare(at, 16, ecd_guid) == 0;
+            if (child == 0) {
+                break;
+            }
             at += std::min<std::uint64_t>(child, file.size());
         }
     }
