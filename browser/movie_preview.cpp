@@ -3,8 +3,10 @@
 #include "platform/log.h"
 #include "platform/movie/movie_view.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 
 namespace velmora {
 
@@ -19,12 +21,31 @@ QImage frameForCoverArt(QImage frame) {
 
 MoviePreview::MoviePreview(MovieView& view, QLabel& failedLabel, QPushButton& captureButton, QObject* parent)
     : QObject(parent), view_(view), failedLabel_(failedLabel), captureButton_(captureButton) {
-    connect(&movie_, &Movie::opened, this, &MoviePreview::movieOpened);
-    connect(&movie_, &Movie::failed, this, &MoviePreview::movieFailed);
+    view_.installEventFilter(this);
+}
+
+bool MoviePreview::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Paint) {
+        // The multimedia component takes longer to load than all the rest of a start: the window is shown
+        // first.
+        view_.removeEventFilter(this);
+        QTimer::singleShot(0, this, &MoviePreview::makeMovie);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void MoviePreview::makeMovie() {
+    if (!movie_) {
+        movie_ = std::make_unique<Movie>();
+        connect(movie_.get(), &Movie::opened, this, &MoviePreview::movieOpened);
+        connect(movie_.get(), &Movie::failed, this, &MoviePreview::movieFailed);
+    }
 }
 
 void MoviePreview::clear() {
-    movie_.close();
+    if (movie_) {
+        movie_->close();
+    }
     view_.setMovie(nullptr);
     failedLabel_.hide();
     captureButton_.setEnabled(false);
@@ -32,7 +53,8 @@ void MoviePreview::clear() {
 
 void MoviePreview::show(const QString& path) {
     appLog(QStringLiteral("attempting to create movie from file '") + path + QStringLiteral("'\n"));
-    movie_.open(path);
+    makeMovie();
+    movie_->open(path);
 }
 
 bool MoviePreview::holdsMovie() const {
@@ -46,7 +68,7 @@ QImage MoviePreview::currentFrame() const {
 void MoviePreview::movieOpened(bool hasVideo) {
     appLog(QStringLiteral("got movie\n"));
     captureButton_.setEnabled(hasVideo);
-    view_.setMovie(&movie_);
+    view_.setMovie(movie_.get());
 }
 
 void MoviePreview::movieFailed() {

@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QObject>
 
+#include <memory>
+
 class QLabel;
 class QPushButton;
 
@@ -37,14 +39,17 @@ public:
     /** The frame that the view shows, at its own size; null when there is none. */
     [[nodiscard]] QImage currentFrame() const;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void makeMovie();
     void movieOpened(bool hasVideo);
     void movieFailed();
 
     MovieView& view_;
     QLabel& failedLabel_;
     QPushButton& captureButton_;
-    Movie movie_;
+    std::unique_ptr<Movie> movie_; ///< made once the view has been painted, or earlier when a file is opened
 };
 
 } // namespace velmora
