@@ -91,9 +91,9 @@ void CoverArtView::makeActions() {
         addAction(action);
         return action;
     };
-    cutAction_ = make("Cu&t", QKeySequence::Cut, &CoverArtView::cut);
-    copyAction_ = make("&Copy", QKeySequence::Copy, &CoverArtView::copy);
-    pasteAction_ = make("&Paste", QKeySequence::Paste, &CoverArtView::paste);
+    cutAction_ = make(QT_TRANSLATE_NOOP("Velmora", "Cu&t"), QKeySequence::Cut, &CoverArtView::cut);
+    copyAction_ = make(QT_TRANSLATE_NOOP("Velmora", "&Copy"), QKeySequence::Copy, &CoverArtView::copy);
+    pasteAction_ = make(QT_TRANSLATE_NOOP("Velmora", "&Paste"), QKeySequence::Paste, &CoverArtView::paste);
     updateActions();
 }
 

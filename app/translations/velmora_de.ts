@@ -267,6 +267,30 @@
         <source>Position in the preview</source>
         <translation>Stelle in der Vorschau</translation>
     </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Search a site to see its pages here</source>
+        <translation>Hier erscheint die Seite, die Sie suchen</translation>
+    </message>
+    <message>
+        <source>The web browser component is not installed.</source>
+        <translation>Die Browserkomponente ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>Web pages are not shown when the program is run by the system administrator.</source>
+        <translation>Webseiten werden nicht gezeigt, wenn der Systemverwalter das Programm ausführt.</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>

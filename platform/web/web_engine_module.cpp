@@ -1,9 +1,10 @@
 #include "web_view.h"
 
+#include "platform/localisation.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QLabel>
-#include <QLayout>
 #include <QOpenGLContext>
 #include <QPluginLoader>
 
@@ -51,25 +52,21 @@ WebEngineModule* loadModule() {
 
 /** Tells in PLACE why there are no pages. */
 void showReason(QWidget* place, const QString& reason) {
-    if (place->findChild<QLabel*>() == nullptr) {
-        auto* const label = new QLabel(reason, place);
-        label->setAlignment(Qt::AlignCenter);
-        label->setWordWrap(true);
-        place->layout()->addWidget(label);
+    if (auto* const label = place->findChild<QLabel*>()) {
+        label->setText(reason);
     }
 }
 
 std::unique_ptr<WebEngine> makeFromModule(WebEngineListener& listener, QWidget* parent) {
     if (sandboxForbidsStart()) {
-        showReason(
-            parent,
-            WebView::tr("Web pages are not shown when the program is run by the system administrator."));
+        showReason(parent,
+                   localised("Web pages are not shown when the program is run by the system administrator."));
         return nullptr;
     }
     provideSharedContext();
     WebEngineModule* const module = loadModule();
     if (module == nullptr) {
-        showReason(parent, WebView::tr("The web browser component is not installed."));
+        showReason(parent, localised("The web browser component is not installed."));
         return nullptr;
     }
     return module->makeEngine(listener, parent);

@@ -2,9 +2,11 @@
 
 #include "dom_snapshot.h"
 #include "input_block.h"
+#include "platform/localisation.h"
 #include "platform/modal_loop.h"
 
 #include <QEventLoop>
+#include <QLabel>
 #include <QPointer>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -49,6 +51,10 @@ WebView::WebView(EngineMaker makeEngine, QWidget* parent)
       subFrame_(std::make_unique<SubFrame>()) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    placeholder_ = new QLabel(localised("Search a site to see its pages here"), this);
+    placeholder_->setAlignment(Qt::AlignCenter);
+    placeholder_->setWordWrap(true);
+    layout->addWidget(placeholder_);
 }
 
 WebView::~WebView() {
@@ -61,6 +67,7 @@ bool WebView::ensureEngine() {
     if (engine_ == nullptr) {
         engine_ = makeEngine_(*this, this);
         if (engine_ != nullptr && engine_->widget() != nullptr) {
+            delete placeholder_;
             layout()->addWidget(engine_->widget());
             setFocusProxy(engine_->widget());
         }

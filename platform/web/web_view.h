@@ -3,6 +3,7 @@
 #include "dom_node.h"
 #include "web_engine.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <chrono>
@@ -24,8 +25,8 @@ public:
     [[nodiscard]] virtual std::shared_ptr<const DomDocument> domDocument() = 0;
 };
 
-/** Shows web pages. The widget is an empty place until the first page is asked for: only then is the engine's
-   module loaded, and where that fails the place says why.
+/** Shows web pages. The widget is a place with a hint until the first page is asked for: only then is the
+   engine's module loaded, and where that fails the place says why.
 
     Content from the web has no access to local files, can open neither windows nor dialogs, and leaves
    nothing on the disk. */
@@ -76,6 +77,7 @@ private:
     void endDocumentWait();
 
     EngineMaker makeEngine_;
+    QPointer<QLabel> placeholder_;
     std::unique_ptr<WebFrame> mainFrame_;
     std::unique_ptr<WebFrame> subFrame_;
     std::shared_ptr<DocumentWait> documentWait_;
@@ -84,7 +86,7 @@ private:
 };
 
 /** The maker that loads the engine's module from beside the program. Null results leave the reason, a
-   sentence, as a label in the parent widget's layout. */
+    sentence, in the parent widget's label. */
 [[nodiscard]] WebView::EngineMaker engineFromModule();
 
 } // namespace velmora

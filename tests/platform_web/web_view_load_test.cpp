@@ -164,7 +164,10 @@ TEST(WebViewStart, WaitsForTheFirstPage) {
     WebView view;
     view.show();
     waitFor(50);
-    EXPECT_TRUE(view.children().size() == 1) << "only the layout";
+    const auto labels = view.findChildren<QLabel*>();
+    ASSERT_EQ(labels.size(), 1);
+    EXPECT_EQ(labels.first()->text(), "Search a site to see its pages here");
+    EXPECT_EQ(view.children().size(), 2) << "only the layout and the hint";
     EXPECT_EQ(view.mainFrame()->domDocument(), nullptr);
     EXPECT_FALSE(view.canGoBack());
     view.goBack();
