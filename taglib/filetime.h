@@ -33,8 +33,7 @@ inline constexpr std::size_t id3_time_capacity = 64;
    alone when the time is 0 or TEXT is null. */
 char* FormatID3Time(std::int32_t seconds, char* text);
 
-/** A wrapping millisecond count, kept in 32 bits and sign-extended: not a FILETIME, although it is stored in
- * one. */
+/** A wrapping count of milliseconds, kept in 32 bits and sign-extended: no FILETIME, but stored in one. */
 void GetSystemTimeAsFileTime(FILETIME* time);
 /** Milliseconds since an arbitrary point, computed in 32 bits and wrapping. */
 [[nodiscard]] std::uint32_t GetTickCount();

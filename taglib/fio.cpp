@@ -12,8 +12,7 @@ static_assert(sizeof(off_t) == sizeof(std::int64_t), "files are positioned with 
 
 namespace {
 
-/** One read of WIDTH bytes over zeros: whatever the read leaves out, or all of it when it fails, stays zero.
- */
+/** One read of WIDTH bytes over zeros: what the read leaves out stays zero, all of it when it fails. */
 template <std::size_t width>
 std::array<std::uint8_t, width> read_zero_padded(FIOFUNCSTRUCT* file) {
     std::array<std::uint8_t, width> bytes{};

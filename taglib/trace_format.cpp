@@ -13,8 +13,7 @@ namespace {
 /** Room for any conversion that a message writes out in full: flags, width, precision, length and letter. */
 constexpr std::size_t conversion_capacity = 64;
 
-/** One conversion of a format, with numbers in place of the "*" and the length of long long in place of
- * "I64". */
+/** One conversion of a format, with numbers in place of the "*" and "ll" in place of "I64". */
 struct Conversion {
     char text[conversion_capacity];
     std::size_t length = 0;

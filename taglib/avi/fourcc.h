@@ -2,8 +2,7 @@
 
 #include <cstdint>
 
-/** FOURCCs: the four identifier bytes of a RIFF chunk, as a 32-bit value whose lowest byte stands first on
- * disk. */
+/** FOURCCs: the four identifier bytes of a RIFF chunk, as a 32-bit value whose lowest byte comes first. */
 namespace velmora {
 
 /** The FOURCC written as text, e.g. make_fourcc("LIST"). */
@@ -28,8 +27,7 @@ inline constexpr std::uint32_t avix = make_fourcc("AVIX");
    valid for about two hundred further calls. Not for use on two threads. */
 [[nodiscard]] const char* riff_tag(std::uint32_t fourcc);
 
-/** Whether all four bytes are printable: 0x20 to 0x7E, and from 0x80 on what the current locale calls
- * printable. */
+/** Whether all four bytes are printable: 0x20 to 0x7E, and from 0x80 up what the current locale calls so. */
 [[nodiscard]] bool is_riff_tag(std::uint32_t fourcc);
 
 } // namespace velmora

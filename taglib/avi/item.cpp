@@ -41,8 +41,7 @@ bool write_item(FIOFUNCSTRUCT* file, const _avi_item_t& item) {
     return item.size == 0 || !item.data || write_bytes(file, item.data, item.size);
 }
 
-/** Doubles the child array when it is full: a file of a million chunks must not cost a million moves of it.
- */
+/** Doubles the child array when it is full: a million chunks must not cost a million moves of it. */
 bool make_room_for_one_more(_avi_item_t* parent) {
     const auto count = static_cast<std::uint32_t>(parent->child_count);
     if (count < parent->child_room) {

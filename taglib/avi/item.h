@@ -33,8 +33,7 @@ inline constexpr std::uint32_t avi_text_size = 0xFFFFFFFF;
 [[nodiscard]] bool avi_has_children(const _avi_item_t* item);
 
 /** The size field that fits the item's contents. Plain chunk: its size field. "LIST" and "RIFF": 4 plus 8 and
-   the size field, rounded up to even, of each child; grandchildren don't matter. The sum may exceed 32 bits.
- */
+   the size field, rounded up to even, of each child; grandchildren don't matter. May exceed 32 bits. */
 [[nodiscard]] std::uint64_t avi_sizeof_item(const _avi_item_t* item);
 
 /** Writes the item at the file's position: FOURCC and size field as they stand; then for a list its type and

@@ -8,8 +8,7 @@
    is of the malloc family. */
 namespace velmora {
 
-/** One frame. Packed: the members have no alignment of their own, so copy them out instead of referring to
- * them. */
+/** One frame. Packed: the members have no alignment, so copy them out instead of referring to them. */
 struct [[gnu::packed]] _id3_frame_t {
     std::uint32_t id;    ///< the four characters in file order, as id3_frame_id gives them
     std::int32_t size;   ///< bytes of the body
@@ -19,8 +18,7 @@ struct [[gnu::packed]] _id3_frame_t {
 };
 static_assert(sizeof(_id3_frame_t) == 10 + sizeof(void*));
 
-/** A tag. It owns the array and every frame's data; id3_free_descriptor releases them. Start with a zeroed
- * one. */
+/** A tag. It owns the array and every frame's data; id3_free_descriptor releases them. It starts zeroed. */
 struct _id3_file_desc_t {
     char signature[3];    ///< "ID3"
     std::uint8_t version; ///< the major version

@@ -7,8 +7,7 @@
 
 namespace velmora {
 
-/** The folder of the file PATH: what stands in front of its last "/". A path without one is given back whole.
- */
+/** The folder of the file PATH: what stands in front of its last "/". A path without one comes back whole. */
 inline std::string id3_folder_of(const char* path) {
     std::string folder = path;
     PathRemoveFileSpec(folder.data());

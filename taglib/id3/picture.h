@@ -15,8 +15,7 @@ namespace velmora {
 
 /** The image in "AlbumArt_GUID_Large.jpg", or else in "AlbumArt_GUID_Small.jpg", in the folder of the file
    MEDIA_PATH, with the GUID's text as GUIDNAME gives it. Owned by the caller; null when neither file is an
-   image. A path without
-    "/" has no folder and is taken as one itself. */
+   image. A path without a slash has no folder and is taken as one itself. */
 [[nodiscard]] Image* id3_load_albumart(const char* media_path, const GUID& guid);
 
 /** Encodes IMAGE as JPEG and puts it into DESCRIPTOR as its frame ID (see id3_insert_tag), of picture type

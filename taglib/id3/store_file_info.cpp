@@ -23,8 +23,8 @@ namespace {
 /** From this length on a leading tag is ignored, so that no large file is ever copied. */
 constexpr std::int64_t first_large_length = 20'000'000;
 
-/** A name in the media file's folder. Unless the file of that name was kept, it is closed and deleted in the
- * end. */
+/** A name in the media file's folder. In the end the file of that name is closed and, unless it was kept,
+   deleted. */
 class TemporaryFile {
 public:
     TemporaryFile() = default;

@@ -35,8 +35,8 @@ static_assert(sizeof(Id3FrameHeader) == 10);
 [[nodiscard]] bool id3_read_tag_header(FIOFUNCSTRUCT* file, std::int64_t offset, Id3TagHeader* header);
 /** Reads the file's last ten bytes as a footer and returns where they begin, or -1. */
 [[nodiscard]] std::int64_t id3_read_tag_footer(FIOFUNCSTRUCT* file, Id3TagHeader* footer);
-/** Where the header of the tag lies that ends with FOOTER at FOOTER_OFFSET; negative when it can't be in the
- * file. */
+/** Where the header of the tag that ends with FOOTER at FOOTER_OFFSET lies; negative when that is in front of
+   the file. */
 [[nodiscard]] std::int64_t id3_header_offset(const Id3TagHeader& footer, std::int64_t footer_offset);
 
 } // namespace velmora

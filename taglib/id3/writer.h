@@ -7,12 +7,12 @@ namespace velmora {
 
 /** Writes the tag at the current position: header, frames, padding, and a footer when the header flags ask
    for one. The padding is skipped, not written, so what lies there stays. Sets DESCRIPTOR's size to that of
-   the written tag. Returns 1; 0, logged, when something could not be written, with what was written so far
-   left in the file. */
+   the written tag. Returns 1; 0 with what was written so far left in the file, logged when it was a write
+   that failed (a seek over the padding fails silently). */
 [[nodiscard]] int id3_store_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor);
 
-/** Copies SOURCE, from its current position to its end, onto TARGET. Returns 1, or 0 on a read error or a
- * short write. */
+/** Copies SOURCE, from its current position to its end, onto TARGET. Returns 1, or 0, not logged, on a read
+   error or a short write. */
 [[nodiscard]] int id3_append_file(FIOFUNCSTRUCT* target, FIOFUNCSTRUCT* source);
 
 } // namespace velmora
