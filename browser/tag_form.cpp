@@ -146,8 +146,7 @@ void TagForm::showCaptions(const MediaFile& media) {
         outlets_.entry_artist->setText(media.cast());
         outlets_.entry_album->setText(media.director());
         outlets_.combo_rating->setEnabled(true);
-        outlets_.combo_rating->setCurrentIndex(
-            outlets_.combo_rating->findText(media.rating(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+        outlets_.combo_rating->setCurrentIndex(outlets_.combo_rating->findText(media.rating()));
     }
 }
 
@@ -187,8 +186,7 @@ void TagForm::fillFields(const FormFillInfo* info) {
     }
     if (info->rating) {
         appLog(QStringLiteral("rating=") + *info->rating + QLatin1Char('\n'));
-        const int item =
-            outlets_.combo_rating->findText(*info->rating, Qt::MatchExactly | Qt::MatchCaseSensitive);
+        const int item = outlets_.combo_rating->findText(*info->rating);
         if (item >= 0) {
             outlets_.combo_rating->setCurrentIndex(item);
             ratingMenuItemChanged(outlets_.combo_rating->itemText(item));

@@ -2,6 +2,7 @@
 
 #include "imaging/CoverArtView.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QTest>
@@ -112,6 +113,16 @@ TEST_F(FormEditsTest, TypedGenreIsTakenAsItIs) {
     EXPECT_EQ("drama", file().genre());
     EXPECT_EQ("drama", genre().currentText());
     EXPECT_EQ(34, genre().count());
+}
+
+TEST_F(FormEditsTest, TypedGenreIsNotCompleted) {
+    openAudio();
+    QApplication::setActiveWindow(document().window());
+    genre().setFocus();
+    genre().lineEdit()->selectAll();
+    QTest::keyClicks(genre().lineEdit(), "dr");
+    EXPECT_EQ("dr", genre().currentText());
+    EXPECT_EQ("dr", file().genre());
 }
 
 TEST_F(FormEditsTest, PickedGenreIsAnEdit) {
@@ -248,6 +259,7 @@ TEST_F(FormEditsTest, WheelOverABoxWithoutFocusChangesNothing) {
         QSpontaneKeyEvent::setSpontaneous(&wheel); // as from a real wheel, which may give a control the focus
         qApp->notify(box, &wheel);
         EXPECT_EQ(before, box->currentText());
+        EXPECT_FALSE(wheel.isAccepted()) << "it is left to what lies behind the box";
     }
     expectMarked(false);
 }

@@ -58,6 +58,12 @@ TEST_F(FormFillTest, VideoHasCastAndDirectorAndARating) {
     EXPECT_EQ("PG-13", rating().currentText());
 }
 
+TEST_F(FormFillTest, FilmAfterASongCanBeRatedAgain) {
+    openFile("a.mp3", allFrames);
+    openFile("b.mp4", allFrames);
+    EXPECT_TRUE(rating().isEnabled());
+}
+
 TEST_F(FormFillTest, RatingIsMatchedExactly) {
     openFile("a.mp4", ratingFrame("pg-13"));
     EXPECT_EQ(-1, rating().currentIndex());
