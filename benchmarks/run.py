@@ -37,7 +37,7 @@ class Table:
 
     def add_ratio(self, work, ours, yardstick, name, limit, closed=None):
         ratio = ours / yardstick
-        self.add(work, duration(ours), f"{name}: {duration(yardstick)}", f"{ratio:.2f}", f"at most {limit}", limit,
+        self.add(work, duration(ours), f"{name}: {duration(yardstick)}", f"{ratio:.3g}", f"at most {limit}", limit,
                  ratio, "" if closed is None else f"{duration(closed)} ({closed / yardstick:.2f})")
 
     def write(self):
