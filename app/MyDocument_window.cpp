@@ -109,6 +109,13 @@ void MyDocument::connectCommands() {
             &VelmoraController::loadCoverArt);
     connect(ui_->action_close, &QAction::triggered, window_.get(), &QWidget::close);
     connect(ui_->action_quit, &QAction::triggered, &termination_, &ApplicationTermination::terminate);
+    for (const auto& [action, column] :
+         {std::pair(ui_->action_sortByName, u"filename"), std::pair(ui_->action_sortBySize, u"filesize"),
+          std::pair(ui_->action_sortByDate, u"created")}) {
+        connect(action, &QAction::triggered, this, [this, index = MediaTableModel::columnIndex(column)] {
+            controller_->table().tableViewDidClickTableColumn(index);
+        });
+    }
     connect(ui_->action_find, &QAction::triggered, ui_->tbl_mediaFiles, qOverload<>(&QWidget::setFocus));
     connect(ui_->action_lookUp, &QAction::triggered, ui_->entry_search, qOverload<>(&QWidget::setFocus));
 }

@@ -602,5 +602,21 @@
         <source>Look &amp;Up on the Web</source>
         <translation>Im &amp;Web nachschlagen</translation>
     </message>
+    <message>
+        <source>Vie&amp;w</source>
+        <translation>Ansicht (&amp;W)</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Name</source>
+        <translation>Nach &amp;Name sortieren</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Size</source>
+        <translation>Nach &amp;Größe sortieren</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Date</source>
+        <translation>Nach &amp;Datum sortieren</translation>
+    </message>
 </context>
 </TS>

@@ -110,6 +110,28 @@ TEST_F(WindowLayoutTest, TitleHasNoMarkForChanges) {
     EXPECT_FALSE(document().window()->isWindowModified());
 }
 
+TEST_F(WindowLayoutTest, ListIsSortedFromTheKeyboardToo) {
+    addFile("b.mp3", std::string(10, 'x'));
+    addFile("a.mp3", std::string(20, 'x'));
+    const auto names = [this] {
+        const auto& model = controller().table().model();
+        const int column = MediaTableModel::columnIndex(u"filename");
+        return QStringList{model.index(0, column).data().toString(),
+                           model.index(1, column).data().toString()};
+    };
+    const auto sort = [this](const char* action) {
+        document().window()->findChild<QAction*>(QLatin1String(action))->trigger();
+    };
+    sort("action_sortByName");
+    EXPECT_EQ((QStringList{"a.mp3", "b.mp3"}), names());
+    sort("action_sortByName");
+    EXPECT_EQ((QStringList{"b.mp3", "a.mp3"}), names()) << "a second time turns the direction";
+    sort("action_sortBySize");
+    EXPECT_EQ((QStringList{"b.mp3", "a.mp3"}), names());
+    sort("action_sortByDate");
+    EXPECT_FALSE(document().window()->findChild<QAction*>("action_sortByDate")->shortcut().isEmpty());
+}
+
 TEST_F(WindowLayoutTest, ShortcutsAreTheStandardOnes) {
     const auto shortcut = [this](const char* action) {
         return document().window()->findChild<QAction*>(QLatin1String(action))->shortcut();
