@@ -9,6 +9,7 @@
 #include "support/command.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 
 namespace velmora {
@@ -152,6 +153,8 @@ TEST_F(RealFilesTest, LetterboxedFrameIsTrimmedAndSaved) {
     button("btn_trimBorder").click();
     EXPECT_NEAR(180, cover().height(), 4);
     EXPECT_EQ(320, cover().width());
+    QDir().mkpath("screenshots");
+    EXPECT_TRUE(document().window()->grab().save("screenshots/trimmed-cover.png"));
     button("btn_saveTag").click();
     controller().revertToSaved();
     test::settle();

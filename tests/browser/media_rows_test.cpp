@@ -65,6 +65,8 @@ TEST(SortTableColumns, LongNamesCompareLikeTheStringsThatTheyAre) {
                             "xyzw",
                             QString::fromUtf8("\U00010400"),
                             QString::fromUtf8("\U00010428z"),
+                            QString::fromUtf8("\U00010428"),
+                            QString::fromUtf8("\U00010400z"),
                             QString(QChar(0xDC80)),
                             QString(QChar(0xD801))};
     for (const QString& beginning : beginnings) {

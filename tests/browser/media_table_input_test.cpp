@@ -93,7 +93,16 @@ TEST_F(MediaTableTest, DraggingOverRowsOpensTheLastOneOnly) {
 TEST_F(MediaTableTest, HeldButtonIsForgottenWhenTheTableIsHidden) {
     addAll({"a"});
     QTest::mousePress(view_.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(0));
-    view_.hide();
+    view_.viewport()->hide();
+    runLoop();
+    EXPECT_EQ(QStringList{"/media/a"}, document_.requests);
+}
+
+TEST_F(MediaTableTest, HeldButtonIsForgottenWhenTheWindowIsLeft) {
+    addAll({"a"});
+    QTest::mousePress(view_.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(0));
+    QEvent left(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(&view_, &left);
     runLoop();
     EXPECT_EQ(QStringList{"/media/a"}, document_.requests);
 }
@@ -132,6 +141,19 @@ TEST_F(MediaTableTest, HandlerThatIsCalledFromItselfRunsAgainAfterwards) {
         if (document_.requests.size() == 1) {
             view_.selectRow(2);
             table_->tableViewSelectionDidChange();
+            EXPECT_EQ(1, document_.requests.size());
+        }
+    };
+    select(1);
+    EXPECT_EQ((QStringList{"/media/b", "/media/c"}), document_.requests);
+}
+
+TEST_F(MediaTableTest, RowSelectedInALoopOfTheHandlersOwnIsOpenedAfterIt) {
+    addAll({"a", "b", "c"});
+    document_.whileOpening = [&] {
+        if (document_.requests.size() == 1) {
+            view_.selectRow(2);
+            runLoop();
             EXPECT_EQ(1, document_.requests.size());
         }
     };
