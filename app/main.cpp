@@ -2,11 +2,13 @@
 #include "VelmoraDocumentController.h"
 
 #include "platform/localisation.h"
+#include "platform/standard_streams.h"
 
 #include <QApplication>
 #include <QIcon>
 
 int main(int argc, char** argv) {
+    velmora::ensureStandardStreams();
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/velmora.png")));
