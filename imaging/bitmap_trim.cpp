@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <sys/mman.h>
 
 namespace velmora {
 namespace {
@@ -156,6 +157,20 @@ bool corners_match(const std::uint32_t* pixels, std::uint32_t width, std::uint32
 }
 
 /** A packed copy of COLUMNS x ROWS pixels that begin at FIRST in a bitmap of rows of WIDTH pixels. */
+/** Asks for large pages behind a large buffer that is about to be filled: one page fault in 2 MiB instead of
+   one in 4 KiB is most of what filling it costs. Where the system has none, nothing changes. */
+void prefer_large_pages(void* buffer, std::size_t size) {
+    constexpr std::uintptr_t large_page = 2 * 1024 * 1024;
+    const auto begin = reinterpret_cast<std::uintptr_t>(buffer);
+    const std::uintptr_t first = (begin + large_page - 1) & ~(large_page - 1);
+    const std::uintptr_t end = (begin + size) & ~(large_page - 1);
+    if (first < end) {
+        const int error = errno;
+        ::madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
+        errno = error;
+    }
+}
+
 std::uint32_t* copy_box(const std::uint32_t* first, std::uint32_t width, std::uint32_t columns,
                         std::uint32_t rows) {
     const std::size_t size = std::size_t{columns} * rows * sizeof(std::uint32_t);
@@ -166,6 +181,7 @@ std::uint32_t* copy_box(const std::uint32_t* first, std::uint32_t width, std::ui
                      std::strerror(error));
         return nullptr;
     }
+    prefer_large_pages(copy, size);
     for (std::uint32_t y = 0; y < rows; ++y) {
         std::memcpy(copy + std::size_t{y} * columns, first + std::size_t{y} * width,
                     columns * sizeof(std::uint32_t));
