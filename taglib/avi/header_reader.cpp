@@ -57,10 +57,13 @@ public:
         return got == count;
     }
 
-    bool read(ChunkHeader* header) {
-        std::array<std::uint8_t, header_size> bytes{};
-        const bool whole = read(bytes.data(), bytes.size());
-        *header = {load_le32(bytes.data()), load_le32(bytes.data() + 4)};
+    /** The header at POSITION. False when less than the whole came. */
+    bool read_header(std::int64_t position, ChunkHeader* header) {
+        // The pad byte of the chunk before comes along, which spares a seek.
+        const std::uint32_t pad = in_place_ && position == position_ + 1 ? 1 : 0;
+        std::array<std::uint8_t, 1 + header_size> bytes{};
+        const bool whole = seek(position - pad) && read(bytes.data(), pad + header_size);
+        *header = {load_le32(&bytes[pad]), load_le32(&bytes[pad + 4])};
         return whole;
     }
 
@@ -105,7 +108,7 @@ void load_data(Reader& reader, _avi_item_t* item) {
 /** The sub-chunk at POSITION, whose data must end within ROOM bytes of it. False where the list ends. */
 bool read_sub_chunk_header(Reader& reader, std::int64_t position, std::int64_t room, ChunkHeader* chunk) {
     const auto at = static_cast<unsigned>(position);
-    if (!reader.seek(position) || !reader.read(chunk)) {
+    if (!reader.read_header(position, chunk)) {
         DebugError("avi_load_item_list: Error reading at %x\n", at);
         return false;
     }
@@ -186,7 +189,7 @@ private:
     bool read_riff_header() {
         ChunkHeader header{};
         if (reader_.seek(0)) {
-            reader_.read(&header);
+            reader_.read_header(0, &header);
             root_->fourcc = header.fourcc;
             root_->size = header.size;
             root_->list_type = reader_.read_fourcc();
@@ -214,7 +217,7 @@ private:
         const std::int64_t position = base + offset_;
         const auto at = static_cast<unsigned>(position);
         ChunkHeader chunk{};
-        if (!reader_.seek(position) || !reader_.read(&chunk)) {
+        if (!reader_.read_header(position, &chunk)) {
             DebugError("avi_read_header: Error reading at %x\n", at);
             return false;
         }

@@ -5,6 +5,7 @@
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
+#include "support/system_call_faults.h"
 
 #include <gtest/gtest.h>
 
@@ -188,6 +189,28 @@ TEST_F(AviLoad, AnErrorFromBeforeTheCallDoesNotShowInAGoodLoad) {
     errno = 78;
     ASSERT_EQ(1, load(avi_without_info()));
     EXPECT_EQ(0, error_);
+}
+
+// Cost
+
+TEST_F(AviLoad, CostsTwoCallsAChunkAndAFewMore) {
+    const std::string path = folder_ / "film.avi";
+    const std::string even = chunk("INAM", 4, z("Dog"));
+    const std::string odd = chunk("ICMT", 5, z("Dogs") + '\0');
+    // RIFF, hdrl, movi, idx1, INFO and eight sub-chunks, of which four have a pad byte.
+    const std::string info =
+        list(4 + 4 * 12 + 4 * 14, "INFO", even + odd + even + odd + odd + odd + even + even);
+    write_file(path, riff(4 + 28 + 32 + 24 + 116, hdrl() + movi() + idx1() + info));
+    const StreamCapture log;
+    const SystemCallFaults watch;
+    _file_info_t read;
+    ASSERT_EQ(1, avi_load_file_info(path.c_str(), &read));
+    id3_free_file_info(&read);
+    // open, close, the length, and the start; RIFF 2; hdrl 2, as it follows at once; movi, idx1 and INFO 3,
+    // 2, 3
+    EXPECT_EQ(4 + 2 + 2 + 3 + 2 + 3 + 2 * 8, watch.count());
+    EXPECT_LE(watch.count(), 2 * 13 + 8);
+    EXPECT_EQ(0, watch.open_descriptors());
 }
 
 } // namespace
