@@ -293,5 +293,35 @@ TEST_F(AsfLoadFileInfo, OpensAFileThatMayOnlyBeRead) {
     EXPECT_EQ(O_RDONLY, calls.records().front().requested & O_ACCMODE);
 }
 
+// Cost
+
+TEST_F(AsfLoadFileInfo, CostsTwoCallsAnElementAndAFewMore) {
+    // The header, five children and nine attributes, one of them larger than what is read ahead.
+    write_file(path_, header_object(
+                          {other_object(), content_description("Title", "Author"), other_object(),
+                           ext_content_description(
+                               {text_descriptor("WM/AlbumTitle", "a"), text_descriptor("WM/AlbumArtist", "b"),
+                                text_descriptor("WM/Genre", "c"), text_descriptor("WM/Year", "1999"),
+                                text_descriptor("WM/Director", "d"), text_descriptor("Description", "e"),
+                                text_descriptor("WM/ParentalRating", "f"),
+                                text_descriptor("Comment", std::string(20'000, 'g')),
+                                text_descriptor("WM/Track", "1")}),
+                           padding(100)}) +
+                          pattern(100'000));
+    const StreamCapture log;
+    const SystemCallFaults watch;
+    ASSERT_EQ(1, asf_load_file_info(path_.c_str(), &info_));
+    // Open and close; the header 2, between where it begins and where it ends; the file's length, there and
+    // back.
+    const int around = 2 + 1 + 2 + 1 + 3;
+    // The two plain objects 2 each. The three that have a reader of their own: their header once more, a seek
+    // before it and one behind them; two texts and their lengths; the count and three times 4 KiB or a large
+    // attribute.
+    const int children = 2 + (4 + 3) + 2 + (4 + 4) + 4;
+    EXPECT_EQ(around + children, watch.count());
+    EXPECT_LE(watch.count(), 2 * 15 + 8);
+    EXPECT_EQ(0, watch.open_descriptors());
+}
+
 } // namespace
 } // namespace velmora
