@@ -103,6 +103,14 @@ TEST_P(AsfFaults, NoFailingCallOfAStoreGoesUnnoticed) {
     store_with_each([](SystemCallFaults& faults, int nth) { faults.fail(nth, EIO); });
 }
 
+TEST_P(AsfFaults, ACloseThatFailsFailsTheStore) {
+    write_file(path_, GetParam().before);
+    SystemCallFaults faults;
+    faults.fail(SystemCall::close, 1, EIO);
+    EXPECT_EQ(0, store());
+    EXPECT_EQ(EIO, error_);
+}
+
 TEST_P(AsfFaults, NoFullDiskGoesUnnoticed) {
     store_with_each([](SystemCallFaults& faults, int nth) { faults.fail(SystemCall::write, nth, ENOSPC); });
 }

@@ -169,6 +169,38 @@ TEST_F(HostileAsfHeader, LargerThanTheFileIsNotStoredWhereTheDataWouldHaveToMove
     EXPECT_EQ(0, store());
 }
 
+TEST_F(HostileAsfHeader, LargerThanTheFileIsWrittenAnewBeforeTheDataThatIsNotThereFailsToMove) {
+    // Without the slack that the size claims, the header has 30 + 42 + 26 bytes; the genre takes 34 more.
+    const std::string children = content_description("T", "A") + ext_content_description({});
+    write(object_of_size(header_guid, 1 << 20, u32(2) + u16(0) + children));
+    EXPECT_EQ(0, store());
+    const std::string stored =
+        content_description("T", "A") + ext_content_description({text_descriptor("WM/Genre", "Rock")});
+    const std::uint64_t size = 30 + stored.size();
+    EXPECT_EQ(object_of_size(header_guid, size, u32(2) + u16(0) + stored), read_file(path_).substr(0, size));
+}
+
+TEST_F(HostileAsfHeader, LargerThanTheFileGivesWhatItClaimsToItsPadding) {
+    const std::string cd = content_description("T", "A");
+    write(object_of_size(header_guid, 1 << 20,
+                         u32(3) + u16(0) + cd + ext_content_description({}) + padding(40)));
+    EXPECT_EQ(1, store());
+    const std::string ecd = ext_content_description({text_descriptor("WM/Genre", "Rock")});
+    const std::uint64_t padding_size = (1 << 20) - 30 - cd.size() - ecd.size();
+    const std::string stored = object_of_size(
+        header_guid, 1 << 20, u32(3) + u16(0) + cd + ecd + object_of_size(padding_guid, padding_size, ""));
+    EXPECT_EQ(stored, read_file(path_).substr(0, stored.size()));
+}
+
+TEST_F(HostileAsfHeader, CutInsideItsLastPaddingStaysAsItIsWhereItWouldHaveToGrow) {
+    const std::string whole =
+        header_object({content_description("T", "A"), ext_content_description({}), padding(30)});
+    const std::string bytes = whole.substr(0, whole.size() - 5);
+    write(bytes);
+    EXPECT_EQ(0, store()); // the genre takes 34 bytes, more than the padding has
+    EXPECT_EQ(bytes, read_file(path_));
+}
+
 TEST_F(HostileAsfHeader, BeyondThirtyTwoBitsIsNotStoredIntoAndStaysAsItIs) {
     // What a store appends behind the padding would go to where the padding says that it ends.
     const std::uint64_t padding_size = 1ull << 40;

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <limits>
@@ -67,6 +68,24 @@ TEST(AsfMoveFile, MovesByMoreThanTheDataHas) {
     const std::string moved = move(header + data, 16, 100016).bytes;
     EXPECT_EQ(data, moved.substr(100016));
     EXPECT_EQ(header + data, moved.substr(0, 16 + 70000));
+}
+
+TEST(AsfMoveFile, MovesMoreThanItsBufferHoldsWithoutOverwritingWhatIsStillToMove) {
+    const std::string data = pattern(3 * 1024 * 1024 + 17);
+    for (const std::int64_t to : {3, 15, 17, 1016, 2'000'000}) {
+        const ScratchFolder folder;
+        const std::string path = folder / "file";
+        write_file(path, header + data);
+        FIOFUNCSTRUCT file{};
+        const StreamCapture quiet;
+        ASSERT_EQ(0, fio_open(path.c_str(), O_RDWR, 0, &file));
+        EXPECT_EQ(1, asf_move_file(&file, 16, to)) << to;
+        fio_close(&file);
+        const std::string moved = read_file(path);
+        EXPECT_TRUE(moved.substr(static_cast<std::size_t>(to), data.size()) == data) << to;
+        const std::size_t before = std::min<std::size_t>(16, static_cast<std::size_t>(to));
+        EXPECT_EQ(header.substr(0, before), moved.substr(0, before)) << to;
+    }
 }
 
 TEST(AsfMoveFile, NothingToMoveIsASuccess) {
@@ -179,7 +198,7 @@ TEST(AsfMoveFile, LogsAReadThatFails) {
     fio_close(&file);
 }
 
-TEST(AsfMoveFile, LogsAShortWrite) {
+TEST(AsfMoveFile, LogsAShortWriteAndLeavesEveryByteWhereItWas) {
     ScratchFolder folder;
     write_file(folder / "file", header + pattern(200000));
     FIOFUNCSTRUCT file{};
@@ -190,6 +209,33 @@ TEST(AsfMoveFile, LogsAShortWrite) {
     EXPECT_EQ(0, asf_move_file(&file, 16, 26));
     EXPECT_EQ("asf_move_file: from 10 to 1a\nasf_move_file: Error writing file\n", log.text());
     fio_close(&file);
+    EXPECT_TRUE(read_file(folder / "file") == header + pattern(200000));
+}
+
+TEST(AsfMoveFile, StoppedOnItsWayLeavesEveryByteAtItsOldOrItsNewPlace) {
+    const std::string data = pattern(3 * 1024 * 1024);
+    for (const std::int64_t to : {6, 26}) {
+        for (const int write : {1, 2, 3}) {
+            const ScratchFolder folder;
+            const std::string path = folder / "file";
+            write_file(path, header + data);
+            FIOFUNCSTRUCT file{};
+            const StreamCapture log;
+            SystemCallFaults faults;
+            ASSERT_EQ(0, fio_open(path.c_str(), O_RDWR, 0, &file));
+            faults.cut_short(SystemCall::write, write, 5000);
+            EXPECT_EQ(0, asf_move_file(&file, 16, to));
+            fio_close(&file);
+            const std::string left = read_file(path);
+            const std::string at_old = left.substr(16, data.size());
+            const std::string at_new = left.substr(static_cast<std::size_t>(to), data.size());
+            std::size_t lost = 0;
+            for (std::size_t i = 0; i < data.size(); ++i) {
+                lost += at_old[i] != data[i] && (i >= at_new.size() || at_new[i] != data[i]);
+            }
+            EXPECT_EQ(0u, lost) << "to " << to << ", write " << write;
+        }
+    }
 }
 
 } // namespace

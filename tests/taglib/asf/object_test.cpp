@@ -68,8 +68,11 @@ TEST(AsfObject, ReadFailsWithoutAWholeGuid) {
 TEST(AsfObject, ReadTakesTheBytesOfASizeThatTheFileEndCutsOffAsZero) {
     OpenBytes file(object_of_size(padding_guid, 0x0102030405060708, "").substr(0, 19));
     _asf_object_t object{};
+    StreamCapture log;
     ASSERT_EQ(&object, asf_read_object(file.file(), &object));
     EXPECT_EQ(0x060708u, object.size);
+    // The place that is shown is 24 bytes before the one that the read came to.
+    EXPECT_EQ("[fffffffffffffffb] {1806d474-cadf-4509-a4ba-9aabcb96aae8} (0x60708 bytes)\n", log.text());
 }
 
 TEST(AsfObject, StoreWritesGuidAndSize) {

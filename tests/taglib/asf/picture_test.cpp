@@ -77,6 +77,16 @@ TEST(AsfLoadPicture, TakesTheLowByteOfEachUnit) {
     EXPECT_TRUE(load(value));
 }
 
+TEST(AsfLoadPicture, TypeEndsForItsReaderAtAZeroLowByteAndInTheValueAtAZeroUnit) {
+    // "image/jpeg", U+0100, "x": the description begins behind the unit that is zero as a whole.
+    EXPECT_TRUE(load(hex("03") + u32(static_cast<std::uint32_t>(jpeg.size())) + wide("image/jpeg") +
+                     hex("00 01") + wide("x") + u16(0) + u16(0) + jpeg));
+}
+
+TEST(AsfLoadPicture, SkipsADescriptionWithUnitsWhoseLowByteIsZero) {
+    EXPECT_TRUE(load(picture_value("image/jpeg", hex("00 4E 41 00 00 01"))));
+}
+
 TEST(AsfLoadPicture, SkipsTheDescription) {
     const OwnedImage image = load(picture_value("image/jpeg", wide("Front cover")));
     ASSERT_TRUE(image);

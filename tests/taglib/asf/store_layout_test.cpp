@@ -266,7 +266,7 @@ TEST_F(AsfStoreLayout, WithoutPaddingTheHeaderIsWrittenBeforeTheDataMovesBack) {
 }
 
 TEST_F(AsfStoreLayout, ThePaddingThatIsOnlyComputedHasWhatIsSavedBeyondItsHeader) {
-    // One UTF-16 unit is two bytes: savings are even here. 22 give 1,024, 24 give 0, 26 give 2.
+    // One UTF-16 unit is two bytes: 22 give 1,024, 24 give 0, 26 give 2.
     const auto logged = [&](std::size_t units) {
         EXPECT_EQ(1, store(header_with(std::string(3 + units, 'g'), other_object()) + pattern(70000), "ggg"));
         const std::size_t at = log_.find("New pad size = ");
@@ -275,6 +275,21 @@ TEST_F(AsfStoreLayout, ThePaddingThatIsOnlyComputedHasWhatIsSavedBeyondItsHeader
     EXPECT_EQ("New pad size = 400", logged(11));
     EXPECT_EQ("New pad size = 0", logged(12));
     EXPECT_EQ("New pad size = 2", logged(13));
+}
+
+TEST_F(AsfStoreLayout, TwentyThreeBytesSavedAreTooFewForThePaddingThatIsOnlyComputed) {
+    const auto logged = [&](std::uint64_t slack) {
+        const std::string header = header_with("Pop", other_object());
+        EXPECT_EQ(
+            1, store(header_object_of_size(header.size() + slack, {cd, genre_object("Pop"), other_object()}) +
+                         std::string(slack, 's') + pattern(70000),
+                     "Pop"));
+        const std::size_t at = log_.find("New pad size = ");
+        return at == std::string::npos ? "none" : log_.substr(at, log_.find('\n', at) - at);
+    };
+    EXPECT_EQ("New pad size = 400", logged(23));
+    EXPECT_EQ("New pad size = 0", logged(24));
+    EXPECT_EQ("New pad size = 1", logged(25));
 }
 
 TEST_F(AsfStoreLayout, AShrinkingHeaderBeforeLittleDataIsWrittenAndThenFails) {
