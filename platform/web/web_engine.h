@@ -15,7 +15,8 @@ namespace velmora {
 
 enum class FrameKind { Main, Sub };
 
-/** What an engine tells about the loading of its page. */
+/** What an engine tells about the loading of its page. Of a frame inside the page only the start is sure to
+   be told: its failure is not, and its finish only when it changes whether the page can go back. */
 class WebEngineListener {
 public:
     /** A frame starts to load. */

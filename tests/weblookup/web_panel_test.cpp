@@ -255,6 +255,20 @@ TEST_F(WebPanel, JumpInsideThePageLeavesTheControlsAlone) {
     EXPECT_FALSE(panel->btn_searchBack->isEnabled());
 }
 
+TEST_F(WebPanel, LinkInsideAFrameCanBeGoneBackFrom) {
+    server.serve("/frame", "<a href='/inside' style='position: fixed; inset: 0'>x</a>");
+    server.serve("/inside", "<p>inside</p>");
+    show("<iframe src='/frame' style='position: fixed; inset: 0; width: 100%; height: 100%'></iframe>");
+    EXPECT_FALSE(panel->btn_searchBack->isEnabled());
+    ASSERT_TRUE(clickPageUntil([this] { return server.wasAskedFor("/inside"); }));
+    EXPECT_TRUE(waitUntil([this] { return panel->btn_searchBack->isEnabled(); }, 5000));
+    EXPECT_FALSE(panel->btn_formFill->isEnabled());
+
+    panel->btn_searchBack->click();
+    EXPECT_TRUE(waitUntil([this] { return !panel->btn_searchBack->isEnabled(); }, 5000));
+    EXPECT_FALSE(view->canGoBack());
+}
+
 TEST_F(WebPanel, LinkThatWouldOpenAWindowIsFollowedInThePanel) {
     server.serve("/title", titlePage);
     show("<a href='/title' target='_blank' style='position: fixed; inset: 0'>x</a>");

@@ -1,5 +1,6 @@
 #include "web_page.h"
 
+#include <QAction>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineNewWindowRequest>
 
@@ -19,10 +20,12 @@ WebPage::WebPage(WebEngineListener& listener, QWebEngineProfile* profile)
     : QWebEnginePage(profile, nullptr), listener_(listener) {
     connect(this, &QWebEnginePage::loadingChanged, this, &WebPage::reportLoading);
     connect(this, &QWebEnginePage::renderProcessTerminated, this, &WebPage::reportLostProcess);
+    connect(action(Back), &QAction::enabledChanged, this, &WebPage::reportHistoryChange);
     connect(this, &QWebEnginePage::newWindowRequested, this, &WebPage::followInThisPage);
 }
 
 void WebPage::reportLoading(const QWebEngineLoadingInfo& info) {
+    subFrameLoads_ = false;
     if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) {
         lost_ = false;
         listener_.loadStarted(FrameKind::Main);
@@ -36,6 +39,14 @@ void WebPage::reportLoading(const QWebEngineLoadingInfo& info) {
 void WebPage::reportLostProcess() {
     lost_ = true;
     listener_.pageLost();
+}
+
+/** A link that is followed inside a frame has arrived when the page's history shows it. */
+void WebPage::reportHistoryChange() {
+    if (subFrameLoads_) {
+        subFrameLoads_ = false;
+        listener_.loadFinished(FrameKind::Sub);
+    }
 }
 
 void WebPage::followInThisPage(QWebEngineNewWindowRequest& request) {
@@ -52,6 +63,7 @@ bool WebPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool
     }
     // The engine tells of the loading of its outermost frame only.
     if (!isMainFrame) {
+        subFrameLoads_ = true;
         listener_.loadStarted(FrameKind::Sub);
     }
     return true;

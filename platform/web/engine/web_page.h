@@ -33,10 +33,12 @@ protected:
 private:
     void reportLoading(const QWebEngineLoadingInfo& info);
     void reportLostProcess();
+    void reportHistoryChange();
     void followInThisPage(QWebEngineNewWindowRequest& request);
 
     WebEngineListener& listener_;
     bool lost_ = false;
+    bool subFrameLoads_ = false;
 };
 
 } // namespace velmora
