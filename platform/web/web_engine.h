@@ -39,6 +39,8 @@ public:
 
     /** The widget that shows the page; owned by the engine. */
     [[nodiscard]] virtual QWidget* widget() = 0;
+    /** Loads the page at URL. A page whose scripts never rest is left all the same, after a few seconds; so
+       it is by goBack. */
     virtual void load(const QUrl& url) = 0;
     [[nodiscard]] virtual bool canGoBack() const = 0;
     virtual void goBack() = 0;

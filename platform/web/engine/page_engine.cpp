@@ -1,11 +1,13 @@
 #include "page_engine.h"
 
 #include <QFile>
+#include <QPointer>
 #include <QWebEngineHistory>
 #include <QWebEngineScript>
 #include <QWebEngineSettings>
 
 #include <csignal>
+#include <utility>
 
 namespace velmora {
 
@@ -30,31 +32,26 @@ PageEngine::PageEngine(WebEngineListener& listener, QWidget* parent)
       view_(std::make_unique<QWebEngineView>(parent)) {
     forbidLocalAccess(*page_->settings());
     view_->setPage(page_.get());
+    patience_.setSingleShot(true);
+    patience_.setInterval(std::chrono::seconds(5));
+    QObject::connect(&patience_, &QTimer::timeout, page_.get(), [this] {
+        if (page_->renderProcessPid() == watched_) {
+            endProcess();
+        }
+    });
+    const auto navigateAgain = [this] {
+        if (std::exchange(ending_, false)) {
+            navigation_();
+        }
+    };
+    QObject::connect(page_.get(), &QWebEnginePage::renderProcessTerminated, page_.get(), navigateAgain,
+                     Qt::QueuedConnection);
 }
 
 PageEngine::~PageEngine() = default;
 
 void PageEngine::load(const QUrl& url) {
-    const bool stuck = mayBeStuck();
-    *awaited_ = 0;
-    if (stuck) {
-        endProcessAndLoad(url);
-    } else {
-        page_->load(url);
-    }
-}
-
-/** A page of the same site would be loaded by the same process, and so wait for the script as well. */
-void PageEngine::endProcessAndLoad(const QUrl& url) {
-    const qint64 process = page_->renderProcessPid();
-    if (process <= 0 || ::kill(static_cast<pid_t>(process), SIGKILL) != 0) {
-        page_->load(url);
-        return;
-    }
-    QObject::connect(
-        page_.get(), &QWebEnginePage::renderProcessTerminated, page_.get(),
-        [page = page_.get(), url] { page->load(url); },
-        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    navigate([this, url] { page_->load(url); });
 }
 
 bool PageEngine::canGoBack() const {
@@ -62,7 +59,49 @@ bool PageEngine::canGoBack() const {
 }
 
 void PageEngine::goBack() {
-    page_->triggerAction(QWebEnginePage::Back);
+    navigate([this] { page_->triggerAction(QWebEnginePage::Back); });
+}
+
+void PageEngine::navigate(std::function<void()> navigation) {
+    navigation_ = std::move(navigation);
+    if (ending_) {
+        return;
+    }
+    const bool stuck = owesSnapshot();
+    *awaited_ = 0;
+    if (stuck) {
+        endProcess();
+        return;
+    }
+    watchProcess();
+    navigation_();
+}
+
+/** Asks the page something simple. A busy page has a few seconds for it; how long the network takes for the
+   next page has no part in this. */
+void PageEngine::watchProcess() {
+    watched_ = page_->renderProcessPid();
+    if (watched_ <= 0 || page_->isLost()) {
+        patience_.stop();
+        return;
+    }
+    patience_.start();
+    page_->runJavaScript(QStringLiteral("0"), QWebEngineScript::ApplicationWorld,
+                         [patience = QPointer(&patience_)](const QVariant&) {
+                             if (patience != nullptr) {
+                                 patience->stop();
+                             }
+                         });
+}
+
+/** A page of the same site is loaded by the same process, and so waits for a script that never ends. */
+void PageEngine::endProcess() {
+    patience_.stop();
+    const qint64 process = page_->renderProcessPid();
+    ending_ = process > 0 && ::kill(static_cast<pid_t>(process), SIGKILL) == 0;
+    if (!ending_) {
+        navigation_();
+    }
 }
 
 void PageEngine::takeSnapshot(SnapshotTaker take) {

@@ -3,6 +3,7 @@
 #include "platform/web/web_engine.h"
 #include "web_page.h"
 
+#include <QTimer>
 #include <QWebEngineProfile>
 #include <QWebEngineView>
 
@@ -23,14 +24,25 @@ public:
 private:
     /** A page that was asked for its document and has not answered may be stuck in a script that never ends.
      */
-    [[nodiscard]] bool mayBeStuck() const { return *awaited_ != 0 && !page_->isLost(); }
-    void endProcessAndLoad(const QUrl& url);
+    [[nodiscard]] bool owesSnapshot() const { return *awaited_ != 0 && !page_->isLost(); }
+    /** Leaves the page by NAVIGATION. Where a script that never ends holds that up, the page's process is
+       ended and NAVIGATION done again. */
+    void navigate(std::function<void()> navigation);
+    void watchProcess();
+    void endProcess();
 
     QString snapshotScript_;
     int snapshots_ = 0;
     /** The number of the snapshot that the page owes; 0 for none. Shared with answers, which may outlive the
      * engine. */
     std::shared_ptr<int> awaited_ = std::make_shared<int>(0);
+    /** What was asked for last. */
+    std::function<void()> navigation_;
+    /** Whether the page's process was told to end; navigation_ is done when it has. */
+    bool ending_ = false;
+    /** The process that owes an answer when patience_ ends. */
+    qint64 watched_ = 0;
+    QTimer patience_;
     QWebEngineProfile profile_;
     std::unique_ptr<WebPage> page_;
     std::unique_ptr<QWebEngineView> view_;

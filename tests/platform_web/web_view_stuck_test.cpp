@@ -1,0 +1,113 @@
+#include "web_view_fixture.h"
+
+#include <QElapsedTimer>
+
+namespace velmora::test {
+namespace {
+
+/** Leaving a page whose script never rests. The pages of one server share a process, so that the next page
+   waits for the script, too. */
+class WebViewStuck : public WebViewTest {
+protected:
+    WebViewStuck() {
+        server.serve("/a", "<title>A</title>");
+        server.serve("/b", "<title>B</title>");
+        server.serve("/busy", "<title>busy</title><script>setTimeout(() => { for (;;) {} }, 200)</script>");
+    }
+
+    /** Loads the busy page and gives its script the time to begin. */
+    void getStuck() {
+        load("/busy");
+        waitFor(500);
+        events.clear();
+    }
+    bool finished() {
+        return waitUntil([this] { return events.contains("finish main"); });
+    }
+    /** Has the page asked for its document, for LIMIT. */
+    void askInVain(std::chrono::milliseconds limit) {
+        view->setDocumentTimeLimit(limit);
+        EXPECT_EQ(document(), nullptr);
+        view->setDocumentTimeLimit(std::chrono::seconds(20));
+    }
+};
+
+TEST_F(WebViewStuck, IsLeftByALoad) {
+    load("/a");
+    getStuck();
+    view->loadRequest(server.url("/b"));
+    ASSERT_TRUE(finished());
+    EXPECT_EQ(shownTitle(), "B");
+}
+
+TEST_F(WebViewStuck, IsLeftByTheLastOfSeveralLoads) {
+    getStuck();
+    view->loadRequest(server.url("/a"));
+    waitFor(1000);
+    view->loadRequest(server.url("/b"));
+    ASSERT_TRUE(finished());
+    waitFor(500);
+    EXPECT_EQ(shownTitle(), "B");
+}
+
+TEST_F(WebViewStuck, IsLeftByGoingBackOnePage) {
+    load("/a");
+    load("/b");
+    getStuck();
+    view->goBack();
+    ASSERT_TRUE(finished());
+    EXPECT_EQ(shownTitle(), "B");
+    EXPECT_TRUE(view->canGoBack());
+}
+
+TEST_F(WebViewStuck, IsLeftAtOnceByALoadWhenItHasNotGivenItsDocument) {
+    getStuck();
+    askInVain(std::chrono::milliseconds(300));
+    QElapsedTimer time;
+    time.start();
+    view->loadRequest(server.url("/b"));
+    ASSERT_TRUE(finished());
+    EXPECT_LT(time.elapsed(), 4000);
+    EXPECT_EQ(shownTitle(), "B");
+}
+
+TEST_F(WebViewStuck, IsLeftAtOnceByGoingBackWhenItHasNotGivenItsDocument) {
+    load("/a");
+    load("/b");
+    getStuck();
+    askInVain(std::chrono::milliseconds(300));
+    QElapsedTimer time;
+    time.start();
+    view->goBack();
+    ASSERT_TRUE(finished());
+    EXPECT_LT(time.elapsed(), 4000);
+    EXPECT_EQ(shownTitle(), "B");
+    EXPECT_TRUE(view->canGoBack());
+}
+
+/** Loads a page that takes the server longer than a page may take to answer. */
+class WebViewSlow : public WebViewTest {
+protected:
+    void loadSlowly() {
+        server.serve("/slow", Answer{.body = "<title>slow</title>", .delayMilliseconds = 7000});
+        load("/slow");
+        EXPECT_EQ(events, QStringList({"start main", "finish main"}));
+        EXPECT_EQ(server.requests().count("/slow"), 1);
+        EXPECT_EQ(shownTitle(), "slow");
+    }
+};
+
+TEST_F(WebViewSlow, ServerIsWaitedForBehindAPage) {
+    server.serve("/a", "<title>A</title>");
+    load("/a");
+    loadSlowly();
+}
+
+TEST_F(WebViewSlow, ServerIsWaitedForBehindAFailedPage) {
+    loadUrl(QUrl("http://127.0.0.1:1/"));
+    ASSERT_EQ(events, QStringList({"start main", "fail main"}));
+    loadSlowly();
+}
+
+} // namespace
+} // namespace velmora::test
