@@ -68,7 +68,10 @@ std::optional<QString> descriptionBehind(const DomNode* label) {
         if (node->domClass == DomClass::DOMText) {
             const QString text = node->data.value_or(QString()).trimmed();
             if (!text.isEmpty()) {
-                description = description.value_or(QString()) + text;
+                if (!description) {
+                    description.emplace();
+                }
+                description->append(text);
             }
         } else if (node->domClass != DomClass::DOMHTMLBRElement) {
             break;

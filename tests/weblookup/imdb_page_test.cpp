@@ -177,8 +177,9 @@ TEST(ImdbReleaseDate, AcceptsALeadingZeroAndASmallMonth) {
 }
 
 TEST(ImdbReleaseDate, RefusesWhatIsNoDate) {
-    for (const char* const bad : {"May 2005", "12 Mai 2005", "31 February 2005", "12 May 05", "0 May 2005",
-                                  "12  May 2005", "12 May, 2005", "May 12 2005", "12 Dec 2005", ""}) {
+    for (const char* const bad :
+         {"May 2005", "12 Mai 2005", "31 February 2005", "12 May 05", "0 May 2005", "12  May 2005",
+          "12 May, 2005", "May 12 2005", "12 Dec 2005", "12 May -2005", ""}) {
         const FormFillInfo info = readInfo({h5("Release Date:"), text(bad)});
         EXPECT_EQ(info.releaseDate, std::nullopt) << bad;
         EXPECT_EQ(info.year, std::nullopt) << bad;

@@ -196,7 +196,7 @@ TEST(StoreReleaseDate, AcceptsALeadingZeroAndASmallMonth) {
 TEST(StoreReleaseDate, RefusesAnythingElse) {
     for (const char* const bad :
          {"3 May 2005", "May 3, 2005 (USA)", "May 3 2005", "May 3,2005", "February 30, 2005", "May 2005",
-          "May 3, 05", "Jun 3, 2005", "May  3, 2005", ""}) {
+          "May 3, 05", "Jun 3, 2005", "May  3, 2005", "May 3, -2005", ""}) {
         const FormFillInfo info = readItem({b("Release Date:"), text(bad)});
         EXPECT_EQ(info.releaseDate, std::nullopt) << bad;
         EXPECT_EQ(info.year, std::nullopt) << bad;
@@ -231,6 +231,14 @@ TEST(StoreDescription, JoinsTextsAndBreaksAndKeepsTheTrailingBreak) {
 TEST(StoreDescription, PutsNothingBetweenAdjacentTexts) {
     EXPECT_EQ(read({b("Product Description"), text("Second "), text(" half.")}).description,
               QString("Secondhalf."));
+}
+
+TEST(StoreDescription, OfManyLinesIsWhole) {
+    Doms dom = {b("Product Description")};
+    for (int line = 0; line < 20000; ++line) {
+        dom.insert(dom.end(), {text(" line "), br()});
+    }
+    EXPECT_EQ(read(dom).description, QString("line\n").repeated(20000));
 }
 
 TEST(StoreDescription, IgnoresBreaksAndBlanksBeforeTheFirstText) {
