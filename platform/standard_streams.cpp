@@ -1,5 +1,6 @@
 #include "standard_streams.h"
 
+#include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -9,9 +10,10 @@ void ensureStandardStreams() {
     for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
         // The lowest free number is taken, which is this one: those below are open by now.
         if (::fcntl(descriptor, F_GETFD) < 0 && ::open("/dev/null", O_RDWR) < 0) {
-            return;
+            break;
         }
     }
+    ::signal(SIGPIPE, SIG_IGN);
 }
 
 } // namespace velmora

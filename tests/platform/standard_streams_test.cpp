@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <initializer_list>
 #include <sys/wait.h>
@@ -30,6 +32,26 @@ TEST(StandardStreams, NoFileGetsTheNumberOfAMissingOne) {
     EXPECT_GT(firstDescriptorWithout({0}), 2);
     EXPECT_GT(firstDescriptorWithout({1, 2}), 2);
     EXPECT_GT(firstDescriptorWithout({0, 1, 2}), 2);
+}
+
+TEST(StandardStreams, WriteToOneWhoseReaderIsGoneFailsAndTheProgramGoesOn) {
+    int ends[2];
+    ASSERT_EQ(0, ::pipe(ends));
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::signal(SIGPIPE, SIG_DFL);
+        ::dup2(ends[1], STDERR_FILENO);
+        ::close(ends[0]);
+        ensureStandardStreams();
+        const bool failed = ::write(STDERR_FILENO, "x", 1) < 0 && errno == EPIPE;
+        ::_exit(failed ? 0 : 1);
+    }
+    ::close(ends[0]);
+    ::close(ends[1]);
+    int status = 0;
+    EXPECT_EQ(child, ::waitpid(child, &status, 0));
+    EXPECT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(0, WEXITSTATUS(status));
 }
 
 TEST(StandardStreams, OpenOnesStayWhatTheyAre) {
