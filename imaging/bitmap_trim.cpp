@@ -156,7 +156,6 @@ bool corners_match(const std::uint32_t* pixels, std::uint32_t width, std::uint32
     return true;
 }
 
-/** A packed copy of COLUMNS x ROWS pixels that begin at FIRST in a bitmap of rows of WIDTH pixels. */
 /** Asks for large pages behind a large buffer that is about to be filled: one page fault in 2 MiB instead of
    one in 4 KiB is most of what filling it costs. Where the system has none, nothing changes. */
 void prefer_large_pages(void* buffer, std::size_t size) {
@@ -171,6 +170,7 @@ void prefer_large_pages(void* buffer, std::size_t size) {
     }
 }
 
+/** A packed copy of COLUMNS x ROWS pixels that begin at FIRST in a bitmap of rows of WIDTH pixels. */
 std::uint32_t* copy_box(const std::uint32_t* first, std::uint32_t width, std::uint32_t columns,
                         std::uint32_t rows) {
     const std::size_t size = std::size_t{columns} * rows * sizeof(std::uint32_t);
