@@ -260,6 +260,7 @@ TEST_F(ButtonActionsTest, TrimCutsTheBorderAndStoresTheResult) {
     EXPECT_EQ(QSize(80, 80), well().image().size());
     EXPECT_EQ(QSize(80, 80), file().coverArt().toQImage().size());
     EXPECT_TRUE(document().isDocumentEdited());
+    EXPECT_EQ(2, document().changeCount()) << "the new cover art's and the trim's own";
     EXPECT_TRUE(enabled("btn_saveTag"));
     EXPECT_TRUE(enabled("btn_revertTag"));
 }
