@@ -2,6 +2,7 @@
 
 #include "platform/file_path.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QMouseEvent>
@@ -84,6 +85,12 @@ void MediaTable::setUpHeader() {
     header.resizeSection(MediaTableModel::columnIndex(u"created"),
                          view_.fontMetrics().averageCharWidth() * 24);
     connect(&header, &QHeaderView::sectionClicked, this, &MediaTable::tableViewDidClickTableColumn);
+    // The second of two quick clicks is reported as this alone, of any button and also beside the columns.
+    connect(&header, &QHeaderView::sectionDoubleClicked, this, [this](int column) {
+        if (column >= 0 && QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+            tableViewDidClickTableColumn(column);
+        }
+    });
 }
 
 bool MediaTable::addMediaFile(const QString& path) {

@@ -85,11 +85,22 @@ protected:
     }
     /** As a person clicks: with the mouse, on the header. */
     void clickHeader(int column) {
-        QHeaderView* const header = view_.horizontalHeader();
-        const QPoint middle(header->sectionViewportPosition(column) + header->sectionSize(column) / 2,
-                            header->height() / 2);
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
+        QWidget* const viewport = view_.horizontalHeader()->viewport();
+        QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier,
+                          viewport->mapFrom(&view_, middleOfHeader(column)));
         runLoop();
+    }
+    /** Through the window: only there do two quick clicks become a double click. */
+    void doubleClickHeader(int column, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseDClick(view_.windowHandle(), button, Qt::NoModifier, middleOfHeader(column));
+        runLoop();
+    }
+    /** In the view's coordinates. */
+    [[nodiscard]] QPoint middleOfHeader(int column) const {
+        const QHeaderView* const header = view_.horizontalHeader();
+        return header->viewport()->mapTo(
+            &view_, QPoint(header->sectionViewportPosition(column) + header->sectionSize(column) / 2,
+                           header->height() / 2));
     }
 
     QTableView view_;

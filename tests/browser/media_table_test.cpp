@@ -3,6 +3,8 @@
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 
+#include <QSignalSpy>
+
 #include <unistd.h>
 
 namespace velmora {
@@ -102,6 +104,59 @@ TEST_F(MediaTableTest, SecondClickShowsTheListBackwardsAndAThirdForwards) {
     clickHeader(nameColumn);
     EXPECT_EQ((QStringList{"a", "b", "c"}), shownNames());
     EXPECT_EQ(Qt::AscendingOrder, view_.horizontalHeader()->sortIndicatorOrder());
+}
+
+TEST_F(MediaTableTest, EachHeaderClickReloadsTheTable) {
+    addAll({"b", "a", "c"});
+    for (const char* which : {"first", "second", "third"}) {
+        const QSignalSpy reloads(view_.model(), &QAbstractItemModel::dataChanged);
+        clickHeader(nameColumn);
+        ASSERT_EQ(1, reloads.count()) << which;
+        EXPECT_EQ(view_.model()->index(0, iconColumn), reloads[0][0].toModelIndex()) << which;
+        EXPECT_EQ(view_.model()->index(2, createdColumn), reloads[0][1].toModelIndex()) << which;
+    }
+}
+
+TEST_F(MediaTableTest, DoubleClickOnAHeaderIsTwoClicks) {
+    addAll({"b", "a", "c"});
+    doubleClickHeader(nameColumn);
+    EXPECT_EQ((QStringList{"c", "b", "a"}), shownNames());
+    EXPECT_EQ(nameColumn, view_.horizontalHeader()->sortIndicatorSection());
+    EXPECT_EQ(Qt::DescendingOrder, view_.horizontalHeader()->sortIndicatorOrder());
+    doubleClickHeader(nameColumn);
+    EXPECT_EQ((QStringList{"c", "b", "a"}), shownNames());
+    doubleClickHeader(iconColumn);
+    EXPECT_EQ((QStringList{"c", "b", "a"}), shownNames());
+    EXPECT_EQ(nameColumn, view_.horizontalHeader()->sortIndicatorSection());
+    clickHeader(nameColumn);
+    EXPECT_EQ((QStringList{"a", "b", "c"}), shownNames());
+}
+
+TEST_F(MediaTableTest, ThreeQuickClicksOnAHeaderAreThree) {
+    addAll({"b", "a", "c"});
+    doubleClickHeader(nameColumn);
+    QTest::mouseClick(view_.windowHandle(), Qt::LeftButton, Qt::NoModifier, middleOfHeader(nameColumn));
+    runLoop();
+    EXPECT_EQ((QStringList{"a", "b", "c"}), shownNames());
+    EXPECT_EQ(Qt::AscendingOrder, view_.horizontalHeader()->sortIndicatorOrder());
+}
+
+TEST_F(MediaTableTest, DoubleClickWithAnotherButtonSortsNothing) {
+    addAll({"b", "a"});
+    doubleClickHeader(nameColumn, Qt::RightButton);
+    EXPECT_EQ((QStringList{"b", "a"}), shownNames());
+    EXPECT_EQ(std::nullopt, table_->mediaFiles().tableSortColumn());
+}
+
+TEST_F(MediaTableTest, DoubleClickBesideTheHeadersSortsNothing) {
+    addAll({"b", "a"});
+    view_.horizontalHeader()->setSectionResizeMode(nameColumn, QHeaderView::Fixed);
+    view_.horizontalHeader()->resizeSection(nameColumn, 50);
+    const QPoint beside(view_.width() - 10, middleOfHeader(nameColumn).y());
+    ASSERT_EQ(-1, view_.horizontalHeader()->logicalIndexAt(beside));
+    QTest::mouseDClick(view_.windowHandle(), Qt::LeftButton, Qt::NoModifier, beside);
+    runLoop();
+    EXPECT_EQ(std::nullopt, table_->mediaFiles().tableSortColumn());
 }
 
 TEST_F(MediaTableTest, AnotherColumnsClickIsAscendingAndTakesTheIndicator) {
