@@ -98,10 +98,8 @@ void MediaSearch::searchFolder(const QString& folder, const PortSender& port) {
 }
 
 void MediaSearch::stopScan() {
-    if (searchRunning_) {
-        searchRunning_ = false;
-        restartWanted_ = false;
-    }
+    searchRunning_ = false;
+    restartWanted_ = false;
 }
 
 void MediaSearch::handlePortMessage(const PortMessage& message) {

@@ -40,7 +40,7 @@ public:
     void startMediaSearch();
 
     /** Ends a running search: the worker looks at the flag before each entry and reports itself done as
-     * always. */
+       always. A search that waits for a stopped worker to unwind does not begin. */
     void stopScan();
 
     /** Acts on one message of the worker, or logs one with an unknown id. Called by the port on the main

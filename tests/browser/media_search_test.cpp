@@ -76,6 +76,11 @@ protected:
     [[nodiscard]] int searchesDone() const {
         return static_cast<int>(std::count(events_.begin(), events_.end(), "status Search Done."));
     }
+    [[nodiscard]] std::string lastStopEvent() const {
+        const auto last = std::find_if(events_.rbegin(), events_.rend(),
+                                       [](const std::string& event) { return event.ends_with(" stop"); });
+        return last == events_.rend() ? "none" : *last;
+    }
     [[nodiscard]] int searchesStarted() const {
         return static_cast<int>(std::count(events_.begin(), events_.end(), "animate"));
     }
@@ -361,6 +366,30 @@ TEST_F(EndlessSearchTest, FolderThatIsQueuedWhileTheWorkerUnwindsIsSearchedAfter
     EXPECT_EQ(2, searchesStarted());
     EXPECT_THAT(statusesAfterStart(2),
                 ElementsAre(waiting_.toStdString(), added_.toStdString(), "Search Done."));
+}
+
+TEST_F(EndlessSearchTest, StopTakesBackASearchThatWaitsForTheWorkerToUnwind) {
+    ASSERT_TRUE(startEndless());
+    search_->stopScan();
+    search_->queueFolders({added_});
+    EXPECT_EQ("enable stop", lastStopEvent()) << "there is something to stop";
+    search_->stopScan();
+    ASSERT_TRUE(runLoopUntilDone());
+    EXPECT_FALSE(search_->isSearchRunning());
+    EXPECT_EQ(1, searchesStarted());
+    EXPECT_EQ("disable stop", lastStopEvent());
+    EXPECT_EQ((QStringList{waiting_, added_}), search_->searchFolders());
+}
+
+TEST_F(EndlessSearchTest, FolderThatIsQueuedAfterASecondStopIsSearched) {
+    ASSERT_TRUE(startEndless());
+    search_->stopScan();
+    search_->queueFolders({added_});
+    search_->stopScan();
+    search_->queueFolders({added_});
+    ASSERT_TRUE(runLoopUntilDone(2));
+    EXPECT_THAT(statusesAfterStart(2), ElementsAre(waiting_.toStdString(), added_.toStdString(),
+                                                   added_.toStdString(), "Search Done."));
 }
 
 TEST_F(EndlessSearchTest, FolderThatIsQueuedDuringASearchIsTakenByItsWorker) {
