@@ -40,6 +40,16 @@ bool storeYear(MediaFile& file, const QString& text) {
     return true;
 }
 
+/** TEXT with line feeds for all of its line breaks, as the synopsis view knows only one kind. */
+QString withLineFeeds(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    for (const QChar lineBreak :
+         {QChar(QChar::CarriageReturn), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)}) {
+        text.replace(lineBreak, QChar::LineFeed);
+    }
+    return text;
+}
+
 } // namespace
 
 void TagForm::controlTextDidChange(const QObject* control) {
@@ -82,8 +92,10 @@ void TagForm::textDidChange(const QObject* textView) {
     }
     if (textView == outlets_.entry_desc) {
         appLog(QStringLiteral("description changed\n"));
-        const QString text = outlets_.entry_desc->toPlainText();
-        if (text == media->synopsis()) {
+        // The raw text, as the plain one has ordinary blanks for no-break spaces. An input method's
+        // composition is reported too, but is no part of it.
+        const QString text = withLineFeeds(outlets_.entry_desc->document()->toRawText());
+        if (text == withLineFeeds(media->synopsis())) {
             return;
         }
         media->setSynopsis(text);

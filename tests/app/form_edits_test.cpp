@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QInputMethodEvent>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -168,6 +169,38 @@ TEST_F(FormEditsTest, SynopsisLikeTheStoredOneMarksNothing) {
     controller().form().textDidChange(&synopsis());
     EXPECT_EQ(1, logged("description changed\n"));
     expectMarked(false);
+}
+
+TEST_F(FormEditsTest, NoBreakSpacesOfTheSynopsisSurviveAKeystroke) {
+    openFile("a.mp4", textFrame("TIT2", "10\xA0km\xA0"));
+    QTest::keyClicks(&synopsis(), "x");
+    EXPECT_EQ(QStringLiteral("x10\u00A0km\u00A0"), file().synopsis());
+}
+
+TEST_F(FormEditsTest, LineBreaksOfAnEditedSynopsisAreLineFeeds) {
+    openVideo();
+    file().setSynopsis(QStringLiteral("1\r\n2\r3\u20284\u20295\n6"));
+    controller().fillUI();
+    QTest::keyClicks(&synopsis(), "x");
+    EXPECT_EQ("x1\n2\n3\n4\n5\n6", file().synopsis());
+    expectMarked(true);
+}
+
+TEST_F(FormEditsTest, CancelledCompositionInTheSynopsisMarksNothing) {
+    openVideo();
+    for (const char* lineBreak : {"\r\n", "\r", "\n", "\u2028", "\u2029"}) {
+        const QString stored =
+            QStringLiteral("one") + QString::fromUtf8(lineBreak) + QStringLiteral("two\u00A0");
+        file().setSynopsis(stored);
+        controller().fillUI();
+        for (const char* composition : {"ka", ""}) {
+            QInputMethodEvent event(QString::fromUtf8(composition), {});
+            QCoreApplication::sendEvent(&synopsis(), &event);
+        }
+        EXPECT_EQ(stored, file().synopsis());
+        expectMarked(false);
+    }
+    EXPECT_LT(0, logged("description changed\n")) << "the view does report compositions";
 }
 
 TEST_F(FormEditsTest, AnotherTextViewMarksAChangeButStoresNothing) {
