@@ -18,6 +18,8 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include <limits>
+
 namespace velmora {
 
 namespace {
@@ -59,15 +61,16 @@ void TagForm::setUpControls() {
     genre->setInsertPolicy(QComboBox::NoInsert);
     genre->setModel(new ComboBoxModel(*this, this));
     genre->setCompleter(nullptr); // it would rewrite "drama" to "Drama" behind the person's back
-    genre->setCurrentIndex(-1);
-    genre->clearEditText();
+    setGenreText(QString());
     // Leaving the box would pick the item whose name it shows, which is no edit of the person's.
     disconnect(genre->lineEdit(), &QLineEdit::editingFinished, genre, nullptr);
+    genre->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
     connect(genre->lineEdit(), &QLineEdit::textEdited, this, [this, genre] { controlTextDidChange(genre); });
     connect(genre, &QComboBox::textActivated, this, [this, genre] { controlTextDidChange(genre); });
 
     for (QLineEdit* field :
          {outlets_.entry_title, outlets_.entry_artist, outlets_.entry_album, outlets_.entry_year}) {
+        field->setMaxLength(std::numeric_limits<int>::max());
         connect(field, &QLineEdit::textEdited, this, [this, field] { controlTextDidChange(field); });
     }
     connect(outlets_.entry_desc, &QPlainTextEdit::textChanged, this,
@@ -90,6 +93,12 @@ QString TagForm::comboBoxObjectValueForItemAtIndex(int index) const {
     return genres_.at(index);
 }
 
+/** Also picks the genre's item, so that the arrow keys start from there. */
+void TagForm::setGenreText(const QString& text) {
+    outlets_.combo_genre->setCurrentIndex(outlets_.combo_genre->findText(text));
+    outlets_.combo_genre->setEditText(text);
+}
+
 void TagForm::setSynopsisText(const QString& text) {
     const QSignalBlocker blocker(outlets_.entry_desc);
     outlets_.entry_desc->setPlainText(text);
@@ -100,7 +109,7 @@ void TagForm::clearUI() {
     outlets_.entry_title->setText(none);
     outlets_.entry_artist->setText(none);
     outlets_.entry_album->setText(none);
-    outlets_.combo_genre->setEditText(none);
+    setGenreText(none);
     outlets_.entry_year->setText(none);
     outlets_.combo_rating->setCurrentIndex(0);
     setSynopsisText(none);
@@ -121,7 +130,7 @@ void TagForm::fillUI() {
     emit searchTextChanged(media->title().isEmpty()
                                ? pathWithoutExtension(lastPathComponent(media->filename()))
                                : media->title());
-    outlets_.combo_genre->setEditText(media->genre());
+    setGenreText(media->genre());
     if (media->year() != 0) {
         outlets_.entry_year->setText(QString::number(media->year()));
     }
@@ -196,7 +205,7 @@ void TagForm::fillFields(const FormFillInfo* info) {
         outlets_.picker_dateTime->setDateTime(info->releaseDate->startOfDay());
     }
     if (info->genres) {
-        outlets_.combo_genre->setEditText(nsarray_to_nsstring(*info->genres, comma));
+        setGenreText(nsarray_to_nsstring(*info->genres, comma));
     }
     if (info->cast) {
         outlets_.entry_artist->setText(nsarray_to_nsstring(*info->cast, QStringLiteral("\n")));

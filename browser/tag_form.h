@@ -83,6 +83,7 @@ private:
     void setUpControls();
     void showCaptions(const MediaFile& file);
     void showCoverArt(const MediaFile& file);
+    void setGenreText(const QString& text);
     void setSynopsisText(const QString& text);
     [[nodiscard]] MediaFile* file() const;
 

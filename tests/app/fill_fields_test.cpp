@@ -29,6 +29,12 @@ protected:
         return info;
     }
     void openVideo() { openFile("a.mp4", textFrame("TALB", "Film")); }
+    void openRated(const QString& rating) {
+        openVideo();
+        file().setRating(rating);
+        controller().fillUI();
+        ASSERT_EQ(rating, this->rating().currentText());
+    }
     QComboBox& rating() { return widget<QComboBox>("combo_rating"); }
 };
 
@@ -115,22 +121,46 @@ TEST_F(FillFieldsTest, EmptyTextEmptiesItsControl) {
 }
 
 TEST_F(FillFieldsTest, UnknownRatingChangesNothing) {
-    openVideo();
+    openRated("R");
     FormFillInfo info;
     info.rating = "X";
     controller().fillFields(&info);
-    EXPECT_EQ("", rating().currentText());
+    EXPECT_EQ("R", rating().currentText());
+    EXPECT_EQ("R", file().rating());
     EXPECT_FALSE(document().isDocumentEdited());
 }
 
 TEST_F(FillFieldsTest, EmptyRatingIsTheFirstItem) {
-    openVideo();
-    file().setRating("R");
+    openRated("R");
     FormFillInfo info;
     info.rating = "";
     controller().fillFields(&info);
+    EXPECT_EQ(0, rating().currentIndex());
     EXPECT_EQ("", file().rating());
     EXPECT_TRUE(document().isDocumentEdited());
+}
+
+TEST_F(FillFieldsTest, ReleaseDateIsShownAndNothingElse) {
+    openVideo();
+    const QDateTime date = file().dateTime();
+    ASSERT_NE(QDate(2005, 5, 12), date.date());
+    FormFillInfo info;
+    info.releaseDate = QDate(2005, 5, 12);
+    controller().fillFields(&info);
+    EXPECT_EQ(QDate(2005, 5, 12), widget<QDateTimeEdit>("picker_dateTime").date());
+    EXPECT_EQ(date, file().dateTime());
+    EXPECT_FALSE(document().isDocumentEdited());
+    EXPECT_FALSE(enabled("btn_saveTag"));
+}
+
+TEST_F(FillFieldsTest, ArrowKeysStartAtTheFilledGenre) {
+    openVideo();
+    FormFillInfo info;
+    info.genres = QStringList{"Crime"};
+    controller().fillFields(&info);
+    EXPECT_EQ("", file().genre());
+    QTest::keyClick(&widget<QComboBox>("combo_genre"), Qt::Key_Down);
+    EXPECT_EQ("Documentary", file().genre());
 }
 
 TEST_F(FillFieldsTest, NullRecordChangesNothing) {

@@ -133,6 +133,55 @@ TEST_F(FormEditsTest, PickedGenreIsAnEdit) {
     expectMarked(true);
 }
 
+TEST_F(FormEditsTest, ArrowKeysStartAtTheGenreThatIsShown) {
+    openAudio();
+    for (int presses = 0; presses < 3; ++presses) {
+        QTest::keyClick(&genre(), Qt::Key_Down);
+    }
+    ASSERT_EQ("Animated", genre().currentText());
+    controller().removeTag();
+    openFile("b.mp3", textFrame("TCON", "Crime"));
+    EXPECT_EQ("Crime", genre().currentText());
+    expectMarked(false);
+    QTest::keyClick(&genre(), Qt::Key_Down);
+    EXPECT_EQ("Documentary", file().genre());
+}
+
+TEST_F(FormEditsTest, ArrowKeysStartAtTheTopForAGenreThatIsNotInTheList) {
+    openAudio();
+    QTest::keyClick(&genre(), Qt::Key_Down);
+    QTest::keyClick(&genre(), Qt::Key_Down);
+    controller().removeTag();
+    openFile("b.mp3", textFrame("TCON", "Jazz"));
+    EXPECT_EQ("Jazz", genre().currentText());
+    QTest::keyClick(&genre(), Qt::Key_Down);
+    EXPECT_EQ("Action", file().genre());
+    controller().removeTag();
+    select(-1);
+    EXPECT_EQ("", genre().currentText());
+    EXPECT_EQ(-1, genre().currentIndex());
+}
+
+TEST_F(FormEditsTest, LongTextsAreNotCutByAnEdit) {
+    openAudio();
+    const QString longText(40'000, QLatin1Char('1'));
+    file().setTitle(longText);
+    file().setArtist(longText);
+    file().setAlbum(longText);
+    file().setGenre(longText);
+    controller().fillUI();
+    for (QLineEdit* field : {&entry("entry_title"), &entry("entry_artist"), &entry("entry_album"),
+                             &entry("entry_year"), genre().lineEdit()}) {
+        field->setText(longText);
+        QTest::keyClick(field, Qt::Key_End);
+        QTest::keyClicks(field, "!");
+        EXPECT_EQ(40'001, field->text().size()) << field->objectName().toStdString();
+    }
+    for (const QString& stored : {file().title(), file().artist(), file().album(), file().genre()}) {
+        EXPECT_EQ(longText + "!", stored);
+    }
+}
+
 TEST_F(FormEditsTest, PassingThroughTheGenreBoxIsNoEdit) {
     openFile("a.mp3", textFrame("TCON", "Drama"));
     const int before = logged("in controlTextDidEndEditing:\n");
