@@ -12,7 +12,6 @@
 #include "platform/open_panel.h"
 #include "weblookup/TagWebBrowser.h"
 
-#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
@@ -60,9 +59,12 @@ void VelmoraController::connectButtons() {
 }
 
 void VelmoraController::awakeFromNib() {
-    const QString home = QDir::homePath();
-    search_.queueFolders({home + QStringLiteral("/Movies"), home + QStringLiteral("/Music"),
-                          home + QStringLiteral("/Pictures")});
+    const QByteArray home = homeFolder();
+    QStringList folders;
+    for (const char* name : {"Movies", "Music", "Pictures"}) {
+        folders += pathFromBytes(joinedPath(home, name));
+    }
+    search_.queueFolders(folders);
 }
 
 void VelmoraController::clearUI() {

@@ -1,6 +1,7 @@
 #include "folder_walk.h"
 
 #include "platform/file_attributes.h"
+#include "platform/file_path.h"
 
 #include <array>
 #include <memory>
@@ -52,17 +53,6 @@ std::string_view extensionOf(std::string_view name) {
     return dot == std::string_view::npos ? std::string_view() : name.substr(dot + 1);
 }
 
-QByteArray joined(const QByteArray& folder, std::string_view name) {
-    QByteArray path;
-    path.reserve(folder.size() + 1 + static_cast<qsizetype>(name.size()));
-    path += folder;
-    if (!folder.isEmpty() && !folder.endsWith('/')) {
-        path += '/';
-    }
-    path.append(name.data(), static_cast<qsizetype>(name.size()));
-    return path;
-}
-
 void searchEntry(const QByteArray& folder, const Entry& entry, FolderWalkListener& listener) {
     const std::string_view extension = extensionOf(entry.name);
     const bool isSupported = NSArray_binary_search_string(supportedMedia(), extension);
@@ -71,7 +61,7 @@ void searchEntry(const QByteArray& folder, const Entry& entry, FolderWalkListene
     if (entry.isPlainFile && !isSupported) {
         return;
     }
-    const QByteArray path = joined(folder, entry.name);
+    const QByteArray path = joinedPath(folder, entry.name);
     const std::optional<FileAttributes> attributes = fileAttributes(path);
     if (!attributes) {
         return;

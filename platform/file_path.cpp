@@ -2,6 +2,9 @@
 
 #include <QStringDecoder>
 
+#include <pwd.h>
+#include <unistd.h>
+
 namespace velmora {
 
 namespace {
@@ -75,6 +78,26 @@ QByteArray pathBytes(const QString& path) {
     }
     bytes += QStringView(path).mid(run).toUtf8();
     return bytes;
+}
+
+QByteArray joinedPath(const QByteArray& folder, std::string_view name) {
+    QByteArray path;
+    path.reserve(folder.size() + 1 + static_cast<qsizetype>(name.size()));
+    path += folder;
+    if (!folder.isEmpty() && !folder.endsWith('/')) {
+        path += '/';
+    }
+    path.append(name.data(), static_cast<qsizetype>(name.size()));
+    return path;
+}
+
+QByteArray homeFolder() {
+    QByteArray home = qgetenv("HOME");
+    if (home.isEmpty()) {
+        const passwd* const user = ::getpwuid(::getuid());
+        home = user ? user->pw_dir : "";
+    }
+    return home.isEmpty() ? QByteArray("/") : home;
 }
 
 QUrl fileUrlFromPath(const QString& path) {

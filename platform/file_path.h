@@ -4,6 +4,8 @@
 #include <QString>
 #include <QUrl>
 
+#include <string_view>
+
 /** Paths in the window are QStrings that lose nothing: a path is bytes, and bytes that are not UTF-8 are kept
    as lone low surrogates (byte 0x80 + n as U+DC80 + n), which no valid text contains. Every file access turns
    the path back into its bytes here; Qt's own path functions would replace such bytes. */
@@ -12,6 +14,13 @@ namespace velmora {
 [[nodiscard]] QString pathFromBytes(const QByteArray& bytes);
 /** The inverse of pathFromBytes, byte for byte. */
 [[nodiscard]] QByteArray pathBytes(const QString& path);
+
+/** The bytes of the path of NAME in FOLDER, with one slash between them; NAME alone without a folder. */
+[[nodiscard]] QByteArray joinedPath(const QByteArray& folder, std::string_view name);
+
+/** The bytes of the path of the person's home folder: as the environment says, or else the user database, or
+   else the root folder. */
+[[nodiscard]] QByteArray homeFolder();
 
 /** The file URL of an absolute PATH. "#", "?" and "%" are ordinary characters, and bytes that are not UTF-8
    stand percent-encoded. */

@@ -9,6 +9,8 @@
 #include <QTableView>
 #include <QTest>
 
+#include <sys/stat.h>
+
 namespace velmora {
 namespace {
 
@@ -140,6 +142,25 @@ TEST_F(WindowLayoutTest, ShortcutsAreTheStandardOnes) {
     EXPECT_EQ(QKeySequence("Ctrl+Q"), shortcut("action_quit"));
     EXPECT_EQ(QKeySequence(QKeySequence::Find), shortcut("action_find"));
     EXPECT_EQ(QKeySequence(QKeySequence::Open), shortcut("action_addFile"));
+}
+
+TEST(WindowStart, HomeFolderIsTakenByteForByte) {
+    const test::ScratchFolder scratch;
+    const std::string home = scratch / "h\xE9\xFF";
+    for (const std::string& folder : {home, home + "/Music"}) {
+        ASSERT_EQ(0, ::mkdir(folder.c_str(), 0700));
+    }
+    test::write_file(home + "/Music/a.mp3", test::pattern(102401));
+    qputenv("HOME", QByteArray::fromStdString(home + "/"));
+    test::StreamCapture log;
+    ApplicationTermination termination;
+    MyDocument document(termination);
+    document.makeWindow();
+    EXPECT_TRUE(test::waitUntil([&] { return !document.controller()->search().isSearchRunning(); }));
+    EXPECT_EQ(1, document.controller()->table().model().numberOfRowsInTableView());
+    for (const char* name : {"/Movies\n", "/Music\n", "/Pictures\n"}) {
+        EXPECT_NE(std::string::npos, log.text().find("search: entering " + home + name)) << name;
+    }
 }
 
 TEST(WindowStart, SearchesMoviesMusicAndPicturesOfTheHomeFolderInThisOrder) {

@@ -1,5 +1,7 @@
 #include "platform/file_path.h"
 
+#include "support/command.h"
+
 #include <gtest/gtest.h>
 
 namespace velmora {
@@ -80,6 +82,43 @@ TEST(FilePath, FolderIsThePathWithoutItsLastComponent) {
 TEST(FilePath, WithoutExtensionKeepsDotsOfFolders) {
     EXPECT_EQ("/a.b/c", pathWithoutExtension("/a.b/c.mp3"));
     EXPECT_EQ("/a.b/c", pathWithoutExtension("/a.b/c"));
+}
+
+TEST(FilePath, OneSlashJoinsAFolderAndAName) {
+    EXPECT_EQ("/home/me/Movies", joinedPath("/home/me", "Movies"));
+    EXPECT_EQ("/home/me/Movies", joinedPath("/home/me/", "Movies"));
+    EXPECT_EQ("/Movies", joinedPath("/", "Movies"));
+    EXPECT_EQ("Movies", joinedPath("", "Movies"));
+    EXPECT_EQ("/h\xE9/\xFF", joinedPath("/h\xE9", "\xFF"));
+}
+
+/** Gives the environment its home folder back at the end. */
+class HomeFolderTest : public testing::Test {
+protected:
+    ~HomeFolderTest() override { before_.isNull() ? qunsetenv("HOME") : qputenv("HOME", before_); }
+    /** What the user database says, for the user that runs the test. */
+    static QByteArray fromUserDatabase() {
+        return QByteArray::fromStdString(test::run_command("getent passwd \"$(id -u)\" | cut -d: -f6"))
+            .trimmed();
+    }
+
+private:
+    QByteArray before_ = qgetenv("HOME");
+};
+
+TEST_F(HomeFolderTest, IsWhatTheEnvironmentSaysByteForByte) {
+    for (const char* home : {"/", "/home/me", "/home/me/", "/h\xE9\xFF"}) {
+        qputenv("HOME", home);
+        EXPECT_EQ(home, homeFolder());
+    }
+}
+
+TEST_F(HomeFolderTest, IsThatOfTheUserDatabaseWhenTheEnvironmentHasNone) {
+    ASSERT_FALSE(fromUserDatabase().isEmpty());
+    qunsetenv("HOME");
+    EXPECT_EQ(fromUserDatabase(), homeFolder());
+    qputenv("HOME", "");
+    EXPECT_EQ(fromUserDatabase(), homeFolder());
 }
 
 } // namespace
