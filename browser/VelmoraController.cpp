@@ -68,14 +68,18 @@ void VelmoraController::awakeFromNib() {
 }
 
 void VelmoraController::clearUI() {
-    form_.clearUI();
-    preview_.clear();
+    form_.clearFields();
+    preview_.removeMovie();
+    form_.clearCoverArt();
+    preview_.reset();
+    form_.disableButtons();
 }
 
 void VelmoraController::fillUI() {
-    form_.fillUI();
     if (const MediaFile* file = document_.mediaFile()) {
+        form_.show(*file);
         preview_.show(file->filename());
+        form_.enableFileButtons();
     }
 }
 

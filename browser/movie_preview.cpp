@@ -42,11 +42,14 @@ void MoviePreview::makeMovie() {
     }
 }
 
-void MoviePreview::clear() {
+void MoviePreview::removeMovie() {
     if (movie_) {
         movie_->close();
     }
     view_.setMovie(nullptr);
+}
+
+void MoviePreview::reset() {
     failedLabel_.hide();
     captureButton_.setEnabled(false);
 }

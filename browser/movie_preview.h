@@ -28,8 +28,10 @@ public:
     /** The controls outlive this object. */
     MoviePreview(MovieView& view, QLabel& failedLabel, QPushButton& captureButton, QObject* parent = nullptr);
 
-    /** Lets the movie go and hides what was said of it. */
-    void clear();
+    /** Lets the movie go. */
+    void removeMovie();
+    /** Hides what was said of the movie and lets no frame be taken. */
+    void reset();
     /** Opens the file at PATH; the view, the label and the button follow when it is known what the file is.
      */
     void show(const QString& path);

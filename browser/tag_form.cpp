@@ -104,7 +104,7 @@ void TagForm::setSynopsisText(const QString& text) {
     outlets_.entry_desc->setPlainText(text);
 }
 
-void TagForm::clearUI() {
+void TagForm::clearFields() {
     const QString none;
     outlets_.entry_title->setText(none);
     outlets_.entry_artist->setText(none);
@@ -113,30 +113,34 @@ void TagForm::clearUI() {
     outlets_.entry_year->setText(none);
     outlets_.combo_rating->setCurrentIndex(0);
     setSynopsisText(none);
+}
+
+void TagForm::clearCoverArt() {
     outlets_.img_coverArt->setImage(QImage());
+}
+
+void TagForm::disableButtons() {
     outlets_.btn_trimBorder->setEnabled(false);
     outlets_.btn_loadCoverArt->setEnabled(false);
     outlets_.btn_removeTag->setEnabled(false);
     disableSaveAndRevert();
 }
 
-void TagForm::fillUI() {
-    const MediaFile* const media = file();
-    if (!media) {
-        return;
+void TagForm::show(const MediaFile& media) {
+    showCaptions(media);
+    outlets_.entry_title->setText(media.title());
+    emit searchTextChanged(media.title().isEmpty() ? pathWithoutExtension(lastPathComponent(media.filename()))
+                                                   : media.title());
+    setGenreText(media.genre());
+    if (media.year() != 0) {
+        outlets_.entry_year->setText(QString::number(media.year()));
     }
-    showCaptions(*media);
-    outlets_.entry_title->setText(media->title());
-    emit searchTextChanged(media->title().isEmpty()
-                               ? pathWithoutExtension(lastPathComponent(media->filename()))
-                               : media->title());
-    setGenreText(media->genre());
-    if (media->year() != 0) {
-        outlets_.entry_year->setText(QString::number(media->year()));
-    }
-    outlets_.picker_dateTime->setDateTime(media->dateTime());
-    setSynopsisText(media->synopsis());
-    showCoverArt(*media);
+    outlets_.picker_dateTime->setDateTime(media.dateTime());
+    setSynopsisText(media.synopsis());
+    showCoverArt(media);
+}
+
+void TagForm::enableFileButtons() {
     outlets_.btn_removeTag->setEnabled(true);
     outlets_.btn_loadCoverArt->setEnabled(true);
 }

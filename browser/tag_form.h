@@ -49,11 +49,17 @@ public:
     /** DOCUMENT outlives the form. */
     TagForm(const TagFormOutlets& outlets, MediaDocument& document, QObject* parent = nullptr);
 
-    /** Empties the form. The captions, whether the rating can be chosen, and the date stay as they are. */
-    void clearUI();
-    /** Shows the open file in a form that was cleared before; does nothing when no file is open. A file
-       without cover art takes the image "folder.jpg" of its folder, which counts as a change. */
-    void fillUI();
+    // Emptying the form: the fields, the cover art, the buttons. The captions, whether the rating can be
+    // chosen, and the date stay as they are.
+    void clearFields();
+    void clearCoverArt();
+    void disableButtons();
+
+    /** Shows the open file in a form that was cleared before. A file without cover art takes the image
+       "folder.jpg" of its folder, which counts as a change. */
+    void show(const MediaFile& media);
+    /** Lets the open file's tag be removed and its cover art be loaded. */
+    void enableFileButtons();
     /** Shows the result of a web lookup. Only the rating and the cover art reach the open file; the other
        fields do when the person next types in them. Null changes nothing. */
     void fillFields(const FormFillInfo* info);

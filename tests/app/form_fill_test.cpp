@@ -9,6 +9,9 @@
 #include <QLabel>
 #include <QTableView>
 
+#include <functional>
+#include <utility>
+
 namespace velmora {
 namespace {
 
@@ -223,6 +226,41 @@ TEST_F(FormFillTest, FileThatIsNoMovieSaysSoInTheEndAndTheFormWorks) {
     EXPECT_FALSE(enabled("btn_captureFrame"));
     select(-1);
     EXPECT_FALSE(widget<QLabel>("lbl_previewFailed").isVisibleTo(document().window()));
+}
+
+/** Runs a function whenever a control is enabled or disabled. */
+class EnabledWatch : public QObject {
+public:
+    EnabledWatch(QWidget& control, std::function<void()> action) : action_(std::move(action)) {
+        control.installEventFilter(this);
+    }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::EnabledChange) {
+            action_();
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> action_;
+};
+
+TEST_F(FormFillTest, ButtonsComeLast) {
+    openFile("a.mp3", allFrames);
+    auto& failed = widget<QLabel>("lbl_previewFailed");
+    ASSERT_TRUE(test::waitUntil([&] { return failed.isVisibleTo(document().window()); }));
+    int attempts = 1;
+    int changes = 0;
+    const EnabledWatch watch(button("btn_removeTag"), [&] {
+        ++changes;
+        EXPECT_FALSE(failed.isVisibleTo(document().window()));
+        EXPECT_EQ(attempts, logged("attempting to create movie from file '"));
+    });
+    controller().clearUI();
+    attempts = 2;
+    controller().fillUI();
+    EXPECT_EQ(2, changes);
+    EXPECT_TRUE(enabled("btn_removeTag"));
 }
 
 TEST_F(FormFillTest, GenresAreTheThirtyFourInTheirOrder) {
