@@ -25,6 +25,24 @@ using test::textFrame;
 class ButtonActionsTest : public test::WindowTest {
 protected:
     QFileDialog* panel() { return document().window()->findChild<QFileDialog*>(); }
+    /** Accepts the open panel with one file or folder of the scratch folder. */
+    void choose(const std::string& name) {
+        ASSERT_NE(nullptr, panel());
+        panel()->setDirectory(path(""));
+        panel()->selectFile(path(name));
+        QMetaObject::invokeMethod(panel(), "accept");
+        settle();
+        EXPECT_EQ(nullptr, panel());
+    }
+    /** The names in the list, from top to bottom. */
+    QStringList names() {
+        const auto& model = controller().table().model();
+        QStringList shown;
+        for (int row = 0; row < model.numberOfRowsInTableView(); ++row) {
+            shown += model.index(row, MediaTableModel::columnIndex(u"filename")).data().toString();
+        }
+        return shown;
+    }
     std::string bytes() { return test::read_file(folder_ / "a.mp3"); }
     CoverArtView& well() { return widget<CoverArtView>("img_coverArt"); }
     QString image(const std::string& name, int width, int height) {
@@ -52,8 +70,13 @@ TEST_F(ButtonActionsTest, FailedSaveIsLoggedAndChangesNothing) {
     type("entry_title", "new");
     button("btn_saveTag").click();
     EXPECT_EQ(1, logged("failed to save tag for some stupid reason\n"));
+    EXPECT_EQ(1,
+              logged("error saving file: Be sure you have permissions to write to the file, and that it is a "
+                     "valid media file.\n"))
+        << log();
     EXPECT_TRUE(document().isDocumentEdited());
     EXPECT_TRUE(enabled("btn_saveTag"));
+    EXPECT_TRUE(enabled("btn_revertTag"));
     EXPECT_EQ(nullptr, document().window()->findChild<QMessageBox*>());
     EXPECT_EQ(test::fileTaggedInFront(), bytes());
 }
@@ -184,7 +207,34 @@ TEST_F(ButtonActionsTest, AddFilesTakesSeveralFilesOfAnyKindAndSize) {
     test::write_file(folder_ / "tiny.txt", "x");
     test::write_file(folder_ / "b.mp3", original);
     controller().addFileSelected(1, {path("tiny.txt"), path("gone.mp3"), path("b.mp3")});
-    EXPECT_EQ(2, controller().table().model().numberOfRowsInTableView());
+    EXPECT_EQ((QStringList{"tiny.txt", "b.mp3"}), names());
+}
+
+TEST_F(ButtonActionsTest, FileChosenInTheAddFilesPanelIsListed) {
+    test::write_file(folder_ / "b.mp3", original);
+    button("btn_addFile").click();
+    choose("b.mp3");
+    EXPECT_EQ(QStringList{"b.mp3"}, names());
+}
+
+TEST_F(ButtonActionsTest, FolderChosenInTheAddFolderPanelIsSearched) {
+    ASSERT_EQ(0, ::mkdir((folder_ / "films").c_str(), 0700));
+    test::write_file(folder_ / "films/a.mp3", test::pattern(102401));
+    button("btn_addFolder").click();
+    choose("films");
+    EXPECT_TRUE(test::waitUntil([this] { return !controller().search().isSearchRunning(); }));
+    EXPECT_EQ(1, logged("search: entering " + (folder_ / "films") + "\n"));
+    EXPECT_EQ(QStringList{"a.mp3"}, names());
+}
+
+TEST_F(ButtonActionsTest, ImageChosenInTheCoverArtPanelIsShownAndStored) {
+    openFile();
+    image("c.png", 20, 10);
+    button("btn_loadCoverArt").click();
+    choose("c.png");
+    EXPECT_EQ(QSize(20, 10), well().image().size());
+    EXPECT_EQ(QSize(20, 10), file().coverArt().toQImage().size());
+    EXPECT_TRUE(document().isDocumentEdited());
 }
 
 TEST_F(ButtonActionsTest, CancelledAddFilesAddsNothing) {

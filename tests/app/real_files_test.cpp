@@ -171,6 +171,18 @@ TEST_F(RealFilesTest, SongIsAMovieWithoutAFrame) {
     EXPECT_FALSE(document().isDocumentEdited());
 }
 
+TEST_F(RealFilesTest, FrameOfAFilmWhoseFileIsClosedIsNotTaken) {
+    open("film.avi", picture + "-c:v mpeg4 -b:v 1200k");
+    auto& preview = widget<MovieView>("view_preview");
+    ASSERT_TRUE(waitUntil([&] { return preview.movie() && !preview.movie()->currentFrame().isNull(); }))
+        << log();
+    ASSERT_TRUE(enabled("btn_captureFrame"));
+    ASSERT_TRUE(document().readFromURL(std::nullopt, QString(), nullptr));
+    button("btn_captureFrame").click();
+    EXPECT_TRUE(cover().isNull());
+    EXPECT_FALSE(enabled("btn_saveTag"));
+}
+
 TEST_F(RealFilesTest, QuickRunDownTheListOpensTheLastMovieOnly) {
     for (const char* name : {"a.avi", "b.avi", "c.avi"}) {
         open(name, "-f lavfi -i testsrc2=s=160x120:r=5:d=1 -c:v mpeg4");
