@@ -11,17 +11,22 @@ namespace {
 constexpr std::uint8_t remove_instead = 0x01;
 /** Without as much data as the move's buffer takes, no data is moved. */
 constexpr std::uint8_t much_data = 0x02;
+/** All of these bits at once, as it is slow: more data than a move takes at a time. */
+constexpr std::uint8_t very_much_data = 0xF2;
 
-/** 70,000 bytes without long repeats. */
-const std::string& pattern() {
+/** Bytes without long repeats: as many as the choices ask for. */
+std::string media_data(std::uint8_t choices) {
     static const std::string bytes = [] {
         std::string made;
-        for (std::uint32_t i = 0; i < 70000; ++i) {
+        for (std::uint32_t i = 0; i < 1'200'000; ++i) {
             made.push_back(static_cast<char>(i * 2654435761u >> 24));
         }
         return made;
     }();
-    return bytes;
+    if ((choices & very_much_data) == very_much_data) {
+        return bytes;
+    }
+    return (choices & much_data) != 0 ? bytes.substr(0, 70'000) : std::string();
 }
 
 constexpr std::size_t object_header_size = 24;
@@ -107,10 +112,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Input input(data, size);
     const std::uint8_t choices = input.byte();
     const TagEdit edit(input);
-    std::string before = input.rest();
-    if (choices & much_data) {
-        before += pattern();
-    }
+    const std::string before = input.rest() + media_data(choices);
     const MediaFile file(before);
     const DescriptorCheck descriptors;
 

@@ -129,6 +129,7 @@ def asf_seeds():
         put("asf_store", name + "-clear", edit(2, **NOTHING) + files[name])
         put("asf_store", name + "-little-data", edit(0, title=b"Longer album") + files[name])
         put("asf_store", name + "-remove", edit(3) + files[name])
+        put("asf_store", name + "-very-much-data", edit(0xF2, **EVERYTHING) + files[name])
 
 
 def chunk(fourcc, data):
