@@ -1,5 +1,6 @@
 #include "media_table.h"
 
+#include "browser/media_table_columns.h"
 #include "platform/file_path.h"
 
 #include <QGuiApplication>
@@ -70,20 +71,11 @@ void MediaTable::setUpView() {
 }
 
 void MediaTable::setUpHeader() {
-    // No column follows its contents: the table is reloaded for each file that a search finds.
     QHeaderView& header = *view_.horizontalHeader();
     header.setSectionsClickable(true);
     header.setHighlightSections(false);
     header.setSortIndicatorShown(false);
-    header.setMinimumSectionSize(24);
-    const int icon = MediaTableModel::columnIndex(u"icon");
-    header.setSectionResizeMode(icon, QHeaderView::Fixed);
-    header.resizeSection(icon, 28);
-    header.setSectionResizeMode(MediaTableModel::columnIndex(u"filename"), QHeaderView::Stretch);
-    header.resizeSection(MediaTableModel::columnIndex(u"filesize"),
-                         view_.fontMetrics().averageCharWidth() * 14);
-    header.resizeSection(MediaTableModel::columnIndex(u"created"),
-                         view_.fontMetrics().averageCharWidth() * 24);
+    new MediaTableColumns(view_, this);
     connect(&header, &QHeaderView::sectionClicked, this, &MediaTable::tableViewDidClickTableColumn);
     // The second of two quick clicks is reported as this alone, of any button and also beside the columns.
     connect(&header, &QHeaderView::sectionDoubleClicked, this, [this](int column) {
