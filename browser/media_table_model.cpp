@@ -5,6 +5,8 @@
 
 #include <QFont>
 
+#include <algorithm>
+
 namespace velmora {
 namespace {
 
@@ -28,6 +30,18 @@ bool isNumeric(const TableColumn& column) {
 QVariant alignment(const TableColumn& column) {
     const Qt::Alignment horizontal = isNumeric(column) ? Qt::AlignRight : Qt::AlignLeft;
     return QVariant::fromValue(horizontal | Qt::AlignVCenter);
+}
+
+bool isControlOrLineBreak(QChar character) {
+    const QChar::Category category = character.category();
+    return category == QChar::Other_Control || category == QChar::Separator_Line ||
+           category == QChar::Separator_Paragraph;
+}
+
+/** TEXT with blanks for control characters and line breaks: a cell shows no more than one line. */
+QString onOneLine(QString text) {
+    std::replace_if(text.begin(), text.end(), isControlOrLineBreak, QChar(u' '));
+    return text;
 }
 
 /** TEXT for a place that takes rich text whenever a text looks like it. */
@@ -100,7 +114,8 @@ QVariant MediaTableModel::data(const QModelIndex& index, int role) const {
     const bool isIcon = column.identifier == u"icon";
     switch (role) {
     case Qt::DisplayRole:
-        return isIcon ? QVariant() : tableViewObjectValueForTableColumn(column, index.row());
+        return isIcon ? QVariant()
+                      : onOneLine(tableViewObjectValueForTableColumn(column, index.row()).toString());
     case Qt::DecorationRole:
         return isIcon ? tableViewObjectValueForTableColumn(column, index.row()) : QVariant();
     case Qt::ToolTipRole:

@@ -224,6 +224,19 @@ TEST_F(MediaTableModelTest, TextColumnsShowTexts) {
     EXPECT_EQ(QVariant("05/04/08 10:20:30"), shown(0, u"created"));
 }
 
+TEST_F(MediaTableModelTest, NamesWithLineBreaksAreShownOnOneLine) {
+    const QString name = QString("two\nlines\tand") + QChar(QChar::LineSeparator) + "more\x7F.mp3";
+    addAndReload(name);
+    EXPECT_EQ(QVariant("two lines and more .mp3"), shown(0, u"filename"));
+    EXPECT_EQ(QVariant(name), model_.tableViewObjectValueForTableColumn(nameColumn, 0));
+}
+
+TEST_F(MediaTableModelTest, EveryOtherCharacterOfANameIsShownAsItIs) {
+    const QString name = QString::fromUtf8("Stra\u00DFe  \u00A0\U0001F3AC\u200D e\u0301 \u05D0.mp3");
+    addAndReload(name);
+    EXPECT_EQ(QVariant(name), shown(0, u"filename"));
+}
+
 TEST_F(MediaTableModelTest, IconColumnShowsAnIconAndNoText) {
     coldata row = *makeRow("a.mp3");
     QPixmap pixmap(16, 16);
