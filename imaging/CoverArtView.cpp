@@ -21,6 +21,7 @@ constexpr QSize preferredSize(180, 180);
 constexpr QSize smallestSize(80, 80);
 constexpr qreal highlightWidth = 4.0;
 constexpr qreal highlightShadow = 0.4;
+constexpr qreal placeholderOpacity = 0.5;
 
 /** COLOUR mixed with LEVEL parts of black. */
 QColor shadowed(const QColor& colour, qreal level) {
@@ -231,7 +232,10 @@ void CoverArtView::drawImage(QPainter& painter) {
 }
 
 void CoverArtView::drawPlaceholder(QPainter& painter) {
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    // Not the palette's PlaceholderText: dark themes leave it black.
+    QColor colour = palette().color(QPalette::WindowText);
+    colour.setAlphaF(placeholderOpacity);
+    painter.setPen(colour);
     painter.drawText(contentsRect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
                      localised("Drop an image here"));
 }

@@ -2,7 +2,9 @@
 
 #include "platform/localisation.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QPainter>
 #include <QSlider>
 #include <QStyle>
@@ -17,11 +19,28 @@ namespace {
 
 constexpr QSize preferredSize(320, 220);
 constexpr QSize smallestSize(120, 100);
+constexpr QSize largestSign(32, 32);
 constexpr int stepMilliseconds = 1000;
 constexpr int pageMilliseconds = 10000;
 
 int sliderValue(qint64 milliseconds) {
     return static_cast<int>(std::clamp<qint64>(milliseconds, 0, std::numeric_limits<int>::max()));
+}
+
+/** SIGN, which styles have in black for dark palettes too, in the colours of PALETTE's buttons' texts. */
+QIcon coloured(const QIcon& sign, const QPalette& palette) {
+    QIcon icon;
+    const auto add = [&](QIcon::Mode mode, QPalette::ColorGroup group) {
+        QPixmap picture = sign.pixmap(largestSign);
+        QPainter painter(&picture);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(picture.rect(), palette.color(group, QPalette::ButtonText));
+        painter.end();
+        icon.addPixmap(picture, mode);
+    };
+    add(QIcon::Normal, QPalette::Active);
+    add(QIcon::Disabled, QPalette::Disabled);
+    return icon;
 }
 
 } // namespace
@@ -102,11 +121,19 @@ QSize MovieView::minimumSizeHint() const {
     return smallestSize;
 }
 
+void MovieView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        updateControls();
+    }
+    QWidget::changeEvent(event);
+}
+
 void MovieView::updateControls() {
     const bool playable = movie_ && movie_->hasVideo();
     const bool playing = playable && movie_->isPlaying();
     playButton_->setEnabled(playable);
-    playButton_->setIcon(style()->standardIcon(playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+    const QStyle::StandardPixmap sign = playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay;
+    playButton_->setIcon(coloured(style()->standardIcon(sign), palette()));
     positionSlider_->setEnabled(playable);
     updatePosition();
     screen_->update();

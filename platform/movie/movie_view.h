@@ -25,6 +25,9 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     class Screen;
 

@@ -1,5 +1,6 @@
 #include "cover_art_fixture.h"
 #include "drag_session.h"
+#include "support/contrast.h"
 
 #include <QSignalSpy>
 #include <QUrl>
@@ -143,9 +144,25 @@ TEST_F(CoverArtViewDrawing, AnEmptyViewShowsAPlaceholder) {
     view->setImage(QImage());
     EXPECT_EQ(picture(), empty);
     QPalette palette = view->palette();
-    palette.setColor(QPalette::PlaceholderText, Qt::magenta);
+    palette.setColor(QPalette::WindowText, Qt::magenta);
     view->setPalette(palette);
     EXPECT_NE(picture(), empty);
+}
+
+TEST_F(CoverArtViewDrawing, ThePlaceholderIsReadableInLightAndDark) {
+    const QList<QPair<QColor, QColor>> grounds = {{QColor(239, 239, 239), Qt::black},
+                                                  {QColor(35, 38, 41), QColor(252, 252, 252)}};
+    for (const auto& [ground, text] : grounds) {
+        QPalette palette = view->palette();
+        palette.setColor(QPalette::Window, ground);
+        palette.setColor(QPalette::WindowText, text);
+        // Many a theme leaves this as it is.
+        palette.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+        view->setPalette(palette);
+        const double found = contrast(picture().copy(view->rect().adjusted(8, 8, -8, -8)));
+        EXPECT_GT(found, 3) << ground.name().toStdString();
+        EXPECT_LT(found, 8) << "greyed, on " << ground.name().toStdString();
+    }
 }
 
 TEST_F(CoverArtViewDrawing, SettingTheImageTellsWhoeverListensButNotTheController) {

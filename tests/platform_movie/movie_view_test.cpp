@@ -2,6 +2,8 @@
 
 #include "platform/movie/movie_view.h"
 
+#include "support/contrast.h"
+
 #include <QAbstractButton>
 #include <QAbstractSlider>
 
@@ -40,6 +42,10 @@ protected:
             }
         }
         return count * 100 / (picture.width() * picture.height());
+    }
+
+    [[nodiscard]] double contrastOfSign() {
+        return contrast(button()->grab(button()->rect().adjusted(2, 2, -2, -2)).toImage());
     }
 
     MovieView view;
@@ -117,6 +123,29 @@ TEST_F(MovieViewTest, TheSliderFollowsTheMovie) {
     openFilm();
     movie.play();
     EXPECT_TRUE(QTest::qWaitFor([this] { return slider()->value() > 200; }, patience));
+}
+
+TEST_F(MovieViewTest, TheButtonsSignsAreReadableInLightAndDark) {
+    openFilm();
+    for (const QColor& colour : {QColor(239, 239, 239), QColor(49, 54, 59)}) {
+        view.setPalette(QPalette(colour));
+        EXPECT_GT(contrastOfSign(), 4.5) << "to play, on " << colour.name().toStdString();
+        movie.play();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return movie.isPlaying(); }, patience));
+        EXPECT_GT(contrastOfSign(), 4.5) << "to pause, on " << colour.name().toStdString();
+        movie.pause();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !movie.isPlaying(); }, patience));
+    }
+}
+
+TEST_F(MovieViewTest, TheSignOfAButtonOutOfUseIsFaintInLightAndDark) {
+    for (const QColor& colour : {QColor(239, 239, 239), QColor(49, 54, 59)}) {
+        QPalette palette(colour);
+        palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(120, 120, 120));
+        view.setPalette(palette);
+        EXPECT_GT(contrastOfSign(), 1.5) << colour.name().toStdString();
+        EXPECT_LT(contrastOfSign(), 4.5) << colour.name().toStdString();
+    }
 }
 
 TEST_F(MovieViewTest, EveryControlHasANameAndATip) {
