@@ -15,9 +15,9 @@ namespace {
 constexpr int iconWidth = 28;
 constexpr int smallestWidth = 24;
 
-// In characters.
-constexpr int nameLength = 12;
-constexpr int sizeLength = 14;
+// In average characters; a name of twelve takes some fifteen of them.
+constexpr int nameLength = 15;
+constexpr int sizeLength = 12;
 constexpr int dateLength = 24;
 
 } // namespace

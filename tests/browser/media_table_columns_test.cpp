@@ -50,7 +50,7 @@ TEST_F(MediaTableColumnsTest, TheDateGivesItsRoomToTheNameFirst) {
     const int size = width(sizeColumn);
     const int date = width(createdColumn);
     widen(300);
-    EXPECT_TRUE(shows(nameColumn, "a film.mp4"));
+    EXPECT_TRUE(shows(nameColumn, "my films.mp4"));
     EXPECT_EQ(size, width(sizeColumn));
     EXPECT_LT(width(createdColumn), date);
     EXPECT_FALSE(view_.isColumnHidden(createdColumn));
@@ -58,7 +58,7 @@ TEST_F(MediaTableColumnsTest, TheDateGivesItsRoomToTheNameFirst) {
 
 TEST_F(MediaTableColumnsTest, TheSizeGivesItsRoomToTheNameNext) {
     widen(170);
-    EXPECT_TRUE(shows(nameColumn, "a film.mp4"));
+    EXPECT_TRUE(shows(nameColumn, "my films.mp4"));
     EXPECT_GT(width(sizeColumn), 0);
     EXPECT_LT(width(createdColumn), 40);
     EXPECT_GT(width(createdColumn), 0);
