@@ -26,7 +26,9 @@ void installLocalisation() {
             delete translator;
         }
     };
-    install(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    for (const char* part : {"qtbase", "qtwebengine"}) {
+        install(QString::fromLatin1(part), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    }
     install(QStringLiteral("velmora"), QStringLiteral(":/translations"));
 }
 

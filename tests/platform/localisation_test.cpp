@@ -61,6 +61,11 @@ TEST_F(LocalisationTest, AFilePanelIsGermanForAGerman) {
     EXPECT_EQ("Suchen in:", panelLabel());
 }
 
+TEST_F(LocalisationTest, AWebPagesMenuIsGermanForAGerman) {
+    speak(QLocale::German);
+    EXPECT_EQ("Neu laden", QCoreApplication::translate("RenderViewContextMenuQt", "Reload"));
+}
+
 TEST_F(LocalisationTest, WithoutATableTheTextsAreEnglish) {
     speak(QLocale::Welsh);
     EXPECT_THAT(fieldMenu(), testing::Contains(QString("Paste")));
