@@ -1,6 +1,7 @@
 #include "MyDocument.h"
 #include "VelmoraDocumentController.h"
 
+#include "platform/image.h"
 #include "platform/localisation.h"
 #include "platform/standard_streams.h"
 
@@ -13,6 +14,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/velmora.png")));
     velmora::installLocalisation();
+    velmora::allowLargeImages();
 
     const velmora::VelmoraDocumentController documentController;
     velmora::ApplicationTermination termination;

@@ -24,6 +24,11 @@ void setPlainTexts(QMessageBox& box, const QString& text, const QString& informa
 int returnCode(const QMessageBox& box) {
     // buttons() sorts by role; the order of adding is kept as a property.
     const QAbstractButton* clicked = box.clickedButton();
+    if (!clicked && box.result() == QDialog::Rejected) {
+        // Closed by the window's own means, which the box tells of before it takes that for its escape
+        // button.
+        clicked = box.escapeButton();
+    }
     const QVariant order = clicked ? clicked->property("orderOfAdding") : QVariant();
     return order.isValid() ? Alert::firstButtonReturn + order.toInt() : Alert::noButtonReturn;
 }
@@ -73,6 +78,9 @@ void Alert::beginSheetModalForWindow(QWidget* window, std::function<void(int ret
     if (window) {
         box_->setWindowTitle(window->windowTitle());
     }
+    // No button has the keyboard, or a blank in a text that somebody is typing would press it.
+    box_->setFocusPolicy(Qt::StrongFocus);
+    box_->setFocus();
     QMessageBox* box = box_;
     QObject::connect(box, &QMessageBox::finished, box,
                      [box, end = std::move(didEnd)] { end(returnCode(*box)); });

@@ -143,6 +143,10 @@ QImage ImageRef::toQImage() const {
     return image_ ? image_->decoded() : QImage();
 }
 
+void allowLargeImages() {
+    QImageReader::setAllocationLimit(1024); // in MiB
+}
+
 QImage imageFromFile(const QString& path) {
     return ImageRef::adopt(image_from_file(pathBytes(path).constData())).toQImage();
 }

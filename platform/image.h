@@ -42,6 +42,10 @@ private:
     Image* image_ = nullptr;
 };
 
+/** Lets an image take 1 GiB when it is decoded (16,384 x 16,384 pixels), eight times as much as Qt grants,
+   for large scans of covers. For the whole program; to be called once, at its start. */
+void allowLargeImages();
+
 /** The image in the file at PATH (any format that the platform reads, told by its content), or a null QImage.
  */
 [[nodiscard]] QImage imageFromFile(const QString& path);

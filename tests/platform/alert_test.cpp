@@ -74,6 +74,23 @@ TEST_F(AlertTest, EscapeIsTheCancelButton) {
     EXPECT_EQ(1001, code_);
 }
 
+TEST_F(AlertTest, ClosingTheSheetIsTheCancelButton) {
+    ask();
+    box().close();
+    EXPECT_EQ(1001, code_);
+}
+
+TEST_F(AlertTest, BlankInATextThatSomebodyIsTypingPressesNoButton) {
+    ask();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&box()));
+    ASSERT_NE(nullptr, QApplication::focusWidget());
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("b w "));
+    EXPECT_EQ(std::nullopt, code_);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_NE(std::nullopt, code_);
+}
+
 TEST_F(AlertTest, ThirdButtonHasControlD) {
     ask();
     EXPECT_EQ(QKeySequence(Qt::CTRL | Qt::Key_D), button("Don't Save")->shortcut());

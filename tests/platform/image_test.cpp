@@ -4,6 +4,7 @@
 #include "support/scratch_folder.h"
 
 #include <QBuffer>
+#include <QImageReader>
 
 #include <gtest/gtest.h>
 
@@ -147,6 +148,17 @@ TEST(Image, ReferencesAreSharedAndTheLastOneFrees) {
 
 TEST(Image, NullPixelsMakeNoImage) {
     EXPECT_FALSE(ImageRef::fromQImage(QImage()));
+}
+
+TEST(Image, LargeScanIsReadWhenLargeImagesAreAllowed) {
+    const int limit = QImageReader::allocationLimit();
+    QImage scan(6000, 6000, QImage::Format_RGB32);
+    scan.fill(Qt::darkCyan);
+    const QByteArray bytes = encoded(scan, "jpeg");
+    const ImageRef image = ImageRef::adopt(image_from_bytes(bytes.constData(), bytes.size()));
+    allowLargeImages();
+    EXPECT_EQ(QSize(6000, 6000), image.toQImage().size());
+    QImageReader::setAllocationLimit(limit);
 }
 
 } // namespace
