@@ -16,12 +16,15 @@ namespace velmora {
 
 namespace {
 
-/** Pipes and devices don't count: opening one may wait for ever. */
-bool isReadableFile(const QString& path) {
-    const QByteArray bytes = pathBytes(path);
+/** Whether there is a pipe or a device: opening or reading one may wait for ever. */
+bool isPipeOrDevice(const QString& path) {
     struct stat status {};
-    return ::access(bytes.constData(), R_OK) == 0 && ::stat(bytes.constData(), &status) == 0 &&
-           (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode));
+    return ::stat(pathBytes(path).constData(), &status) == 0 && !S_ISREG(status.st_mode) &&
+           !S_ISDIR(status.st_mode);
+}
+
+bool isReadableFile(const QString& path) {
+    return ::access(pathBytes(path).constData(), R_OK) == 0 && !isPipeOrDevice(path);
 }
 
 QString decodedSlot(const char* text) {
@@ -98,7 +101,8 @@ std::unique_ptr<MediaFile> MediaFile::initWithFile(const QString& path) {
     file->mediaType_ = mediaTypeOfPath(path);
 
     _file_info_t info{};
-    if (!tagModuleOfPath(path).load(pathBytes(file->filename_).constData(), &info)) {
+    if (isPipeOrDevice(file->filename_) ||
+        !tagModuleOfPath(path).load(pathBytes(file->filename_).constData(), &info)) {
         appLog(QStringLiteral("failed to load metadata for file ") + file->filename_);
     }
     appLog(QStringLiteral("file info: title='") + shown(info.title) + QStringLiteral("', artist='") +
@@ -136,7 +140,8 @@ bool MediaFile::saveMetadata(Error* error) const {
            QStringLiteral("\n  director=") + shown(info.director) + QStringLiteral("\n rating=") +
            shown(info.rating) + QStringLiteral("\n  year=") + QString::number(info.year) + QLatin1Char('\n'));
     appLog(QStringLiteral("saving tag to file ") + filename_);
-    if (tagModuleOfPath(filename_).store(pathBytes(filename_).constData(), &record.info())) {
+    if (!isPipeOrDevice(filename_) &&
+        tagModuleOfPath(filename_).store(pathBytes(filename_).constData(), &record.info())) {
         return true;
     }
     appLog(QStringLiteral("failed to write tag\n"));

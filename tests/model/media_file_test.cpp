@@ -200,6 +200,28 @@ TEST_F(MediaFileTest, PipeGivesNoObjectAndIsNotWaitedFor) {
     EXPECT_FALSE(MediaFile::initWithFile(path("a.mp3")));
 }
 
+TEST_F(MediaFileTest, SideFileThatIsAPipeCountsAsUnreadable) {
+    test::write_file(folder_ / "movie.iso", "disc");
+    ASSERT_EQ(0, ::mkfifo((folder_ / "movie.TAG").c_str(), 0600));
+    const auto file = MediaFile::initWithFile(path("movie.iso"));
+    ASSERT_TRUE(file);
+    EXPECT_EQ("", file->title());
+    EXPECT_NE(std::string::npos,
+              log_.text().find("failed to load metadata for file " + (folder_ / "movie.TAG")));
+}
+
+TEST_F(MediaFileTest, FileThatBecameAPipeIsNotSaved) {
+    for (const char* name : {"a.mp3", "a.wma", "a.avi"}) {
+        const auto file = MediaFile::initWithFile(tagged(name, fullTag));
+        ASSERT_TRUE(file) << name;
+        ASSERT_EQ(0, ::unlink((folder_ / name).c_str()));
+        ASSERT_EQ(0, ::mkfifo((folder_ / name).c_str(), 0600));
+        Error error;
+        EXPECT_FALSE(file->saveMetadata(&error)) << name;
+        EXPECT_EQ(path(name), error.userInfo.value(NSFilePathErrorKey).toString());
+    }
+}
+
 TEST_F(MediaFileTest, NameWithAnyByteOpens) {
     const std::string name = "a#?%20<b>\xE9\xFF\n.mp3";
     test::write_file(folder_ / name, test::pattern(64) + appendedTag(text("TIT2", "Z")));
