@@ -3,6 +3,7 @@
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
 #include "support/system_call_faults.h"
+#include "taglib/avi/header_reader.h"
 #include "taglib/avi/remove_file_info.h"
 #include "taglib/avi/store_file_info.h"
 
@@ -106,6 +107,16 @@ TEST_F(AviBigFile, BeyondThe32BitsOfItsFieldTheRiffSizeIsTheLargestNumberAndTheL
     EXPECT_EQ(to_hex("12345678" + list(16, "INFO", chunk("INAM", 4, z("New")))),
               to_hex(read_at(0x100000036, 100)));
     EXPECT_EQ("New", loaded_title(path_));
+}
+
+TEST_F(AviBigFile, TheRootsSizeAsFoundIsTheLargestNumberToo) {
+    make(0, hdrl(), 0xFFFFFFFE, "");
+    OpenFile file(path_, O_RDONLY);
+    _avi_item_t root;
+    StreamCapture quiet;
+    EXPECT_EQ(1, avi_read_header(&file, &root));
+    EXPECT_EQ(0xFFFFFFFFu, root.size);
+    avi_free_header(&root);
 }
 
 TEST_F(AviBigFile, NothingIsWrittenIntoTheMediaBeyond4GiB) {

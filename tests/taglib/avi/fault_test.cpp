@@ -214,6 +214,22 @@ TEST_P(AviFault, ALoadWithAFailingCallGivesAResultAndClosesTheFile) {
     }
 }
 
+TEST_P(AviFault, ALoadFromAMediumThatStaysUnreadableTriesAtMostTwoMoreReads) {
+    restore();
+    // Those of the next sub-chunk's header and the next chunk's. A good load makes 13 reads at most.
+    for (int nth = 1; nth <= 13; ++nth) {
+        StreamCapture quiet;
+        SystemCallFaults faults;
+        // Readable again after a while, so that a load that goes on and on comes to an end here, too late.
+        for (int later = 0; later < 100; ++later) {
+            faults.fail(SystemCall::read, nth + later, EIO);
+        }
+        load();
+        EXPECT_LE(faults.count(SystemCall::read), nth + 2) << nth;
+        EXPECT_EQ(0, faults.open_descriptors()) << nth;
+    }
+}
+
 TEST_P(AviFault, AFailedOpenIsLoggedAndKeepsTheSystemsError) {
     restore();
     StreamCapture log;

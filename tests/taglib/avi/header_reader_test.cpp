@@ -273,6 +273,17 @@ TEST_F(AviHeaderReader, ASecondRiffRefusesTheFileWithError78) {
     EXPECT_EQ(78, error_);
 }
 
+TEST_F(AviHeaderReader, TheWalkEndsAtTheSecondRiffWhateverFollowsIt) {
+    EXPECT_EQ(0, read(riff(80, hdrl() + chunk("RIFF", 4, "AVIX") + chunk("RIFF", 4, "AVIX") + idx1())));
+    EXPECT_EQ("now have 1 RIFF headers\n"
+              "[0000000c] <list> type hdrl size 0x14\n"
+              "[00000028] <RIFF> size 0x4\n"
+              "now have 2 RIFF headers\n"
+              "More than one RIFF header; we don't handle this yet\n",
+              log_);
+    EXPECT_EQ(78, error_);
+}
+
 TEST_F(AviHeaderReader, ASecondRiffWhoseSizeOverrunsTheFileOnlyEndsTheWalk) {
     EXPECT_EQ(1, read(avi_without_info() + "RIFF" + le32(0xFFFFFFFF) + "AVIX" + movi()));
     EXPECT_EQ(3, root_.child_count);

@@ -136,6 +136,26 @@ TEST_F(AviItemList, ALyingListSizeDoesNotLetASubChunkClaimMoreThanTheFileHas) {
               log_);
 }
 
+TEST_F(AviItemList, ALyingListReachesEightBytesPastTheFileAndItsLastSubChunkFourMore) {
+    // The data begins at 20 and the file ends at 24.
+    load(0xFFFFFFFF, chunk("INAM", 16, "1234"));
+    ASSERT_EQ(1, list_.child_count);
+    EXPECT_EQ("1234" + std::string(12, '\0'), data(0));
+    avi_free_item(&list_);
+    load(0xFFFFFFFF, chunk("INAM", 17, "1234"));
+    EXPECT_EQ(0, list_.child_count);
+    EXPECT_EQ("avi_load_info_list: Invalid tag 'INAM' size at c\n", log_);
+}
+
+TEST_F(AviItemList, AFileThatIsNotOpenGivesAnIncompleteListWithoutSubChunks) {
+    FIOFUNCSTRUCT closed{-1};
+    list_.fourcc = fourcc::list;
+    list_.size = 100;
+    EXPECT_EQ(1, avi_load_item_list(&closed, &list_));
+    EXPECT_TRUE(list_.incomplete);
+    EXPECT_EQ(0, list_.child_count);
+}
+
 TEST_F(AviItemList, AListInsideTheListIsKeptAsBytes) {
     load(24, list(12, "iner", chunk("INAM", 0, "")));
     ASSERT_EQ(1, list_.child_count);
@@ -143,6 +163,13 @@ TEST_F(AviItemList, AListInsideTheListIsKeptAsBytes) {
     EXPECT_EQ(make_fourcc("iner"), list_.children[0].list_type);
     EXPECT_EQ("iner" + chunk("INAM", 0, ""), data(0));
     EXPECT_EQ("[0000000c]        <LIST> size 0xc\n", log_);
+}
+
+TEST_F(AviItemList, AListInsideTheListMayBeItsTypeOnly) {
+    load(16, list(4, "iner", ""));
+    ASSERT_EQ(1, list_.child_count);
+    EXPECT_EQ(make_fourcc("iner"), list_.children[0].list_type);
+    EXPECT_EQ("iner", data(0));
 }
 
 TEST_F(AviItemList, ARiffInsideTheListIsKeptAsBytesToo) {

@@ -142,13 +142,15 @@ TEST_F(AviItem, FindGivesNothingForAFourccThatIsNotThere) {
 
 TEST_F(AviItem, FindListGivesTheFirstListOfThatType) {
     add(fourcc::info); // a plain chunk of that name is none
+    add(fourcc::riff); // nor is a RIFF of that type
     add(fourcc::list);
     add(fourcc::list);
     add(fourcc::list);
-    list_.children[1].list_type = make_fourcc("movi");
-    list_.children[2].list_type = fourcc::info;
+    list_.children[1].list_type = fourcc::info;
+    list_.children[2].list_type = make_fourcc("movi");
     list_.children[3].list_type = fourcc::info;
-    EXPECT_EQ(list_.children + 2, avi_find_list_item(&list_, fourcc::info));
+    list_.children[4].list_type = fourcc::info;
+    EXPECT_EQ(list_.children + 3, avi_find_list_item(&list_, fourcc::info));
 }
 
 TEST_F(AviItem, FindListGivesNothingForATypeThatIsNotThere) {
@@ -162,6 +164,13 @@ TEST_F(AviItem, TheIndexGoesByIdentity) {
     const _avi_item_t stranger = list_.children[1];
     EXPECT_EQ(1, avi_get_item_index(&list_, list_.children + 1));
     EXPECT_EQ(-1, avi_get_item_index(&list_, &stranger));
+}
+
+TEST_F(AviItem, ASlotBehindTheChildrenHasNoIndex) {
+    add(make_fourcc("AAAA"));
+    add(make_fourcc("AAAA"));
+    ASSERT_EQ(1, avi_remove_item(&list_, list_.children));
+    EXPECT_EQ(-1, avi_get_item_index(&list_, list_.children + 1));
 }
 
 TEST_F(AviItem, MovingTowardsTheFrontKeepsTheOthersOrder) {

@@ -128,6 +128,12 @@ TEST_F(AviLoad, OneCharacterIsAText) {
     EXPECT_STREQ("M", info_.title);
 }
 
+TEST_F(AviLoad, OneByteIsAText) {
+    ASSERT_EQ(1, load_info(26, chunk("INAM", 1, "Xp") + chunk("ISTR", 4, z("Ann"))));
+    EXPECT_STREQ("X", info_.title);
+    EXPECT_STREQ("Ann", info_.artist);
+}
+
 TEST_F(AviLoad, ATextNeedsNoTerminatingZero) {
     ASSERT_EQ(1, load_info(16, chunk("INAM", 4, "Four")));
     EXPECT_STREQ("Four", info_.title);
@@ -146,6 +152,14 @@ TEST_F(AviLoad, ATextIsCutTo8191Characters) {
 TEST_F(AviLoad, TheYearIsTheNumberThatTheTextBeginsWith) {
     ASSERT_EQ(1, load_info(24, chunk("ICRD", 11, z("2009-05-01") + '\0')));
     EXPECT_EQ(2009, info_.year);
+}
+
+TEST_F(AviLoad, TheYearIsDecimalAndMayHaveASignLeadingZerosAndBlanksInFront) {
+    for (const auto& [text, year] :
+         {std::pair("0012", 12), std::pair("-44\0", -44), std::pair("0x7D", 0), std::pair(" 7\0\0", 7)}) {
+        ASSERT_EQ(1, load_info(16, chunk("ICRD", 4, std::string(text, 4))));
+        EXPECT_EQ(year, info_.year) << text;
+    }
 }
 
 TEST_F(AviLoad, AYearThatIsNoNumberIsZero) {

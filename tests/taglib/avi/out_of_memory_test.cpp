@@ -126,5 +126,32 @@ TEST(AviStoreOutOfMemory, WhicheverRequestFailsTheStoreFailsAndChangesNoByte) {
     }
 }
 
+TEST(AviStoreOutOfMemory, ANewListOrOneOfItsTextsWithoutMemoryFailsTheStoreThoughTheNextOneHasSome) {
+    const ScratchFolder folder;
+    const std::string path = folder / "file.avi";
+    char title[] = "A";
+    char artist[] = "B";
+    char genre[] = "C";
+    const StreamCapture quiet;
+    // The new list's place in the top level's array, four texts, and the list's array for the first, second
+    // and third.
+    constexpr int requests = 1 + 4 + 3;
+    for (int nth = 0; nth <= requests; ++nth) {
+        write_file(path, riff(4, ""));
+        _file_info_t info{};
+        info.title = title;
+        info.artist = artist;
+        info.genre = genre;
+        info.year = 5;
+        info.flags =
+            file_info_flag::title | file_info_flag::artist | file_info_flag::genre | file_info_flag::year;
+        const AllocationFaults no_memory(nth);
+        EXPECT_EQ(nth == 0 ? 1 : 0, avi_store_file_info(path.c_str(), &info)) << nth;
+        EXPECT_TRUE(nth == 0 || errno == ENOMEM) << nth << ": " << errno;
+        EXPECT_TRUE(nth == 0 || read_file(path) == riff(4, "")) << nth;
+        EXPECT_TRUE(nth > 0 || no_memory.count() == requests) << no_memory.count();
+    }
+}
+
 } // namespace
 } // namespace velmora::test

@@ -66,6 +66,19 @@ TEST_F(AviRemove, AListThatIsNotLastBecomesJunkOfTheSameSize) {
     EXPECT_EQ(log_of_avi_with_info_before_movi() + "Writing <junk> at 0x28 size 0x1c\n", log_);
 }
 
+TEST_F(AviRemove, AnOddListThatIsNotLastBecomesJunkOfItsOddSize) {
+    const std::string odd = chunk("INAM", 3, "Odd"); // its pad byte is not in the list's count
+    EXPECT_EQ(1, remove_from(riff(80, hdrl() + list(15, "INFO", odd + 'p') + idx1())));
+    expect_file(riff(80, hdrl() + chunk("JUNK", 15, "INFO" + odd + 'p') + idx1()));
+}
+
+TEST_F(AviRemove, AnOddListThatIsLastStaysBehindAShorterRiffChunk) {
+    const std::string odd = list(15, "INFO", chunk("INAM", 3, "Odd") + 'p');
+    EXPECT_EQ(1, remove_from(riff(56, hdrl() + odd)));
+    expect_file(riff(32, hdrl()) + odd);
+    EXPECT_TRUE(log_.ends_with("Writing <EOF> at 0x28\n")) << log_;
+}
+
 TEST_F(AviRemove, AListThatIsNotLastIsGoneForTheNextLoad) {
     ASSERT_EQ(1, remove_from(avi_with_info_before_movi()));
     _file_info_t info;

@@ -131,6 +131,23 @@ TEST_F(AviStore, AfterAnOddLastChunkTheListBeginsBehindThePadByte) {
     EXPECT_EQ("New", loaded_title(path_));
 }
 
+TEST_F(AviStore, AnOddListThatIsNotLastBecomesJunkOfItsOddSize) {
+    const std::string odd = chunk("INAM", 3, "Odd"); // its pad byte is not in the list's count
+    set_title("New");
+    EXPECT_EQ(1, store_into(riff(80, hdrl() + list(15, "INFO", odd + 'p') + idx1())));
+    expect_file(riff(104, hdrl() + chunk("JUNK", 15, "INFO" + odd + 'p') + idx1() +
+                              list(16, "INFO", chunk("INAM", 4, z("New")))));
+    EXPECT_TRUE(log_.ends_with("Writing <junk> at 0x28 size 0xf\n"
+                               "Writing <info> at 0x58 size 0x10\n"))
+        << log_;
+}
+
+TEST_F(AviStore, AnOddListThatIsLastIsRewrittenInPlaceWithAnEvenSize) {
+    set_title("New");
+    EXPECT_EQ(1, store_into(riff(56, hdrl() + list(15, "INFO", chunk("INAM", 3, "Odd") + 'p'))));
+    expect_file(riff(56, hdrl() + list(16, "INFO", chunk("INAM", 4, z("New")))));
+}
+
 TEST_F(AviStore, AMissingPadByteOfTheLastChunkBecomesZero) {
     set_title("New");
     EXPECT_EQ(1, store_into(riff(45, hdrl() + chunk("idx1", 5, "12345"))));
@@ -235,6 +252,12 @@ TEST_F(AviStore, AnEmptyListInsideTheInfoListIsWrittenBackUnchanged) {
     expect_file(riff(64, hdrl() + list(24, "INFO", chunk("LIST", 0, "") + chunk("INAM", 4, z("New")))));
 }
 
+TEST_F(AviStore, ASubChunkOfOneByteIsWrittenBackWithAZeroPadByte) {
+    const std::string artist = chunk("ISTR", 4, z("Ann"));
+    ASSERT_EQ(1, store_into(riff(66, hdrl() + list(26, "INFO", chunk("INAM", 1, "Xp") + artist))));
+    expect_file(riff(66, hdrl() + list(26, "INFO", chunk("INAM", 1, "X\0"s) + artist)));
+}
+
 TEST_F(AviStore, AnAbsentTextRemovesItsSubChunk) {
     info_.flags = file_info_flag::title;
     ASSERT_EQ(1, store_into(riff(68, hdrl() + old_info())));
@@ -245,6 +268,16 @@ TEST_F(AviStore, AnEmptyTextRemovesItsSubChunk) {
     set_title("");
     ASSERT_EQ(1, store_into(riff(68, hdrl() + old_info())));
     EXPECT_EQ("", loaded_title(path_));
+}
+
+TEST_F(AviStore, RemovingAFieldKeepsTheOrderOfTheOthers) {
+    const std::string artist = chunk("ISTR", 4, z("Ann"));
+    const std::string software = chunk("ISFT", 4, z("Lav"));
+    const std::string keyword = chunk("IKEY", 4, z("key"));
+    const std::string old = chunk("INAM", 4, z("Old")) + artist + software + keyword;
+    info_.flags = file_info_flag::title;
+    ASSERT_EQ(1, store_into(riff(92, hdrl() + list(52, "INFO", old))));
+    expect_file(riff(80, hdrl() + list(40, "INFO", artist + software + keyword)) + keyword);
 }
 
 TEST_F(AviStore, RemovingTakesTheFirstSubChunkOnlySoThatASecondSurfaces) {
@@ -279,6 +312,13 @@ TEST_F(AviStore, NoPictureRemovesThePicture) {
     info_.flags = file_info_flag::picture;
     ASSERT_EQ(1, store_into(riff(56, hdrl() + list(16, "INFO", chunk("IPIC", 4, "\xFF\xD8\xFFj")))));
     expect_file(riff(44, hdrl() + list(4, "INFO", "")) + chunk("IPIC", 4, "\xFF\xD8\xFFj"));
+}
+
+TEST_F(AviStore, NoPictureRemovesTheFirstPictureOnly) {
+    const std::string second = chunk("IPIC", 4, "\xFF\xD8\xFFk");
+    info_.flags = file_info_flag::picture;
+    ASSERT_EQ(1, store_into(riff(68, hdrl() + list(28, "INFO", chunk("IPIC", 4, "\xFF\xD8\xFFj") + second))));
+    expect_file(riff(56, hdrl() + list(16, "INFO", second)) + second);
 }
 
 TEST_F(AviStore, APictureThatCantBeEncodedLeavesTheStoredOne) {
