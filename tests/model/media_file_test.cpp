@@ -30,6 +30,21 @@ std::string text(const std::string& id, const std::string& value) {
     return frame(id, std::string(1, '\0') + value);
 }
 
+/** A RIFF chunk: FOURCC, size field as given, data. */
+std::string chunk(const std::string& fourcc, char size, const std::string& data) {
+    return fourcc + size + std::string(3, '\0') + data;
+}
+
+/** A film's texts and its year as they stand in an AVI file: 88 bytes. */
+std::string infoList() {
+    const std::string zero(1, '\0');
+    return chunk("LIST", 80,
+                 "INFO" + chunk("INAM", 2, "T" + zero) + chunk("ISTR", 3, "CC" + zero + zero) +
+                     chunk("ICMT", 4, "SSS" + zero) + chunk("IART", 2, "D" + zero) +
+                     chunk("IRTD", 2, "R" + zero) + chunk("IGNR", 2, "G" + zero) +
+                     chunk("ICRD", 4, "-44" + zero));
+}
+
 /** An ID3v2.4 tag with a footer around FRAMES. */
 std::string appendedTag(const std::string& frames) {
     const std::size_t n = frames.size();
@@ -84,6 +99,8 @@ TEST_F(MediaFileTest, VideoShowsTitleCastSynopsisDirectorAndRating) {
     EXPECT_EQ("Z", file->synopsis());
     EXPECT_EQ("D", file->director());
     EXPECT_EQ("PG", file->rating());
+    EXPECT_EQ("Rock", file->genre());
+    EXPECT_EQ(1999, file->year());
     EXPECT_EQ("", file->metadata().value("artist").toString());
     EXPECT_EQ("", file->metadata().value("album").toString());
 }
@@ -104,6 +121,7 @@ TEST_F(MediaFileTest, FileWithoutATagHasEmptyValuesAndNoCoverArt) {
     ASSERT_TRUE(file);
     EXPECT_EQ("", file->title());
     EXPECT_EQ("", file->album());
+    ASSERT_TRUE(file->metadata().contains("year"));
     EXPECT_EQ(0, file->year());
     EXPECT_FALSE(file->coverArt());
     EXPECT_FALSE(file->metadata().contains("coverart"));
@@ -140,6 +158,11 @@ TEST_F(MediaFileTest, Latin1TextIsShownAsLatin1) {
     EXPECT_EQ(QString::fromLatin1("caf\xE9"), file->title());
 }
 
+TEST_F(MediaFileTest, BlanksAroundATextStay) {
+    const auto file = MediaFile::initWithFile(tagged("a.mp3", text("TIT2", " Z ")));
+    EXPECT_EQ(" Z ", file->title());
+}
+
 TEST_F(MediaFileTest, DateIsTheMomentOfLoadingWhateverTheTagSays) {
     const QDateTime before = QDateTime::currentDateTime();
     const auto file = MediaFile::initWithFile(tagged("a.mp3", text("TDRC", "2008-05-04T:10:20:30")));
@@ -163,6 +186,8 @@ TEST_F(MediaFileTest, DiscImageWithoutASideFileOpensEmpty) {
     ASSERT_TRUE(file);
     EXPECT_EQ(path("movie.TAG"), file->filename());
     EXPECT_EQ("", file->title());
+    EXPECT_NE(std::string::npos,
+              log_.text().find("failed to load metadata for file " + (folder_ / "movie.TAG") + "\n"));
     EXPECT_FALSE(test::file_exists(folder_ / "movie.TAG"));
 }
 
@@ -270,6 +295,14 @@ TEST_F(MediaFileTest, TextsAreStoredAsUtf8) {
               test::read_file(folder_ / "a.mp3"));
 }
 
+TEST_F(MediaFileTest, NegativeYearIsWritten) {
+    test::write_file(folder_ / "a.mp3", test::pattern(64));
+    auto file = MediaFile::initWithFile(path("a.mp3"));
+    file->setYear(-44);
+    ASSERT_TRUE(file->saveMetadata(nullptr));
+    EXPECT_EQ(test::pattern(64) + appendedTag(text("TYER", "-44")), test::read_file(folder_ / "a.mp3"));
+}
+
 TEST_F(MediaFileTest, EmptyTextAndYearZeroLeaveTheStoredFieldsAlone) {
     auto file = MediaFile::initWithFile(tagged("a.mp3", text("TIT2", "Z") + text("TYER", "1999")));
     file->setTitle("");
@@ -327,13 +360,15 @@ TEST_F(MediaFileTest, FailedSaveWithoutAnErrorSlotOnlyLogs) {
 TEST_F(MediaFileTest, CoverArtIsReadAndWrittenAsAPicture) {
     QImage picture(32, 24, QImage::Format_RGB32);
     picture.fill(Qt::darkGreen);
-    test::write_file(folder_ / "a.mp3", test::pattern(64));
-    auto file = MediaFile::initWithFile(path("a.mp3"));
-    file->setCoverArt(ImageRef::fromQImage(picture));
-    ASSERT_TRUE(file->saveMetadata(nullptr));
-    const auto again = MediaFile::initWithFile(path("a.mp3"));
-    ASSERT_TRUE(again->coverArt());
-    EXPECT_EQ(QSize(32, 24), again->coverArt().toQImage().size());
+    for (const char* name : {"a.mp3", "a.mp4", "a.png"}) {
+        test::write_file(folder_ / name, test::pattern(64));
+        auto file = MediaFile::initWithFile(path(name));
+        file->setCoverArt(ImageRef::fromQImage(picture));
+        ASSERT_TRUE(file->saveMetadata(nullptr)) << name;
+        const auto again = MediaFile::initWithFile(path(name));
+        ASSERT_TRUE(again->coverArt()) << name;
+        EXPECT_EQ(QSize(32, 24), again->coverArt().toQImage().size()) << name;
+    }
 }
 
 TEST_F(MediaFileTest, CastListIsJoinedWithCommas) {
@@ -382,6 +417,53 @@ TEST_F(MediaFileTest, AviFileGoesToItsModule) {
     test::write_file(folder_ / "clip.divx", test::pattern(300));
     (void)MediaFile::initWithFile(path("clip.divx"));
     EXPECT_NE(std::string::npos, log_.text().find("avi_read_header: Not a RIFF header\n"));
+}
+
+TEST_F(MediaFileTest, WindowsMediaFileWithoutAHeaderIsRefusedAndKeepsItsBytes) {
+    for (const char* name : {"clip.wmv", "song.wma", "x.asf"}) {
+        test::write_file(folder_ / name, test::pattern(300));
+        auto file = MediaFile::initWithFile(path(name));
+        ASSERT_TRUE(file) << name;
+        file->setTitle("T");
+        const std::size_t before = log_.text().size();
+        EXPECT_FALSE(file->saveMetadata(nullptr)) << name;
+        EXPECT_NE(std::string::npos, log_.text().find("asf_read_header_object: Not a valid header\n", before))
+            << name;
+        EXPECT_EQ(test::pattern(300), test::read_file(folder_ / name)) << name;
+    }
+}
+
+TEST_F(MediaFileTest, AviFileIsSavedIntoItsInfoList) {
+    const std::string junk = chunk("JUNK", 4, "....");
+    for (const char* name : {"film.avi", "clip.divx", "FILM.AVI"}) {
+        test::write_file(folder_ / name, chunk("RIFF", 16, "AVI " + junk));
+        auto file = MediaFile::initWithFile(path(name));
+        ASSERT_TRUE(file) << name;
+        file->setTitle("T");
+        file->setCast("CC");
+        file->setSynopsis("SSS");
+        file->setDirector("D");
+        file->setRating("R");
+        file->setGenre("G");
+        file->setYear(-44);
+        EXPECT_TRUE(file->saveMetadata(nullptr)) << name;
+        EXPECT_EQ(test::to_hex(chunk("RIFF", 104, "AVI " + junk + infoList())),
+                  test::to_hex(test::read_file(folder_ / name)))
+            << name;
+    }
+}
+
+TEST_F(MediaFileTest, AviFileIsLoadedFromItsInfoList) {
+    test::write_file(folder_ / "film.avi", chunk("RIFF", 92, "AVI " + infoList()));
+    const auto file = MediaFile::initWithFile(path("film.avi"));
+    ASSERT_TRUE(file);
+    EXPECT_EQ("T", file->title());
+    EXPECT_EQ("CC", file->cast());
+    EXPECT_EQ("SSS", file->synopsis());
+    EXPECT_EQ("D", file->director());
+    EXPECT_EQ("R", file->rating());
+    EXPECT_EQ("G", file->genre());
+    EXPECT_EQ(-44, file->year());
 }
 
 } // namespace
