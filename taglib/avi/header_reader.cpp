@@ -172,6 +172,7 @@ public:
             return false;
         }
         if (offset_ != limit_) {
+            // From the form type; the positions in all other messages are the file's.
             DebugInfo("avi_read_header: Actual AVI end at 0x%x (EOF = 0x%x)\n",
                       static_cast<unsigned>(offset_), static_cast<unsigned>(limit_));
         }
