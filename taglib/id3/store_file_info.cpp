@@ -23,37 +23,30 @@ namespace {
 /** From this length on a leading tag is ignored, so that no large file is ever copied. */
 constexpr std::int64_t first_large_length = 20'000'000;
 
-/** A name in the media file's folder. In the end the file of that name is closed and, unless it was kept,
-   deleted. */
-class TemporaryFile {
+/** A name in the media file's folder. In the end the file of that name is deleted unless it was kept. */
+class TemporaryName {
 public:
-    TemporaryFile() = default;
-    ~TemporaryFile() {
-        file_.close();
-        if (name_[0] && !kept_) {
-            ::unlink(name_);
+    TemporaryName() = default;
+    ~TemporaryName() {
+        if (text_[0] && !kept_) {
+            ::unlink(text_);
         }
     }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    TemporaryName(const TemporaryName&) = delete;
+    TemporaryName& operator=(const TemporaryName&) = delete;
 
-    [[nodiscard]] bool make_name(const char* media_path) {
-        if (GetTempFileName(id3_folder_of(media_path).c_str(), "VLT", 0, name_) == 0) {
-            name_[0] = 0;
+    [[nodiscard]] bool make(const char* media_path) {
+        if (GetTempFileName(id3_folder_of(media_path).c_str(), "VLT", 0, text_) == 0) {
+            text_[0] = 0;
             return false;
         }
         return true;
     }
-    /** Opens the file of that name. It is not created: without one this fails. */
-    [[nodiscard]] bool open() { return file_.open(name_, O_RDWR | O_TRUNC); }
-    [[nodiscard]] bool close() { return file_.close(); }
-    [[nodiscard]] FIOFUNCSTRUCT* handle() { return file_.handle(); }
-    [[nodiscard]] const char* name() const { return name_; }
+    [[nodiscard]] const char* text() const { return text_; }
     void keep() { kept_ = true; }
 
 private:
-    Id3File file_;
-    char name_[temp_file_name_capacity] = {};
+    char text_[temp_file_name_capacity] = {};
     bool kept_ = false;
 };
 
@@ -107,8 +100,8 @@ bool is_at_end(FIOFUNCSTRUCT* file) {
     return end >= 0 && position >= end;
 }
 
-/** Writes the tag and what follows the old tag in MEDIA to the temporary file and closes both. */
-bool write_copy(TemporaryFile& copy, Id3File& media, _id3_file_desc_t* descriptor) {
+/** Writes the tag and what follows the old tag in MEDIA to COPY and closes both. */
+bool write_copy(Id3File& copy, Id3File& media, _id3_file_desc_t* descriptor) {
     const std::int64_t old_length = length_in_file(*descriptor);
     if (!id3_store_descriptor_v2(copy.handle(), descriptor)) {
         DebugError("id3_store_file_info: couldn't store new descriptor\n");
@@ -124,13 +117,13 @@ bool write_copy(TemporaryFile& copy, Id3File& media, _id3_file_desc_t* descripto
     return true;
 }
 
-bool store_through_copy(const char* path, Id3File& media, _id3_file_desc_t* descriptor) {
-    TemporaryFile copy;
-    if (!copy.make_name(path)) {
+bool store_through_copy(const char* path, TemporaryName& name, Id3File& media, _id3_file_desc_t* descriptor) {
+    if (!name.make(path)) {
         DebugError("id3_store_file_info: couldn't create temp file\n");
         return false;
     }
-    if (!copy.open()) {
+    Id3File copy;
+    if (!copy.open(name.text(), O_RDWR | O_TRUNC)) { // not created: without a file of that name this fails
         DebugError("id3_store_file_info: couldn't reopen temp file\n");
         return false;
     }
@@ -141,8 +134,8 @@ bool store_through_copy(const char* path, Id3File& media, _id3_file_desc_t* desc
         DebugError("id3_store_file_info: couldn't delete original file\n");
         return false;
     }
-    copy.keep(); // from here on it is the only copy of the media
-    if (std::rename(copy.name(), path) != 0) {
+    name.keep(); // from here on it is the only copy of the media
+    if (std::rename(name.text(), path) != 0) {
         DebugError("id3_store_file_info: couldn't rename file\n");
     }
     return true;
@@ -151,6 +144,7 @@ bool store_through_copy(const char* path, Id3File& media, _id3_file_desc_t* desc
 } // namespace
 
 int id3_store_file_info(const char* path, _file_info_t* info) {
+    TemporaryName name; // in front of MEDIA, so that its file is deleted once all files are closed
     Id3File media;
     if (!media.open(path, O_RDWR | O_CREAT)) {
         DebugError("id3_store_file_info: couldn't open file for r/w: %s\n", std::strerror(errno));
@@ -162,7 +156,7 @@ int id3_store_file_info(const char* path, _file_info_t* info) {
         return 0;
     }
     const bool stored = position != 0 ? store_in_place(media, position, &descriptor.tag)
-                                      : store_through_copy(path, media, &descriptor.tag);
+                                      : store_through_copy(path, name, media, &descriptor.tag);
     if (!stored) {
         return 0;
     }

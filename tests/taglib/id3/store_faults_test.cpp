@@ -233,6 +233,27 @@ TEST(Id3StoreFaults, LeadingTagThroughACopy) {
         });
 }
 
+/** The last three calls as "close song": the call and the file's name up to its dot. */
+std::vector<std::string> last_calls(const FaultyStore& store) {
+    std::vector<std::string> rows;
+    for (std::size_t i = store.calls.size() - 3; i < store.calls.size(); ++i) {
+        const std::filesystem::path path = store.calls[i].path;
+        rows.push_back(std::string(name_of(store.calls[i].call)) + " " + path.stem().string());
+    }
+    return rows;
+}
+
+TEST(Id3StoreFaults, CopyAndMediaFileAreClosedBeforeTheCopyIsDeleted) {
+    using Rows = std::vector<std::string>;
+    const std::string before = leading_tag(4, text4("TALB", "a")) + media;
+    const FaultyStore not_opened(before, 11, open_call, EIO);
+    EXPECT_EQ((Rows{"open VLT", "close song", "unlink VLT"}), last_calls(not_opened));
+    for (int nth = 12; nth <= 21; ++nth) { // from the copy's first write to its close
+        const FaultyStore store(before, nth, write_call, EIO);
+        EXPECT_EQ((Rows{"close VLT", "close song", "unlink VLT"}), last_calls(store)) << nth;
+    }
+}
+
 TEST(Id3StoreFaults, ShortWritesOfAnAppendedTagFailTheStore) {
     const std::string logs[] = {write_header_log, write_frame_log, write_data_log, write_footer_log};
     for (int nth = 1; nth <= 4; ++nth) {
