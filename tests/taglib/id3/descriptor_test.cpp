@@ -46,6 +46,17 @@ TEST(Id3Frame, InitGivesAZeroedFrameOfThatSize) {
     std::free(frame.data);
 }
 
+TEST(Id3Frame, TakesOneByteMoreThanItsSize) {
+    const AllocationFaults watch;
+    _id3_frame_t frame{};
+    ASSERT_NE(nullptr, id3_init_frame(&frame, 1000));
+    EXPECT_EQ(1001u, watch.largest());
+    const std::string large(2000, 'x');
+    EXPECT_EQ(1, id3_set_frame_data(&frame, large.data(), 2000));
+    EXPECT_EQ(2001u, watch.largest());
+    std::free(frame.data);
+}
+
 TEST(Id3Frame, InitOfNegativeSizeFails) {
     _id3_frame_t frame{};
     EXPECT_EQ(nullptr, id3_init_frame(&frame, -1));
@@ -284,6 +295,15 @@ TEST(Id3PrivFrame, SetDataKeepsTheOwnerAndReplacesTheRest) {
     EXPECT_EQ(bytes("owner\0new"), frame.body());
 }
 
+TEST(Id3PrivFrame, SetDataKeepsAnOwnerOfAnyLength) {
+    for (const std::size_t length : {0u, 17u, 18u, 127u, 128u, 5000u}) {
+        const std::string owner = std::string(length, 'o') + '\0';
+        Frame frame(owner + "old");
+        EXPECT_EQ(1, id3_set_priv_frame_data(&frame, "newer", 5));
+        EXPECT_EQ(owner + "newer", frame.body()) << length;
+    }
+}
+
 TEST(Id3PrivFrame, SetDataThatFitsKeepsTheBuffer) {
     Frame frame(bytes("owner\0old"));
     const std::uint8_t* const before = frame.data;
@@ -344,6 +364,16 @@ TEST(Id3PrivFrame, InsertWithoutMemoryLeavesTheDescriptor) {
         EXPECT_EQ(0, id3_insert_priv_tag(&tag, "owner", "xy", 2));
     }
     EXPECT_EQ((Rows{"TALB:a"}), tag.list());
+}
+
+TEST(Id3PrivFrame, InsertIntoAFrameThatCanNotGrowFails) {
+    Descriptor tag;
+    tag.add("PRIV", bytes("owner\0a"));
+    {
+        const AllocationFaults no_memory(1);
+        EXPECT_EQ(0, id3_insert_priv_tag(&tag, "owner", "longer", 6));
+    }
+    EXPECT_EQ((Rows{bytes("PRIV:owner\0a")}), tag.list());
 }
 
 TEST(Id3PrivFrame, InsertOfNegativeLengthLeavesTheDescriptor) {

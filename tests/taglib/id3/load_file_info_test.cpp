@@ -140,6 +140,24 @@ TEST(Id3LoadInfo, TextOfUnknownEncodingIsEmptyAndLogged) {
     EXPECT_EQ("TIT2 = \"song\"\nid3_load_string: unknown encoding 7\n", info.log);
 }
 
+TEST(Id3LoadInfo, FrameOfNothingButItsEncodingByteIsDecodedToo) {
+    const struct {
+        std::string body;
+        std::string log;
+    } cases[] = {{"", "TALB = (empty)\n"},
+                 {bytes("\0"), "TALB = \"\"\n"},
+                 {"\1", "TALB = \"\"\nid3_load_string: encoding 1 not handled\n"},
+                 {"\2", "TALB = \"\"\nid3_load_string: encoding 2 not handled\n"},
+                 {"\3", "TALB = \"\"\n"},
+                 {"\4", "TALB = \"\"\nid3_load_string: unknown encoding 4\n"}};
+    for (const auto& frame : cases) {
+        const Loaded info(leading_tag(4, frame4("TALB", frame.body)));
+        EXPECT_EQ(1, info.result);
+        EXPECT_EQ(nullptr, info.title);
+        EXPECT_EQ(frame.log, info.log);
+    }
+}
+
 // Which tag
 
 TEST(Id3LoadInfo, AppendedTagIsTakenAloneWhereThereAreTwo) {
@@ -157,8 +175,10 @@ TEST(Id3LoadInfo, BadAppendedTagLeavesTheLeadingOne) {
     EXPECT_EQ("id3_load_descriptor_v2: Invalid header sig\nTALB = \"lead\"\n", info.log);
 }
 
-TEST(Id3LoadInfo, FileThatIsNothingButATagIsRead) {
-    EXPECT_STREQ("a", Loaded(appended_tag(text4("TALB", "a"))).title);
+TEST(Id3LoadInfo, FileThatIsNothingButATagIsReadOnce) {
+    const Loaded info(appended_tag(text4("TALB", "a")));
+    EXPECT_STREQ("a", info.title);
+    EXPECT_EQ("TALB = \"a\"\n", info.log);
 }
 
 TEST(Id3LoadInfo, TagOutsideTheEndAndTheStartIsNotFound) {

@@ -59,6 +59,13 @@ TEST(Id3Picture, AnyPictureTypeAndDescriptionIsAccepted) {
     }
 }
 
+TEST(Id3Picture, DescriptionOfAnyLengthIsSkipped) {
+    for (const std::size_t length : {0u, 255u, 256u, 257u, 8192u, 20'000u}) {
+        const std::string description = std::string(length, 'd') + '\0';
+        EXPECT_EQ(jpeg, Picture(bytes("\0image/jpeg\0\x03") + description + jpeg).bytes) << length;
+    }
+}
+
 TEST(Id3Picture, EmptyFrameIsRefused) {
     const Picture picture("");
     EXPECT_FALSE(picture.found);

@@ -385,6 +385,15 @@ TEST(Id3Load, ZeroIdIsPadding) {
     EXPECT_EQ("TALB = \"a\"\n", load.log);
 }
 
+TEST(Id3Load, IdThatOnlyBeginsWithZeroIsAFrame) {
+    for (const std::string& id : {bytes("\0ALB"), bytes("\0\0LB"), bytes("\0\0\0B")}) {
+        const Load load(leading_tag(4, frame4(id, "x") + text4("TALB", "a")));
+        EXPECT_EQ((Rows{id + ":x", bytes("TALB:\0a")}), load.tag.list());
+        EXPECT_EQ(0u, load.tag.padding);
+        EXPECT_EQ(" = \"\"\nTALB = \"a\"\n", load.log);
+    }
+}
+
 TEST(Id3Load, PaddingBelowAFrameHeaderIsStillPadding) {
     // The frame header read here reaches beyond the tag into the media data.
     const Load load(leading_tag(4, text4("TALB", "a") + std::string(4, '\0')) + "media data");

@@ -60,6 +60,32 @@ TEST(Id3Remove, FileOfNothingButTheTagIsDeleted) {
     EXPECT_FALSE(file_exists(file.path()));
 }
 
+TEST(Id3Remove, FileOfNothingButTheTagIsDeletedOnceItIsClosed) {
+    const OpenFile file(appended_tag(""));
+    const SystemCallFaults watch;
+    EXPECT_EQ(1, id3_remove_file_info(file.path().c_str()));
+    const auto& calls = watch.records();
+    ASSERT_GE(calls.size(), 2u);
+    EXPECT_EQ(SystemCall::close, calls[calls.size() - 2].call);
+    EXPECT_EQ(SystemCall::unlink, calls[calls.size() - 1].call);
+}
+
+TEST(Id3Remove, FileWithATagBehind4GigabytesIsNotDeleted) {
+    const std::int64_t length = std::int64_t{1} << 32;
+    const std::string tag = appended_tag(text4("TALB", "a"));
+    const OpenFile file(length + static_cast<std::int64_t>(tag.size()), tag, length);
+    const StreamCapture log;
+    const SystemCallFaults watch;
+    EXPECT_EQ(1, id3_remove_file_info(file.path().c_str()));
+    EXPECT_TRUE(file_exists(file.path()));
+    ASSERT_EQ(1, watch.count(SystemCall::write));
+    for (const SystemCallRecord& call : watch.records()) {
+        if (call.call == SystemCall::write) {
+            EXPECT_EQ(length, call.position);
+        }
+    }
+}
+
 TEST(Id3Remove, FileWithoutAppendedTagIsLeftAlone) {
     const std::string contents = leading_tag(4, text4("TALB", "a")) + "media";
     OpenFile file(contents);
@@ -107,6 +133,14 @@ TEST(Id3RemoveDescriptor, GoesToTheTagAndChangesNothing) {
     EXPECT_EQ(1, removal.result);
     EXPECT_EQ("", removal.log);
     EXPECT_EQ(contents, file.contents());
+    EXPECT_EQ(5, fio_ltell(file.handle()));
+}
+
+TEST(Id3RemoveDescriptor, VersionsDoNotMatter) {
+    OpenFile file("media" + header(5, 0x10, 0) + header(255, 0x10, 0, "3DI"));
+    const DescriptorRemoval removal(file);
+    EXPECT_EQ(1, removal.result);
+    EXPECT_EQ("", removal.log);
     EXPECT_EQ(5, fio_ltell(file.handle()));
 }
 

@@ -24,6 +24,18 @@ std::string read_part(const std::string& path, std::streamoff offset, std::size_
     return part;
 }
 
+/** The title that the loader finds, or its "no tag". */
+std::string loaded_title_of(const std::string& path) {
+    const StreamCapture log;
+    _file_info_t info;
+    if (!id3_load_file_info(path.c_str(), &info)) {
+        return "no tag";
+    }
+    std::string title = info.title ? info.title : "(null)";
+    id3_free_file_info(&info);
+    return title;
+}
+
 /** A file that is stored into. */
 class Song {
 public:
@@ -35,17 +47,7 @@ public:
         StoredInfo info;
         return {path(), info.with_title(title)};
     }
-    /** The title that the loader finds, or its "no tag". */
-    [[nodiscard]] std::string loaded_title() const {
-        const StreamCapture log;
-        _file_info_t info;
-        if (!id3_load_file_info(path().c_str(), &info)) {
-            return "no tag";
-        }
-        std::string title = info.title ? info.title : "(null)";
-        id3_free_file_info(&info);
-        return title;
-    }
+    [[nodiscard]] std::string loaded_title() const { return loaded_title_of(path()); }
 
 private:
     ScratchFolder folder_;
@@ -216,6 +218,25 @@ TEST(Id3StoreAppended, StoreDoesNotReadTheMedia) {
     EXPECT_LT(watch.bytes(SystemCall::read), 100);
 }
 
+TEST(Id3StoreAppended, PositionsAreNotCutTo32Bits) {
+    const std::string start = "no tag" + pattern(500);
+    const std::int64_t two_gigabytes = std::int64_t{1} << 31;
+    for (const std::int64_t length : {two_gigabytes, 2 * two_gigabytes, 2 * two_gigabytes + 20}) {
+        const ScratchFolder folder;
+        const std::string path = folder / "film.mkv";
+        write_sparse_file(path, length, start, 0);
+        for (const char* const title : {"new", "rewritten and longer"}) {
+            StoredInfo info;
+            ASSERT_EQ(1, Store(path, info.with_title(title)).result) << length;
+            const std::string tag = appended_tag(text4("TALB", title));
+            ASSERT_EQ(static_cast<std::uintmax_t>(length) + tag.size(), std::filesystem::file_size(path));
+            EXPECT_EQ(tag, read_part(path, length, tag.size())) << length;
+            EXPECT_EQ(start, read_part(path, 0, start.size())) << length;
+            EXPECT_EQ(title, loaded_title_of(path)) << length;
+        }
+    }
+}
+
 TEST(Id3StoreAppended, LeadingTagIsLeftAloneWhenThereIsAnAppendedOne) {
     const std::string leading = leading_tag(3, frame3("TALB", bytes("\0old")));
     const Song song(leading + media + appended_tag(text4("TALB", "a")));
@@ -247,15 +268,27 @@ TEST(Id3StoreAppended, PictureIsStoredAndLoaded) {
     EXPECT_EQ(0, fake_images_alive());
 }
 
-TEST(Id3StoreAppended, TagThatIsTooLargeToBeReadIsStoredAllTheSame) {
+TEST(Id3StoreAppended, TagThatIsTooLargeToBeReadIsStoredAllTheSameAndTheNextStoreAppendsASecondOne) {
     const std::string jpeg = hex("FF D8 FF E0") + std::string(300'000, 'j');
     const Song song(media);
     Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
     StoredInfo info;
     EXPECT_EQ(1, Store(song.path(), info.with_picture(image)).result);
     image_release(image);
-    EXPECT_EQ(media + appended_tag(frame4("APIC", bytes("\0image/jpeg\0\x10\0") + jpeg)), song.contents());
-    EXPECT_EQ("no tag", song.loaded_title());
+    const std::string tag = appended_tag(frame4("APIC", bytes("\0image/jpeg\0\x10\0") + jpeg));
+    EXPECT_EQ(media + tag, song.contents());
+    const std::string too_large_log = "id3_load_descriptor_v2: header too large\n" + no_tag_log;
+    {
+        StreamCapture log;
+        _file_info_t loaded;
+        EXPECT_EQ(0, id3_load_file_info(song.path().c_str(), &loaded));
+        EXPECT_EQ(too_large_log, log.text());
+    }
+    const Store next = song.store_title("second");
+    EXPECT_EQ(1, next.result);
+    EXPECT_EQ(too_large_log, next.log);
+    EXPECT_EQ(media + tag + appended_tag(text4("TALB", "second")), song.contents());
+    EXPECT_EQ("second", song.loaded_title());
 }
 
 TEST(Id3StoreAppended, FileThatCanNotBeOpenedFailsWithTheSystemsText) {

@@ -1,5 +1,6 @@
 #include "id3_bytes.h"
 #include "stored_info.h"
+#include "support/allocation_faults.h"
 #include "support/system_call_faults.h"
 
 #include <gtest/gtest.h>
@@ -298,6 +299,34 @@ TEST(Id3StoreFaults, AReadOfNoBytesInFrontOfTheEndLeavesTheOriginal) {
         EXPECT_EQ(0, store.result) << nth;
         EXPECT_TRUE(store.log.ends_with(append_log)) << nth;
         EXPECT_EQ(before, read_file(folder / "song.mp3")) << nth;
+    }
+}
+
+TEST(Id3StoreFaults, WithoutMemoryForAFieldTheFileIsLeftAlone) {
+    const std::string old_tag = text4("TALB", "old");
+    const struct {
+        std::string contents;
+        int loading; ///< requests: a body and a place for each frame
+        int storing; ///< the same, but a frame that is there only grows
+    } cases[] = {{media, 0, 2 + 2},
+                 {media + appended_tag(old_tag), 2, 1 + 2},
+                 {leading_tag(4, old_tag) + media, 2, 1 + 2}};
+    for (const auto& file : cases) {
+        for (int nth = 1; nth <= file.storing + 1; ++nth) { // the last one is never made
+            const ScratchFolder folder;
+            const std::string path = folder / "song.mp3";
+            write_file(path, file.contents);
+            StoredInfo info;
+            info.with_title("longer than before").with_rating("R");
+            SystemCallFaults generator;
+            generator.create_generated_names();
+            const AllocationFaults no_memory(file.loading + nth);
+            const bool fails = nth <= file.storing;
+            EXPECT_EQ(fails ? 0 : 1, Store(path, info).result) << nth;
+            EXPECT_EQ(fails, read_file(path) == file.contents) << nth;
+            EXPECT_EQ(fails ? 0u : 0x8000u, info.flags) << nth;
+            EXPECT_EQ(0, generator.open_descriptors()) << nth;
+        }
     }
 }
 

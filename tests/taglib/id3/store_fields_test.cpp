@@ -124,6 +124,18 @@ TEST(Id3StoreFields, OnlyTheFirstFrameOfAnIdIsRemoved) {
     EXPECT_EQ((Rows{"TPE1:x", "TALB:two"}), tag.list());
 }
 
+TEST(Id3StoreFields, OnlyTheFirstRatingAndPictureAreRemoved) {
+    Descriptor tag;
+    tag.add("PRIV", bytes("WM/ParentalRating\0one"));
+    tag.add("APIC", "one");
+    tag.add("PRIV", bytes("WM/ParentalRating\0two"));
+    tag.add("APIC", "two");
+    _file_info_t info{};
+    info.flags = file_info_flag::rating | file_info_flag::picture;
+    EXPECT_EQ(1, id3_store_fields(&tag, &info));
+    EXPECT_EQ((Rows{bytes("PRIV:WM/ParentalRating\0two"), "APIC:two"}), tag.list());
+}
+
 TEST(Id3StoreFields, FrameKeepsItsPlaceAndFlags) {
     Descriptor tag;
     tag.add("TALB", "old", hex("12 34"));
@@ -193,6 +205,19 @@ TEST(Id3StoreFields, YearIsWrittenAsADecimalNumber) {
     }
 }
 
+TEST(Id3StoreFields, AnyTimeButZeroIsWritten) {
+    const Zone zone("UTC");
+    const std::uint64_t year_1970 = 116'444'736'000'000'000; // what lies before it is written as this
+    for (const std::uint64_t time : {std::uint64_t{1}, year_1970}) {
+        Descriptor tag;
+        _file_info_t info{};
+        info.flags = file_info_flag::time;
+        info.time = time;
+        EXPECT_EQ(1, id3_store_fields(&tag, &info));
+        EXPECT_EQ((Rows{bytes("TDRC:\00070-00-01T:00:00:00+0:0")}), tag.list());
+    }
+}
+
 TEST(Id3StoreFields, UnknownFlagsAndTagPresentStay) {
     Descriptor tag;
     _file_info_t info{};
@@ -215,18 +240,39 @@ TEST(Id3StoreFields, PictureThatCanNotBeEncodedLeavesItsFrameAndTheRestIsStored)
     image_release(image);
 }
 
-TEST(Id3StoreFields, WithoutMemoryForAFrameFailsWithTheFlagsCleared) {
-    constexpr int requests = 1 + 2 + 2; // the old frame grows; a body and a place for each new one
+/** Stores all fields but the picture into TAG once for each of the memory requests, with that one failing. */
+void expect_each_request_to_be_needed(int requests, void (*prepare)(Descriptor& tag)) {
+    char text[] = "longer than before";
     for (int nth = 0; nth <= requests; ++nth) {
         Descriptor tag;
-        tag.add("TALB", "old");
-        StoredInfo info;
-        info.with_title("longer than before").with_rating("R").with_year(1999);
+        prepare(tag);
+        _file_info_t info{};
+        info.flags = all_fields & ~file_info_flag::picture;
+        info.title = info.artist = info.desc = info.genre = info.director = info.rating = text;
+        info.year = 1999;
+        info.time = 128'543'700'300'000'000;
         const AllocationFaults no_memory(nth);
         EXPECT_EQ(nth == 0 ? 1 : 0, id3_store_fields(&tag, &info)) << nth;
         EXPECT_EQ(0u, info.flags) << nth;
         EXPECT_TRUE(nth > 0 || no_memory.count() == requests);
     }
+}
+
+TEST(Id3StoreFields, WithoutMemoryForAnyFrameFailsWithTheFlagsClearedWhateverFollows) {
+    expect_each_request_to_be_needed(8 * 2, [](Descriptor&) {}); // a body and a place for each
+    expect_each_request_to_be_needed(8, fill);                   // each frame grows
+}
+
+TEST(Id3StoreFields, PictureDoesNotMakeUpForAFieldThatFailed) {
+    Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
+    Descriptor tag;
+    StoredInfo info;
+    info.with_title("a").with_picture(image);
+    {
+        const AllocationFaults no_memory(1); // the title's frame
+        EXPECT_EQ(0, id3_store_fields(&tag, &info));
+    }
+    image_release(image);
 }
 
 TEST(Id3StoreFields, WithoutMemoryForThePictureStoresTheRest) {
