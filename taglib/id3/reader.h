@@ -18,8 +18,8 @@ inline constexpr std::uint32_t id3_largest_tag = 0x40000;
 
 /** Reads a tag into the zeroed DESCRIPTOR. Returns the file offset of its header (0 is one), or -1, with
    DESCRIPTOR still zeroed and the reason logged (but for a file that just has no footer). A bad frame ends
-   the reading but does not fail it: the frames in front of it are kept and the rest of the tag counts as
-   padding. Costs two reads a frame. The caller frees DESCRIPTOR. */
+   the reading but does not fail it: the frames in front of it are kept, and what follows the bad frame's
+   header counts as padding. Costs two reads a frame. The caller frees DESCRIPTOR. */
 [[nodiscard]] std::int64_t id3_load_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor,
                                                   bool at_end);
 
