@@ -235,6 +235,24 @@ TEST_F(MediaFileTest, SideFileThatIsAPipeCountsAsUnreadable) {
               log_.text().find("failed to load metadata for file " + (folder_ / "movie.TAG")));
 }
 
+TEST_F(MediaFileTest, SongThatVanishedIsNotSavedAndLeavesAnEmptyFile) {
+    const auto file = MediaFile::initWithFile(tagged("a.mp3", fullTag));
+    ASSERT_EQ(0, ::unlink((folder_ / "a.mp3").c_str()));
+    EXPECT_FALSE(file->saveMetadata(nullptr));
+    EXPECT_EQ("", test::read_file(folder_ / "a.mp3"));
+}
+
+TEST_F(MediaFileTest, TextThatIsCutInsideACharacterIsLatin1FromThenOn) {
+    // 8,191 bytes are 4,095 times the two of U+0416 and the first of another one.
+    const auto file = MediaFile::initWithFile(tagged("a.mp3", fullTag));
+    file->setTitle(QString(4096, QChar(0x0416)));
+    ASSERT_TRUE(file->saveMetadata(nullptr));
+    const auto reopened = MediaFile::initWithFile(path("a.mp3"));
+    ASSERT_TRUE(reopened);
+    EXPECT_EQ(QString::fromLatin1("\xD0\x96").repeated(4095) + QString::fromLatin1("\xD0"),
+              reopened->title());
+}
+
 TEST_F(MediaFileTest, FileThatBecameAPipeIsNotSaved) {
     for (const char* name : {"a.mp3", "a.wma", "a.avi"}) {
         const auto file = MediaFile::initWithFile(tagged(name, fullTag));
