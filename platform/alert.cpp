@@ -95,6 +95,9 @@ void presentErrorSheet(const Error& error, QWidget* window) {
     setPlainTexts(*box, error.userInfo.value(NSLocalizedDescriptionKey).toString(),
                   error.userInfo.value(NSLocalizedRecoverySuggestionErrorKey).toString());
     box->setWindowModality(Qt::WindowModal);
+    if (window) {
+        box->setWindowTitle(window->windowTitle());
+    }
     box->open();
 }
 

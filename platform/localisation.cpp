@@ -5,6 +5,8 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <memory>
+
 namespace velmora {
 
 QString localised(const char* englishText) {
@@ -17,19 +19,33 @@ QString localised(const char* englishText, const QString& argument) {
     return place < 0 ? text : text.replace(place, 2, argument);
 }
 
-void installLocalisation() {
-    const auto install = [](const QString& name, const QString& folder) {
-        auto* translator = new QTranslator(QCoreApplication::instance());
-        if (translator->load(QLocale(), name, QStringLiteral("_"), folder)) {
-            QCoreApplication::installTranslator(translator);
-        } else {
-            delete translator;
-        }
-    };
-    for (const char* part : {"qtbase", "qtwebengine"}) {
-        install(QString::fromLatin1(part), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+namespace {
+
+/** Installs the table NAME for LOCALE from FOLDER. Gives the language of what there was; empty for nothing.
+ */
+QString installTable(const QLocale& locale, const QString& name, const QString& folder) {
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(locale, name, QStringLiteral("_"), folder)) {
+        return {};
     }
-    install(QStringLiteral("velmora"), QStringLiteral(":/translations"));
+    QTranslator* const installed = translator.release();
+    installed->setParent(QCoreApplication::instance());
+    QCoreApplication::installTranslator(installed);
+    return installed->language();
+}
+
+} // namespace
+
+void installLocalisation() {
+    const QString language =
+        installTable(QLocale(), QStringLiteral("velmora"), QStringLiteral(":/translations"));
+    if (language.isEmpty()) {
+        return; // the toolkit speaks no language that the program doesn't
+    }
+    for (const char* part : {"qtbase", "qtwebengine"}) {
+        installTable(QLocale(language), QString::fromLatin1(part),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    }
 }
 
 } // namespace velmora

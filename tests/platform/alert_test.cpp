@@ -119,6 +119,7 @@ TEST_F(AlertTest, SheetBlocksItsWindowOnly) {
 
 TEST(ErrorSheet, ShowsDescriptionAndSuggestionAndReturnsAtOnce) {
     QMainWindow window;
+    window.setWindowTitle(QStringLiteral("Whose sheet"));
     window.show();
     presentErrorSheet({NSMachErrorDomain,
                        0,
@@ -128,6 +129,7 @@ TEST(ErrorSheet, ShowsDescriptionAndSuggestionAndReturnsAtOnce) {
     auto* box = window.findChild<QMessageBox*>();
     ASSERT_NE(nullptr, box);
     EXPECT_TRUE(box->isVisible());
+    EXPECT_EQ("Whose sheet", box->windowTitle());
     EXPECT_EQ("Unable <i>x</i>", box->text());
     EXPECT_EQ("Try <b>again</b>", box->informativeText());
     EXPECT_EQ(Qt::PlainText, box->findChild<QLabel*>("qt_msgbox_informativelabel")->textFormat());

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
@@ -66,11 +67,14 @@ TEST_F(LocalisationTest, AWebPagesMenuIsGermanForAGerman) {
     EXPECT_EQ("Neu laden", QCoreApplication::translate("RenderViewContextMenuQt", "Reload"));
 }
 
-TEST_F(LocalisationTest, WithoutATableTheTextsAreEnglish) {
-    speak(QLocale::Welsh);
-    EXPECT_THAT(fieldMenu(), testing::Contains(QString("Paste")));
-    EXPECT_EQ("Look in:", panelLabel());
-    EXPECT_EQ("Cover art", localised("Cover art"));
+TEST_F(LocalisationTest, WithoutATableOfItsOwnTheWholeProgramIsEnglishFromLeftToRight) {
+    for (const QLocale::Language language : {QLocale::Welsh, QLocale::French, QLocale::Arabic}) {
+        speak(language);
+        EXPECT_THAT(fieldMenu(), testing::Contains(QString("Paste"))) << language;
+        EXPECT_EQ("Look in:", panelLabel()) << language;
+        EXPECT_EQ("Cover art", localised("Cover art")) << language;
+        EXPECT_EQ(Qt::LeftToRight, QGuiApplication::layoutDirection()) << language;
+    }
 }
 
 } // namespace
