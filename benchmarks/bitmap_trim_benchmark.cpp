@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <unistd.h>
 #include <vector>
 
@@ -77,18 +78,32 @@ void Read(benchmark::State& state) {
     }
 }
 
-void CopyOfBox(benchmark::State& state) {
+/** Copies the box into memory that is new to the process; WITH_LARGE_PAGES: of pages of 2 MiB. */
+void copyBox(benchmark::State& state, bool withLargePages) {
+    constexpr std::size_t largePage = std::size_t{2} << 20;
     const auto border = static_cast<std::uint32_t>(state.range(0));
     const std::vector<std::uint32_t> pixels = imageWithBorder(border);
     const std::size_t box = side - 2 * border;
+    const std::size_t size = (box * box * sizeof(std::uint32_t) + largePage - 1) / largePage * largePage;
     for (auto _ : state) {
-        auto* copy = static_cast<std::uint32_t*>(std::malloc(box * box * sizeof(std::uint32_t)));
+        auto* copy = static_cast<std::uint32_t*>(std::aligned_alloc(largePage, size));
+        if (withLargePages) {
+            ::madvise(copy, size, MADV_HUGEPAGE);
+        }
         for (std::size_t y = 0; y < box; ++y) {
             std::memcpy(copy + y * box, &pixels[(y + border) * side + border], box * sizeof(std::uint32_t));
         }
         benchmark::DoNotOptimize(copy);
         std::free(copy);
     }
+}
+
+void CopyOfBox(benchmark::State& state) {
+    copyBox(state, false);
+}
+
+void CopyIntoLargePages(benchmark::State& state) {
+    copyBox(state, true);
 }
 
 void Blank(benchmark::State& state) {
@@ -102,6 +117,7 @@ void Border(benchmark::State& state) {
 BENCHMARK(Read)->Unit(benchmark::kMillisecond);
 BENCHMARK(Blank)->Unit(benchmark::kMillisecond);
 BENCHMARK(CopyOfBox)->Arg(10)->Arg(200)->Unit(benchmark::kMillisecond);
+BENCHMARK(CopyIntoLargePages)->Arg(10)->Arg(200)->Unit(benchmark::kMillisecond);
 BENCHMARK(Border)->Arg(10)->Arg(200)->Unit(benchmark::kMillisecond);
 
 } // namespace

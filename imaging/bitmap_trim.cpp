@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <sys/mman.h>
+#include <unistd.h>
 
 namespace velmora {
 namespace {
@@ -159,13 +160,13 @@ bool corners_match(const std::uint32_t* pixels, std::uint32_t width, std::uint32
 /** Asks for large pages behind a large buffer that is about to be filled: one page fault in 2 MiB instead of
    one in 4 KiB is most of what filling it costs. Where the system has none, nothing changes. */
 void prefer_large_pages(void* buffer, std::size_t size) {
-    constexpr std::uintptr_t large_page = 2 * 1024 * 1024;
-    const auto begin = reinterpret_cast<std::uintptr_t>(buffer);
-    const std::uintptr_t first = (begin + large_page - 1) & ~(large_page - 1);
-    const std::uintptr_t end = (begin + size) & ~(large_page - 1);
-    if (first < end) {
+    constexpr std::size_t large_page = 2 * 1024 * 1024;
+    if (size >= large_page) {
         const int error = errno;
-        ::madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
+        // From the page that the buffer begins in: the large ones need not begin with it.
+        const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+        const std::uintptr_t offset = reinterpret_cast<std::uintptr_t>(buffer) & (page - 1);
+        ::madvise(static_cast<char*>(buffer) - offset, offset + size, MADV_HUGEPAGE);
         errno = error;
     }
 }
