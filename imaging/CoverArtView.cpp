@@ -52,7 +52,7 @@ CoverArtView::CoverArtView(QWidget* parent) : QFrame(parent) {
     setAcceptDrops(true);
     setAccessibleName(localised("Cover art"));
     setAccessibleDescription(localised("Drop or paste an image here"));
-    setToolTip(localised("Cover art: drop or paste an image here"));
+    setToolTip(localised("Cover art: drop an image here to store it"));
     makeActions();
 }
 

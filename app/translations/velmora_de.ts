@@ -232,8 +232,8 @@
         <translation>Ein Bild hier ablegen oder einfügen</translation>
     </message>
     <message>
-        <source>Cover art: drop or paste an image here</source>
-        <translation>Titelbild: ein Bild hier ablegen oder einfügen</translation>
+        <source>Cover art: drop an image here to store it</source>
+        <translation>Titelbild: ein Bild zum Speichern hier ablegen</translation>
     </message>
     <message>
         <source>Drop an image here</source>
