@@ -172,7 +172,7 @@ def add_dom_copy(table, programs):
         sys.exit("dom_copy_benchmark failed")
     copy, text = (float(value) * 1e6 for value in match.groups())
     table.add("copy the DOM of a page of 20,000 nodes and read a film from it, by the clock", duration(copy),
-              f"the page's HTML as one text: {duration(text)}", f"{copy / text:.3g}", "at most 150 ms", 150e6, copy)
+              f"the page's HTML as one text: {duration(text)}", duration(copy), "at most 150 ms", 150e6, copy)
 
 
 def start(program, home):

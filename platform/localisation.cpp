@@ -9,16 +9,6 @@
 
 namespace velmora {
 
-QString localised(const char* englishText) {
-    return QCoreApplication::translate("Velmora", englishText);
-}
-
-QString localised(const char* englishText, const QString& argument) {
-    QString text = localised(englishText);
-    const qsizetype place = text.indexOf(QLatin1String("%@"));
-    return place < 0 ? text : text.replace(place, 2, argument);
-}
-
 namespace {
 
 /** Installs the table NAME for LOCALE from FOLDER. Gives the language of what there was; empty for nothing.
@@ -35,6 +25,16 @@ QString installTable(const QLocale& locale, const QString& name, const QString& 
 }
 
 } // namespace
+
+QString localised(const char* englishText) {
+    return QCoreApplication::translate("Velmora", englishText);
+}
+
+QString localised(const char* englishText, const QString& argument) {
+    QString text = localised(englishText);
+    const qsizetype place = text.indexOf(QLatin1String("%@"));
+    return place < 0 ? text : text.replace(place, 2, argument);
+}
 
 void installLocalisation() {
     const QString language =
