@@ -49,6 +49,11 @@ private:
     QLocale former_;
 };
 
+TEST_F(LocalisationTest, TheProgramsTextsAreGermanForAGerman) {
+    speak(QLocale::German);
+    EXPECT_EQ("Suche beendet.", localised("Search Done."));
+}
+
 TEST_F(LocalisationTest, AFieldsMenuIsGermanForAGerman) {
     speak(QLocale::German);
     const QStringList texts = fieldMenu();
@@ -72,7 +77,7 @@ TEST_F(LocalisationTest, WithoutATableOfItsOwnTheWholeProgramIsEnglishFromLeftTo
         speak(language);
         EXPECT_THAT(fieldMenu(), testing::Contains(QString("Paste"))) << language;
         EXPECT_EQ("Look in:", panelLabel()) << language;
-        EXPECT_EQ("Cover art", localised("Cover art")) << language;
+        EXPECT_EQ("Search Done.", localised("Search Done.")) << language;
         EXPECT_EQ(Qt::LeftToRight, QGuiApplication::layoutDirection()) << language;
     }
 }
