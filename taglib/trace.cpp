@@ -4,19 +4,38 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 namespace velmora {
 
+namespace {
+
+thread_local TraceBatch* batch_of_this_thread = nullptr;
+
+void write_message(const char* message) {
+    if (batch_of_this_thread) {
+        batch_of_this_thread->add(message, std::strlen(message));
+    } else {
+        std::fputs(message, stderr);
+    }
+}
+
+} // namespace
+
 void DebugTraceV(const char* format, va_list arguments) {
     const int error = errno;
-    // Zeros: a conversion that fails may leave the text without an end.
-    char message[message_capacity] = {};
     if (needs_own_formatting(format)) {
+        char message[message_capacity];
         format_message(message, format, arguments);
-    } else if (std::vsnprintf(message, sizeof message, format, arguments) < 0) {
-        message[message_capacity - 1] = '\0';
+        write_message(message);
+    } else {
+        // Zeros: a conversion that fails may leave the text without an end.
+        char message[message_capacity] = {};
+        if (std::vsnprintf(message, sizeof message, format, arguments) < 0) {
+            message[message_capacity - 1] = '\0';
+        }
+        write_message(message);
     }
-    std::fputs(message, stderr);
     errno = error;
 }
 
@@ -32,6 +51,35 @@ void DebugError(const char* format, ...) {
     va_start(arguments, format);
     DebugTraceV(format, arguments);
     va_end(arguments);
+}
+
+TraceBatch::TraceBatch() {
+    if (!batch_of_this_thread) {
+        batch_of_this_thread = this;
+    }
+}
+
+TraceBatch::~TraceBatch() {
+    if (batch_of_this_thread == this) {
+        write();
+        batch_of_this_thread = nullptr;
+    }
+}
+
+void TraceBatch::add(const char* text, std::size_t length) {
+    if (length >= text_.size() - length_) {
+        write();
+    }
+    std::memcpy(text_.data() + length_, text, length);
+    length_ += length;
+}
+
+void TraceBatch::write() {
+    const int error = errno;
+    text_[length_] = '\0';
+    length_ = 0;
+    std::fputs(text_.data(), stderr);
+    errno = error;
 }
 
 } // namespace velmora

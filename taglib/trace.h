@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstdarg>
+#include <cstddef>
 
 /** The tag library's own log, on standard error. */
 namespace velmora {
@@ -16,5 +18,26 @@ void DebugInfo(const char* format, ...);
 /** A failure. By convention the text begins with the reporting function's name and a colon, and ends with a
    line end. */
 void DebugError(const char* format, ...);
+
+/** While an object lives, its thread's messages are gathered and written in pieces of up to 4,096 bytes, in
+    their order; the last piece when the object ends. For loops that trace every small thing of a file, where
+    a write for each line would take longer than all else. What is called meanwhile writes nothing of its own
+    to standard error. Inside another batch an object does nothing. */
+class TraceBatch {
+public:
+    TraceBatch();
+    ~TraceBatch();
+    TraceBatch(const TraceBatch&) = delete;
+    TraceBatch& operator=(const TraceBatch&) = delete;
+
+    /** Takes LENGTH bytes of TEXT, at most 4,096: for DebugTraceV. */
+    void add(const char* text, std::size_t length);
+
+private:
+    void write();
+
+    std::size_t length_ = 0;
+    std::array<char, 4096 + 1> text_; ///< with room for its terminator
+};
 
 } // namespace velmora

@@ -2,6 +2,8 @@
 
 #include "byte_order.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -102,6 +104,15 @@ const char* read_conversion(const char* at, Arguments& arguments, Conversion& co
     return at + 1;
 }
 
+/** Reads a conversion of a 64-bit value that has neither flags nor width: what nearly every message of a
+    walk through a file is made of. Returns what follows it, or null for any other conversion. */
+const char* plain_conversion(const char* at, char* letter) {
+    const bool wide = std::strncmp(at, "I64", 3) == 0;
+    at += wide ? 3 : 0;
+    *letter = *at;
+    return (wide && is_one_of(*at, "xd")) || (!wide && *at == 'S') ? at + 1 : nullptr;
+}
+
 std::size_t put_utf8(char* to, std::uint32_t c) {
     if (c < 0x80) {
         to[0] = static_cast<char>(c);
@@ -125,8 +136,9 @@ std::size_t put_utf8(char* to, std::uint32_t c) {
     return 4;
 }
 
-/** UTF-8 of the zero-terminated UTF-16LE text, up to and including the character that fills a message. */
-void utf8_from_utf16le(const void* utf16, char (&text)[message_capacity + 4]) {
+/** UTF-8 of the zero-terminated UTF-16LE text, up to and including the character that fills a message; its
+    length is returned. */
+std::size_t utf8_from_utf16le(const void* utf16, char (&text)[message_capacity + 4]) {
     const auto* at = static_cast<const unsigned char*>(utf16);
     std::size_t length = 0;
     while (at && length < message_capacity) {
@@ -147,6 +159,27 @@ void utf8_from_utf16le(const void* utf16, char (&text)[message_capacity + 4]) {
         length += put_utf8(text + length, c);
     }
     text[length] = '\0';
+    return length;
+}
+
+/** As much of TEXT as ROOM, which is not 0, holds beside a terminator. */
+std::size_t put_text(char* to, std::size_t room, const char* text, std::size_t length) {
+    length = std::min(length, room - 1);
+    std::memcpy(to, text, length);
+    return length;
+}
+
+/** Prints the argument of a conversion that plain_conversion takes; returns the bytes that fit into ROOM. */
+std::size_t print_plain(char* to, std::size_t room, char letter, Arguments& arguments) {
+    char text[message_capacity + 4];
+    if (letter == 'S') {
+        return put_text(to, room, text, utf8_from_utf16le(va_arg(arguments.list, const void*), text));
+    }
+    const auto number = va_arg(arguments.list, long long);
+    const std::to_chars_result end =
+        letter == 'x' ? std::to_chars(text, text + sizeof text, static_cast<unsigned long long>(number), 16)
+                      : std::to_chars(text, text + sizeof text, number);
+    return put_text(to, room, text, static_cast<std::size_t>(end.ptr - text));
 }
 
 // NOLINTBEGIN(bugprone-branch-clone): the branches take arguments of different types
@@ -214,6 +247,12 @@ void format_message(char (&message)[message_capacity], const char* format, va_li
         const std::size_t room = message_capacity - used;
         if (*format != '%') {
             message[used++] = *format++;
+            continue;
+        }
+        char letter = 0;
+        if (const char* const next = plain_conversion(format + 1, &letter)) {
+            format = next;
+            used += print_plain(message + used, room, letter, arguments);
             continue;
         }
         Conversion conversion;

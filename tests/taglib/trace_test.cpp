@@ -10,7 +10,9 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <string>
+#include <sys/socket.h>
 #include <unistd.h>
+#include <vector>
 
 namespace velmora {
 namespace {
@@ -213,6 +215,112 @@ TEST(Trace, CountsWidthAndPrecisionOfUtf16TextInBytesOfUtf8) {
 TEST(Trace, EndsAtAConversionThatNobodyKnows) {
     EXPECT_EQ("1 ", traced("%I64d %y %d\n", std::int64_t{1}, 2));
     EXPECT_EQ("1 ", traced("%I64d %", std::int64_t{1}));
+}
+
+/** Standard error as a socket that keeps each write apart. */
+class Writes {
+public:
+    Writes() : saved_(::dup(STDERR_FILENO)) {
+        EXPECT_EQ(0, ::socketpair(AF_UNIX, SOCK_SEQPACKET, 0, ends_));
+        ::dup2(ends_[1], STDERR_FILENO);
+    }
+    ~Writes() {
+        ::dup2(saved_, STDERR_FILENO);
+        for (const int descriptor : {saved_, ends_[0], ends_[1]}) {
+            ::close(descriptor);
+        }
+    }
+    Writes(const Writes&) = delete;
+    Writes& operator=(const Writes&) = delete;
+
+    /** What was written since the last call. */
+    [[nodiscard]] std::vector<std::string> taken() const {
+        std::vector<std::string> writes;
+        char bytes[8192];
+        ssize_t count = 0;
+        while ((count = ::recv(ends_[0], bytes, sizeof bytes, MSG_DONTWAIT)) > 0) {
+            writes.emplace_back(bytes, static_cast<std::size_t>(count));
+        }
+        return writes;
+    }
+
+private:
+    int saved_;
+    int ends_[2] = {-1, -1};
+};
+
+TEST(TraceBatch, WritesItsMessagesTogetherAtItsEnd) {
+    const Writes writes;
+    {
+        const TraceBatch batch;
+        DebugInfo("one %d\n", 1);
+        DebugError("two %I64d\n", std::int64_t{2});
+        EXPECT_EQ(std::vector<std::string>{}, writes.taken());
+    }
+    EXPECT_EQ(std::vector<std::string>{"one 1\ntwo 2\n"}, writes.taken());
+    DebugInfo("three\n");
+    EXPECT_EQ(std::vector<std::string>{"three\n"}, writes.taken());
+}
+
+TEST(TraceBatch, WritesNothingWithoutMessages) {
+    const Writes writes;
+    { const TraceBatch batch; }
+    EXPECT_EQ(std::vector<std::string>{}, writes.taken());
+}
+
+TEST(TraceBatch, WritesWholeMessagesOfUpTo4096BytesTogether) {
+    const Writes writes;
+    {
+        const TraceBatch batch;
+        for (int i = 0; i < 9; ++i) {
+            DebugInfo("%s\n", std::string(511, 'x').c_str()); // cut to 511: without its line end
+        }
+    }
+    EXPECT_EQ((std::vector<std::string>{std::string(8 * 511, 'x'), std::string(511, 'x')}), writes.taken());
+}
+
+TEST(TraceBatch, WritesTheLastMessageThatFitsWithTheOthers) {
+    const Writes writes;
+    {
+        const TraceBatch batch;
+        for (int i = 0; i < 8; ++i) {
+            DebugInfo("%s", std::string(511, 'x').c_str());
+        }
+        DebugInfo("12345678");
+        DebugInfo("9");
+    }
+    EXPECT_EQ((std::vector<std::string>{std::string(8 * 511, 'x') + "12345678", "9"}), writes.taken());
+}
+
+TEST(TraceBatch, InsideAnotherOneDoesNothing) {
+    const Writes writes;
+    {
+        const TraceBatch outer;
+        DebugInfo("one\n");
+        {
+            const TraceBatch inner;
+            DebugInfo("two\n");
+        }
+        EXPECT_EQ(std::vector<std::string>{}, writes.taken());
+    }
+    EXPECT_EQ(std::vector<std::string>{"one\ntwo\n"}, writes.taken());
+}
+
+TEST(TraceBatch, KeepsErrnoWhenItsWriteFails) {
+    const int saved = ::dup(STDERR_FILENO);
+    const int full = ::open("/dev/full", O_WRONLY | O_CLOEXEC);
+    ::dup2(full, STDERR_FILENO);
+    {
+        const TraceBatch batch;
+        DebugInfo("text\n");
+        errno = 5;
+    }
+    const int error = errno;
+    ::dup2(saved, STDERR_FILENO);
+    std::clearerr(stderr);
+    ::close(full);
+    ::close(saved);
+    EXPECT_EQ(5, error);
 }
 
 } // namespace
