@@ -39,7 +39,7 @@ bool AviFile::read_header_for_writing() {
         return false;
     }
     const _avi_item_t* const info = info_list();
-    if (root.incomplete || (info && info->incomplete)) {
+    if (avi_is_incomplete(&root) || (info && avi_is_incomplete(info))) {
         errno = avi_error_unreadable;
         return false;
     }

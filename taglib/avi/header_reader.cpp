@@ -2,11 +2,11 @@
 
 #include "../byte_order.h"
 #include "../trace.h"
+#include "item_memory.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <limits>
 #include <unistd.h>
 
@@ -96,7 +96,7 @@ _avi_item_t make_item(const ChunkHeader& header, std::int64_t position) {
 /** The item's own bytes: zeros where the file ends before them. Never null for want of bytes alone, because
    data is what tells a list that is kept as bytes from one with children. */
 void load_data(Reader& reader, _avi_item_t* item) {
-    item->data = static_cast<std::uint8_t*>(std::calloc(std::max<std::size_t>(item->size, 1), 1));
+    item->data = avi_new_data(item->size);
     if (item->data && item->size > 0) {
         reader.read(item->data, item->size);
     }
@@ -144,10 +144,13 @@ void load_sub_chunks(Reader& reader, std::int64_t base, _avi_item_t* list) {
                       riff_tag(chunk.fourcc), chunk.size);
             _avi_item_t item = make_item(chunk, position);
             load_data(reader, &item);
-            list->incomplete |= !item.data;
-            if (!avi_insert_item(list, &item, append)) {
+            const bool loaded = item.data != nullptr;
+            const bool kept = avi_insert_item(list, &item, append) != nullptr;
+            if (!kept) {
                 avi_free_item(&item);
-                list->incomplete = true;
+            }
+            if (!loaded || !kept) {
+                avi_mark_incomplete(list);
             }
         }
         offset += chunk.size + header_size;
@@ -167,7 +170,9 @@ public:
         }
         while (offset_ + header_size <= limit_ && read_chunk()) {
         }
-        root_->incomplete |= reader_.failed();
+        if (reader_.failed()) {
+            avi_mark_incomplete(root_);
+        }
         if (several_riffs_ || offset_ + avi_tolerated_tail < limit_) {
             return false;
         }
@@ -248,7 +253,10 @@ private:
                       item.size);
             if (item.list_type == fourcc::info) {
                 load_sub_chunks(reader_, reader_.position() - 4, &item);
-                item.incomplete |= reader_.failed();
+                if (reader_.failed()) {
+                    avi_mark_incomplete(&item);
+                }
+                avi_settle_children(&item);
             }
         } else {
             DebugInfo("[%08lx] <%s> size 0x%x\n", shown_offset, riff_tag(item.fourcc), item.size);
@@ -261,7 +269,7 @@ private:
         }
         if (!avi_insert_item(root_, &item, append)) {
             avi_free_item(&item);
-            root_->incomplete = true;
+            avi_mark_incomplete(root_);
         }
         return true;
     }
@@ -277,6 +285,7 @@ private:
 
 int avi_read_header(FIOFUNCSTRUCT* file, _avi_item_t* root) {
     *root = {};
+    const TraceBatch batch;
     TopLevel top_level(file, root);
     if (top_level.read()) {
         return 1;
@@ -286,14 +295,15 @@ int avi_read_header(FIOFUNCSTRUCT* file, _avi_item_t* root) {
 }
 
 int avi_load_item_list(FIOFUNCSTRUCT* file, _avi_item_t* list) {
+    const TraceBatch batch;
     const std::int64_t base = fio_ltell(file) - 4;
     Reader reader(file);
-    if (base < 0 || reader.length() < 0) {
-        list->incomplete = true;
-        return 1;
+    if (base >= 0 && reader.length() >= 0) {
+        load_sub_chunks(reader, base, list);
     }
-    load_sub_chunks(reader, base, list);
-    list->incomplete |= reader.failed();
+    if (base < 0 || reader.length() < 0 || reader.failed()) {
+        avi_mark_incomplete(list);
+    }
     return 1;
 }
 

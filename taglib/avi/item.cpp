@@ -1,11 +1,14 @@
 #include "item.h"
 
+#include "../byte_order.h"
 #include "../trace.h"
+#include "item_memory.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdlib>
-#include <limits>
+#include <array>
+#include <cstring>
+#include <functional>
+#include <utility>
 
 namespace velmora {
 
@@ -15,56 +18,56 @@ bool is_list_kind(std::uint32_t fourcc) {
     return fourcc == fourcc::list || fourcc == fourcc::riff;
 }
 
-bool write_bytes(FIOFUNCSTRUCT* file, const void* bytes, std::uint32_t count) {
-    return fio_write(file, bytes, count) == static_cast<ssize_t>(count);
-}
+/** Writes at the file's position, small things together: a list may have millions of empty items. */
+class ItemWriter {
+public:
+    explicit ItemWriter(FIOFUNCSTRUCT* file) : file_(file) {}
 
-bool write_le32(FIOFUNCSTRUCT* file, std::uint32_t value) {
-    return fio_put_le32(file, value) == sizeof value;
-}
-
-bool write_item(FIOFUNCSTRUCT* file, const _avi_item_t& item);
-
-bool write_children(FIOFUNCSTRUCT* file, const _avi_item_t& list) {
-    return std::all_of(list.children, list.children + list.child_count, [file](const _avi_item_t& child) {
-        return write_item(file, child) && (child.size % 2 == 0 || fio_put_byte(file, 0) == 1);
-    });
-}
-
-bool write_item(FIOFUNCSTRUCT* file, const _avi_item_t& item) {
-    if (!write_le32(file, item.fourcc) || !write_le32(file, item.size)) {
-        return false;
+    /** False when not everything up to here could be written, as for all of these. */
+    [[nodiscard]] bool item(const _avi_item_t& item) {
+        if (!le32(item.fourcc) || !le32(item.size)) {
+            return false;
+        }
+        if (item.fourcc == fourcc::list && avi_has_children(&item)) {
+            return le32(item.list_type) && children(item);
+        }
+        const std::uint8_t* const data = avi_data(&item);
+        return item.size == 0 || !data || bytes(data, item.size);
     }
-    if (item.fourcc == fourcc::list && avi_has_children(&item)) {
-        return write_le32(file, item.list_type) && write_children(file, item);
+    [[nodiscard]] bool flush() {
+        const std::size_t count = std::exchange(used_, 0);
+        return count == 0 || fio_write(file_, buffer_.data(), count) == static_cast<ssize_t>(count);
     }
-    return item.size == 0 || !item.data || write_bytes(file, item.data, item.size);
-}
 
-/** Doubles the child array when it is full: a million chunks must not cost a million moves of it. */
-bool make_room_for_one_more(_avi_item_t* parent) {
-    const auto count = static_cast<std::uint32_t>(parent->child_count);
-    if (count < parent->child_room) {
+private:
+    bool children(const _avi_item_t& list) {
+        return std::all_of(list.children, list.children + list.child_count, [this](const _avi_item_t& child) {
+            return item(child) && (child.size % 2 == 0 || bytes("", 1));
+        });
+    }
+    bool le32(std::uint32_t value) {
+        std::uint8_t stored[4];
+        store_le32(stored, value);
+        return bytes(stored, sizeof stored);
+    }
+    bool bytes(const void* from, std::uint32_t count) {
+        if (count > buffer_.size() - used_ && !flush()) {
+            return false;
+        }
+        if (count > buffer_.size()) {
+            return fio_write(file_, from, count) == static_cast<ssize_t>(count);
+        }
+        std::memcpy(buffer_.data() + used_, from, count);
+        used_ += count;
         return true;
     }
-    if (parent->child_count == std::numeric_limits<std::int32_t>::max()) {
-        return false;
-    }
-    const std::uint32_t room = std::bit_ceil(count + 1);
-    void* const grown = std::realloc(parent->children, std::size_t{room} * sizeof(_avi_item_t));
-    if (!grown) {
-        return false;
-    }
-    parent->children = static_cast<_avi_item_t*>(grown);
-    parent->child_room = room;
-    return true;
-}
+
+    FIOFUNCSTRUCT* file_;
+    std::size_t used_ = 0;
+    std::array<std::uint8_t, 16384> buffer_;
+};
 
 } // namespace
-
-bool avi_has_children(const _avi_item_t* item) {
-    return is_list_kind(item->fourcc) && !item->data;
-}
 
 std::uint64_t avi_sizeof_item(const _avi_item_t* item) {
     if (!avi_has_children(item)) {
@@ -78,7 +81,8 @@ std::uint64_t avi_sizeof_item(const _avi_item_t* item) {
 }
 
 int avi_store_item(FIOFUNCSTRUCT* file, const _avi_item_t* item) {
-    if (!write_item(file, *item)) {
+    ItemWriter writer(file);
+    if (!writer.item(*item) || !writer.flush()) {
         DebugError("avi_store_item: Error writing file\n");
         return 0;
     }
@@ -87,7 +91,7 @@ int avi_store_item(FIOFUNCSTRUCT* file, const _avi_item_t* item) {
 
 _avi_item_t* avi_insert_item(_avi_item_t* parent, const _avi_item_t* item, std::uint32_t index) {
     const _avi_item_t copy = *item; // ITEM may lie in the array that moves
-    if (!make_room_for_one_more(parent)) {
+    if (!avi_grow_children(parent)) {
         return nullptr;
     }
     const auto count = static_cast<std::uint32_t>(parent->child_count);
@@ -129,12 +133,11 @@ _avi_item_t* avi_find_list_item(const _avi_item_t* parent, std::uint32_t list_ty
 }
 
 std::int32_t avi_get_item_index(const _avi_item_t* parent, const _avi_item_t* child) {
-    for (std::int32_t i = 0; i < parent->child_count; ++i) {
-        if (parent->children + i == child) {
-            return i;
-        }
-    }
-    return -1;
+    const _avi_item_t* const end = parent->children + parent->child_count;
+    const std::less<> before;
+    return before(child, parent->children) || !before(child, end)
+               ? -1
+               : static_cast<std::int32_t>(child - parent->children);
 }
 
 int avi_move_item(_avi_item_t* parent, _avi_item_t* child, std::uint32_t index) {
@@ -156,8 +159,7 @@ void avi_free_item(_avi_item_t* item) {
     for (std::int32_t i = 0; i < item->child_count; ++i) {
         avi_free_item(item->children + i);
     }
-    std::free(item->children);
-    std::free(item->data);
+    avi_free_contents(item);
     *item = {};
 }
 
@@ -166,6 +168,7 @@ void avi_free_header(_avi_item_t* root) {
 }
 
 void avi_list_items(const _avi_item_t* list) {
+    const TraceBatch batch;
     DebugInfo("List <%s>\n", riff_tag(list->list_type));
     for (std::int32_t i = 0; i < list->child_count; ++i) {
         const _avi_item_t& child = list->children[i];

@@ -12,25 +12,33 @@ namespace velmora {
    next insert into or removal from that array. Zeroed, it is an empty chunk that owns nothing.
 
     A "LIST" or "RIFF" item has children, and its own bytes are never loaded, with one exception: a list found
-   inside a list is not taken apart but kept as plain data bytes (`data` is set, `children` is null), and is
-   written back as those bytes. */
+   inside a list is not taken apart but kept as plain data bytes, and is written back as those bytes
+   (avi_has_children tells).
+
+    What an item owns is made and freed by the functions here and in item_data.h, never by malloc and free. */
 struct _avi_item_t {
     std::uint32_t fourcc;
     std::uint32_t size; ///< the size field: data bytes; for a list its type and sub-chunks, pad bytes counted
     std::uint64_t offset;     ///< absolute file position of the 8-byte chunk header
     std::uint32_t list_type;  ///< type of a list or of the RIFF form; 0 for a plain chunk
     std::int32_t child_count; ///< items in `children`
-    std::uint32_t child_room; ///< items that fit into `children` before it has to grow
-    _avi_item_t* children;    ///< owned (malloc)
-    std::uint8_t* data;       ///< owned (malloc), `size` bytes; null when not loaded
-    bool incomplete; ///< bytes that the file has could not be read: the tree must not be written back
+    union {
+        _avi_item_t* children; ///< of a list, owned; null for none
+        std::uint8_t* data;    ///< of any other item, owned, `size` bytes; null when not loaded
+    };
 };
+static_assert(sizeof(_avi_item_t) == 32, "four times the smallest chunk: what a hostile file may cost");
 
 /** The size that a text's length and its terminating zero make up, for avi_set_item_data. */
 inline constexpr std::uint32_t avi_text_size = 0xFFFFFFFF;
 
 /** Whether the item's contents are children. False for a list that is kept as data bytes. */
 [[nodiscard]] bool avi_has_children(const _avi_item_t* item);
+
+/** Whether bytes of a list that the file has could not be read: the tree must not be written back. */
+[[nodiscard]] bool avi_is_incomplete(const _avi_item_t* item);
+/** Marks an item whose contents are children, or nothing. */
+void avi_mark_incomplete(_avi_item_t* item);
 
 /** The size field that fits the item's contents. Plain chunk: its size field. "LIST" and "RIFF": 4 plus 8 and
    the size field, rounded up to even, of each child; grandchildren don't matter. May exceed 32 bits. */

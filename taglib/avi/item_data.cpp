@@ -1,28 +1,16 @@
 #include "item_data.h"
 
+#include "item_memory.h"
+
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 
 namespace velmora {
 
-namespace {
-
-/** A malloc'ed copy that is never null for want of bytes alone. */
-std::uint8_t* copy_bytes(const void* data, std::uint32_t size) {
-    void* const copy = std::malloc(std::max<std::size_t>(size, 1));
-    if (copy && size > 0) {
-        std::memcpy(copy, data, size);
-    }
-    return static_cast<std::uint8_t*>(copy);
-}
-
-} // namespace
-
 std::size_t avi_load_string(const _avi_item_t* item, char* text, std::size_t capacity) {
     std::size_t length = 0;
-    if (item->data) {
-        const auto* const bytes = reinterpret_cast<const char*>(item->data);
+    if (const std::uint8_t* const data = avi_data(item)) {
+        const auto* const bytes = reinterpret_cast<const char*>(data);
         length = ::strnlen(bytes, std::min<std::size_t>(item->size, capacity - 1));
         std::memcpy(text, bytes, length);
     }
@@ -38,9 +26,12 @@ int avi_set_item_data(_avi_item_t* list, std::uint32_t fourcc, const void* data,
         }
         size = static_cast<std::uint32_t>(length + 1);
     }
-    std::uint8_t* const copy = copy_bytes(data, size);
+    std::uint8_t* const copy = avi_new_data(size);
     if (!copy) {
         return 0;
+    }
+    if (size > 0) {
+        std::memcpy(copy, data, size);
     }
     if (_avi_item_t* const item = avi_find_item(list, fourcc)) {
         const std::uint64_t offset = item->offset;
@@ -56,7 +47,7 @@ int avi_set_item_data(_avi_item_t* list, std::uint32_t fourcc, const void* data,
     item.size = size;
     item.data = copy;
     if (!avi_insert_item(list, &item, static_cast<std::uint32_t>(-1))) {
-        std::free(copy);
+        avi_free_contents(&item);
         return 0;
     }
     return 1;

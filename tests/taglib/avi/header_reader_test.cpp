@@ -181,7 +181,7 @@ TEST_F(AviHeaderReader, AHeaderThatTheFileEndsInEndsTheWalk) {
               "avi_read_header: Actual AVI end at 0xe (EOF = 0x15)\n",
               log_);
     EXPECT_EQ(14u, root_.size);
-    EXPECT_FALSE(root_.incomplete);
+    EXPECT_FALSE(avi_is_incomplete(&root_));
 }
 
 TEST_F(AviHeaderReader, AFourccWithAControlByteEndsTheWalk) {

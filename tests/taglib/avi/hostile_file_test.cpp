@@ -182,6 +182,17 @@ TEST_F(AviHostileFile, CallsGrowInProportionToTheNumberOfChunks) {
     EXPECT_LE(watch.count(), 2 * 50000 + 20);
 }
 
+TEST_F(AviHostileFile, AListOfManySubChunksIsWrittenInFewCalls) {
+    std::string sub_chunks;
+    for (int i = 0; i < 50000; ++i) {
+        sub_chunks += chunk("ITST", 0, "");
+    }
+    write_file(path_, riff(400012 + 32, hdrl() + list(400004, "INFO", sub_chunks)));
+    SystemCallFaults watch;
+    EXPECT_TRUE(store());
+    EXPECT_LE(watch.count(SystemCall::write), 30);
+}
+
 TEST_F(AviHostileFile, TheMediaIsNotRead) {
     write_file(path_,
                riff(1000000 + 12 + 64, hdrl() + list(1000004, "movi", std::string(1000000, 'f')) + idx1()));

@@ -85,7 +85,7 @@ TEST_F(AviItemList, AHeaderThatTheFileEndsInIsLoggedAndEndsTheList) {
     EXPECT_EQ("[0000000c]        <INAM> size 0x4\n"
               "avi_load_item_list: Error reading at 18\n",
               log_);
-    EXPECT_FALSE(list_.incomplete);
+    EXPECT_FALSE(avi_is_incomplete(&list_));
 }
 
 TEST_F(AviItemList, AnInvalidFourccIsLoggedAndEndsTheList) {
@@ -112,7 +112,7 @@ TEST_F(AviItemList, BytesThatTheFileDoesNotHaveReadAsZeros) {
     load(16, chunk("INAM", 8, "12345"));
     ASSERT_EQ(1, list_.child_count);
     EXPECT_EQ(std::string("12345\0\0\0", 8), data(0));
-    EXPECT_FALSE(list_.incomplete);
+    EXPECT_FALSE(avi_is_incomplete(&list_));
 }
 
 TEST_F(AviItemList, ASubChunkThatOverrunsTheListByFiveBytesIsLoggedUnderAnotherFunctionsName) {
@@ -152,7 +152,7 @@ TEST_F(AviItemList, AFileThatIsNotOpenGivesAnIncompleteListWithoutSubChunks) {
     list_.fourcc = fourcc::list;
     list_.size = 100;
     EXPECT_EQ(1, avi_load_item_list(&closed, &list_));
-    EXPECT_TRUE(list_.incomplete);
+    EXPECT_TRUE(avi_is_incomplete(&list_));
     EXPECT_EQ(0, list_.child_count);
 }
 

@@ -110,9 +110,9 @@ TEST(AviStoreOutOfMemory, WhicheverRequestFailsTheStoreFailsAndChangesNoByte) {
     const std::string path = folder / "file.avi";
     char title[] = "A longer title";
     const StreamCapture quiet;
-    // Reading: the top level's array three times, the list's twice, two texts. Storing: the title, the year
-    // and the list's array, junk's place in the full top level.
-    constexpr int requests = 3 + 2 + 2 + 3 + 1;
+    // Reading: the top level's array three times, the list's twice, the slab that takes all texts. Storing:
+    // the list's array for the year, junk's place in the full top level.
+    constexpr int requests = 3 + 2 + 1 + 1 + 1;
     for (int nth = 0; nth <= requests; ++nth) {
         write_file(path, avi_with_info_before_movi());
         _file_info_t info{};
@@ -133,9 +133,9 @@ TEST(AviStoreOutOfMemory, ANewListOrOneOfItsTextsWithoutMemoryFailsTheStoreThoug
     char artist[] = "B";
     char genre[] = "C";
     const StreamCapture quiet;
-    // The new list's place in the top level's array, four texts, and the list's array for the first, second
-    // and third.
-    constexpr int requests = 1 + 4 + 3;
+    // The new list's place in the top level's array, the slab that takes the four texts, and the list's array
+    // for the first, second and third.
+    constexpr int requests = 1 + 1 + 3;
     for (int nth = 0; nth <= requests; ++nth) {
         write_file(path, riff(4, ""));
         _file_info_t info{};
