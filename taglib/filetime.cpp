@@ -57,6 +57,7 @@ std::int32_t ParseID3Time(const char* text) {
 char* FormatID3Time(std::int32_t seconds, char* text) {
     const std::time_t moment = seconds;
     std::tm time{};
+    ::tzset(); // unlike mktime, localtime_r need not look whether the zone has changed
     if (seconds == 0 || !text || !::localtime_r(&moment, &time)) {
         return text;
     }

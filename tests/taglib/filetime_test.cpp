@@ -154,6 +154,12 @@ TEST_F(Id3TimeTest, IsWrittenOverTheWholeRangeOf32BitSeconds) {
     EXPECT_EQ("1970-01-01T:02:59:59+0:0", formatted(-1));
 }
 
+TEST_F(Id3TimeTest, FollowsAZoneThatChangesWhileTheProgramRuns) {
+    EXPECT_EQ("1970-01-02T:03:00:00+0:0", formatted(24 * 3600));
+    ::setenv("TZ", "XYZ-5", 1); // and no tzset
+    EXPECT_EQ("1970-01-02T:05:00:00+0:0", formatted(24 * 3600));
+}
+
 TEST_F(Id3TimeTest, LeavesTheTargetAloneForTheTimeZero) {
     EXPECT_EQ("u", formatted(0));
 }
