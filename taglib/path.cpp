@@ -28,4 +28,10 @@ void PathRemoveFileSpec(char* path) {
     }
 }
 
+OwnedText folder_of_file(const char* path) {
+    OwnedText folder(::strdup(path));
+    PathRemoveFileSpec(folder.get());
+    return folder;
+}
+
 } // namespace velmora

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
+#include <memory>
 
 namespace velmora {
 
@@ -16,5 +18,15 @@ inline constexpr std::size_t temp_file_name_capacity = 1024;
 
 /** Cuts PATH at its last "/" (the slash goes too). A path without one, and null, stay as they are. */
 void PathRemoveFileSpec(char* path);
+
+/** A zero-terminated text of the malloc family. */
+struct FreeText {
+    void operator()(char* text) const { std::free(text); }
+};
+using OwnedText = std::unique_ptr<char, FreeText>;
+
+/** The folder of the file PATH: what stands in front of its last "/". A path without one comes back whole.
+   Null when memory runs out. */
+[[nodiscard]] OwnedText folder_of_file(const char* path);
 
 } // namespace velmora

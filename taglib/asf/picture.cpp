@@ -1,6 +1,7 @@
 #include "picture.h"
 
 #include "../byte_order.h"
+#include "../image_calls.h"
 #include "../trace.h"
 #include "descriptor_value.h"
 #include "owned.h"
@@ -135,12 +136,12 @@ Image* asf_load_picture(const _asf_content_descriptor_t* descriptor) {
         DebugError("asf_load_picture: Picture data overrun\n");
         return nullptr;
     }
-    return image_from_bytes(descriptor->value + cursor.position(), data_length);
+    return try_image_from_bytes(descriptor->value + cursor.position(), data_length);
 }
 
 int asf_store_picture(_asf_ext_content_description_t* ecd, const Image* image) {
-    const std::vector<std::uint8_t> jpeg = image ? image_to_jpeg(image) : std::vector<std::uint8_t>{};
-    if (jpeg.empty()) {
+    std::vector<std::uint8_t> jpeg;
+    if (!image || try_image_to_jpeg(image, &jpeg) != JpegResult::encoded) {
         return 0;
     }
     if (jpeg.size() > std::numeric_limits<std::uint16_t>::max() - data_offset) {

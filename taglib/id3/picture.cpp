@@ -1,14 +1,15 @@
 #include "picture.h"
 
-#include "../image_files.h"
+#include "../image_calls.h"
+#include "../path.h"
 #include "../trace.h"
-#include "folder.h"
 #include "text.h"
 
+#include <climits>
+#include <cstdio>
 #include <cstdlib>
 #include <limits>
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace velmora {
@@ -25,6 +26,14 @@ bool is_jpeg(const char* mime_type) {
 struct Free {
     void operator()(void* block) const { std::free(block); }
 };
+
+/** The image in FOLDER's album-art file of that GUID text and SIZE; a name that no file can have gives none.
+ */
+Image* load_albumart_file(const char* folder, const char* guid, const char* size) {
+    char path[PATH_MAX];
+    const int length = std::snprintf(path, sizeof path, "%s/AlbumArt_%s_%s.jpg", folder, guid, size);
+    return length < PATH_MAX ? try_image_from_file(path) : nullptr;
+}
 
 } // namespace
 
@@ -54,21 +63,24 @@ Image* id3_load_picture(const _id3_frame_t* frame) {
         DebugError("id3_load_picture: Missing picture data\n");
         return nullptr;
     }
-    return image_from_bytes(data + at, static_cast<std::size_t>(size - at));
+    return try_image_from_bytes(data + at, static_cast<std::size_t>(size - at));
 }
 
 Image* id3_load_albumart(const char* media_path, const GUID& guid) {
-    const std::string name = id3_folder_of(media_path) + "/AlbumArt_" + GUIDNAME(guid);
-    if (Image* const large = Util_LoadJpgFileToBmp((name + "_Large.jpg").c_str())) {
-        return large;
+    const OwnedText folder = folder_of_file(media_path);
+    if (!folder) {
+        return nullptr;
     }
-    return Util_LoadJpgFileToBmp((name + "_Small.jpg").c_str());
+    const char* const text = GUIDNAME(guid);
+    Image* const large = load_albumart_file(folder.get(), text, "Large");
+    return large ? large : load_albumart_file(folder.get(), text, "Small");
 }
 
 int id3_store_picture(_id3_file_desc_t* descriptor, std::uint32_t id, const Image* image) {
-    const std::vector<std::uint8_t> jpeg = image_to_jpeg(image);
+    std::vector<std::uint8_t> jpeg;
     constexpr std::size_t room_in_front = 20;
-    if (jpeg.empty() || jpeg.size() > std::numeric_limits<std::int32_t>::max() - room_in_front) {
+    if (try_image_to_jpeg(image, &jpeg) != JpegResult::encoded ||
+        jpeg.size() > std::numeric_limits<std::int32_t>::max() - room_in_front) {
         return 0;
     }
     const auto capacity = static_cast<std::int32_t>(jpeg.size() + room_in_front);

@@ -2,7 +2,6 @@
 
 #include "../path.h"
 #include "../trace.h"
-#include "folder.h"
 #include "guards.h"
 #include "header_v1.h"
 #include "reader.h"
@@ -36,7 +35,8 @@ public:
     TemporaryName& operator=(const TemporaryName&) = delete;
 
     [[nodiscard]] bool make(const char* media_path) {
-        if (GetTempFileName(id3_folder_of(media_path).c_str(), "VLT", 0, text_) == 0) {
+        const OwnedText folder = folder_of_file(media_path);
+        if (!folder || GetTempFileName(folder.get(), "VLT", 0, text_) == 0) {
             text_[0] = 0;
             return false;
         }

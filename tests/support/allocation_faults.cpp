@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
+#include <new>
 #include <stdexcept>
 
 namespace velmora::test {
@@ -10,8 +12,8 @@ namespace velmora::test {
 namespace {
 thread_local AllocationFaults* watching = nullptr;
 
-bool fails(std::size_t bytes) {
-    if (!watching || !watching->request(bytes)) {
+bool fails(std::size_t bytes, Memory memory = Memory::malloc_family) {
+    if (!watching || !watching->request(memory, bytes)) {
         return false;
     }
     errno = ENOMEM;
@@ -19,7 +21,7 @@ bool fails(std::size_t bytes) {
 }
 } // namespace
 
-AllocationFaults::AllocationFaults(int nth) : nth_(nth) {
+AllocationFaults::AllocationFaults(int nth, Memory memory) : memory_(memory), nth_(nth) {
     if (watching) {
         throw std::logic_error("this thread's memory requests are watched already");
     }
@@ -30,7 +32,10 @@ AllocationFaults::~AllocationFaults() {
     watching = nullptr;
 }
 
-bool AllocationFaults::request(std::size_t bytes) {
+bool AllocationFaults::request(Memory memory, std::size_t bytes) {
+    if (memory != memory_) {
+        return false;
+    }
     largest_ = std::max(largest_, bytes);
     return ++count_ == nth_;
 }
@@ -63,3 +68,33 @@ char* __wrap_strdup(const char* text) {
 }
 }
 // NOLINTEND(bugprone-reserved-identifier)
+
+namespace {
+
+void* allocate(std::size_t size) noexcept {
+    const bool refused = velmora::test::fails(size, velmora::test::Memory::operator_new);
+    return refused ? nullptr : __real_malloc(size > 0 ? size : 1);
+}
+
+} // namespace
+
+// The array and sized forms lead to these.
+void* operator new(std::size_t size) {
+    void* const memory = allocate(size);
+    if (!memory) {
+        throw std::bad_alloc();
+    }
+    return memory;
+}
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return allocate(size);
+}
+
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}

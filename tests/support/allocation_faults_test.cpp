@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <new>
+#include <tuple>
 
 namespace velmora::test {
 namespace {
@@ -58,6 +60,19 @@ TEST(AllocationFaults, NothingFailsAfterTheObjectsEnd) {
     void* const memory = allocate(1);
     EXPECT_NE(nullptr, memory);
     std::free(memory);
+}
+
+TEST(AllocationFaults, NewIsWatchedApartFromTheMallocFamily) {
+    AllocationFaults faults(2, Memory::operator_new);
+    void* const block = allocate(10);
+    auto* const first = ::operator new(4);
+    EXPECT_THROW(std::ignore = ::operator new(5), std::bad_alloc);
+    auto* const third = ::operator new[](6, std::nothrow);
+    EXPECT_NE(nullptr, third);
+    EXPECT_EQ(3, faults.count());
+    std::free(block);
+    ::operator delete(first);
+    ::operator delete[](third);
 }
 
 } // namespace

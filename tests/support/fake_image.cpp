@@ -34,8 +34,9 @@ Image* image_from_bytes(const void* bytes, std::size_t size) {
     if (!view.starts_with("\xFF\xD8\xFF")) {
         return nullptr;
     }
+    auto* const image = new Image{std::string(view)};
     ++alive;
-    return new Image{std::string(view)};
+    return image;
 }
 
 Image* image_from_file(const char* path) {

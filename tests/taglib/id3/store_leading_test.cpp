@@ -1,7 +1,7 @@
 #include "id3_bytes.h"
 #include "stored_info.h"
 #include "support/system_call_faults.h"
-#include "taglib/id3/folder.h"
+#include "taglib/path.h"
 
 #include <gtest/gtest.h>
 
@@ -134,9 +134,9 @@ TEST(Id3StoreLeading, FileOfNothingButAnAppendedTagTakesThisWay) {
 }
 
 TEST(Id3StoreLeading, FolderIsWhatStandsInFrontOfTheLastSlash) {
-    EXPECT_EQ("/a/b", id3_folder_of("/a/b/c.mp3"));
-    EXPECT_EQ("", id3_folder_of("/c.mp3"));
-    EXPECT_EQ("c.mp3", id3_folder_of("c.mp3"));
+    EXPECT_EQ("/a/b", std::string(folder_of_file("/a/b/c.mp3").get()));
+    EXPECT_EQ("", std::string(folder_of_file("/c.mp3").get()));
+    EXPECT_EQ("c.mp3", std::string(folder_of_file("c.mp3").get()));
 }
 
 // With one, made by the name generator
