@@ -14,6 +14,7 @@ void ensureStandardStreams() {
         }
     }
     ::signal(SIGPIPE, SIG_IGN);
+    ::signal(SIGXFSZ, SIG_IGN);
 }
 
 } // namespace velmora

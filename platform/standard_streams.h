@@ -4,7 +4,8 @@ namespace velmora {
 
 /** Sees to it that descriptors 0, 1 and 2 are open, on /dev/null where the program was started without them.
    Otherwise the next file to be opened would get such a number, and what is logged would be written into it.
-   Also sees to it that a write to one whose reader has gone away fails and does not end the program.
+   Also sees to it that a write fails and does not end the program where a stream's reader has gone away, or
+   where a file would grow beyond the size that the process may give to one.
    To be called before any file is opened. */
 void ensureStandardStreams();
 

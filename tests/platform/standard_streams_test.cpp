@@ -6,6 +6,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <initializer_list>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -48,6 +49,25 @@ TEST(StandardStreams, WriteToOneWhoseReaderIsGoneFailsAndTheProgramGoesOn) {
     }
     ::close(ends[0]);
     ::close(ends[1]);
+    int status = 0;
+    EXPECT_EQ(child, ::waitpid(child, &status, 0));
+    EXPECT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(0, WEXITSTATUS(status));
+}
+
+TEST(StandardStreams, WriteBeyondTheFileSizeLimitFailsAndTheProgramGoesOn) {
+    const int file = ::open("/tmp", O_TMPFILE | O_RDWR, 0600);
+    ASSERT_GE(file, 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::signal(SIGXFSZ, SIG_DFL);
+        const rlimit limit{1, 1};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        ensureStandardStreams();
+        const bool failed = ::write(file, "x", 1) == 1 && ::write(file, "x", 1) < 0 && errno == EFBIG;
+        ::_exit(failed ? 0 : 1);
+    }
+    ::close(file);
     int status = 0;
     EXPECT_EQ(child, ::waitpid(child, &status, 0));
     EXPECT_TRUE(WIFEXITED(status));
