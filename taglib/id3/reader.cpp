@@ -12,13 +12,16 @@ namespace velmora {
 
 namespace {
 
-/** Finds a tag and reads its header, with the loader's messages. Returns the header's offset or -1. */
-std::int64_t locate(FIOFUNCSTRUCT* file, bool at_end, Id3TagHeader* header) {
+/** Finds a tag and reads its header, with the loader's messages. Returns the header's offset or -1. Sets
+ *FAILED where nobody knows what the file holds. */
+std::int64_t locate(FIOFUNCSTRUCT* file, bool at_end, Id3TagHeader* header, bool* failed) {
     std::int64_t offset = 0;
     if (at_end) {
         Id3TagHeader footer;
-        const std::int64_t footer_offset = id3_read_tag_footer(file, &footer);
-        if (footer_offset < 0) {
+        std::int64_t footer_offset = 0;
+        const Id3Read read = id3_read_tag_footer(file, &footer, &footer_offset);
+        *failed = read == Id3Read::failed;
+        if (read != Id3Read::whole) {
             DebugError("id3_load_descriptor_v2: Failed to read footer\n");
             return -1;
         }
@@ -35,7 +38,9 @@ std::int64_t locate(FIOFUNCSTRUCT* file, bool at_end, Id3TagHeader* header) {
             return -1;
         }
     }
-    if (!id3_read_tag_header(file, offset, header)) {
+    const Id3Read read = id3_read_tag_header(file, offset, header);
+    *failed = read == Id3Read::failed;
+    if (read != Id3Read::whole) {
         DebugError("id3_load_descriptor_v2: Failed to read header\n");
         return -1;
     }
@@ -59,13 +64,17 @@ bool is_padding(const Id3FrameHeader& header) {
     return std::memcmp(header.id, no_id, sizeof no_id) == 0;
 }
 
-/** Reads SIZE bytes and puts a zero behind them. Returns a block that the caller owns, or null. */
-std::uint8_t* read_body(FIOFUNCSTRUCT* file, std::uint32_t size) {
+/** Reads SIZE bytes and puts a zero behind them. Returns a block that the caller owns, or null; *FAILED is
+    then set unless the file ends first. */
+std::uint8_t* read_body(FIOFUNCSTRUCT* file, std::uint32_t size, bool* failed) {
     auto* const body = static_cast<std::uint8_t*>(std::malloc(std::size_t{size} + 1));
     if (!body) {
+        *failed = true;
         return nullptr;
     }
-    if (size > 0 && fio_read(file, body, size) != static_cast<ssize_t>(size)) {
+    const Id3Read read = size > 0 ? id3_read_bytes(file, body, size) : Id3Read::whole;
+    if (read != Id3Read::whole) {
+        *failed = read == Id3Read::failed;
         std::free(body);
         return nullptr;
     }
@@ -83,10 +92,13 @@ void trace_frame(const _id3_frame_t& frame) {
 }
 
 /** Reads the frame at *POSITION, counted from the end of the tag's header, and moves *POSITION on: past the
-   frame's header once it is known to be one, and past the body once that is read. False ends the reading. */
-bool read_frame(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor, std::uint32_t* position) {
+   frame's header once it is known to be one, and past the body once that is read. False ends the reading;
+   *FAILED is set where that leaves out what the file holds. */
+bool read_frame(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor, std::uint32_t* position, bool* failed) {
     Id3FrameHeader header;
-    if (fio_read(file, &header, sizeof header) != static_cast<ssize_t>(sizeof header)) {
+    const Id3Read read = id3_read_bytes(file, &header, sizeof header);
+    if (read != Id3Read::whole) {
+        *failed = read == Id3Read::failed;
         DebugError("id3_load_descriptor_v2: Failed to read frame\n");
         return false;
     }
@@ -103,7 +115,7 @@ bool read_frame(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor, std::uint32_t
     std::memcpy(&frame, header.id, sizeof header.id);
     frame.size = static_cast<std::int32_t>(size);
     frame.flags = std::bit_cast<std::uint16_t>(header.flags);
-    frame.data = read_body(file, size);
+    frame.data = read_body(file, size, failed);
     if (!frame.data) {
         DebugError("id3_load_descriptor_v2: Failed to read frame data\n");
         return false;
@@ -111,6 +123,7 @@ bool read_frame(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor, std::uint32_t
     *position += size;
     trace_frame(frame);
     if (!id3_insert_frame(descriptor, &frame)) {
+        *failed = true;
         std::free(frame.data);
         return false;
     }
@@ -123,8 +136,8 @@ std::int64_t id3_is_present_v2(FIOFUNCSTRUCT* file, bool at_end) {
     std::int64_t offset = 0;
     if (at_end) {
         Id3TagHeader footer;
-        const std::int64_t footer_offset = id3_read_tag_footer(file, &footer);
-        if (footer_offset < 0) {
+        std::int64_t footer_offset = 0;
+        if (id3_read_tag_footer(file, &footer, &footer_offset) != Id3Read::whole) {
             DebugError("id3_is_present_v2: Failed to read footer\n");
             return -1;
         }
@@ -138,7 +151,7 @@ std::int64_t id3_is_present_v2(FIOFUNCSTRUCT* file, bool at_end) {
         }
     }
     Id3TagHeader header;
-    if (!id3_read_tag_header(file, offset, &header)) {
+    if (id3_read_tag_header(file, offset, &header) != Id3Read::whole) {
         DebugError("id3_is_present_v2: Failed to read header\n");
         return -1;
     }
@@ -146,15 +159,21 @@ std::int64_t id3_is_present_v2(FIOFUNCSTRUCT* file, bool at_end) {
 }
 
 std::int64_t id3_load_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor, bool at_end) {
+    return id3_read_tag(file, descriptor, at_end).offset;
+}
+
+Id3TagReading id3_read_tag(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor, bool at_end) {
+    Id3TagReading reading;
     Id3TagHeader header;
-    const std::int64_t offset = locate(file, at_end, &header);
-    if (offset < 0) {
-        return -1;
+    reading.offset = locate(file, at_end, &header, &reading.failed);
+    if (reading.offset < 0) {
+        return reading;
     }
     const std::uint32_t size = syncsafe_to_long(header.size);
     if (size > id3_largest_tag) {
         DebugError("id3_load_descriptor_v2: header too large\n");
-        return -1;
+        reading.offset = -1;
+        return reading;
     }
     std::memcpy(descriptor->signature, header.signature, sizeof descriptor->signature);
     descriptor->version = header.version;
@@ -163,12 +182,12 @@ std::int64_t id3_load_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descr
     descriptor->size = size;
 
     std::uint32_t position = 0;
-    while (position < size && read_frame(file, descriptor, &position)) {
+    while (position < size && read_frame(file, descriptor, &position, &reading.failed)) {
     }
     if (position < size) {
         descriptor->padding = size - position;
     }
-    return offset;
+    return reading;
 }
 
 } // namespace velmora

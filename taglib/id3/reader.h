@@ -23,4 +23,15 @@ inline constexpr std::uint32_t id3_largest_tag = 0x40000;
 [[nodiscard]] std::int64_t id3_load_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor,
                                                   bool at_end);
 
+/** What id3_read_tag found. */
+struct Id3TagReading {
+    std::int64_t offset = -1; ///< as id3_load_descriptor_v2 returns it
+    /** Whether the file may hold a tag or frames that were not read: a call failed or gave fewer bytes than
+        the file has, or memory ran out. A tag rewritten from such a reading would lose them. */
+    bool failed = false;
+};
+
+/** id3_load_descriptor_v2 for a tag that is to be rewritten. */
+[[nodiscard]] Id3TagReading id3_read_tag(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor, bool at_end);
+
 } // namespace velmora

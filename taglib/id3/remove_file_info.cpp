@@ -44,8 +44,8 @@ int id3_remove_file_info(const char* path) {
 
 int id3_remove_descriptor_v2(FIOFUNCSTRUCT* file) {
     Id3TagHeader footer;
-    const std::int64_t footer_offset = id3_read_tag_footer(file, &footer);
-    if (footer_offset < 0) {
+    std::int64_t footer_offset = 0;
+    if (id3_read_tag_footer(file, &footer, &footer_offset) != Id3Read::whole) {
         DebugError("id3_remove_descriptor_v2: Failed to read footer\n");
         return 0;
     }
@@ -58,7 +58,7 @@ int id3_remove_descriptor_v2(FIOFUNCSTRUCT* file) {
         return 0;
     }
     Id3TagHeader header;
-    if (!id3_read_tag_header(file, offset, &header)) {
+    if (id3_read_tag_header(file, offset, &header) != Id3Read::whole) {
         DebugError("id3_remove_descriptor_v2: Failed to read header\n");
         return 0;
     }

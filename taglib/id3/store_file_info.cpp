@@ -56,21 +56,22 @@ void start_new_tag(_id3_file_desc_t* descriptor) {
     descriptor->header_flags = id3_header_flag::footer;
 }
 
-/** Loads the tag to rewrite, or starts a new one, and returns where it is to be written; negative when the
-   file's length can't be found out. */
-std::int64_t find_write_position(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor) {
+/** Loads the tag to rewrite, or starts a new one. The reading's offset is where it is to be written; negative
+   when the file's length can't be found out. */
+Id3TagReading find_write_position(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor) {
     const std::int64_t length = fio_lseek(file, 0, SEEK_END);
     fio_lseek(file, 0, SEEK_SET);
-    std::int64_t position = id3_load_descriptor_v2(file, descriptor, true);
-    if (position < 0 && length >= 1 && length < first_large_length) {
-        position = id3_load_descriptor_v2(file, descriptor, false);
+    Id3TagReading reading = id3_read_tag(file, descriptor, true);
+    if (reading.offset < 0 && !reading.failed && length >= 1 && length < first_large_length) {
+        reading = id3_read_tag(file, descriptor, false);
     }
-    if (position >= 0) {
-        return position;
+    if (reading.offset >= 0 || reading.failed) {
+        return reading;
     }
     start_new_tag(descriptor);
-    position = id3_is_present_v1(file);
-    return position >= 0 ? position : length;
+    const std::int64_t v1_position = id3_is_present_v1(file);
+    reading.offset = v1_position >= 0 ? v1_position : length;
+    return reading;
 }
 
 bool store_in_place(Id3File& media, std::int64_t position, _id3_file_desc_t* descriptor) {
@@ -151,7 +152,11 @@ int id3_store_file_info(const char* path, _file_info_t* info) {
         return 0;
     }
     Id3Descriptor descriptor;
-    const std::int64_t position = find_write_position(media.handle(), &descriptor.tag);
+    const auto [position, failed] = find_write_position(media.handle(), &descriptor.tag);
+    if (failed) { // what was not read would be lost
+        DebugError("id3_store_file_info: couldn't read old descriptor\n");
+        return 0;
+    }
     if (!id3_store_fields(&descriptor.tag, info)) {
         return 0;
     }

@@ -6,9 +6,12 @@ namespace velmora {
 
 /** Writes the fields of INFO whose flag bits are set into the ID3v2 tag of the file PATH (made when missing)
    and keeps all other frames. A field without a value (null or empty text, year 0, no image, time 0) removes
-   its first frame. Every flag bit that has a frame is cleared, whatever comes of it; success sets
-   tag_present. INFO only lends its strings and image. Returns 1, or 0 with the reason logged (but for a lack
-   of memory).
+   its first frame. Once the file is read, every flag bit that has a frame is cleared, whatever comes of it;
+   success sets tag_present. INFO only lends its strings and image. Returns 1, or 0 with the reason logged
+   (but for a lack of memory for a field).
+
+    A file that can't be read as far as its tag goes is left as it is: what was not read would be lost. A tag
+   that ends with the file, or holds an invalid frame, keeps the frames in front of that place.
 
     Where the tag goes:
     - A tag with a footer at the file's end, behind media, is rewritten at its place. The file never gets

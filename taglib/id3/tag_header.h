@@ -2,6 +2,7 @@
 
 #include "../fio.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -31,10 +32,19 @@ struct Id3FrameHeader {
 };
 static_assert(sizeof(Id3FrameHeader) == 10);
 
-/** Reads the header at OFFSET. False when the file does not hold all of it. */
-[[nodiscard]] bool id3_read_tag_header(FIOFUNCSTRUCT* file, std::int64_t offset, Id3TagHeader* header);
-/** Reads the file's last ten bytes as a footer and returns where they begin, or -1. */
-[[nodiscard]] std::int64_t id3_read_tag_footer(FIOFUNCSTRUCT* file, Id3TagHeader* footer);
+/** What a read gave. */
+enum class Id3Read {
+    whole,
+    cut,    ///< the file ends first
+    failed, ///< nobody knows what is there: a call failed, or gave fewer bytes than the file has
+};
+
+/** Reads SIZE bytes at the current position, which is undefined afterwards unless they were read whole. */
+[[nodiscard]] Id3Read id3_read_bytes(FIOFUNCSTRUCT* file, void* bytes, std::size_t size);
+/** Reads the header at OFFSET. */
+[[nodiscard]] Id3Read id3_read_tag_header(FIOFUNCSTRUCT* file, std::int64_t offset, Id3TagHeader* header);
+/** Reads the file's last ten bytes as a footer and stores in OFFSET where they begin. */
+[[nodiscard]] Id3Read id3_read_tag_footer(FIOFUNCSTRUCT* file, Id3TagHeader* footer, std::int64_t* offset);
 /** Where the header of the tag that ends with FOOTER at FOOTER_OFFSET lies; negative when that is in front of
    the file. */
 [[nodiscard]] std::int64_t id3_header_offset(const Id3TagHeader& footer, std::int64_t footer_offset);
