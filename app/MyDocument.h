@@ -15,6 +15,8 @@ class MyDocument;
 
 namespace velmora {
 
+class MediaList;
+class TagForm;
 class TagWebBrowser;
 class VelmoraController;
 
@@ -67,10 +69,10 @@ public:
 
     [[nodiscard]] DocumentWindow* window() const { return window_.get(); }
     [[nodiscard]] VelmoraController* controller() const { return controller_.get(); }
-    [[nodiscard]] TagWebBrowser* webBrowser() const { return webBrowser_.get(); }
+    [[nodiscard]] TagWebBrowser* webBrowser() const { return webBrowser_; }
 
 private:
-    void connectController();
+    void makeForms();
     void connectCommands();
     void makeRoomForWebPage();
 
@@ -79,7 +81,10 @@ private:
     QEventLoop* questionLoop_ = nullptr; ///< runs while the question is on the screen
     std::unique_ptr<Ui::MyDocument> ui_;
     std::unique_ptr<DocumentWindow> window_;
-    std::unique_ptr<TagWebBrowser> webBrowser_;
+    // The window's parts, which belong to the window.
+    MediaList* list_ = nullptr;
+    TagForm* form_ = nullptr;
+    TagWebBrowser* webBrowser_ = nullptr;
     std::unique_ptr<VelmoraController> controller_;
 };
 

@@ -1,61 +1,67 @@
 #include "VelmoraController.h"
 
 #include "media_document.h"
+#include "media_list.h"
+#include "movie_preview.h"
+#include "tag_form.h"
 
 #include "imaging/trim_border.h"
 #include "model/MediaFile.h"
 #include "platform/alert.h"
-#include "platform/busy_indicator.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
 #include "platform/open_panel.h"
 #include "weblookup/TagWebBrowser.h"
-
-#include <QLabel>
-#include <QPushButton>
-#include <QTableView>
+#include "weblookup/form_fill_info.h"
 
 namespace velmora {
 
-VelmoraController::VelmoraController(const VelmoraOutlets& outlets, MediaDocument& document, QObject* parent)
-    : QObject(parent), outlets_(outlets), document_(document),
-      table_(*outlets.tbl_mediaFiles, document,
-             {.clearUI = [this] { clearUI(); },
-              .fillUI = [this] { fillUI(); },
-              .showError =
-                  [this](const Error& error) { presentErrorSheet(error, document_.windowForSheet()); }}),
-      form_(outlets, document),
-      preview_(*outlets.view_preview, *outlets.lbl_previewFailed, *outlets.btn_captureFrame) {
-    outlets_.img_coverArt->setController(this);
-    connect(&form_, &TagForm::searchTextChanged, outlets_.twb_browser, &TagWebBrowser::setSearchField);
+VelmoraController::VelmoraController(MediaList& list, TagForm& form, TagWebBrowser& browser,
+                                     MediaDocument& document, QObject* parent)
+    : QObject(parent), list_(list), form_(form), document_(document) {
     connectSearch();
-    connectButtons();
+    connectList();
+    connectForm();
+    connect(&form_, &TagForm::searchTextChanged, &browser, &TagWebBrowser::setSearchField);
+    connect(&browser, &TagWebBrowser::formFillInfoReady, this, &VelmoraController::fillFields);
 }
 
 void VelmoraController::connectSearch() {
-    connect(&search_, &MediaSearch::progressAnimationChanged, this, [this](bool animating) {
-        animating ? outlets_.progress_mediaSearch->startAnimation()
-                  : outlets_.progress_mediaSearch->stopAnimation();
-    });
-    connect(&search_, &MediaSearch::stopEnabledChanged, outlets_.btn_stop, &QWidget::setEnabled);
-    connect(&search_, &MediaSearch::scanStatusChanged, outlets_.lbl_scanStatus, &QLabel::setText);
+    connect(&search_, &MediaSearch::progressAnimationChanged, &list_, &MediaList::setSearchAnimated);
+    connect(&search_, &MediaSearch::stopEnabledChanged, &list_, &MediaList::setStopEnabled);
+    connect(&search_, &MediaSearch::scanStatusChanged, &list_, &MediaList::setScanStatus);
     connect(&search_, &MediaSearch::fileFound, this, &VelmoraController::addMediaFile);
 }
 
-void VelmoraController::connectButtons() {
-    const auto onClick = [this](QPushButton* button, void (VelmoraController::*action)()) {
-        connect(button, &QPushButton::clicked, this, action);
-    };
-    onClick(outlets_.btn_stop, &VelmoraController::stopScan);
-    onClick(outlets_.btn_addFile, &VelmoraController::addFile);
-    onClick(outlets_.btn_addFolder, &VelmoraController::addFolder);
-    onClick(outlets_.btn_saveTag, &VelmoraController::saveTag);
-    onClick(outlets_.btn_revertTag, &VelmoraController::revertToSaved);
-    onClick(outlets_.btn_removeTag, &VelmoraController::removeTag);
-    onClick(outlets_.btn_loadCoverArt, &VelmoraController::loadCoverArt);
-    onClick(outlets_.btn_captureFrame, &VelmoraController::grabFrame);
-    onClick(outlets_.btn_trimBorder, &VelmoraController::trimBorder);
+void VelmoraController::connectList() {
+    connect(&list_, &MediaList::addFileClicked, this, &VelmoraController::addFile);
+    connect(&list_, &MediaList::addFolderClicked, this, &VelmoraController::addFolder);
+    connect(&list_, &MediaList::stopClicked, this, &VelmoraController::stopScan);
+    connect(&list_, &MediaList::formToBeCleared, this, &VelmoraController::clearUI);
+    connect(&list_, &MediaList::formToBeFilled, this, &VelmoraController::fillUI);
+    connect(&list_, &MediaList::openFailed, this, &VelmoraController::showOpenError);
+}
+
+void VelmoraController::connectForm() {
+    connect(&form_, &TagForm::saveClicked, this, &VelmoraController::saveTag);
+    connect(&form_, &TagForm::revertClicked, this, &VelmoraController::revertToSaved);
+    connect(&form_, &TagForm::removeClicked, this, &VelmoraController::removeTag);
+    connect(&form_, &TagForm::loadCoverArtClicked, this, &VelmoraController::loadCoverArt);
+    connect(&form_, &TagForm::trimBorderClicked, this, &VelmoraController::trimBorder);
+    connect(&form_.preview(), &MoviePreview::captureFrameClicked, this, &VelmoraController::grabFrame);
+}
+
+MediaTable& VelmoraController::table() {
+    return list_.table();
+}
+
+void VelmoraController::showOpenError(const Error& error) {
+    presentErrorSheet(error, document_.windowForSheet());
+}
+
+void VelmoraController::fillFields(const FormFillInfo* info) {
+    form_.fillFields(info);
 }
 
 void VelmoraController::awakeFromNib() {
@@ -69,22 +75,22 @@ void VelmoraController::awakeFromNib() {
 
 void VelmoraController::clearUI() {
     form_.clearFields();
-    preview_.removeMovie();
+    form_.preview().removeMovie();
     form_.clearCoverArt();
-    preview_.reset();
+    form_.preview().reset();
     form_.disableButtons();
 }
 
 void VelmoraController::fillUI() {
     if (const MediaFile* file = document_.mediaFile()) {
-        form_.show(*file);
-        preview_.show(file->filename());
+        form_.showFile(*file);
+        form_.preview().showMovie(file->filename());
         form_.enableFileButtons();
     }
 }
 
 bool VelmoraController::addMediaFile(const QString& path) {
-    return table_.addMediaFile(path);
+    return table().addMediaFile(path);
 }
 
 void VelmoraController::saveTag() {
@@ -101,9 +107,9 @@ void VelmoraController::revertToSaved() {
     if (!document_.mediaFile()) {
         return;
     }
-    table_.forgetSelectedRow();
+    table().forgetSelectedRow();
     document_.updateChangeCount(Document::ChangeType::Cleared);
-    table_.tableViewSelectionDidChange();
+    table().tableViewSelectionDidChange();
 }
 
 void VelmoraController::removeTag() {
@@ -155,36 +161,30 @@ void VelmoraController::loadCoverArtSelected(int returnCode, const QStringList& 
     }
     const QImage image = imageFromFile(paths.first());
     if (!image.isNull()) {
-        outlets_.img_coverArt->setImage(image);
-        coverArtImageChanged(this);
+        form_.changeCoverArt(image);
     }
 }
 
 void VelmoraController::grabFrame() {
-    MediaFile* const file = document_.mediaFile();
-    if (!file || !preview_.holdsMovie()) {
+    if (!document_.mediaFile() || !form_.preview().holdsMovie()) {
         return;
     }
-    const QImage frame = preview_.currentFrame();
+    const QImage frame = form_.preview().currentFrame();
     if (frame.isNull()) {
         appLog(QStringLiteral("failed to get frame from movie\n"));
         return;
     }
-    const QImage image = frameForCoverArt(frame);
-    file->setCoverArt(ImageRef::fromQImage(image));
-    outlets_.img_coverArt->setImage(image);
-    form_.markChange();
-    outlets_.btn_trimBorder->setEnabled(true);
+    form_.changeCoverArt(frameForCoverArt(frame));
+    form_.allowTrimming();
 }
 
 void VelmoraController::trimBorder() {
-    const QImage cover = outlets_.img_coverArt->image();
+    const QImage cover = form_.coverArt();
     if (!document_.mediaFile() || cover.isNull()) {
         return;
     }
     if (const auto trimmed = trim_border(cover)) {
-        outlets_.img_coverArt->setImage(*trimmed);
-        coverArtImageChanged(this);
+        form_.changeCoverArt(*trimmed);
         form_.markChange();
     }
 }

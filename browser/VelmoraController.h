@@ -1,48 +1,28 @@
 #pragma once
 
 #include "media_search.h"
-#include "media_table.h"
-#include "movie_preview.h"
-#include "tag_form.h"
 
-#include "imaging/CoverArtView.h"
-#include "weblookup/form_fill_receiver.h"
+#include "platform/error.h"
 
 #include <QObject>
 
-class QLabel;
-class QPushButton;
-class QTableView;
-
 namespace velmora {
 
-class BusyIndicator;
 class MediaDocument;
-class MovieView;
+class MediaList;
+class MediaTable;
+class TagForm;
 class TagWebBrowser;
-
-/** The window's controls that the controller works with, made by the window layout. All of them must be set
-   and outlive the controller. */
-struct VelmoraOutlets : TagFormOutlets {
-    QPushButton* btn_captureFrame = nullptr;
-    QPushButton* btn_addFile = nullptr;
-    QPushButton* btn_addFolder = nullptr;
-    QPushButton* btn_stop = nullptr;
-    BusyIndicator* progress_mediaSearch = nullptr;
-    QLabel* lbl_scanStatus = nullptr;
-    QTableView* tbl_mediaFiles = nullptr;
-    MovieView* view_preview = nullptr;
-    QLabel* lbl_previewFailed = nullptr;
-    TagWebBrowser* twb_browser = nullptr;
-};
+struct FormFillInfo;
 
 /** The browser window's controller: it joins the media search, the media table, the tag editor form, the
-   preview and the web lookup to the window's controls, and carries out the buttons' actions. */
-class VelmoraController : public QObject, public FormFillReceiver, public CoverArtReceiver {
+   preview and the web lookup to each other, and carries out the buttons' actions. */
+class VelmoraController : public QObject {
     Q_OBJECT
 public:
-    /** DOCUMENT outlives the controller. */
-    VelmoraController(const VelmoraOutlets& outlets, MediaDocument& document, QObject* parent = nullptr);
+    /** The forms and DOCUMENT outlive the controller. */
+    VelmoraController(MediaList& list, TagForm& form, TagWebBrowser& browser, MediaDocument& document,
+                      QObject* parent = nullptr);
 
     /** The window is loaded: queues the home folder's Movies, Music and Pictures and starts the search. */
     void awakeFromNib();
@@ -79,23 +59,23 @@ public:
     void clearUI();
     void fillUI();
 
-    void fillFields(const FormFillInfo* info) override { form_.fillFields(info); }
-    void coverArtImageChanged(QObject* sender) override { form_.coverArtImageChanged(sender); }
+    /** Shows the result of a web lookup. Null changes nothing. */
+    void fillFields(const FormFillInfo* info);
 
     [[nodiscard]] TagForm& form() { return form_; }
-    [[nodiscard]] MediaTable& table() { return table_; }
+    [[nodiscard]] MediaTable& table();
     [[nodiscard]] MediaSearch& search() { return search_; }
 
 private:
     void connectSearch();
-    void connectButtons();
+    void connectList();
+    void connectForm();
+    void showOpenError(const Error& error);
 
-    VelmoraOutlets outlets_;
+    MediaList& list_;
+    TagForm& form_;
     MediaDocument& document_;
     MediaSearch search_;
-    MediaTable table_;
-    TagForm form_;
-    MoviePreview preview_;
 };
 
 } // namespace velmora

@@ -1,11 +1,9 @@
 #include "movie_preview.h"
 
 #include "platform/log.h"
-#include "platform/movie/movie_view.h"
+#include "ui_movie_preview.h"
 
 #include <QEvent>
-#include <QLabel>
-#include <QPushButton>
 #include <QTimer>
 
 namespace velmora {
@@ -19,19 +17,22 @@ QImage frameForCoverArt(QImage frame) {
     return frame;
 }
 
-MoviePreview::MoviePreview(MovieView& view, QLabel& failedLabel, QPushButton& captureButton, QObject* parent)
-    : QObject(parent), view_(view), failedLabel_(failedLabel), captureButton_(captureButton) {
-    view_.installEventFilter(this);
+MoviePreview::MoviePreview(QWidget* parent) : QGroupBox(parent), ui_(std::make_unique<Ui::MoviePreview>()) {
+    ui_->setupUi(this);
+    ui_->view_preview->installEventFilter(this);
+    connect(ui_->btn_captureFrame, &QPushButton::clicked, this, &MoviePreview::captureFrameClicked);
 }
+
+MoviePreview::~MoviePreview() = default;
 
 bool MoviePreview::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Paint) {
         // The multimedia component takes longer to load than all the rest of a start: the window is shown
         // first.
-        view_.removeEventFilter(this);
+        ui_->view_preview->removeEventFilter(this);
         QTimer::singleShot(0, this, &MoviePreview::makeMovie);
     }
-    return QObject::eventFilter(watched, event);
+    return QGroupBox::eventFilter(watched, event);
 }
 
 void MoviePreview::makeMovie() {
@@ -46,36 +47,36 @@ void MoviePreview::removeMovie() {
     if (movie_) {
         movie_->close();
     }
-    view_.setMovie(nullptr);
+    ui_->view_preview->setMovie(nullptr);
 }
 
 void MoviePreview::reset() {
-    failedLabel_.hide();
-    captureButton_.setEnabled(false);
+    ui_->lbl_previewFailed->hide();
+    ui_->btn_captureFrame->setEnabled(false);
 }
 
-void MoviePreview::show(const QString& path) {
+void MoviePreview::showMovie(const QString& path) {
     appLog(QStringLiteral("attempting to create movie from file '") + path + QStringLiteral("'\n"));
     makeMovie();
     movie_->open(path);
 }
 
 bool MoviePreview::holdsMovie() const {
-    return view_.movie() != nullptr;
+    return ui_->view_preview->movie() != nullptr;
 }
 
 QImage MoviePreview::currentFrame() const {
-    return view_.movie() ? view_.movie()->currentFrame() : QImage();
+    return ui_->view_preview->movie() ? ui_->view_preview->movie()->currentFrame() : QImage();
 }
 
 void MoviePreview::movieOpened(bool hasVideo) {
     appLog(QStringLiteral("got movie\n"));
-    captureButton_.setEnabled(hasVideo);
-    view_.setMovie(movie_.get());
+    ui_->btn_captureFrame->setEnabled(hasVideo);
+    ui_->view_preview->setMovie(movie_.get());
 }
 
 void MoviePreview::movieFailed() {
-    failedLabel_.show();
+    ui_->lbl_previewFailed->show();
 }
 
 } // namespace velmora

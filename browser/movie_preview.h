@@ -2,17 +2,16 @@
 
 #include "platform/movie/movie.h"
 
+#include <QGroupBox>
 #include <QImage>
-#include <QObject>
 
 #include <memory>
 
-class QLabel;
-class QPushButton;
+namespace Ui {
+class MoviePreview;
+}
 
 namespace velmora {
-
-class MovieView;
 
 /** Longer side of a frame taken as cover art, in points. */
 inline constexpr float coverArtFrameSide = 160;
@@ -22,11 +21,11 @@ inline constexpr float coverArtFrameSide = 160;
 
 /** The form's preview: shows the open file as a movie, a while after the form was filled, or says that it
  * can't. */
-class MoviePreview : public QObject {
+class MoviePreview : public QGroupBox {
     Q_OBJECT
 public:
-    /** The controls outlive this object. */
-    MoviePreview(MovieView& view, QLabel& failedLabel, QPushButton& captureButton, QObject* parent = nullptr);
+    explicit MoviePreview(QWidget* parent = nullptr);
+    ~MoviePreview() override;
 
     /** Lets the movie go. */
     void removeMovie();
@@ -34,7 +33,7 @@ public:
     void reset();
     /** Opens the file at PATH; the view, the label and the button follow when it is known what the file is.
      */
-    void show(const QString& path);
+    void showMovie(const QString& path);
 
     /** Whether the view holds a movie. */
     [[nodiscard]] bool holdsMovie() const;
@@ -43,14 +42,16 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+signals:
+    /** The button that takes the frame shown. */
+    void captureFrameClicked();
+
 private:
     void makeMovie();
     void movieOpened(bool hasVideo);
     void movieFailed();
 
-    MovieView& view_;
-    QLabel& failedLabel_;
-    QPushButton& captureButton_;
+    std::unique_ptr<Ui::MoviePreview> ui_;
     std::unique_ptr<Movie> movie_; ///< made once the view has been painted, or earlier when a file is opened
 };
 

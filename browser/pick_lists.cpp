@@ -62,15 +62,4 @@ QStringList ratingTitles() {
             QStringLiteral("R"), QStringLiteral("NC-17"), QStringLiteral("NR")};
 }
 
-int ComboBoxModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : source_.numberOfItemsInComboBox();
-}
-
-QVariant ComboBoxModel::data(const QModelIndex& index, int role) const {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) {
-        return {};
-    }
-    return source_.comboBoxObjectValueForItemAtIndex(index.row());
-}
-
 } // namespace velmora

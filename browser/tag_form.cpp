@@ -1,8 +1,9 @@
 #include "tag_form.h"
 
 #include "media_document.h"
+#include "pick_lists.h"
+#include "ui_tag_form.h"
 
-#include "imaging/CoverArtView.h"
 #include "model/MediaFile.h"
 #include "model/media_type.h"
 #include "platform/file_path.h"
@@ -10,13 +11,9 @@
 #include "platform/log.h"
 #include "weblookup/form_fill_info.h"
 
-#include <QComboBox>
-#include <QDateTimeEdit>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QSignalBlocker>
+#include <QStringListModel>
 
 #include <limits>
 
@@ -44,22 +41,32 @@ public:
 
 } // namespace
 
-TagForm::TagForm(const TagFormOutlets& outlets, MediaDocument& document, QObject* parent)
-    : QObject(parent), outlets_(outlets), document_(document), genres_(localisedGenres()) {
-    setUpControls();
+TagForm::TagForm(MediaDocument& document, QWidget* parent)
+    : QWidget(parent), ui_(std::make_unique<Ui::TagForm>()), document_(document), genres_(localisedGenres()) {
+    ui_->setupUi(this);
+    setUpRating();
+    setUpGenre();
+    setUpFields();
+    connectButtons();
+    auto* wheelFilter = new WheelNeedsFocus(this);
+    wheelFilter->watch(*ui_->combo_rating);
+    wheelFilter->watch(*ui_->combo_genre);
 }
 
-void TagForm::setUpControls() {
-    QComboBox* const rating = outlets_.combo_rating;
+TagForm::~TagForm() = default;
+
+void TagForm::setUpRating() {
+    QComboBox* const rating = ui_->combo_rating;
     rating->clear();
     rating->addItems(ratingTitles());
     connect(rating, &QComboBox::activated, this,
             [this, rating](int index) { ratingMenuItemChanged(rating->itemText(index)); });
+}
 
-    QComboBox* const genre = outlets_.combo_genre;
-    genre->setEditable(true);
+void TagForm::setUpGenre() {
+    QComboBox* const genre = ui_->combo_genre;
     genre->setInsertPolicy(QComboBox::NoInsert);
-    genre->setModel(new ComboBoxModel(*this, this));
+    genre->setModel(new QStringListModel(genres_, this));
     genre->setCompleter(nullptr); // it would rewrite "drama" to "Drama" behind the person's back
     setGenreText(QString());
     // Leaving the box would pick the item whose name it shows, which is no edit of the person's.
@@ -67,18 +74,27 @@ void TagForm::setUpControls() {
     genre->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
     connect(genre->lineEdit(), &QLineEdit::textEdited, this, [this, genre] { controlTextDidChange(genre); });
     connect(genre, &QComboBox::textActivated, this, [this, genre] { controlTextDidChange(genre); });
+}
 
-    for (QLineEdit* field :
-         {outlets_.entry_title, outlets_.entry_artist, outlets_.entry_album, outlets_.entry_year}) {
+void TagForm::setUpFields() {
+    for (QLineEdit* field : {ui_->entry_title, ui_->entry_artist, ui_->entry_album, ui_->entry_year}) {
         field->setMaxLength(std::numeric_limits<int>::max());
         connect(field, &QLineEdit::textEdited, this, [this, field] { controlTextDidChange(field); });
     }
-    connect(outlets_.entry_desc, &QPlainTextEdit::textChanged, this,
-            [this] { textDidChange(outlets_.entry_desc); });
+    connect(ui_->entry_desc, &QPlainTextEdit::textChanged, this, [this] { textDidChange(ui_->entry_desc); });
+    connect(ui_->img_coverArt, &CoverArtView::coverArtImageChanged, this, &TagForm::coverArtImageChanged);
+}
 
-    auto* wheelFilter = new WheelNeedsFocus(this);
-    wheelFilter->watch(*rating);
-    wheelFilter->watch(*genre);
+void TagForm::connectButtons() {
+    connect(ui_->btn_saveTag, &QPushButton::clicked, this, &TagForm::saveClicked);
+    connect(ui_->btn_revertTag, &QPushButton::clicked, this, &TagForm::revertClicked);
+    connect(ui_->btn_removeTag, &QPushButton::clicked, this, &TagForm::removeClicked);
+    connect(ui_->btn_loadCoverArt, &QPushButton::clicked, this, &TagForm::loadCoverArtClicked);
+    connect(ui_->btn_trimBorder, &QPushButton::clicked, this, &TagForm::trimBorderClicked);
+}
+
+MoviePreview& TagForm::preview() {
+    return *ui_->box_preview;
 }
 
 MediaFile* TagForm::file() const {
@@ -95,71 +111,71 @@ QString TagForm::comboBoxObjectValueForItemAtIndex(int index) const {
 
 /** Also picks the genre's item, so that the arrow keys start from there. */
 void TagForm::setGenreText(const QString& text) {
-    outlets_.combo_genre->setCurrentIndex(outlets_.combo_genre->findText(text));
-    outlets_.combo_genre->setEditText(text);
+    ui_->combo_genre->setCurrentIndex(ui_->combo_genre->findText(text));
+    ui_->combo_genre->setEditText(text);
 }
 
 void TagForm::setSynopsisText(const QString& text) {
-    const QSignalBlocker blocker(outlets_.entry_desc);
-    outlets_.entry_desc->setPlainText(text);
+    const QSignalBlocker blocker(ui_->entry_desc);
+    ui_->entry_desc->setPlainText(text);
 }
 
 void TagForm::clearFields() {
     const QString none;
-    outlets_.entry_title->setText(none);
-    outlets_.entry_artist->setText(none);
-    outlets_.entry_album->setText(none);
+    ui_->entry_title->setText(none);
+    ui_->entry_artist->setText(none);
+    ui_->entry_album->setText(none);
     setGenreText(none);
-    outlets_.entry_year->setText(none);
-    outlets_.combo_rating->setCurrentIndex(0);
+    ui_->entry_year->setText(none);
+    ui_->combo_rating->setCurrentIndex(0);
     setSynopsisText(none);
 }
 
 void TagForm::clearCoverArt() {
-    outlets_.img_coverArt->setImage(QImage());
+    ui_->img_coverArt->setImage(QImage());
 }
 
 void TagForm::disableButtons() {
-    outlets_.btn_trimBorder->setEnabled(false);
-    outlets_.btn_loadCoverArt->setEnabled(false);
-    outlets_.btn_removeTag->setEnabled(false);
+    ui_->btn_trimBorder->setEnabled(false);
+    ui_->btn_loadCoverArt->setEnabled(false);
+    ui_->btn_removeTag->setEnabled(false);
     disableSaveAndRevert();
 }
 
-void TagForm::show(const MediaFile& media) {
+void TagForm::showFile(const MediaFile& media) {
     showCaptions(media);
-    outlets_.entry_title->setText(media.title());
+    ui_->entry_title->setText(media.title());
     emit searchTextChanged(media.title().isEmpty() ? pathWithoutExtension(lastPathComponent(media.filename()))
                                                    : media.title());
     setGenreText(media.genre());
     if (media.year() != 0) {
-        outlets_.entry_year->setText(QString::number(media.year()));
+        ui_->entry_year->setText(QString::number(media.year()));
     }
-    outlets_.picker_dateTime->setDateTime(media.dateTime());
+    ui_->picker_dateTime->setDateTime(media.dateTime());
     setSynopsisText(media.synopsis());
     showCoverArt(media);
 }
 
 void TagForm::enableFileButtons() {
-    outlets_.btn_removeTag->setEnabled(true);
-    outlets_.btn_loadCoverArt->setEnabled(true);
+    ui_->btn_removeTag->setEnabled(true);
+    ui_->btn_loadCoverArt->setEnabled(true);
 }
 
 /** Images and other files keep the captions of the file before them, and the two fields empty. */
 void TagForm::showCaptions(const MediaFile& media) {
     if (media.mediaType() == audioMedia) {
-        outlets_.lbl_artist->setText(localised("Artist:"));
-        outlets_.lbl_album->setText(localised("Album:"));
-        outlets_.entry_artist->setText(media.artist());
-        outlets_.entry_album->setText(media.album());
-        outlets_.combo_rating->setEnabled(false);
+        ui_->lbl_artist->setText(localised("Artist:"));
+        ui_->lbl_album->setText(localised("Album:"));
+        ui_->entry_artist->setText(media.artist());
+        ui_->entry_album->setText(media.album());
+        ui_->combo_rating->setEnabled(false);
     } else if (media.mediaType() == videoMedia) {
-        outlets_.lbl_artist->setText(localised("Cast:"));
-        outlets_.lbl_album->setText(localised("Director:"));
-        outlets_.entry_artist->setText(media.cast());
-        outlets_.entry_album->setText(media.director());
-        outlets_.combo_rating->setEnabled(true);
-        outlets_.combo_rating->setCurrentIndex(outlets_.combo_rating->findText(media.rating()));
+        ui_->lbl_artist->setText(localised("Cast:"));
+        ui_->lbl_album->setText(localised("Director:"));
+        ui_->entry_artist->setText(media.cast());
+        ui_->entry_album->setText(media.director());
+        ui_->combo_rating->setEnabled(true);
+        ui_->combo_rating->setCurrentIndex(ui_->combo_rating->findText(media.rating()));
     }
 }
 
@@ -168,13 +184,12 @@ void TagForm::showCoverArt(const MediaFile& media) {
     if (!media.coverArt()) {
         image = imageFromFile(pathFolder(media.filename()) + QStringLiteral("/folder.jpg"));
         if (!image.isNull()) {
-            outlets_.img_coverArt->setImage(image);
-            coverArtImageChanged(this);
+            changeCoverArt(image);
         }
     } else {
-        outlets_.img_coverArt->setImage(image);
+        ui_->img_coverArt->setImage(image);
     }
-    outlets_.btn_trimBorder->setEnabled(!image.isNull());
+    ui_->btn_trimBorder->setEnabled(!image.isNull());
 }
 
 void TagForm::fillFields(const FormFillInfo* info) {
@@ -184,10 +199,10 @@ void TagForm::fillFields(const FormFillInfo* info) {
     const QString comma = QStringLiteral(", ");
     if (info->title) {
         appLog(QStringLiteral("title=") + *info->title + QLatin1Char('\n'));
-        outlets_.entry_title->setText(*info->title);
+        ui_->entry_title->setText(*info->title);
     }
     if (info->directors) {
-        outlets_.entry_album->setText(nsarray_to_nsstring(*info->directors, comma));
+        ui_->entry_album->setText(nsarray_to_nsstring(*info->directors, comma));
     }
     if (info->description) {
         appLog(QStringLiteral("description=") + *info->description + QLatin1Char('\n'));
@@ -195,30 +210,29 @@ void TagForm::fillFields(const FormFillInfo* info) {
     }
     if (info->year) {
         appLog(QStringLiteral("year=") + *info->year + QLatin1Char('\n'));
-        outlets_.entry_year->setText(*info->year);
+        ui_->entry_year->setText(*info->year);
     }
     if (info->rating) {
         appLog(QStringLiteral("rating=") + *info->rating + QLatin1Char('\n'));
-        const int item = outlets_.combo_rating->findText(*info->rating);
+        const int item = ui_->combo_rating->findText(*info->rating);
         if (item >= 0) {
-            outlets_.combo_rating->setCurrentIndex(item);
-            ratingMenuItemChanged(outlets_.combo_rating->itemText(item));
+            ui_->combo_rating->setCurrentIndex(item);
+            ratingMenuItemChanged(ui_->combo_rating->itemText(item));
         }
     }
     if (info->releaseDate) {
-        outlets_.picker_dateTime->setDateTime(info->releaseDate->startOfDay());
+        ui_->picker_dateTime->setDateTime(info->releaseDate->startOfDay());
     }
     if (info->genres) {
         setGenreText(nsarray_to_nsstring(*info->genres, comma));
     }
     if (info->cast) {
-        outlets_.entry_artist->setText(nsarray_to_nsstring(*info->cast, QStringLiteral("\n")));
+        ui_->entry_artist->setText(nsarray_to_nsstring(*info->cast, QStringLiteral("\n")));
     }
     if (!info->coverArt.isNull()) {
         appLog(QStringLiteral("got cover art\n"));
-        outlets_.img_coverArt->setImage(info->coverArt);
-        outlets_.btn_trimBorder->setEnabled(true);
-        coverArtImageChanged(this);
+        allowTrimming();
+        changeCoverArt(info->coverArt);
     }
 }
 

@@ -1,53 +1,35 @@
 #pragma once
 
-#include "pick_lists.h"
+#include <QStringList>
+#include <QWidget>
 
-#include <QObject>
+#include <memory>
 
-#include <functional>
-
-class QComboBox;
-class QDateTimeEdit;
-class QLabel;
-class QLineEdit;
-class QPlainTextEdit;
-class QPushButton;
+namespace Ui {
+class TagForm;
+}
 
 namespace velmora {
 
-class CoverArtView;
 class MediaDocument;
 class MediaFile;
+class MoviePreview;
 struct FormFillInfo;
 
-/** The form's controls, made by the window layout. All of them must be set and outlive the form. */
-struct TagFormOutlets {
-    QLineEdit* entry_title = nullptr;
-    QLineEdit* entry_artist = nullptr;
-    QLineEdit* entry_album = nullptr;
-    QLineEdit* entry_year = nullptr;
-    QLabel* lbl_artist = nullptr;
-    QLabel* lbl_album = nullptr;
-    QComboBox* combo_genre = nullptr;
-    QComboBox* combo_rating = nullptr;
-    QDateTimeEdit* picker_dateTime = nullptr;
-    QPlainTextEdit* entry_desc = nullptr;
-    CoverArtView* img_coverArt = nullptr;
-    QPushButton* btn_saveTag = nullptr;
-    QPushButton* btn_revertTag = nullptr;
-    QPushButton* btn_removeTag = nullptr;
-    QPushButton* btn_loadCoverArt = nullptr;
-    QPushButton* btn_trimBorder = nullptr;
-};
+/** The tag editor form: what it shows for the open file, and which control edits which of the file's values.
+   Each edit goes into the MediaFile at once and marks the document changed; nothing here writes the file.
+   What the program itself puts into a control is never taken for an edit.
 
-/** The rules of the tag editor form: what it shows for the open file, and which control edits which of the
-   file's values. Each edit goes into the MediaFile at once and marks the document changed; nothing here
-   writes the file. What the program itself puts into a control is never taken for an edit. */
-class TagForm : public QObject, public ComboBoxDataSource {
+   The form owns its controls, the preview among them; whoever carries the buttons out connects the signals.
+ */
+class TagForm : public QWidget {
     Q_OBJECT
 public:
     /** DOCUMENT outlives the form. */
-    TagForm(const TagFormOutlets& outlets, MediaDocument& document, QObject* parent = nullptr);
+    explicit TagForm(MediaDocument& document, QWidget* parent = nullptr);
+    ~TagForm() override;
+
+    [[nodiscard]] MoviePreview& preview();
 
     // Emptying the form: the fields, the cover art, the buttons. The captions, whether the rating can be
     // chosen, and the date stay as they are.
@@ -57,7 +39,7 @@ public:
 
     /** Shows the open file in a form that was cleared before. A file without cover art takes the image
        "folder.jpg" of its folder, which counts as a change. */
-    void show(const MediaFile& media);
+    void showFile(const MediaFile& media);
     /** Lets the open file's tag be removed and its cover art be loaded. */
     void enableFileButtons();
     /** Shows the result of a web lookup. Only the rating and the cover art reach the open file; the other
@@ -70,30 +52,49 @@ public:
     void textDidChange(const QObject* textView);
     /** The rating with this title was chosen, maybe the one that was chosen already. */
     void ratingMenuItemChanged(const QString& title);
-    /** The cover art view shows another image than before. */
-    void coverArtImageChanged(const QObject* sender);
+    /** The open file's cover art was changed to IMAGE; a null one changes nothing. */
+    void coverArtImageChanged(const QImage& image);
+
+    /** The cover art shown; null when there is none. */
+    [[nodiscard]] QImage coverArt() const;
+    /** Shows IMAGE as the open file's new cover art, which counts as a change. */
+    void changeCoverArt(const QImage& image);
+    void allowTrimming();
 
     /** Counts a change of the open file and lets it be saved or reverted. */
     void markChange();
     /** After a save or removal: nothing to save or revert. */
     void disableSaveAndRevert();
 
-    [[nodiscard]] int numberOfItemsInComboBox() const override;
-    [[nodiscard]] QString comboBoxObjectValueForItemAtIndex(int index) const override;
+    /** Presses the revert button, if it can be pressed. */
+    void clickRevert();
+
+    /** The genre box's suggestions, which the program itself gives the box as a whole. */
+    [[nodiscard]] int numberOfItemsInComboBox() const;
+    /** INDEX is below numberOfItemsInComboBox(). */
+    [[nodiscard]] QString comboBoxObjectValueForItemAtIndex(int index) const;
 
 signals:
+    void saveClicked();
+    void revertClicked();
+    void removeClicked();
+    void loadCoverArtClicked();
+    void trimBorderClicked();
     /** The text to look the open file up with has changed. */
     void searchTextChanged(const QString& text);
 
 private:
-    void setUpControls();
+    void setUpRating();
+    void setUpGenre();
+    void setUpFields();
+    void connectButtons();
     void showCaptions(const MediaFile& file);
     void showCoverArt(const MediaFile& file);
     void setGenreText(const QString& text);
     void setSynopsisText(const QString& text);
     [[nodiscard]] MediaFile* file() const;
 
-    TagFormOutlets outlets_;
+    std::unique_ptr<Ui::TagForm> ui_;
     MediaDocument& document_;
     QStringList genres_;
 };

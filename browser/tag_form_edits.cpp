@@ -1,16 +1,11 @@
 #include "tag_form.h"
 
 #include "media_document.h"
+#include "ui_tag_form.h"
 
-#include "imaging/CoverArtView.h"
 #include "model/MediaFile.h"
 #include "model/media_type.h"
 #include "platform/log.h"
-
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
 
 namespace velmora {
 
@@ -60,23 +55,22 @@ void TagForm::controlTextDidChange(const QObject* control) {
     }
     const bool isVideo = media->mediaType() == videoMedia;
     bool changed = false;
-    if (control == outlets_.entry_album) {
+    if (control == ui_->entry_album) {
         changed = store(*media,
                         isVideo ? TextValue{&MediaFile::director, &MediaFile::setDirector}
                                 : TextValue{&MediaFile::album, &MediaFile::setAlbum},
-                        outlets_.entry_album->text());
-    } else if (control == outlets_.entry_artist) {
+                        ui_->entry_album->text());
+    } else if (control == ui_->entry_artist) {
         changed = store(*media,
                         isVideo ? TextValue{&MediaFile::cast, &MediaFile::setCast}
                                 : TextValue{&MediaFile::artist, &MediaFile::setArtist},
-                        outlets_.entry_artist->text());
-    } else if (control == outlets_.entry_title) {
-        changed = store(*media, {&MediaFile::title, &MediaFile::setTitle}, outlets_.entry_title->text());
-    } else if (control == outlets_.combo_genre) {
-        changed =
-            store(*media, {&MediaFile::genre, &MediaFile::setGenre}, outlets_.combo_genre->currentText());
-    } else if (control == outlets_.entry_year) {
-        changed = storeYear(*media, outlets_.entry_year->text());
+                        ui_->entry_artist->text());
+    } else if (control == ui_->entry_title) {
+        changed = store(*media, {&MediaFile::title, &MediaFile::setTitle}, ui_->entry_title->text());
+    } else if (control == ui_->combo_genre) {
+        changed = store(*media, {&MediaFile::genre, &MediaFile::setGenre}, ui_->combo_genre->currentText());
+    } else if (control == ui_->entry_year) {
+        changed = storeYear(*media, ui_->entry_year->text());
     } else {
         appLog(QStringLiteral("WARNING: unhandled control in controlTextDidEndEditing:\n"));
     }
@@ -90,11 +84,11 @@ void TagForm::textDidChange(const QObject* textView) {
     if (!media) {
         return;
     }
-    if (textView == outlets_.entry_desc) {
+    if (textView == ui_->entry_desc) {
         appLog(QStringLiteral("description changed\n"));
         // The raw text, as the plain one has ordinary blanks for no-break spaces. An input method's
         // composition is reported too, but is no part of it.
-        const QString text = withLineFeeds(outlets_.entry_desc->document()->toRawText());
+        const QString text = withLineFeeds(ui_->entry_desc->document()->toRawText());
         if (text == withLineFeeds(media->synopsis())) {
             return;
         }
@@ -110,9 +104,8 @@ void TagForm::ratingMenuItemChanged(const QString& title) {
     }
 }
 
-void TagForm::coverArtImageChanged(const QObject* /*sender*/) {
+void TagForm::coverArtImageChanged(const QImage& image) {
     MediaFile* const media = file();
-    const QImage image = outlets_.img_coverArt->image();
     if (!media || image.isNull()) {
         return;
     }
@@ -120,15 +113,31 @@ void TagForm::coverArtImageChanged(const QObject* /*sender*/) {
     markChange();
 }
 
+QImage TagForm::coverArt() const {
+    return ui_->img_coverArt->image();
+}
+
+void TagForm::changeCoverArt(const QImage& image) {
+    ui_->img_coverArt->changeImage(image);
+}
+
+void TagForm::allowTrimming() {
+    ui_->btn_trimBorder->setEnabled(true);
+}
+
+void TagForm::clickRevert() {
+    ui_->btn_revertTag->click();
+}
+
 void TagForm::markChange() {
     document_.updateChangeCount(Document::ChangeType::Done);
-    outlets_.btn_saveTag->setEnabled(true);
-    outlets_.btn_revertTag->setEnabled(true);
+    ui_->btn_saveTag->setEnabled(true);
+    ui_->btn_revertTag->setEnabled(true);
 }
 
 void TagForm::disableSaveAndRevert() {
-    outlets_.btn_saveTag->setEnabled(false);
-    outlets_.btn_revertTag->setEnabled(false);
+    ui_->btn_saveTag->setEnabled(false);
+    ui_->btn_revertTag->setEnabled(false);
 }
 
 } // namespace velmora

@@ -68,6 +68,11 @@ void CoverArtView::setImage(const QImage& image) {
     emit imageChanged();
 }
 
+void CoverArtView::changeImage(const QImage& image) {
+    setImage(image);
+    emit coverArtImageChanged(image);
+}
+
 void CoverArtView::setFocusRingType(FocusRingType type) {
     focusRingType_ = type;
     update();
@@ -164,9 +169,7 @@ void CoverArtView::concludeDragOperation(const QMimeData& dragged) {
         setImage(dropped);
     }
     setFocusRingType(FocusRingType::None);
-    if (controller_) {
-        controller_->coverArtImageChanged(this);
-    }
+    emit coverArtImageChanged(image_);
 }
 
 void CoverArtView::dragEnterEvent(QDragEnterEvent* event) {

@@ -9,21 +9,13 @@ class QMimeData;
 
 namespace velmora {
 
-/** Who is told that a drop has changed the cover art: the window's controller. */
-class CoverArtReceiver {
-public:
-    virtual ~CoverArtReceiver() = default;
-    /** SENDER is the view, whose image may be unchanged or missing. */
-    virtual void coverArtImageChanged(QObject* sender) = 0;
-};
-
 /** The well that shows the cover art, takes images dropped on it, and cuts, copies and pastes them.
  *
  *  The image's device pixel ratio gives its nominal size. The view shows the image at that size, or smaller
  * where the view is smaller, its proportions kept.
  *
- *  A drop tells the controller, once, whether or not it held an image. Cut and paste change what the view
- * shows and nothing else. */
+ *  A drop changes the file's cover art, and says so once, whether or not it held an image. Cut and paste
+ * change what the view shows and nothing else. */
 class CoverArtView : public QFrame {
     Q_OBJECT
     Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged)
@@ -38,15 +30,13 @@ public:
 
     /** The image shown; null when there is none. */
     [[nodiscard]] QImage image() const { return image_; }
-    /** Shows IMAGE; a null one empties the view. The controller is not told. */
+    /** Shows IMAGE; a null one empties the view. */
     void setImage(const QImage& image);
+    /** Shows IMAGE as the file's new cover art. */
+    void changeImage(const QImage& image);
 
     [[nodiscard]] FocusRingType focusRingType() const { return focusRingType_; }
     void setFocusRingType(FocusRingType type);
-
-    /** The outlet: told of drops. Not owned; null (the default) tells nobody. */
-    void setController(CoverArtReceiver* controller) { controller_ = controller; }
-    [[nodiscard]] CoverArtReceiver* controller() const { return controller_; }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -61,6 +51,9 @@ public slots:
 signals:
     /** The view shows another image, or none, whoever changed it. */
     void imageChanged();
+    /** The file's cover art is to be IMAGE, which the view shows: the one that was dropped, or that
+       changeImage got. After a drop without an image it is the one from before, or null. */
+    void coverArtImageChanged(const QImage& image);
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -87,7 +80,6 @@ private:
     QImage image_;
     QPixmap scaled_; ///< image_ as it was last drawn
     FocusRingType focusRingType_ = FocusRingType::None;
-    CoverArtReceiver* controller_ = nullptr;
     QAction* cutAction_ = nullptr;
     QAction* copyAction_ = nullptr;
     QAction* pasteAction_ = nullptr;

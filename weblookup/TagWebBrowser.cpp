@@ -1,72 +1,58 @@
 #include "TagWebBrowser.h"
 
 #include "FormFill.h"
-#include "form_fill_receiver.h"
 #include "platform/log.h"
 #include "platform/web/image_fetch.h"
+#include "ui_TagWebBrowser.h"
+
+#include <QPointer>
 
 namespace velmora {
 
-namespace {
-
-void setEnabled(QAbstractButton* button, bool enabled) {
-    if (button != nullptr) {
-        button->setEnabled(enabled);
-    }
+TagWebBrowser::TagWebBrowser(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::TagWebBrowser>()) {
+    ui_->setupUi(this);
+    connectControls();
+    awakeFromNib();
 }
 
-} // namespace
+TagWebBrowser::~TagWebBrowser() = default;
+
+void TagWebBrowser::connectControls() {
+    WebView* const view = ui_->webview_search;
+    connect(ui_->btn_search, &QPushButton::clicked, this, &TagWebBrowser::search);
+    connect(ui_->entry_search, &QLineEdit::returnPressed, this, &TagWebBrowser::search);
+    connect(ui_->btn_formFill, &QPushButton::clicked, this, &TagWebBrowser::formFill);
+    connect(ui_->btn_searchBack, &QPushButton::clicked, view, &WebView::goBack);
+    connect(view, &WebView::didStartProvisionalLoad, this,
+            &TagWebBrowser::webViewDidStartProvisionalLoadForFrame);
+    connect(view, &WebView::didFinishLoad, this, &TagWebBrowser::webViewDidFinishLoadForFrame);
+    connect(view, &WebView::didFailLoad, this, &TagWebBrowser::webViewDidFailLoadWithError);
+}
 
 void TagWebBrowser::awakeFromNib() {
-    if (combo_search != nullptr) {
-        combo_search->clear();
-        for (const QString& name : siteNames()) {
-            combo_search->addItem(name);
-        }
+    ui_->combo_search->clear();
+    for (const QString& name : siteNames()) {
+        ui_->combo_search->addItem(name);
     }
-    if (btn_search != nullptr) {
-        connect(btn_search, &QAbstractButton::clicked, this, &TagWebBrowser::search, Qt::UniqueConnection);
-    }
-    if (entry_search != nullptr) {
-        connect(entry_search, &QLineEdit::returnPressed, this, &TagWebBrowser::search, Qt::UniqueConnection);
-    }
-    if (btn_formFill != nullptr) {
-        connect(btn_formFill, &QAbstractButton::clicked, this, &TagWebBrowser::formFill,
-                Qt::UniqueConnection);
-    }
-    if (webview_search == nullptr) {
-        return;
-    }
-    if (btn_searchBack != nullptr) {
-        connect(btn_searchBack, &QAbstractButton::clicked, webview_search, &WebView::goBack,
-                Qt::UniqueConnection);
-    }
-    connect(webview_search, &WebView::didStartProvisionalLoad, this,
-            &TagWebBrowser::webViewDidStartProvisionalLoadForFrame, Qt::UniqueConnection);
-    connect(webview_search, &WebView::didFinishLoad, this, &TagWebBrowser::webViewDidFinishLoadForFrame,
-            Qt::UniqueConnection);
-    connect(webview_search, &WebView::didFailLoad, this, &TagWebBrowser::webViewDidFailLoadWithError,
-            Qt::UniqueConnection);
 }
 
 void TagWebBrowser::setSearchField(const QString& text) {
     appLog(QStringLiteral("set search field to %1\n").arg(text));
-    if (entry_search != nullptr) {
-        entry_search->setText(text);
-    }
+    ui_->entry_search->setText(text);
 }
 
-int TagWebBrowser::selectedSite() const {
-    return combo_search == nullptr ? -1 : combo_search->currentIndex();
+void TagWebBrowser::focusSearchField() {
+    ui_->entry_search->setFocus();
 }
 
 void TagWebBrowser::search() {
-    const QString text = entry_search == nullptr ? QString() : entry_search->text();
-    if (text.isEmpty() || webview_search == nullptr) {
+    const QString text = ui_->entry_search->text();
+    if (text.isEmpty()) {
         return;
     }
-    if (const std::optional<QUrl> address = searchAddress(text, selectedSite(), searchHosts)) {
-        webview_search->loadRequest(*address);
+    if (const std::optional<QUrl> address =
+            searchAddress(text, ui_->combo_search->currentIndex(), searchHosts)) {
+        ui_->webview_search->loadRequest(*address);
     }
 }
 
@@ -77,58 +63,50 @@ void TagWebBrowser::formFill() {
     const QPointer<TagWebBrowser> self(this);
     filling_ = true;
     fillFromPage();
-    if (self != nullptr) {
+    if (self) {
         filling_ = false;
     }
 }
 
 void TagWebBrowser::fillFromPage() {
     const QPointer<TagWebBrowser> self(this);
-    const QPointer<WebView> view = webview_search;
+    const QPointer<WebView> view = ui_->webview_search;
     bool interrupted = false;
     const auto fetch = [view, &interrupted](const QUrl& url) {
-        const std::optional<QImage> image =
-            interrupted || view == nullptr ? std::nullopt : fetchImage(url, view);
+        const std::optional<QImage> image = interrupted || !view ? std::nullopt : fetchImage(url, view);
         interrupted = !image.has_value();
         return image.value_or(QImage());
     };
 
-    std::unique_ptr<FormFill> fill;
-    if (view != nullptr) {
-        fill = FormFill::initWithWebFrame(*view->mainFrame(), selectedSite(), fetch);
-    }
+    const std::unique_ptr<FormFill> fill =
+        FormFill::initWithWebFrame(*view->mainFrame(), ui_->combo_search->currentIndex(), fetch);
     appLog(QStringLiteral("in formFill\n"));
-    if (fill == nullptr || self == nullptr) {
+    if (!fill || !self) {
         return;
     }
     const FormFillInfo* const info = fill->formFillInfo();
-    if (info == nullptr || interrupted || self == nullptr || view == nullptr) {
+    if (!info || interrupted || !self || !view) {
         return;
     }
     appLog(QStringLiteral("got FormFillInfo struct\n"));
-    if (controller != nullptr) {
-        controller->fillFields(info);
-    }
+    emit formFillInfoReady(info);
 }
 
 void TagWebBrowser::updateBackButton(const WebView* view) {
-    setEnabled(btn_searchBack, view->canGoBack());
+    ui_->btn_searchBack->setEnabled(view->canGoBack());
 }
 
 void TagWebBrowser::webViewDidStartProvisionalLoadForFrame(WebView* view, WebFrame*) {
-    if (progress_search != nullptr) {
-        progress_search->startAnimation();
-    }
-    setEnabled(btn_formFill, false);
+    ui_->progress_search->startAnimation();
+    ui_->btn_formFill->setEnabled(false);
     updateBackButton(view);
+    emit loadStarted();
 }
 
 void TagWebBrowser::webViewDidFinishLoadForFrame(WebView* view, WebFrame* frame) {
     if (frame == view->mainFrame()) {
-        if (progress_search != nullptr) {
-            progress_search->stopAnimation();
-        }
-        setEnabled(btn_formFill, true);
+        ui_->progress_search->stopAnimation();
+        ui_->btn_formFill->setEnabled(true);
     }
     updateBackButton(view);
 }
@@ -142,9 +120,7 @@ void TagWebBrowser::webViewDidFailLoadWithError(WebView*, WebFrame*) {
 }
 
 void TagWebBrowser::loadFailed() {
-    if (progress_search != nullptr) {
-        progress_search->stopAnimation();
-    }
+    ui_->progress_search->stopAnimation();
 }
 
 } // namespace velmora

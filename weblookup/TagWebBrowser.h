@@ -1,64 +1,47 @@
 #pragma once
 
-#include "cover_fetch.h"
-#include "platform/busy_indicator.h"
 #include "platform/web/web_view.h"
 #include "search_address.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QObject>
-#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui {
+class TagWebBrowser;
+}
 
 namespace velmora {
 
-class FormFillReceiver;
+struct FormFillInfo;
 
 /** The web search panel: looks a title up on one of three sites and fills the form from the page that the
-   person has gone to. It owns none of its controls; whoever lays the window out sets the outlets and then
-   calls awakeFromNib. Main thread only. */
-class TagWebBrowser : public QObject {
+   person has gone to. It owns its controls. Main thread only. */
+class TagWebBrowser : public QWidget {
     Q_OBJECT
 public:
-    using QObject::QObject;
-
-    // Outlets, set once by the window's layout. A control that is gone, or was never there, is passed over.
-    /** Runs formFill; disabled while a page loads, and after a load that failed. */
-    QPointer<QAbstractButton> btn_formFill;
-    /** Runs search, as the return key in entry_search does. */
-    QPointer<QAbstractButton> btn_search;
-    /** Goes back in the web view; enabled only when the view can. */
-    QPointer<QAbstractButton> btn_searchBack;
-    /** The site; the index is the site code. */
-    QPointer<QComboBox> combo_search;
-    /** Takes the result of a form fill. Must live as long as the panel, or be taken away first. */
-    FormFillReceiver* controller = nullptr;
-    QPointer<QLineEdit> entry_search;
-    QPointer<QLabel> lbl_movieName;
-    /** Turns while a page loads. */
-    QPointer<BusyIndicator> progress_search;
-    QPointer<WebView> webview_search;
+    explicit TagWebBrowser(QWidget* parent = nullptr);
+    ~TagWebBrowser() override;
 
     /** Whom search asks. */
     SearchHosts searchHosts = defaultSearchHosts();
 
-    /** Fills the popup with the sites and joins the controls to their actions and the view to the
-     * notifications below. */
+    /** Fills the popup with the sites, whatever it held. */
     void awakeFromNib();
 
     /** Puts TEXT into the search field. */
     void setSearchField(const QString& text);
+    /** Gives the keyboard to the search field. */
+    void focusSearchField();
 
 public slots:
     /** Looks the search field's text up on the chosen site; an empty field looks nothing up. */
     void search();
 
-    /** Reads the page in the view, as a page of the site that the popup shows now, and hands what it has to
-       the controller. Blocks, handling events, until the page and its picture have arrived; called again
-       meanwhile, it does nothing. The panel and its window may go away during that time, and then nothing is
-       handed on. */
+    /** Reads the page in the view, as a page of the site that the popup shows now, and tells
+       formFillInfoReady what it has. Blocks, handling events, until the page and its picture have arrived;
+       called again meanwhile, it does nothing. The panel and its window may go away during that time, and
+       then nothing is told. */
     void formFill();
 
     /** A frame, of the page or inside it, starts to load. */
@@ -69,12 +52,19 @@ public slots:
     void webViewDidFailProvisionalLoadWithError(velmora::WebView* view, velmora::WebFrame* frame);
     void webViewDidFailLoadWithError(velmora::WebView* view, velmora::WebFrame* frame);
 
+signals:
+    /** The page has given INFO, which is not null and lives only during the call. */
+    void formFillInfoReady(const velmora::FormFillInfo* info);
+    /** A frame, of the page or inside it, starts to load: there is something to see. */
+    void loadStarted();
+
 private:
-    [[nodiscard]] int selectedSite() const;
+    void connectControls();
     void updateBackButton(const WebView* view);
     void loadFailed();
     void fillFromPage();
 
+    std::unique_ptr<Ui::TagWebBrowser> ui_;
     bool filling_ = false;
 };
 

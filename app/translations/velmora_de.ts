@@ -299,6 +299,69 @@
         <translation>D&amp;ateien hinzufügen …</translation>
     </message>
     <message>
+        <source>Add F&amp;older…</source>
+        <translation>&amp;Ordner hinzufügen …</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Sichern</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Find in List</source>
+        <translation>In der Liste &amp;suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Load Cover Art…</source>
+        <translation>Titelbild &amp;laden …</translation>
+    </message>
+    <message>
+        <source>Look &amp;Up on the Web</source>
+        <translation>Im &amp;Web nachschlagen</translation>
+    </message>
+    <message>
+        <source>Vie&amp;w</source>
+        <translation>Ansicht (&amp;W)</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Name</source>
+        <translation>Nach &amp;Name sortieren</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Size</source>
+        <translation>Nach &amp;Größe sortieren</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Date</source>
+        <translation>Nach &amp;Datum sortieren</translation>
+    </message>
+</context>
+<context>
+    <name>MediaList</name>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>D&amp;ateien hinzufügen …</translation>
+    </message>
+    <message>
         <source>Add files to the list</source>
         <translation>Dateien in die Liste aufnehmen</translation>
     </message>
@@ -342,6 +405,9 @@
         <source>Media files</source>
         <translation>Mediendateien</translation>
     </message>
+</context>
+<context>
+    <name>TagForm</name>
     <message>
         <source>&amp;Title:</source>
         <translation>&amp;Titel:</translation>
@@ -467,30 +533,6 @@
         <translation>Einen einfarbigen Rand vom Titelbild abschneiden</translation>
     </message>
     <message>
-        <source>Preview</source>
-        <translation>Vorschau</translation>
-    </message>
-    <message>
-        <source>A preview of the file</source>
-        <translation>Eine Vorschau der Datei</translation>
-    </message>
-    <message>
-        <source>This file can’t be previewed.</source>
-        <translation>Für diese Datei gibt es keine Vorschau.</translation>
-    </message>
-    <message>
-        <source>Preview failed</source>
-        <translation>Keine Vorschau</translation>
-    </message>
-    <message>
-        <source>Ta&amp;ke Frame</source>
-        <translation>&amp;Einzelbild nehmen</translation>
-    </message>
-    <message>
-        <source>Take the frame shown as cover art</source>
-        <translation>Das gezeigte Einzelbild als Titelbild nehmen</translation>
-    </message>
-    <message>
         <source>Remo&amp;ve Tag</source>
         <translation>Angaben &amp;verwerfen</translation>
     </message>
@@ -514,6 +556,36 @@
         <source>Write the changes into the file</source>
         <translation>Die Änderungen in die Datei schreiben</translation>
     </message>
+</context>
+<context>
+    <name>MoviePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>A preview of the file</source>
+        <translation>Eine Vorschau der Datei</translation>
+    </message>
+    <message>
+        <source>This file can’t be previewed.</source>
+        <translation>Für diese Datei gibt es keine Vorschau.</translation>
+    </message>
+    <message>
+        <source>Preview failed</source>
+        <translation>Keine Vorschau</translation>
+    </message>
+    <message>
+        <source>Ta&amp;ke Frame</source>
+        <translation>&amp;Einzelbild nehmen</translation>
+    </message>
+    <message>
+        <source>Take the frame shown as cover art</source>
+        <translation>Das gezeigte Einzelbild als Titelbild nehmen</translation>
+    </message>
+</context>
+<context>
+    <name>TagWebBrowser</name>
     <message>
         <source>Look &amp;up:</source>
         <translation>S&amp;uchen:</translation>
@@ -573,50 +645,6 @@
     <message>
         <source>Web page</source>
         <translation>Webseite</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>S&amp;chließen</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>&amp;Find in List</source>
-        <translation>In der Liste &amp;suchen</translation>
-    </message>
-    <message>
-        <source>&amp;Load Cover Art…</source>
-        <translation>Titelbild &amp;laden …</translation>
-    </message>
-    <message>
-        <source>Look &amp;Up on the Web</source>
-        <translation>Im &amp;Web nachschlagen</translation>
-    </message>
-    <message>
-        <source>Vie&amp;w</source>
-        <translation>Ansicht (&amp;W)</translation>
-    </message>
-    <message>
-        <source>Sort by &amp;Name</source>
-        <translation>Nach &amp;Name sortieren</translation>
-    </message>
-    <message>
-        <source>Sort by &amp;Size</source>
-        <translation>Nach &amp;Größe sortieren</translation>
-    </message>
-    <message>
-        <source>Sort by &amp;Date</source>
-        <translation>Nach &amp;Datum sortieren</translation>
     </message>
 </context>
 </TS>

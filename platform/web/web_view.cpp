@@ -44,10 +44,8 @@ public:
     std::shared_ptr<const DomDocument> domDocument() override { return nullptr; }
 };
 
-WebView::WebView(QWidget* parent) : WebView(engineFromModule(), parent) {}
-
-WebView::WebView(EngineMaker makeEngine, QWidget* parent)
-    : QWidget(parent), makeEngine_(std::move(makeEngine)), mainFrame_(std::make_unique<MainFrame>(*this)),
+WebView::WebView(QWidget* parent)
+    : QWidget(parent), makeEngine_(engineFromModule()), mainFrame_(std::make_unique<MainFrame>(*this)),
       subFrame_(std::make_unique<SubFrame>()) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -38,9 +38,10 @@ public:
 
     /** A view over the engine's module. */
     explicit WebView(QWidget* parent = nullptr);
-    /** A view over an engine of the caller's choice. */
-    WebView(EngineMaker makeEngine, QWidget* parent);
     ~WebView() override;
+
+    /** Takes MAKE for the engine's module. Does nothing once there is an engine. */
+    void setEngineMaker(EngineMaker make) { makeEngine_ = std::move(make); }
 
     /** The page's outermost frame; the same object as long as the view lives. */
     [[nodiscard]] WebFrame* mainFrame() { return mainFrame_.get(); }

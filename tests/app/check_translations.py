@@ -21,19 +21,29 @@ def texts_of_code(root):
                 yield ("Velmora", text.replace('\\"', '"'))
 
 
-def texts_of_layout(root):
-    for string in xml.parse(root / "app" / "MyDocument.ui").iter("string"):
-        if string.text and string.get("notr") != "true":
-            yield ("MyDocument", string.text)
+def layouts(root):
+    """The window and its parts, each with the name of its context."""
+    for folder in FOLDERS:
+        for layout in (root / folder).rglob("*.ui"):
+            tree = xml.parse(layout)
+            yield tree.findtext("class"), tree
+
+
+def texts_of_layouts(root):
+    for context, layout in layouts(root):
+        for string in layout.iter("string"):
+            if string.text and string.get("notr") != "true":
+                yield (context, string.text)
 
 
 def texts_with_letters(root):
     """The texts of the window's controls and menu titles that have a letter for the Alt key."""
-    for widget in xml.parse(root / "app" / "MyDocument.ui").iter("widget"):
-        for entry in widget.findall("property"):
-            text = entry.findtext("string") or ""
-            if entry.get("name") in ("text", "title") and "&" in text:
-                yield text
+    for context, layout in layouts(root):
+        for widget in layout.iter("widget"):
+            for entry in widget.findall("property"):
+                text = entry.findtext("string") or ""
+                if entry.get("name") in ("text", "title") and "&" in text:
+                    yield (context, text)
 
 
 def letters_given_twice(texts):
@@ -49,11 +59,11 @@ def texts_of_table(table):
 
 def main():
     root = pathlib.Path(sys.argv[1])
-    shown = set(texts_of_code(root)) | set(texts_of_layout(root))
+    shown = set(texts_of_code(root)) | set(texts_of_layouts(root))
     failures = [] if len(shown) > 100 else [f"only {len(shown)} texts were found in the program"]
     lettered = list(texts_with_letters(root))
     failures += [] if len(lettered) > 15 else [f"only {len(lettered)} letters were found in the window"]
-    failures += [f"letter given twice: {letter}" for letter in letters_given_twice(lettered)]
+    failures += [f"letter given twice: {letter}" for letter in letters_given_twice([text for _, text in lettered])]
     for table in sorted((root / "app" / "translations").glob("*.ts")):
         translated = dict(texts_of_table(table))
         for text in sorted(shown):
@@ -62,7 +72,7 @@ def main():
                 failures.append(f"{table.name}: no translation of {text}")
             elif translation.count("%@") != text[1].count("%@"):
                 failures.append(f"{table.name}: placeholders differ in {text}")
-        twice = letters_given_twice([translated.get(("MyDocument", text)) or "" for text in lettered])
+        twice = letters_given_twice([translated.get(text) or "" for text in lettered])
         failures += [f"{table.name}: letter given twice: {letter}" for letter in twice]
         failures += [f"{table.name}: not shown any more: {text}" for text in sorted(set(translated) - shown)]
     print("\n".join(failures) or f"{len(shown)} texts checked")

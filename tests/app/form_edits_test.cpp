@@ -311,14 +311,14 @@ TEST_F(FormEditsTest, NewCoverArtReachesTheModel) {
     auto& well = widget<CoverArtView>("img_coverArt");
     well.setImage(image);
     expectMarked(false);
-    controller().coverArtImageChanged(&well);
+    controller().form().coverArtImageChanged(well.image());
     EXPECT_EQ(QSize(10, 8), file().coverArt().toQImage().size());
     expectMarked(true);
 }
 
 TEST_F(FormEditsTest, EmptyCoverArtViewChangesNothing) {
     openAudio();
-    controller().coverArtImageChanged(&widget<CoverArtView>("img_coverArt"));
+    controller().form().coverArtImageChanged(widget<CoverArtView>("img_coverArt").image());
     EXPECT_FALSE(file().coverArt());
     expectMarked(false);
 }
@@ -327,7 +327,7 @@ TEST_F(FormEditsTest, NewCoverArtDoesNotByItselfAllowTrimming) {
     openAudio();
     auto& well = widget<CoverArtView>("img_coverArt");
     well.setImage(QImage(10, 8, QImage::Format_RGB32));
-    controller().coverArtImageChanged(&well);
+    controller().form().coverArtImageChanged(well.image());
     EXPECT_FALSE(enabled("btn_trimBorder"));
 }
 

@@ -2,6 +2,8 @@
 
 #include "app/MyDocument.h"
 #include "browser/VelmoraController.h"
+#include "browser/media_table.h"
+#include "browser/tag_form.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
 

@@ -1,6 +1,7 @@
 #include "window_fixture.h"
 
 #include "support/bytes.h"
+#include "weblookup/TagWebBrowser.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -58,6 +59,22 @@ TEST_F(WindowLayoutTest, EveryControlIsReachedByTab) {
     for (const QWidget* control : controls()) {
         EXPECT_TRUE(control->focusPolicy() & Qt::TabFocus) << control->objectName().toStdString();
     }
+}
+
+TEST_F(WindowLayoutTest, EveryOutletIsFoundByItsName) {
+    for (const char* name :
+         {"tbl_mediaFiles",  "btn_addFile",    "btn_addFolder",    "btn_stop",       "progress_mediaSearch",
+          "lbl_scanStatus",  "entry_title",    "entry_artist",     "entry_album",    "entry_year",
+          "lbl_artist",      "lbl_album",      "combo_genre",      "combo_rating",   "picker_dateTime",
+          "entry_desc",      "img_coverArt",   "view_preview",     "btn_saveTag",    "lbl_previewFailed",
+          "btn_revertTag",   "btn_removeTag",  "btn_captureFrame", "btn_trimBorder", "btn_loadCoverArt",
+          "box_preview",     "lbl_title",      "lbl_year",         "lbl_genre",      "lbl_rating",
+          "lbl_dateTime",    "lbl_desc",       "lbl_coverArt",     "twb_browser",    "btn_formFill",
+          "btn_search",      "btn_searchBack", "combo_search",     "entry_search",   "lbl_movieName",
+          "progress_search", "webview_search"}) {
+        EXPECT_EQ(1, document().window()->findChildren<QObject*>(QLatin1String(name)).size()) << name;
+    }
+    EXPECT_EQ(document().webBrowser(), document().window()->findChild<TagWebBrowser*>("twb_browser"));
 }
 
 TEST_F(WindowLayoutTest, FieldsHaveTheirCaptionsAsBuddies) {

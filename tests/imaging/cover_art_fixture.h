@@ -15,22 +15,17 @@
 
 namespace velmora::test {
 
-/** What the view told its controller, and what the view was like at that moment. */
-class RecordingReceiver : public CoverArtReceiver {
-public:
+/** What the view told of the cover, and what the view was like at that moment. */
+struct RecordingReceiver {
     struct Call {
-        QObject* sender;
         QImage image;
+        QImage shown;
         CoverArtView::FocusRingType ring;
     };
-    void coverArtImageChanged(QObject* sender) override {
-        const auto* view = qobject_cast<CoverArtView*>(sender);
-        calls.push_back({sender, view->image(), view->focusRingType()});
-    }
     std::vector<Call> calls;
 };
 
-/** The cover art view in a shown window, with a controller that records what it is told. */
+/** The cover art view in a shown window, with a receiver that records what it is told. */
 class CoverArtViewTest : public testing::Test {
 protected:
     CoverArtViewTest() : view(new CoverArtView) {
@@ -38,7 +33,9 @@ protected:
         layout->addWidget(view);
         window.resize(220, 200);
         window.show();
-        view->setController(&receiver);
+        QObject::connect(view, &CoverArtView::coverArtImageChanged, view, [this](const QImage& image) {
+            receiver.calls.push_back({image, view->image(), view->focusRingType()});
+        });
         log.emplace(stderr);
     }
 

@@ -153,11 +153,11 @@ TEST_F(CoverArtViewDrag, ADroppedImageFileIsShown) {
     EXPECT_EQ(view->image().convertToFormat(QImage::Format_RGB32), plain(Qt::red));
 }
 
-TEST_F(CoverArtViewDrag, ADropCallsTheControllerOnceWithTheViewAfterImageAndStateAreSet) {
+TEST_F(CoverArtViewDrag, ADropTellsTheNewCoverOnceAfterImageAndStateAreSet) {
     dropFiles({imageFile("a.png", Qt::red)});
     ASSERT_EQ(receiver.calls.size(), 1U);
-    EXPECT_EQ(receiver.calls[0].sender, view);
     EXPECT_EQ(receiver.calls[0].image.pixelColor(0, 0), QColor(Qt::red));
+    EXPECT_EQ(receiver.calls[0].shown, receiver.calls[0].image);
     EXPECT_EQ(receiver.calls[0].ring, Ring::None);
 }
 
@@ -166,22 +166,23 @@ TEST_F(CoverArtViewDrag, ADropEndsTheHovering) {
     EXPECT_EQ(view->focusRingType(), Ring::None);
 }
 
-TEST_F(CoverArtViewDrag, ADropWithoutAControllerSetsTheImage) {
-    view->setController(nullptr);
+TEST_F(CoverArtViewDrag, ADropThatNobodyWaitsForSetsTheImage) {
+    QObject::disconnect(view, &CoverArtView::coverArtImageChanged, nullptr, nullptr);
     dropFiles({imageFile("a.png", Qt::red)});
     EXPECT_FALSE(view->image().isNull());
 }
 
-TEST_F(CoverArtViewDrag, AFileThatIsNoImageLeavesTheImageAndStillCallsTheController) {
+TEST_F(CoverArtViewDrag, AFileThatIsNoImageLeavesTheImageAndStillTellsIt) {
     view->setImage(plain(Qt::blue));
     write_file(folder / "a.txt", "no image");
     dropFiles({folder / "a.txt"});
     EXPECT_EQ(view->image(), plain(Qt::blue));
     EXPECT_EQ(view->focusRingType(), Ring::None);
-    EXPECT_EQ(receiver.calls.size(), 1U);
+    ASSERT_EQ(receiver.calls.size(), 1U);
+    EXPECT_EQ(receiver.calls[0].image, plain(Qt::blue));
 }
 
-TEST_F(CoverArtViewDrag, ADropWithoutAnImageOnAnEmptyViewCallsTheControllerWithNone) {
+TEST_F(CoverArtViewDrag, ADropWithoutAnImageOnAnEmptyViewTellsOfNone) {
     dropFiles({folder / "missing.png"});
     ASSERT_EQ(receiver.calls.size(), 1U);
     EXPECT_TRUE(receiver.calls[0].image.isNull());
@@ -236,6 +237,18 @@ TEST_F(CoverArtViewDrag, AnImageOfAbsurdSizeIsNotLoaded) {
     EXPECT_EQ(receiver.calls.size(), 1U);
 }
 
+TEST_F(CoverArtViewDrag, AnImageSetAsTheNewCoverIsShownAndTold) {
+    view->changeImage(plain(Qt::red));
+    ASSERT_EQ(receiver.calls.size(), 1U);
+    EXPECT_EQ(receiver.calls[0].image, plain(Qt::red));
+    EXPECT_EQ(receiver.calls[0].shown, plain(Qt::red));
+}
+
+TEST_F(CoverArtViewDrag, AnImageThatIsOnlyShownIsNoNewCover) {
+    view->setImage(plain(Qt::red));
+    EXPECT_TRUE(receiver.calls.empty());
+}
+
 TEST_F(CoverArtViewDrag, TiffDataIsShown) {
     QMimeData data;
     data.setData("image/tiff", encoded(plain(Qt::red), "TIFF"));
@@ -252,7 +265,7 @@ TEST_F(CoverArtViewDrag, AnImageOfTheDesktopIsShown) {
     EXPECT_EQ(receiver.calls.size(), 1U);
 }
 
-TEST_F(CoverArtViewDrag, DataThatIsNoImageLeavesTheImageAndStillCallsTheController) {
+TEST_F(CoverArtViewDrag, DataThatIsNoImageLeavesTheImageAndStillTellsIt) {
     view->setImage(plain(Qt::blue));
     QMimeData data;
     data.setData("image/x-pict", "no image at all");

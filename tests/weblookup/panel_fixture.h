@@ -1,9 +1,11 @@
 #pragma once
 
+#include "platform/busy_indicator.h"
 #include "weblookup/TagWebBrowser.h"
 #include "weblookup/form_fill_info.h"
-#include "weblookup/form_fill_receiver.h"
 
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -12,38 +14,37 @@
 namespace velmora::test {
 
 /** Keeps a copy of every record that it gets. */
-class Receiver : public FormFillReceiver {
-public:
-    void fillFields(const FormFillInfo* info) override { records.push_back(*info); }
+struct Receiver {
     std::vector<FormFillInfo> records;
 };
 
-/** A window with the panel's controls, laid out by hand. The panel is a child of the window. */
+/** A window that holds the panel alone, with the panel's controls by their names. */
 class PanelWindow : public QWidget {
 public:
-    explicit PanelWindow(WebView* view) : panel(new TagWebBrowser(this)) {
+    PanelWindow() : panel(new TagWebBrowser(this)) {
         auto* const layout = new QVBoxLayout(this);
-        const auto place = [layout](auto* widget) {
-            layout->addWidget(widget);
-            return widget;
-        };
-        panel->combo_search = place(new QComboBox);
-        panel->entry_search = place(new QLineEdit);
-        panel->btn_search = place(new QPushButton(QStringLiteral("Search")));
-        panel->btn_searchBack = place(new QPushButton(QStringLiteral("Back")));
-        panel->btn_formFill = place(new QPushButton(QStringLiteral("Fill Form")));
-        panel->progress_search = place(new BusyIndicator);
-        panel->lbl_movieName = place(new QLabel(QStringLiteral("Title")));
-        panel->webview_search = place(view);
-        layout->setStretchFactor(view, 1);
-        panel->btn_searchBack->setEnabled(false);
-        panel->controller = &receiver;
-        panel->awakeFromNib();
+        layout->addWidget(panel);
+        connect(panel, &TagWebBrowser::formFillInfoReady, this,
+                [this](const FormFillInfo* info) { receiver.records.push_back(*info); });
         resize(800, 600);
+    }
+
+    template <class Widget>
+    [[nodiscard]] Widget* named(const char* name) {
+        auto* const found = panel->findChild<Widget*>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
     }
 
     Receiver receiver;
     TagWebBrowser* panel;
+    WebView* webview_search = named<WebView>("webview_search");
+    QComboBox* combo_search = named<QComboBox>("combo_search");
+    QLineEdit* entry_search = named<QLineEdit>("entry_search");
+    QPushButton* btn_search = named<QPushButton>("btn_search");
+    QPushButton* btn_searchBack = named<QPushButton>("btn_searchBack");
+    QPushButton* btn_formFill = named<QPushButton>("btn_formFill");
+    BusyIndicator* progress_search = named<BusyIndicator>("progress_search");
 };
 
 } // namespace velmora::test

@@ -54,7 +54,7 @@ const char* const productPage =
 /** The panel with the real engine, looking up on a server of this machine. */
 class WebPanel : public testing::Test {
 protected:
-    WebPanel() : view(new WebView), window(new PanelWindow(view)), panel(window->panel) {
+    WebPanel() : window(new PanelWindow), view(window->webview_search), panel(window->panel) {
         panel->searchHosts = {server.host(), server.host(), server.host()};
         QObject::connect(view, &WebView::didFinishLoad, view, [this] { ++finishedLoads; });
         window->show();
@@ -62,8 +62,8 @@ protected:
     ~WebPanel() override { delete window; }
 
     void search(const QString& text) {
-        panel->entry_search->setText(text);
-        panel->btn_search->click();
+        window->entry_search->setText(text);
+        window->btn_search->click();
     }
     /** Waits until one more page has finished than at the last call. */
     bool finished() {
@@ -79,7 +79,7 @@ protected:
     /** The record of a press on "Fill Form". */
     FormFillInfo fill() {
         const std::size_t before = window->receiver.records.size();
-        panel->btn_formFill->click();
+        window->btn_formFill->click();
         EXPECT_EQ(window->receiver.records.size(), before + 1);
         return window->receiver.records.empty() ? FormFillInfo() : window->receiver.records.back();
     }
@@ -96,8 +96,8 @@ protected:
     }
 
     PageServer server;
-    WebView* view;
     QPointer<PanelWindow> window;
+    WebView* view;
     QPointer<TagWebBrowser> panel;
     int finishedLoads = 0;
     int awaitedLoads = 0;
@@ -111,11 +111,11 @@ TEST_F(WebPanel, LooksUpFollowsALinkGoesBackAndFillsTheForm) {
 
     search("Harbour Lights");
     ASSERT_TRUE(finished());
-    EXPECT_FALSE(panel->btn_searchBack->isEnabled());
+    EXPECT_FALSE(window->btn_searchBack->isEnabled());
 
     ASSERT_TRUE(clickPageUntil([this] { return server.wasAskedFor("/title"); }));
     ASSERT_TRUE(finished());
-    EXPECT_TRUE(panel->btn_searchBack->isEnabled());
+    EXPECT_TRUE(window->btn_searchBack->isEnabled());
     const FormFillInfo info = fill();
     EXPECT_EQ(info.title, QString("Harbour Lights "));
     EXPECT_EQ(info.cast, QStringList({"A. One", "B. Two"}));
@@ -127,16 +127,16 @@ TEST_F(WebPanel, LooksUpFollowsALinkGoesBackAndFillsTheForm) {
     EXPECT_EQ(info.coverArt.width(), 9);
     EXPECT_EQ(info.releaseDate, QDate(2005, 5, 12));
 
-    panel->btn_searchBack->click();
+    window->btn_searchBack->click();
     ASSERT_TRUE(finished());
-    EXPECT_FALSE(panel->btn_searchBack->isEnabled());
+    EXPECT_FALSE(window->btn_searchBack->isEnabled());
     EXPECT_EQ(fill().title, QString("Results"));
 }
 
 TEST_F(WebPanel, FillsTheFormFromAProductPage) {
     server.serve("/exec/obidos/search-handle-url/index%3Dblended%26field-keywords%3DHarbour", productPage);
     server.serve("/cover._SS500_.jpg", Answer{.body = png(11), .type = "image/png"});
-    panel->combo_search->setCurrentIndex(1);
+    window->combo_search->setCurrentIndex(1);
     search("Harbour");
     ASSERT_TRUE(finished());
     StreamCapture log;
@@ -194,19 +194,19 @@ TEST_F(WebPanel, LateSubframeStopsTheFormFillUntilTheNextPage) {
     server.serve("/frame", "<p>inside</p>");
     show("<body><script>setTimeout(() => { const f = document.createElement('iframe'); f.src = '/frame';"
          "document.body.append(f); }, 300)</script>");
-    ASSERT_TRUE(waitUntil([this] { return !panel->btn_formFill->isEnabled(); }));
+    ASSERT_TRUE(waitUntil([this] { return !window->btn_formFill->isEnabled(); }));
     ASSERT_TRUE(waitUntil([this] { return server.wasAskedFor("/frame"); }));
     waitFor(300);
-    EXPECT_FALSE(panel->btn_formFill->isEnabled());
+    EXPECT_FALSE(window->btn_formFill->isEnabled());
     show("<p>next</p>");
-    EXPECT_TRUE(panel->btn_formFill->isEnabled());
+    EXPECT_TRUE(window->btn_formFill->isEnabled());
 }
 
 TEST_F(WebPanel, SubframeThatLoadsWithThePageDoesNot) {
     server.serve("/frame", "<p>inside</p>");
     show("<iframe src='/frame'></iframe>");
     waitFor(200);
-    EXPECT_TRUE(panel->btn_formFill->isEnabled());
+    EXPECT_TRUE(window->btn_formFill->isEnabled());
 }
 
 TEST_F(WebPanel, PageThatNeverEndsLeavesTheFormFillOff) {
@@ -214,34 +214,34 @@ TEST_F(WebPanel, PageThatNeverEndsLeavesTheFormFillOff) {
     search("x");
     ASSERT_TRUE(waitUntil([this] { return server.wasAskedFor("/find?q=x"); }));
     waitFor(300);
-    EXPECT_FALSE(panel->btn_formFill->isEnabled());
-    EXPECT_TRUE(panel->progress_search->isAnimating());
+    EXPECT_FALSE(window->btn_formFill->isEnabled());
+    EXPECT_TRUE(window->progress_search->isAnimating());
 }
 
 TEST_F(WebPanel, ServersErrorPageIsAPage) {
     search("unknown");
     ASSERT_TRUE(finished());
-    EXPECT_TRUE(panel->btn_formFill->isEnabled());
+    EXPECT_TRUE(window->btn_formFill->isEnabled());
 }
 
 TEST_F(WebPanel, ServerThatIsNotThereLeavesTheFormFillOffUntilALoadSucceeds) {
     show("<p>page</p>");
     panel->searchHosts[0] = "127.0.0.1:1";
     search("x");
-    ASSERT_TRUE(waitUntil([this] { return panel->progress_search->isAnimating(); }));
-    ASSERT_TRUE(waitUntil([this] { return !panel->progress_search->isAnimating(); }));
+    ASSERT_TRUE(waitUntil([this] { return window->progress_search->isAnimating(); }));
+    ASSERT_TRUE(waitUntil([this] { return !window->progress_search->isAnimating(); }));
     waitFor(200);
-    EXPECT_FALSE(panel->btn_formFill->isEnabled());
+    EXPECT_FALSE(window->btn_formFill->isEnabled());
     panel->searchHosts[0] = server.host();
     show("<p>page</p>");
-    EXPECT_TRUE(panel->btn_formFill->isEnabled());
+    EXPECT_TRUE(window->btn_formFill->isEnabled());
 }
 
 TEST_F(WebPanel, FailedPageFillsNothing) {
     panel->searchHosts[0] = "127.0.0.1:1";
     search("x");
-    ASSERT_TRUE(waitUntil([this] { return panel->progress_search->isAnimating(); }));
-    ASSERT_TRUE(waitUntil([this] { return !panel->progress_search->isAnimating(); }));
+    ASSERT_TRUE(waitUntil([this] { return window->progress_search->isAnimating(); }));
+    ASSERT_TRUE(waitUntil([this] { return !window->progress_search->isAnimating(); }));
     StreamCapture log;
     panel->formFill();
     EXPECT_EQ(log.text(), "in formFill\n");
@@ -251,21 +251,21 @@ TEST_F(WebPanel, JumpInsideThePageLeavesTheControlsAlone) {
     show("<a href='#there' style='position: fixed; inset: 0'>x</a>");
     ASSERT_TRUE(clickPageUntil([this] { return view->canGoBack(); }));
     waitFor(100);
-    EXPECT_TRUE(panel->btn_formFill->isEnabled());
-    EXPECT_FALSE(panel->btn_searchBack->isEnabled());
+    EXPECT_TRUE(window->btn_formFill->isEnabled());
+    EXPECT_FALSE(window->btn_searchBack->isEnabled());
 }
 
 TEST_F(WebPanel, LinkInsideAFrameCanBeGoneBackFrom) {
     server.serve("/frame", "<a href='/inside' style='position: fixed; inset: 0'>x</a>");
     server.serve("/inside", "<p>inside</p>");
     show("<iframe src='/frame' style='position: fixed; inset: 0; width: 100%; height: 100%'></iframe>");
-    EXPECT_FALSE(panel->btn_searchBack->isEnabled());
+    EXPECT_FALSE(window->btn_searchBack->isEnabled());
     ASSERT_TRUE(clickPageUntil([this] { return server.wasAskedFor("/inside"); }));
-    EXPECT_TRUE(waitUntil([this] { return panel->btn_searchBack->isEnabled(); }, 5000));
-    EXPECT_FALSE(panel->btn_formFill->isEnabled());
+    EXPECT_TRUE(waitUntil([this] { return window->btn_searchBack->isEnabled(); }, 5000));
+    EXPECT_FALSE(window->btn_formFill->isEnabled());
 
-    panel->btn_searchBack->click();
-    EXPECT_TRUE(waitUntil([this] { return !panel->btn_searchBack->isEnabled(); }, 5000));
+    window->btn_searchBack->click();
+    EXPECT_TRUE(waitUntil([this] { return !window->btn_searchBack->isEnabled(); }, 5000));
     EXPECT_FALSE(view->canGoBack());
 }
 
@@ -274,7 +274,7 @@ TEST_F(WebPanel, LinkThatWouldOpenAWindowIsFollowedInThePanel) {
     show("<a href='/title' target='_blank' style='position: fixed; inset: 0'>x</a>");
     ASSERT_TRUE(clickPageUntil([this] { return server.wasAskedFor("/title"); }));
     ASSERT_TRUE(finished());
-    EXPECT_TRUE(panel->btn_searchBack->isEnabled());
+    EXPECT_TRUE(window->btn_searchBack->isEnabled());
     EXPECT_EQ(fill().title, QString("Harbour Lights "));
 }
 
