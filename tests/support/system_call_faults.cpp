@@ -1,6 +1,7 @@
 #include "system_call_faults.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <stdexcept>
 
 namespace velmora::test {
@@ -36,6 +37,10 @@ void SystemCallFaults::fail(SystemCall call, int nth, int error) {
 
 void SystemCallFaults::fail_from(SystemCall call, int nth, int error) {
     faults_.push_back({call, nth, true, {error, SIZE_MAX}});
+}
+
+void SystemCallFaults::stop_at(int nth) {
+    faults_.push_back({std::nullopt, nth, true, {EIO, SIZE_MAX}});
 }
 
 void SystemCallFaults::cut_short(SystemCall call, int nth, std::size_t bytes) {

@@ -64,6 +64,9 @@ public:
     void fail(SystemCall call, int nth, int error);
     /** The NTH call of this kind and all after it fail, as on a full or broken disk. */
     void fail_from(SystemCall call, int nth, int error);
+    /** The NTH call and all after it, of whatever kind, do nothing and fail with EIO. What the files hold
+       then is what a program leaves that is killed between two calls. */
+    void stop_at(int nth);
     /** The NTH read or write moves at most BYTES bytes; 0 is an end of file, or a write that takes nothing.
      */
     void cut_short(SystemCall call, int nth, std::size_t bytes);
