@@ -1,11 +1,14 @@
 #include "page_engine.h"
 
 #include <QFile>
-#include <QPointer>
 #include <QWebEngineHistory>
 #include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
+#include <QWebEngineUrlRequestInfo>
 
+#include <algorithm>
+#include <array>
 #include <csignal>
 #include <utility>
 
@@ -13,9 +16,18 @@ namespace velmora {
 
 namespace {
 
-QString readScript() {
-    QFile file(QStringLiteral(":/velmora/dom_snapshot.js"));
+QString readScript(const QString& name) {
+    QFile file(QStringLiteral(":/velmora/") + name);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QWebEngineScript windowLinks() {
+    QWebEngineScript script;
+    script.setSourceCode(readScript(QStringLiteral("window_links.js")));
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::ApplicationWorld);
+    script.setRunsOnSubFrames(true);
+    return script;
 }
 
 void forbidLocalAccess(QWebEngineSettings& settings) {
@@ -23,20 +35,38 @@ void forbidLocalAccess(QWebEngineSettings& settings) {
     settings.setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
     settings.setAttribute(QWebEngineSettings::JavascriptCanAccessClipboard, false);
     settings.setAttribute(QWebEngineSettings::PluginsEnabled, false);
+    settings.setAttribute(QWebEngineSettings::NavigateOnDropEnabled, false);
 }
+
+/** A busy page has five looks, a second each, to answer something simple. */
+constexpr std::chrono::seconds lookInterval{1};
+constexpr int patienceInLooks = 5;
 
 } // namespace
 
+void WebContentOnly::interceptRequest(QWebEngineUrlRequestInfo& request) {
+    static const std::array schemes = {"http", "https", "ws", "wss", "data", "blob", "about", "file"};
+    const QByteArray scheme = request.requestUrl().scheme().toLatin1();
+    // The engine itself keeps content of the web from files.
+    request.block(std::find(schemes.begin(), schemes.end(), scheme) == schemes.end());
+}
+
 PageEngine::PageEngine(WebEngineListener& listener, QWidget* parent)
-    : snapshotScript_(readScript()), page_(std::make_unique<WebPage>(listener, &profile_)),
-      view_(std::make_unique<QWebEngineView>(parent)) {
+    : snapshotScript_(readScript(QStringLiteral("dom_snapshot.js"))),
+      page_(std::make_unique<WebPage>(listener, &profile_)), view_(std::make_unique<QWebEngineView>(parent)) {
     forbidLocalAccess(*page_->settings());
     view_->setPage(page_.get());
-    patience_.setSingleShot(true);
-    patience_.setInterval(std::chrono::seconds(5));
-    QObject::connect(&patience_, &QTimer::timeout, page_.get(), [this] {
-        if (page_->renderProcessPid() == watched_) {
-            endProcess();
+    page_->scripts().insert(windowLinks());
+    profile_.setUrlRequestInterceptor(&webContentOnly_);
+    QObject::connect(&watch_, &QTimer::timeout, page_.get(), [this] { lookAtProcess(); });
+    QObject::connect(page_.get(), &QWebEnginePage::loadStarted, page_.get(),
+                     [this] { leave_->started = true; });
+    QObject::connect(page_.get(), &QWebEnginePage::loadFinished, page_.get(),
+                     [this] { leave_->ended = leave_->started; });
+    // A page that is asked as soon as it arrives answers before its own scripts run.
+    QObject::connect(page_.get(), &QWebEnginePage::urlChanged, page_.get(), [this] {
+        if (watch_.isActive()) {
+            askProcess();
         }
     });
     const auto navigateAgain = [this] {
@@ -74,29 +104,46 @@ void PageEngine::navigate(std::function<void()> navigation) {
         return;
     }
     watchProcess();
+    page_->beginLeaving();
     navigation_();
 }
 
-/** Asks the page something simple. A busy page has a few seconds for it; how long the network takes for the
-   next page has no part in this. */
+/** A page can be busy for ever when it is left, and when it is told that it is. How long the network takes
+   for the next page has no part in this: until that is there, the page that is being left has to answer. */
 void PageEngine::watchProcess() {
+    watch_.stop();
     watched_ = page_->renderProcessPid();
-    if (watched_ <= 0 || page_->isLost()) {
-        patience_.stop();
-        return;
+    leave_ = std::make_shared<Leave>();
+    if (watched_ > 0 && !page_->isLost()) {
+        askProcess();
+        watch_.start(lookInterval);
     }
-    patience_.start();
-    page_->runJavaScript(QStringLiteral("0"), QWebEngineScript::ApplicationWorld,
-                         [patience = QPointer(&patience_)](const QVariant&) {
-                             if (patience != nullptr) {
-                                 patience->stop();
-                             }
+}
+
+/** The time of its birth tells one document from the next. */
+void PageEngine::askProcess() {
+    leave_->unansweredLooks = std::max(leave_->unansweredLooks, 0);
+    page_->runJavaScript(QStringLiteral("performance.timeOrigin"), QWebEngineScript::ApplicationWorld,
+                         [leave = leave_](const QVariant& document) {
+                             leave->unansweredLooks = -1;
+                             leave->document = leave->document.isValid() ? leave->document : document;
+                             leave->done = leave->ended || document != leave->document;
                          });
+}
+
+void PageEngine::lookAtProcess() {
+    if (page_->renderProcessPid() != watched_ || page_->isLost() || leave_->done) {
+        watch_.stop();
+    } else if (leave_->unansweredLooks < 0) {
+        askProcess();
+    } else if (++leave_->unansweredLooks >= patienceInLooks) {
+        endProcess();
+    }
 }
 
 /** A page of the same site is loaded by the same process, and so waits for a script that never ends. */
 void PageEngine::endProcess() {
-    patience_.stop();
+    watch_.stop();
     const qint64 process = page_->renderProcessPid();
     ending_ = process > 0 && ::kill(static_cast<pid_t>(process), SIGKILL) == 0;
     if (!ending_) {

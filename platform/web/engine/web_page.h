@@ -5,12 +5,12 @@
 #include <QWebEnginePage>
 
 class QWebEngineLoadingInfo;
-class QWebEngineNewWindowRequest;
 
 namespace velmora {
 
-/** A page that reports its loads and keeps to itself: no dialogs, no files, no windows, no lines in the log.
-   A link that would open a window is followed in the page itself. */
+/** A page that reports its loads and keeps to itself: no dialogs, no files, no windows, no permissions, no
+   other programs, no lines in the log, and no way to keep its user. A link that would open a window is
+   followed in the page itself; a window that a script would open is not opened at all. */
 class WebPage : public QWebEnginePage {
     Q_OBJECT
 public:
@@ -18,6 +18,10 @@ public:
 
     /** Whether the process that holds the page's document is dead; so it stays until the next load. */
     [[nodiscard]] bool isLost() const { return lost_; }
+
+    /** The program is about to leave the page: until the next load has started, every question of the page is
+       answered with yes. */
+    void beginLeaving() { leaving_ = true; }
 
 protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
@@ -34,10 +38,12 @@ private:
     void reportLoading(const QWebEngineLoadingInfo& info);
     void reportLostProcess();
     void reportHistoryChange();
-    void followInThisPage(QWebEngineNewWindowRequest& request);
+    void refusePermission(const QUrl& origin, Feature feature);
+    void hideActionsThatAreRefused();
 
     WebEngineListener& listener_;
     bool lost_ = false;
+    bool leaving_ = false;
     bool subFrameLoads_ = false;
 };
 
