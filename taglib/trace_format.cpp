@@ -104,13 +104,33 @@ const char* read_conversion(const char* at, Arguments& arguments, Conversion& co
     return at + 1;
 }
 
-/** Reads a conversion of a 64-bit value that has neither flags nor width: what nearly every message of a
-    walk through a file is made of. Returns what follows it, or null for any other conversion. */
-const char* plain_conversion(const char* at, char* letter) {
-    const bool wide = std::strncmp(at, "I64", 3) == 0;
-    at += wide ? 3 : 0;
-    *letter = *at;
-    return (wide && is_one_of(*at, "xd")) || (!wide && *at == 'S') ? at + 1 : nullptr;
+/** The conversions that nearly every message of a walk through a file is made of, without flags and width. */
+enum class Plain { none, hex, decimal, hex64, decimal64, text, utf16 };
+
+/** Reads the conversion at AT and moves AT behind it; leaves AT alone for any other. */
+Plain plain_conversion(const char*& at) {
+    const bool is_wide = std::strncmp(at, "I64", 3) == 0;
+    Plain plain = Plain::none;
+    switch (at[is_wide ? 3 : 0]) {
+    case 'x':
+        plain = is_wide ? Plain::hex64 : Plain::hex;
+        break;
+    case 'd':
+        plain = is_wide ? Plain::decimal64 : Plain::decimal;
+        break;
+    case 's':
+        plain = is_wide ? Plain::none : Plain::text;
+        break;
+    case 'S':
+        plain = is_wide ? Plain::none : Plain::utf16;
+        break;
+    default:
+        break;
+    }
+    if (plain != Plain::none) {
+        at += is_wide ? 4 : 1;
+    }
+    return plain;
 }
 
 std::size_t put_utf8(char* to, std::uint32_t c) {
@@ -169,17 +189,35 @@ std::size_t put_text(char* to, std::size_t room, const char* text, std::size_t l
     return length;
 }
 
+/** As much of NUMBER's digits as ROOM holds beside a terminator. */
+template <typename Number>
+std::size_t put_number(char* to, std::size_t room, Number number, int base) {
+    char digits[24];
+    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, number, base);
+    return put_text(to, room, digits, static_cast<std::size_t>(end.ptr - digits));
+}
+
 /** Prints the argument of a conversion that plain_conversion takes; returns the bytes that fit into ROOM. */
-std::size_t print_plain(char* to, std::size_t room, char letter, Arguments& arguments) {
-    char text[message_capacity + 4];
-    if (letter == 'S') {
-        return put_text(to, room, text, utf8_from_utf16le(va_arg(arguments.list, const void*), text));
+std::size_t print_plain(char* to, std::size_t room, Plain plain, Arguments& arguments) {
+    va_list& list = arguments.list;
+    switch (plain) {
+    case Plain::hex:
+        return put_number(to, room, va_arg(list, unsigned), 16);
+    case Plain::decimal:
+        return put_number(to, room, va_arg(list, int), 10);
+    case Plain::hex64:
+        return put_number(to, room, va_arg(list, unsigned long long), 16);
+    case Plain::decimal64:
+        return put_number(to, room, va_arg(list, long long), 10);
+    case Plain::text: {
+        const char* const text = va_arg(list, const char*);
+        return text ? put_text(to, room, text, ::strnlen(text, room)) : put_text(to, room, "(null)", 6);
     }
-    const auto number = va_arg(arguments.list, long long);
-    const std::to_chars_result end =
-        letter == 'x' ? std::to_chars(text, text + sizeof text, static_cast<unsigned long long>(number), 16)
-                      : std::to_chars(text, text + sizeof text, number);
-    return put_text(to, room, text, static_cast<std::size_t>(end.ptr - text));
+    default: {
+        char text[message_capacity + 4];
+        return put_text(to, room, text, utf8_from_utf16le(va_arg(list, const void*), text));
+    }
+    }
 }
 
 // NOLINTBEGIN(bugprone-branch-clone): the branches take arguments of different types
@@ -249,14 +287,13 @@ void format_message(char (&message)[message_capacity], const char* format, va_li
             message[used++] = *format++;
             continue;
         }
-        char letter = 0;
-        if (const char* const next = plain_conversion(format + 1, &letter)) {
-            format = next;
-            used += print_plain(message + used, room, letter, arguments);
+        ++format;
+        if (const Plain plain = plain_conversion(format); plain != Plain::none) {
+            used += print_plain(message + used, room, plain, arguments);
             continue;
         }
         Conversion conversion;
-        format = read_conversion(format + 1, arguments, conversion);
+        format = read_conversion(format, arguments, conversion);
         const int count =
             conversion.letter ? print_conversion(message + used, room, conversion, arguments) : -1;
         if (count < 0) {

@@ -36,7 +36,7 @@ constexpr std::array<StringField, 5> string_fields{{
 
 void free_strings(_asf_content_description_t* cd) {
     for (const StringField& field : string_fields) {
-        std::free(cd->*field.text);
+        std::free(cd->is_fixed ? nullptr : cd->*field.text);
         cd->*field.text = nullptr;
         cd->*field.length = 0;
     }
@@ -70,7 +70,7 @@ bool read_strings(FIOFUNCSTRUCT* file, std::int64_t start, _asf_content_descript
     return true;
 }
 
-bool read_body(FIOFUNCSTRUCT* file, std::int64_t start, _asf_content_description_t* cd) {
+bool read_lengths(FIOFUNCSTRUCT* file, std::int64_t start, _asf_content_description_t* cd) {
     std::uint8_t lengths[2 * string_fields.size()] = {};
     if (!asf_read_zero_padded(file, start + asf_object_header_size, lengths, sizeof lengths)) {
         return false;
@@ -80,9 +80,11 @@ bool read_body(FIOFUNCSTRUCT* file, std::int64_t start, _asf_content_description
         cd->*field.length = load_le16(at);
         at += 2;
     }
-    if (!read_strings(file, start, cd)) {
-        return false;
-    }
+    return true;
+}
+
+/** Traces the description and seeks behind it. */
+bool finish(FIOFUNCSTRUCT* file, std::int64_t start, const _asf_content_description_t* cd) {
     log_object_lines(start, cd);
     for (const StringField& field : string_fields) {
         DebugInfo(field.line, Utf16TraceText(cd->*field.text, cd->*field.length).get());
@@ -141,12 +143,37 @@ _asf_content_description_t* asf_read_content_description_at(FIOFUNCSTRUCT* file,
     if (!asf_read_object_at(file, start, cd)) {
         return nullptr;
     }
-    if (!read_body(file, start, cd)) {
+    if (!read_lengths(file, start, cd) || !read_strings(file, start, cd) || !finish(file, start, cd)) {
         free_strings(cd);
         return nullptr;
     }
     (void)made.release();
     return cd;
+}
+
+_asf_content_description_t* asf_read_fixed_content_description_at(FIOFUNCSTRUCT* file, std::int64_t start) {
+    _asf_content_description_t cd{};
+    if (!asf_read_object_at(file, start, &cd) || !read_lengths(file, start, &cd)) {
+        return nullptr;
+    }
+    const std::size_t strings = asf_content_description_bytes(&cd) - fixed_size;
+    AsfOwned<std::uint8_t> block(asf_new_bytes(sizeof cd + strings));
+    if (!block || !asf_read_zero_padded(file, start + fixed_size, block.get() + sizeof cd, strings)) {
+        return nullptr;
+    }
+    cd.is_fixed = true;
+    std::uint8_t* text = block.get() + sizeof cd;
+    for (const StringField& field : string_fields) {
+        cd.*field.text = cd.*field.length > 0 ? text : nullptr;
+        text += cd.*field.length;
+    }
+    auto* const record = reinterpret_cast<_asf_content_description_t*>(block.get());
+    *record = cd;
+    if (!finish(file, start, record)) {
+        return nullptr;
+    }
+    (void)block.release();
+    return record;
 }
 
 int asf_store_content_description(FIOFUNCSTRUCT* file, const _asf_content_description_t* cd) {

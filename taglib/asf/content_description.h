@@ -21,6 +21,9 @@ struct _asf_content_description_t : _asf_object_t {
     std::uint16_t copyright_length;
     std::uint16_t description_length;
     std::uint16_t rating_length;
+    /** The strings lie in the record's own block and are never replaced. So are kept, for their sake of
+        memory, the descriptions of a header that nobody looks into: all but the first. */
+    bool is_fixed;
     std::uint8_t* title; ///< raw UTF-16LE, maybe without a terminator; null for length 0
     std::uint8_t* author;
     std::uint8_t* copyright;

@@ -13,8 +13,6 @@ namespace velmora {
 
 namespace {
 
-constexpr std::uint32_t fixed_size = 6;
-
 /** LENGTH bytes of FIELDS in BYTES, nothing for length 0. False when they can't be had or there is no memory
    for them. */
 bool read_bytes(AsfAheadReader* fields, std::uint16_t length, AsfOwned<std::uint8_t>& bytes) {
@@ -26,10 +24,6 @@ bool read_bytes(AsfAheadReader* fields, std::uint16_t length, AsfOwned<std::uint
     }
     bytes.reset(asf_new_bytes(length));
     return bytes && fields->read(bytes.get(), length);
-}
-
-void log_name(std::int64_t position, const _asf_content_descriptor_t& descriptor) {
-    DebugInfo("[%I64x] %S\n", position, Utf16TraceText(descriptor.name, descriptor.name_length).get());
 }
 
 void log_value(const _asf_content_descriptor_t& descriptor) {
@@ -77,7 +71,16 @@ void asf_free_content_descriptor(_asf_content_descriptor_t* descriptor) {
 }
 
 std::uint32_t asf_content_descriptor_bytes(const _asf_content_descriptor_t* descriptor) {
-    return fixed_size + descriptor->name_length + descriptor->value_length;
+    return asf_content_descriptor_fixed_size + descriptor->name_length + descriptor->value_length;
+}
+
+void asf_log_content_descriptor(std::int64_t position, const _asf_content_descriptor_t& descriptor) {
+    asf_log_content_descriptor_name(position, descriptor);
+    log_value(descriptor);
+}
+
+void asf_log_content_descriptor_name(std::int64_t position, const _asf_content_descriptor_t& descriptor) {
+    DebugInfo("[%I64x] %S\n", position, Utf16TraceText(descriptor.name, descriptor.name_length).get());
 }
 
 _asf_content_descriptor_t* asf_read_content_descriptor(FIOFUNCSTRUCT* file,
@@ -110,7 +113,8 @@ _asf_content_descriptor_t* asf_read_content_descriptor_from(AsfAheadReader* fiel
     _asf_content_descriptor_t read{};
     std::uint8_t name_length[2] = {};
     std::uint8_t type_and_length[4] = {};
-    if (fields->left() < fixed_size || !fields->read(name_length, sizeof name_length)) {
+    if (fields->left() < asf_content_descriptor_fixed_size ||
+        !fields->read(name_length, sizeof name_length)) {
         return nullptr;
     }
     read.name_length = load_le16(name_length);
@@ -132,13 +136,12 @@ _asf_content_descriptor_t* asf_read_content_descriptor_from(AsfAheadReader* fiel
     read.name = name.release();
     read.value = value.release();
     *descriptor = read;
-    log_name(start, read);
-    log_value(read);
+    asf_log_content_descriptor(start, read);
     return descriptor;
 }
 
 int asf_store_content_descriptor(FIOFUNCSTRUCT* file, const _asf_content_descriptor_t* descriptor) {
-    log_name(fio_ltell(file), *descriptor);
+    asf_log_content_descriptor_name(fio_ltell(file), *descriptor);
     (void)fio_put_le16(file, descriptor->name_length);
     if (descriptor->name && descriptor->name_length > 0) {
         (void)fio_write(file, descriptor->name, descriptor->name_length);

@@ -41,6 +41,9 @@ struct _asf_content_descriptor_t {
 /** Frees name, value and the record. Null is allowed. */
 void asf_free_content_descriptor(_asf_content_descriptor_t* descriptor);
 
+/** Of a descriptor without name and value. */
+inline constexpr std::uint32_t asf_content_descriptor_fixed_size = 6;
+
 /** Bytes of DESCRIPTOR in the file: name length + value length + 6. */
 [[nodiscard]] std::uint32_t asf_content_descriptor_bytes(const _asf_content_descriptor_t* descriptor);
 
@@ -59,6 +62,11 @@ _asf_content_descriptor_t* asf_read_content_descriptor_before(FIOFUNCSTRUCT* fil
 /** The same with the bytes that FIELDS gives, in front of its end. */
 _asf_content_descriptor_t* asf_read_content_descriptor_from(AsfAheadReader* fields,
                                                             _asf_content_descriptor_t* descriptor);
+
+/** The lines that reading a descriptor at POSITION traces: its name and its value. */
+void asf_log_content_descriptor(std::int64_t position, const _asf_content_descriptor_t& descriptor);
+/** The line that writing one traces: its name. */
+void asf_log_content_descriptor_name(std::int64_t position, const _asf_content_descriptor_t& descriptor);
 
 /** Writes DESCRIPTOR. Returns 1; a failed write shows in the file's position only. */
 int asf_store_content_descriptor(FIOFUNCSTRUCT* file, const _asf_content_descriptor_t* descriptor);

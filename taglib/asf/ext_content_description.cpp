@@ -7,6 +7,7 @@
 #include "descriptor_value.h"
 #include "guids.h"
 #include "owned.h"
+#include "packed_descriptors.h"
 #include "read_at.h"
 #include "utf16.h"
 
@@ -41,6 +42,10 @@ private:
 
 /** The index of the descriptor called NAME, or ecd->count. */
 std::uint16_t index_of(const _asf_ext_content_description_t* ecd, const char* name) {
+    // What the object holds is the same in both forms.
+    if (!asf_unpack_descriptors(const_cast<_asf_ext_content_description_t*>(ecd))) {
+        return ecd->count;
+    }
     const NameKey key(name);
     std::uint16_t index = 0;
     while (index < ecd->count && !key.matches(*ecd->descriptors[index])) {
@@ -50,11 +55,14 @@ std::uint16_t index_of(const _asf_ext_content_description_t* ecd, const char* na
 }
 
 void free_descriptors(_asf_ext_content_description_t* ecd) {
-    for (std::uint16_t i = 0; i < ecd->count; ++i) {
+    for (std::uint16_t i = 0; ecd->descriptors && i < ecd->count; ++i) {
         asf_free_content_descriptor(ecd->descriptors[i]);
     }
     std::free(ecd->descriptors);
+    std::free(ecd->packed);
     ecd->descriptors = nullptr;
+    ecd->packed = nullptr;
+    ecd->packed_size = 0;
     ecd->count = 0;
 }
 
@@ -73,7 +81,7 @@ void log_object_lines(std::int64_t start, const _asf_ext_content_description_t* 
 }
 
 /** Reads COUNT descriptors. The array grows with what is really there. */
-bool read_descriptors(AsfAheadReader fields, _asf_ext_content_description_t* ecd, std::uint16_t count) {
+bool read_descriptors(AsfAheadReader* fields, _asf_ext_content_description_t* ecd, std::uint16_t count) {
     std::size_t capacity = 0;
     while (ecd->count < count) {
         if (ecd->count == capacity) {
@@ -82,7 +90,7 @@ bool read_descriptors(AsfAheadReader fields, _asf_ext_content_description_t* ecd
                 return false;
             }
         }
-        _asf_content_descriptor_t* const descriptor = asf_read_content_descriptor_from(&fields, nullptr);
+        _asf_content_descriptor_t* const descriptor = asf_read_content_descriptor_from(fields, nullptr);
         if (!descriptor) {
             return false;
         }
@@ -91,7 +99,7 @@ bool read_descriptors(AsfAheadReader fields, _asf_ext_content_description_t* ecd
     return true;
 }
 
-bool read_body(FIOFUNCSTRUCT* file, std::int64_t start, std::int64_t file_end,
+bool read_body(FIOFUNCSTRUCT* file, std::int64_t start, std::int64_t file_end, AsfDescriptorForm form,
                _asf_ext_content_description_t* ecd) {
     std::uint8_t count_bytes[fixed_size - asf_object_header_size] = {};
     const std::int64_t next = asf_position_behind(start, ecd->size);
@@ -102,9 +110,20 @@ bool read_body(FIOFUNCSTRUCT* file, std::int64_t start, std::int64_t file_end,
     const std::uint16_t count = load_le16(count_bytes);
     log_object_lines(start, ecd);
     DebugInfo("  NumEntries = %d\n", count);
-    const AsfAheadReader fields(file, start + fixed_size, std::min(next, file_end),
-                                AsfAheadReader::most_ahead);
-    return read_descriptors(fields, ecd, count) && fio_lseek(file, next, SEEK_SET) == next;
+    AsfAheadReader fields(file, start + fixed_size, std::min(next, file_end), AsfAheadReader::most_ahead);
+    const bool whole = form == AsfDescriptorForm::packed ? asf_read_packed_descriptors(&fields, ecd, count)
+                                                         : read_descriptors(&fields, ecd, count);
+    return whole && fio_lseek(file, next, SEEK_SET) == next;
+}
+
+/** A failed write shows in the file's position only. */
+void store_packed(FIOFUNCSTRUCT* file, const _asf_ext_content_description_t* ecd) {
+    std::int64_t position = fio_ltell(file);
+    for (AsfPackedWalk walk(ecd); walk.next();) {
+        asf_log_content_descriptor_name(position, walk.descriptor());
+        position += asf_content_descriptor_bytes(&walk.descriptor());
+    }
+    (void)fio_write(file, ecd->packed, ecd->packed_size);
 }
 
 } // namespace
@@ -125,8 +144,8 @@ void asf_free_ext_content_description(_asf_ext_content_description_t* ecd) {
 }
 
 std::uint32_t asf_ext_content_description_bytes(const _asf_ext_content_description_t* ecd) {
-    std::uint32_t size = fixed_size;
-    for (std::uint16_t i = 0; i < ecd->count; ++i) {
+    std::uint32_t size = fixed_size + ecd->packed_size;
+    for (std::uint16_t i = 0; ecd->descriptors && i < ecd->count; ++i) {
         size += asf_content_descriptor_bytes(ecd->descriptors[i]);
     }
     return size;
@@ -140,11 +159,13 @@ std::uint32_t asf_get_ext_content_description_size(const _asf_ext_content_descri
 
 _asf_ext_content_description_t* asf_read_ext_content_description(FIOFUNCSTRUCT* file,
                                                                  _asf_ext_content_description_t* ecd) {
-    return asf_read_ext_content_description_at(file, fio_ltell(file), asf_file_end(file), ecd);
+    return asf_read_ext_content_description_at(file, fio_ltell(file), asf_file_end(file),
+                                               AsfDescriptorForm::records, ecd);
 }
 
 _asf_ext_content_description_t* asf_read_ext_content_description_at(FIOFUNCSTRUCT* file, std::int64_t start,
                                                                     std::int64_t file_end,
+                                                                    AsfDescriptorForm form,
                                                                     _asf_ext_content_description_t* ecd) {
     AsfOwned<_asf_ext_content_description_t> made;
     if (!ecd) {
@@ -155,10 +176,11 @@ _asf_ext_content_description_t* asf_read_ext_content_description_at(FIOFUNCSTRUC
         }
     }
     *ecd = {};
+    const TraceBatch batch;
     if (!asf_read_object_at(file, start, ecd)) {
         return nullptr;
     }
-    if (!read_body(file, start, file_end, ecd)) {
+    if (!read_body(file, start, file_end, form, ecd)) {
         free_descriptors(ecd);
         return nullptr;
     }
@@ -172,6 +194,10 @@ int asf_store_ext_content_description(FIOFUNCSTRUCT* file, const _asf_ext_conten
         return 0;
     }
     (void)fio_put_le16(file, ecd->count);
+    if (ecd->packed) {
+        store_packed(file, ecd);
+        return 1;
+    }
     for (std::uint16_t i = 0; i < ecd->count; ++i) {
         if (!asf_store_content_descriptor(file, ecd->descriptors[i])) {
             return 0;
@@ -182,7 +208,8 @@ int asf_store_ext_content_description(FIOFUNCSTRUCT* file, const _asf_ext_conten
 
 int asf_insert_content_descriptor(_asf_ext_content_description_t* ecd,
                                   _asf_content_descriptor_t* descriptor) {
-    if (ecd->count == std::numeric_limits<std::uint16_t>::max() || !resize_array(ecd, ecd->count + 1u)) {
+    if (ecd->count == std::numeric_limits<std::uint16_t>::max() || !asf_unpack_descriptors(ecd) ||
+        !resize_array(ecd, ecd->count + 1u)) {
         return 0;
     }
     ecd->descriptors[ecd->count++] = descriptor;

@@ -18,7 +18,12 @@ namespace velmora {
 
 struct _asf_ext_content_description_t : _asf_object_t {
     std::uint16_t count;
+    std::uint32_t packed_size;               ///< bytes in `packed`
     _asf_content_descriptor_t** descriptors; ///< owned records in an owned array, in file order
+    /** Owned: the descriptors as they lie in a file, in place of `descriptors`, which is then null. So are
+        kept, for their sake of memory, the lists of a header that nobody looks into: all but the first.
+        Whichever function here works on single descriptors turns them into records first. */
+    std::uint8_t* packed;
 };
 
 /** A zeroed record that carries the Extended Content Description GUID, or null when memory is exhausted. */

@@ -58,6 +58,7 @@ private:
     [[nodiscard]] _asf_object_t* read_child(bool last);
     [[nodiscard]] _asf_object_t* parse(const _asf_object_t& child, bool last);
     [[nodiscard]] _asf_object_t* read_content_description(bool leads_on);
+    [[nodiscard]] _asf_object_t* read_ext_content_description();
     [[nodiscard]] _asf_object_t* read_raw_block(const _asf_object_t& child);
     [[nodiscard]] bool append(_asf_object_t* child, std::uint32_t count);
 
@@ -66,6 +67,8 @@ private:
     std::int64_t position_;
     std::int64_t file_end_;
     std::int64_t strings_ = 0; ///< bytes that the content descriptions took so far
+    bool has_cd_ = false;      ///< the first content description was read: no other one is looked into
+    bool has_ecd_ = false;
     std::size_t capacity_ = 0; ///< of the child array
 };
 
@@ -122,7 +125,7 @@ _asf_object_t* ChildReader::parse(const _asf_object_t& child, bool last) {
         return read_content_description(leads_on);
     }
     if (is_ecd) {
-        return leads_on ? asf_read_ext_content_description_at(file_, position_, file_end_, nullptr) : nullptr;
+        return leads_on ? read_ext_content_description() : nullptr;
     }
     return child.size > 0 ? asf_read_padding_object_at(file_, position_, nullptr) : nullptr;
 }
@@ -133,11 +136,20 @@ _asf_object_t* ChildReader::read_content_description(bool leads_on) {
     if (!leads_on || strings_ > file_end_) {
         return nullptr;
     }
-    _asf_content_description_t* const cd = asf_read_content_description_at(file_, position_, nullptr);
+    _asf_content_description_t* const cd = has_cd_
+                                               ? asf_read_fixed_content_description_at(file_, position_)
+                                               : asf_read_content_description_at(file_, position_, nullptr);
+    has_cd_ = true;
     if (cd) {
         strings_ += asf_content_description_bytes(cd);
     }
     return cd;
+}
+
+_asf_object_t* ChildReader::read_ext_content_description() {
+    const auto form = has_ecd_ ? AsfDescriptorForm::packed : AsfDescriptorForm::records;
+    has_ecd_ = true;
+    return asf_read_ext_content_description_at(file_, position_, file_end_, form, nullptr);
 }
 
 _asf_object_t* ChildReader::read_raw_block(const _asf_object_t& child) {
@@ -212,6 +224,7 @@ _asf_object_t* asf_find_object(const _asf_header_object_t* header, const GUID& g
 
 _asf_header_object_t* asf_read_header_object(FIOFUNCSTRUCT* file, _asf_header_object_t* header) {
     *header = {};
+    const TraceBatch batch;
     const std::int64_t start = fio_ltell(file);
     if (!asf_read_object_at(file, start, header) || header->guid != ASF_HeaderObject) {
         DebugError("asf_read_header_object: Not a valid header\n");
@@ -237,6 +250,7 @@ _asf_header_object_t* asf_read_header_object(FIOFUNCSTRUCT* file, _asf_header_ob
 }
 
 int asf_store_header_object(FIOFUNCSTRUCT* file, const _asf_header_object_t* header) {
+    const TraceBatch batch;
     if (fio_lseek(file, 0, SEEK_SET) != 0 || !asf_store_object(file, header)) {
         return 0;
     }
@@ -254,6 +268,7 @@ int asf_store_header_object(FIOFUNCSTRUCT* file, const _asf_header_object_t* hea
 }
 
 std::uint32_t asf_get_header_object_size(const _asf_header_object_t* header) {
+    const TraceBatch batch;
     std::uint32_t size = asf_header_object_fixed_size;
     for (std::uint32_t i = 0; i < header->child_count; ++i) {
         _asf_object_t* const child = header->children[i];

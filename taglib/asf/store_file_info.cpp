@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <limits>
+#include <unistd.h>
 
 namespace velmora {
 
@@ -114,6 +115,19 @@ std::int64_t header_growth(const _asf_header_object_t* header, std::uint64_t old
     return static_cast<std::int64_t>(std::uint64_t{asf_get_header_object_size(header)} - old_size);
 }
 
+/** Whether a child begins behind the end of the file: behind a padding that the file ends in. */
+bool leaves_a_hole(const _asf_header_object_t& header, std::uint64_t file_end) {
+    std::uint64_t position = asf_header_object_fixed_size;
+    for (std::uint32_t i = 0; i < header.child_count; ++i) {
+        const _asf_object_t& child = *header.children[i];
+        if (i > 0 && header.children[i - 1]->guid == ASF_PaddingObject && position > file_end) {
+            return true;
+        }
+        position += child.size;
+    }
+    return false;
+}
+
 /** Writes the header and moves the data to where the header, GROWTH bytes larger than before, will end. */
 [[nodiscard]] bool write_header(AsfOpenHeader& opened, std::uint64_t old_size, std::int64_t growth) {
     const std::uint64_t new_size = old_size + static_cast<std::uint64_t>(growth);
@@ -121,6 +135,15 @@ std::int64_t header_growth(const _asf_header_object_t* header, std::uint64_t old
     const auto to = static_cast<std::int64_t>(new_size);
     if (growth > 0 && !asf_move_file(opened.file(), from, to)) {
         return false;
+    }
+    if (growth < 0) {
+        // Data that is not there can't move. A header that would be far away from the rest of the file, with
+        // a hole between them, is then not written either.
+        const std::int64_t file_end = fio_lseek(opened.file(), 0, SEEK_END);
+        if (file_end >= 0 && from > file_end &&
+            leaves_a_hole(*opened.header(), static_cast<std::uint64_t>(file_end))) {
+            return asf_move_file(opened.file(), from, to) != 0;
+        }
     }
     opened.header()->size = new_size;
     if (!asf_store_header_object(opened.file(), opened.header())) {

@@ -17,6 +17,8 @@ namespace velmora {
     - the header can't be written (it is then partly new);
     - the media data can't be moved towards the start, which a shrinking header does last (the header is
       then the new one);
+    - neither could be done for a header that claims more than the file has, and a child of it would begin
+      behind the file's end, beyond a padding (the file unchanged);
     - the system reports only when the file is closed that something could not be written.
 
     The file is edited in place. Growth is taken from the padding object when that is the header's last

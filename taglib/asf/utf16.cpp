@@ -60,7 +60,9 @@ void utf8_to_utf16le(const char* source, void* target, std::size_t capacity) {
 
 Utf16TraceText::Utf16TraceText(const void* text, std::size_t length) : present_(text != nullptr) {
     if (text) {
-        std::memcpy(units_, text, utf16le_length(text, std::min(length, 2 * longest_message)));
+        const std::size_t shown = utf16le_length(text, std::min(length, 2 * longest_message));
+        std::memcpy(units_, text, shown);
+        units_[shown] = units_[shown + 1] = 0;
     }
 }
 

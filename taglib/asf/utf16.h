@@ -32,7 +32,7 @@ public:
 
 private:
     static constexpr std::size_t longest_message = 512;
-    std::uint8_t units_[2 * longest_message + 2] = {};
+    std::uint8_t units_[2 * longest_message + 2];
     bool present_;
 };
 

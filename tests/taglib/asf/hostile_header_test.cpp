@@ -213,6 +213,32 @@ TEST_F(HostileAsfHeader, BeyondThirtyTwoBitsIsNotStoredIntoAndStaysAsItIs) {
     EXPECT_EQ(bytes, read_file(path_));
 }
 
+TEST_F(HostileAsfHeader, APaddingBehindTheEndOfTheFileDoesNotLetARefusedStoreGrowIt) {
+    // Without a content description in front: the one that is made would go behind the padding's 64 MiB.
+    constexpr std::uint64_t padding_size = 64 << 20;
+    for (const std::string& first : {other_object(), ext_content_description({})}) {
+        const std::string bytes = object_of_size(
+            header_guid, 2 * padding_size,
+            u32(2) + u16(0) + first + object_of_size(padding_guid, padding_size, std::string(50, '.')));
+        write(bytes);
+        EXPECT_EQ(0, store());
+        EXPECT_EQ(bytes, read_file(path_));
+    }
+}
+
+TEST_F(HostileAsfHeader, APaddingBehindTheEndOfTheFileIsTracedAsTheMoveThatFails) {
+    const std::string bytes = object_of_size(
+        header_guid, 1 << 20, u32(1) + u16(0) + object_of_size(padding_guid, 1 << 16, std::string(50, '.')));
+    write(bytes);
+    _file_info_t info{};
+    StreamCapture log;
+    EXPECT_EQ(0, asf_store_file_info(path_.c_str(), &info));
+    // A header of 30 bytes, the padding, and twice the description of 34 that was made.
+    EXPECT_TRUE(log.text().ends_with("Final diff size = fffffffffff10062\n"
+                                     "asf_move_file: from 100000 to 10062\n"))
+        << log.text();
+}
+
 TEST_F(HostileAsfHeader, SizesAroundTheLastFilePositionAreNotStored) {
     for (const std::uint64_t size : {0x7FFFFFFFFFFFFFFFull, 0x8000000000000000ull, 0x8000000000000022ull,
                                      0x8000000000000076ull, 0xFFFFFFFFFFFFFF00ull, 0xFFFFFFFFFFFFFFFFull}) {

@@ -1,0 +1,165 @@
+#include "packed_descriptors.h"
+
+#include "../byte_order.h"
+#include "ahead_reader.h"
+#include "owned.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace velmora {
+
+namespace {
+
+/** A block that grows as bytes are read into it. */
+class Block {
+public:
+    /** Reads LENGTH bytes behind those that the block has; null when they can't be had. */
+    [[nodiscard]] const std::uint8_t* read(AsfAheadReader* fields, std::size_t length) {
+        if (static_cast<std::int64_t>(length) > fields->left() || !reserve(size_ + length)) {
+            return nullptr;
+        }
+        std::uint8_t* const bytes = memory_.get() + size_;
+        std::memset(bytes, 0, length);
+        size_ += length;
+        return fields->read(bytes, length) ? bytes : nullptr;
+    }
+    [[nodiscard]] std::size_t size() const { return size_; }
+    /** The byte at POSITION, which stays there only until the next read. */
+    [[nodiscard]] std::uint8_t* at(std::size_t position) { return memory_.get() + position; }
+    /** The memory, cut to its contents; the caller owns it. */
+    [[nodiscard]] std::uint8_t* release() {
+        void* const cut = size_ > 0 ? std::realloc(memory_.get(), size_) : nullptr;
+        std::uint8_t* const kept = memory_.release();
+        return cut ? static_cast<std::uint8_t*>(cut) : kept;
+    }
+
+private:
+    bool reserve(std::size_t size) {
+        if (size <= capacity_) {
+            return true;
+        }
+        const std::size_t capacity = std::max<std::size_t>(size, capacity_ + capacity_ / 2);
+        void* const grown = std::realloc(memory_.get(), capacity);
+        if (!grown) {
+            return false;
+        }
+        (void)memory_.release();
+        memory_.reset(static_cast<std::uint8_t*>(grown));
+        capacity_ = capacity;
+        return true;
+    }
+
+    AsfOwned<std::uint8_t> memory_;
+    std::size_t size_ = 0;
+    std::size_t capacity_ = 0;
+};
+
+/** The descriptor at AT, whose name and value stay where they are. */
+_asf_content_descriptor_t view_of(const std::uint8_t* at) {
+    _asf_content_descriptor_t view{};
+    view.name_length = load_le16(at);
+    const std::uint8_t* const behind_name = at + 2 + view.name_length;
+    view.type = load_le16(behind_name);
+    view.value_length = load_le16(behind_name + 2);
+    view.name = view.name_length > 0 ? const_cast<std::uint8_t*>(at + 2) : nullptr;
+    view.value = view.value_length > 0 ? const_cast<std::uint8_t*>(behind_name + 4) : nullptr;
+    return view;
+}
+
+bool read_packed(AsfAheadReader* fields, Block& block) {
+    const std::size_t start = block.size();
+    const std::int64_t position = fields->position();
+    if (fields->left() < static_cast<std::int64_t>(asf_content_descriptor_fixed_size)) {
+        return false;
+    }
+    const std::uint8_t* bytes = block.read(fields, 2);
+    if (!bytes || !block.read(fields, load_le16(bytes))) {
+        return false;
+    }
+    bytes = block.read(fields, 4);
+    if (!bytes || !block.read(fields, load_le16(bytes + 2))) {
+        return false;
+    }
+    asf_log_content_descriptor(position, view_of(block.at(start)));
+    return true;
+}
+
+std::uint8_t* copy_of(const std::uint8_t* bytes, std::size_t length) {
+    std::uint8_t* const copy = asf_new_bytes(length);
+    if (copy) {
+        std::memcpy(copy, bytes, length);
+    }
+    return copy;
+}
+
+/** A record of its own, or null. */
+_asf_content_descriptor_t* record_of(const _asf_content_descriptor_t& view) {
+    _asf_content_descriptor_t* const record = asf_init_content_descriptor();
+    if (!record) {
+        return nullptr;
+    }
+    *record = view;
+    record->name = view.name ? copy_of(view.name, view.name_length) : nullptr;
+    record->value = view.value ? copy_of(view.value, view.value_length) : nullptr;
+    if ((view.name && !record->name) || (view.value && !record->value)) {
+        asf_free_content_descriptor(record);
+        return nullptr;
+    }
+    return record;
+}
+
+} // namespace
+
+bool AsfPackedWalk::next() {
+    if (left_ == 0) {
+        return false;
+    }
+    --left_;
+    descriptor_ = view_of(at_);
+    at_ += asf_content_descriptor_bytes(&descriptor_);
+    return true;
+}
+
+bool asf_read_packed_descriptors(AsfAheadReader* fields, _asf_ext_content_description_t* ecd,
+                                 std::uint16_t count) {
+    Block block;
+    for (std::uint16_t i = 0; i < count; ++i) {
+        if (!read_packed(fields, block)) {
+            return false;
+        }
+    }
+    ecd->count = count;
+    ecd->packed_size = static_cast<std::uint32_t>(block.size());
+    ecd->packed = block.release();
+    return true;
+}
+
+bool asf_unpack_descriptors(_asf_ext_content_description_t* ecd) {
+    if (!ecd->packed) {
+        return true;
+    }
+    const std::size_t count = ecd->count;
+    AsfOwned<_asf_content_descriptor_t*> array(
+        static_cast<_asf_content_descriptor_t**>(std::calloc(count, sizeof(_asf_content_descriptor_t*))));
+    std::size_t done = 0;
+    AsfPackedWalk walk(ecd);
+    while (array && walk.next()) {
+        array.get()[done] = record_of(walk.descriptor());
+        if (!array.get()[done]) {
+            break;
+        }
+        ++done;
+    }
+    if (!array || done < count) {
+        std::for_each(array.get(), array.get() + done, asf_free_content_descriptor);
+        return false;
+    }
+    std::free(ecd->packed);
+    ecd->packed = nullptr;
+    ecd->packed_size = 0;
+    ecd->descriptors = array.release();
+    return true;
+}
+
+} // namespace velmora
