@@ -39,6 +39,14 @@ QPixmap scaledTo(const QSize& size, const QImage& image) {
     return QPixmap::fromImage(source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
+/** Takes part in a drag with a copy. A source that offers none is told that nothing is done with its data: it
+   would delete what it takes for moved. */
+void answerWithCopy(QDropEvent& event) {
+    const bool offersCopy = event.possibleActions() & Qt::CopyAction;
+    event.setDropAction(offersCopy ? Qt::CopyAction : Qt::IgnoreAction);
+    event.accept();
+}
+
 /** The clipboard's contents; null when it has none. */
 const QMimeData* clipboardData() {
     return QGuiApplication::clipboard()->mimeData();
@@ -173,19 +181,16 @@ void CoverArtView::concludeDragOperation(const QMimeData& dragged) {
 }
 
 void CoverArtView::dragEnterEvent(QDragEnterEvent* event) {
-    // A source that can only move its data would lose it to a drop.
-    if (!offersImageData(*event->mimeData()) || !(event->possibleActions() & Qt::CopyAction)) {
+    if (!offersImageData(*event->mimeData())) {
         event->ignore();
         return;
     }
     draggingEntered();
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
+    answerWithCopy(*event);
 }
 
 void CoverArtView::dragMoveEvent(QDragMoveEvent* event) {
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
+    answerWithCopy(*event);
 }
 
 void CoverArtView::dragLeaveEvent(QDragLeaveEvent* event) {
@@ -195,8 +200,7 @@ void CoverArtView::dragLeaveEvent(QDragLeaveEvent* event) {
 
 void CoverArtView::dropEvent(QDropEvent* event) {
     // One event stands for the whole end of a drag, and no leave event follows it.
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
+    answerWithCopy(*event);
     if (prepareForDragOperation() && performDragOperation()) {
         concludeDragOperation(*event->mimeData());
     }

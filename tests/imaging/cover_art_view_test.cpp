@@ -122,11 +122,27 @@ TEST_F(CoverArtViewDrag, AWebAddressIsNoFile) {
     EXPECT_FALSE(DragSession(*view, data).enter());
 }
 
-TEST_F(CoverArtViewDrag, ASourceThatOnlyMovesItsDataIsNotRobbed) {
+TEST_F(CoverArtViewDrag, ASourceThatOnlyMovesItsDataMayEnterAndIsNotRobbed) {
+    QMimeData data;
+    data.setUrls(fileUrls({imageFile("a.png", Qt::red)}));
+    DragSession drag(*view, data, Qt::MoveAction);
+    EXPECT_TRUE(drag.enter());
+    EXPECT_EQ(log->text(), "in draggingEntered:\n");
+    EXPECT_EQ(view->focusRingType(), Ring::Default);
+    EXPECT_TRUE(drag.move());
+    EXPECT_NE(drag.action(), Qt::MoveAction);
+    EXPECT_TRUE(drag.drop());
+    EXPECT_NE(drag.action(), Qt::MoveAction) << "the source would delete its file";
+    EXPECT_EQ(view->image().pixelColor(0, 0), QColor(Qt::red));
+    EXPECT_EQ(receiver.calls.size(), 1U);
+    EXPECT_EQ(view->focusRingType(), Ring::None);
+}
+
+TEST_F(CoverArtViewDrag, ASourceThatOnlyLinksItsDataMayEnter) {
     QMimeData data;
     data.setUrls(fileUrls({"/nowhere/a.jpg"}));
-    EXPECT_FALSE(DragSession(*view, data, Qt::MoveAction).enter());
-    EXPECT_EQ(view->focusRingType(), Ring::None);
+    EXPECT_TRUE(DragSession(*view, data, Qt::LinkAction, Qt::LinkAction).enter());
+    EXPECT_EQ(view->focusRingType(), Ring::Default);
 }
 
 TEST_F(CoverArtViewDrag, LeavingIsLoggedAndEndsTheHovering) {

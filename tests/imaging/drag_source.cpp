@@ -1,6 +1,6 @@
 // A window at the top left of the screen from which a file can be dragged: another program, as the cover art
 // view sees it. Its arguments are the paths of the files; "--image" instead drags a green image without a
-// file.
+// file, and "--move" in front offers no copy. Prints what became of each drag: the number of Qt::DropAction.
 
 #include <QApplication>
 #include <QDrag>
@@ -9,6 +9,8 @@
 #include <QMouseEvent>
 #include <QUrl>
 #include <QWidget>
+
+#include <cstdio>
 
 namespace {
 
@@ -20,7 +22,11 @@ protected:
         }
         auto* drag = new QDrag(this);
         drag->setMimeData(data());
-        drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+        const bool movesOnly = QApplication::arguments().contains(QStringLiteral("--move"));
+        const Qt::DropActions actions = Qt::MoveAction | (movesOnly ? Qt::IgnoreAction : Qt::CopyAction);
+        const int action = drag->exec(actions, Qt::MoveAction);
+        std::printf("%d\n", action);
+        std::fflush(stdout);
     }
 
 private:
@@ -35,7 +41,9 @@ private:
         }
         QList<QUrl> urls;
         for (const QString& path : arguments) {
-            urls << QUrl::fromLocalFile(path);
+            if (!path.startsWith(QLatin1String("--"))) {
+                urls << QUrl::fromLocalFile(path);
+            }
         }
         data->setUrls(urls);
         return data;

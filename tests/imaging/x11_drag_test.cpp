@@ -103,6 +103,20 @@ TEST_F(CoverArtViewOnX11, AnImageWithoutAFileIsDroppedWithTheMouse) {
     EXPECT_EQ(view->image().pixelColor(5, 5), QColor(Qt::green));
 }
 
+TEST_F(CoverArtViewOnX11, AFileThatIsOnlyOfferedToBeMovedIsCopied) {
+    const ScratchFolder folder;
+    const QString path = QString::fromStdString(folder / "red.png");
+    ASSERT_TRUE(plain(Qt::red).save(path));
+    pickUp({"--move", path});
+    moveOverView();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return view->focusRingType() == Ring::Default; }, patience));
+    release();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !receiver.calls.empty(); }, patience));
+    EXPECT_FALSE(view->image().isNull());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return source.canReadLine(); }, patience));
+    EXPECT_NE(source.readLine().toInt(), int{Qt::MoveAction}) << "the source would delete its file";
+}
+
 TEST_F(CoverArtViewOnX11, ADragThatLeavesAgainChangesNothing) {
     pickUp({"/nowhere/a.png"});
     moveOverView();
