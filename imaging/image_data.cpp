@@ -1,7 +1,6 @@
 #include "image_data.h"
 
 #include "platform/file_path.h"
-#include "platform/image.h"
 
 #include <QMimeData>
 #include <QUrl>
@@ -15,21 +14,25 @@ bool isImageFormat(const QString& format) {
     return format.startsWith(QLatin1String("image/"));
 }
 
-QImage firstImageOfFiles(const QList<QUrl>& urls) {
+ImageRef firstImageOfFiles(const QList<QUrl>& urls) {
     for (const QUrl& url : urls) {
         const QString path = pathFromFileUrl(url);
         if (path.isEmpty()) {
             continue;
         }
-        if (QImage image = imageFromFile(path); !image.isNull()) {
+        if (ImageRef image = ImageRef::fromFile(path)) {
             return image;
         }
     }
     return {};
 }
 
-QImage imageOfFormat(const QMimeData& data, const QString& format) {
-    return data.hasFormat(format) ? QImage::fromData(data.data(format)) : QImage();
+/** The image that this process itself put into DATA. What another program offers is not asked for in this
+   way: the desktop would decode it by any format that it knows. */
+ImageRef imageOfThisProcess(const QMimeData& data) {
+    const bool isForeign = data.inherits("QInternalMimeData");
+    return isForeign || !data.hasImage() ? ImageRef()
+                                         : ImageRef::fromQImage(qvariant_cast<QImage>(data.imageData()));
 }
 
 /** The data's own formats, TIFF and PICT before the others. */
@@ -52,16 +55,20 @@ bool offersImageData(const QMimeData& data) {
            data.hasImage() || std::any_of(formats.begin(), formats.end(), isImageFormat);
 }
 
-QImage imageFromData(const QMimeData& data) {
-    if (QImage image = firstImageOfFiles(data.urls()); !image.isNull()) {
+ImageRef imageInData(const QMimeData& data) {
+    if (ImageRef image = firstImageOfFiles(data.urls())) {
         return image;
     }
     for (const QString& format : imageFormats(data)) {
-        if (QImage image = imageOfFormat(data, format); !image.isNull()) {
+        if (ImageRef image = ImageRef::fromBytes(data.data(format))) {
             return image;
         }
     }
-    return data.hasImage() ? qvariant_cast<QImage>(data.imageData()) : QImage();
+    return imageOfThisProcess(data);
+}
+
+QImage imageFromData(const QMimeData& data) {
+    return imageInData(data).toQImage();
 }
 
 } // namespace velmora

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/image.h"
+
 #include <QImage>
 
 class QMimeData;
@@ -10,8 +12,11 @@ namespace velmora {
  * image data of another kind that the desktop hands on. Nothing is read: the files may hold anything. */
 [[nodiscard]] bool offersImageData(const QMimeData& data);
 
-/** The image in DATA, or a null image: the first file of the list that loads as an image, else the image
- * data. */
+/** The image in DATA, or none: the first file of the list that loads as an image, else the image data. What
+ * the formats are called plays no part, only what the bytes are. */
+[[nodiscard]] ImageRef imageInData(const QMimeData& data);
+
+/** Its pixels, or a null image. */
 [[nodiscard]] QImage imageFromData(const QMimeData& data);
 
 } // namespace velmora

@@ -2,6 +2,7 @@
 
 #include "bitmap_trim.h"
 
+#include "platform/image_decode.h"
 #include "platform/log.h"
 
 #include <QColorSpace>
@@ -62,7 +63,7 @@ void copy_pixels(const std::uint32_t* pixels, QImage& representation) {
 } // namespace
 
 QImage TrimBorderSteps::imageSource(const QImage& cover) const {
-    QImage source = cover;
+    QImage source = withWholePalette(cover);
     source.setDevicePixelRatio(1);
     return source;
 }

@@ -1,12 +1,10 @@
 #include "image.h"
 
 #include "file_path.h"
+#include "image_encode.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <QImageReader>
-#include <QImageWriter>
-#include <QPainter>
 
 #include <atomic>
 #include <fcntl.h>
@@ -17,39 +15,43 @@ namespace velmora {
 
 struct Image {
     std::atomic<int> references = 1;
-    QByteArray bytes; ///< encoded form, when the image was made from one
+    QByteArray bytes; ///< encoded form, when the image was made from one and is not kept as pixels
+    PictureHeader header;
     mutable QImage pixels;
 
-    const QImage& decoded() const {
-        if (pixels.isNull() && !bytes.isEmpty()) {
-            pixels = QImage::fromData(bytes);
+    QImage decoded() const {
+        if (!pixels.isNull() || bytes.isEmpty()) {
+            return pixels;
         }
-        return pixels;
+        QImage fresh = decodePicture(bytes, header);
+        if (isQuicklyDecoded(header)) {
+            pixels = fresh;
+        }
+        return fresh;
     }
 };
 
 namespace {
 
-constexpr int jpegQuality = 20; // compression factor 0.2
+/** Far more than a picture takes. */
+constexpr qint64 largestFile = qint64{512} << 20;
 
 Image* imageFromEncoded(const QByteArray& bytes) {
-    QBuffer buffer;
-    buffer.setData(bytes);
-    buffer.open(QIODevice::ReadOnly);
-    const QImageReader reader(&buffer);
-    // The header alone tells whether these bytes are an image; an image of no size is none.
-    if (!reader.canRead() || reader.size().isEmpty()) {
-        QImage pixels = QImage::fromData(bytes);
-        if (pixels.isNull()) {
+    const std::optional<PictureHeader> header = readPictureHeader(bytes);
+    if (!header || !hasDecodableData(bytes, *header)) {
+        return nullptr;
+    }
+    auto image = std::make_unique<Image>();
+    image->header = *header;
+    if (header->format == PictureFormat::Jpeg || !isQuicklyDecoded(*header)) {
+        image->bytes = bytes;
+    } else {
+        image->pixels = decodePicture(bytes, *header);
+        if (image->pixels.isNull()) {
             return nullptr;
         }
-        auto* image = new Image;
-        image->pixels = std::move(pixels);
-        return image;
     }
-    auto* image = new Image;
-    image->bytes = bytes;
-    return image;
+    return image.release();
 }
 
 /** Opens a regular file for reading; FILE stays closed otherwise. */
@@ -63,18 +65,6 @@ void openRegularFile(const char* path, QFile& file) {
         !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         ::close(descriptor);
     }
-}
-
-QImage withoutTransparency(const QImage& pixels) {
-    if (!pixels.hasAlphaChannel()) {
-        return pixels;
-    }
-    QImage flat(pixels.size(), QImage::Format_RGB32);
-    flat.fill(Qt::white);
-    QImage source = pixels;
-    source.setDevicePixelRatio(1);
-    QPainter(&flat).drawImage(0, 0, source);
-    return flat;
 }
 
 } // namespace
@@ -100,26 +90,18 @@ Image* image_from_file(const char* path) {
     QFile file;
     openRegularFile(path, file);
     // The first bytes decide before the rest is read: a film chosen by mistake is not pulled into memory.
-    if (!file.isOpen() || !QImageReader(&file).canRead() || !file.seek(0)) {
+    if (!file.isOpen() || file.size() > largestFile || !pictureFormat(file.peek(pictureSignatureSize))) {
         return nullptr;
     }
     return imageFromEncoded(file.readAll());
 }
 
 std::vector<std::uint8_t> image_to_jpeg(const Image* image) {
-    if (!image || image->decoded().isNull()) {
+    if (!image) {
         return {};
     }
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "jpeg");
-    writer.setQuality(jpegQuality);
-    writer.setProgressiveScanWrite(true);
-    if (!writer.write(withoutTransparency(image->decoded()))) {
-        return {};
-    }
-    const QByteArray& data = buffer.data();
-    return {data.begin(), data.end()};
+    const QByteArray jpeg = encodedAsJpeg(image->decoded());
+    return {jpeg.begin(), jpeg.end()};
 }
 
 ImageRef ImageRef::adopt(Image* image) {
@@ -135,12 +117,25 @@ ImageRef ImageRef::fromQImage(const QImage& pixels) {
         return {};
     }
     auto* image = new Image;
-    image->pixels = pixels;
+    image->pixels = withWholePalette(pixels);
     return ImageRef(image);
+}
+
+ImageRef ImageRef::fromBytes(const QByteArray& bytes) {
+    return ImageRef(imageFromEncoded(bytes));
+}
+
+ImageRef ImageRef::fromFile(const QString& path) {
+    return ImageRef(image_from_file(pathBytes(path).constData()));
 }
 
 QImage ImageRef::toQImage() const {
     return image_ ? image_->decoded() : QImage();
+}
+
+std::optional<EncodedPicture> ImageRef::slowlyDecoded() const {
+    const bool isSlow = image_ && !image_->bytes.isEmpty() && !isQuicklyDecoded(image_->header);
+    return isSlow ? std::optional(EncodedPicture{image_->bytes, image_->header}) : std::nullopt;
 }
 
 void allowLargeImages() {
@@ -148,7 +143,7 @@ void allowLargeImages() {
 }
 
 QImage imageFromFile(const QString& path) {
-    return ImageRef::adopt(image_from_file(pathBytes(path).constData())).toQImage();
+    return ImageRef::fromFile(path).toQImage();
 }
 
 } // namespace velmora

@@ -1,16 +1,24 @@
 #pragma once
 
+#include "image_decode.h"
 #include "image_seam/image.h"
 
 #include <QImage>
 #include <QMetaType>
 
+#include <optional>
 #include <utility>
 
 namespace velmora {
 
+/** A picture as it came, still to be decoded. */
+struct EncodedPicture {
+    QByteArray bytes;
+    PictureHeader header;
+};
+
 /** A counted reference to an image object of the tag library, or none. Encoded images keep their bytes and
-   are decoded when somebody first asks for the pixels. */
+   are decoded when somebody asks for the pixels; those of a picture that is quickly decoded are kept. */
 class ImageRef {
 public:
     ImageRef() = default;
@@ -20,6 +28,10 @@ public:
     [[nodiscard]] static ImageRef share(Image* image);
     /** An image of these pixels; none for a null QImage. */
     [[nodiscard]] static ImageRef fromQImage(const QImage& pixels);
+    /** The image that BYTES hold (see readPictureHeader); none when they hold none. */
+    [[nodiscard]] static ImageRef fromBytes(const QByteArray& bytes);
+    /** The image in the file at PATH, told by its content; none when there is none. */
+    [[nodiscard]] static ImageRef fromFile(const QString& path);
 
     ImageRef(const ImageRef& other) : image_(image_retain(other.image_)) {}
     ImageRef(ImageRef&& other) noexcept : image_(std::exchange(other.image_, nullptr)) {}
@@ -34,8 +46,11 @@ public:
     [[nodiscard]] Image* get() const { return image_; }
 
     /** The pixels; a null QImage when there is no image or its data turns out to be damaged. The device pixel
-       ratio carries the nominal size. */
+       ratio carries the nominal size. May take seconds when slowlyDecoded() has a value. */
     [[nodiscard]] QImage toQImage() const;
+    /** The encoded form of an image that is so large that its pixels are better not waited for; nothing for
+       others. */
+    [[nodiscard]] std::optional<EncodedPicture> slowlyDecoded() const;
 
 private:
     explicit ImageRef(Image* image) : image_(image) {}
@@ -46,8 +61,7 @@ private:
    for large scans of covers. For the whole program; to be called once, at its start. */
 void allowLargeImages();
 
-/** The image in the file at PATH (any format that the platform reads, told by its content), or a null QImage.
- */
+/** The pixels of the image in the file at PATH, or a null QImage. */
 [[nodiscard]] QImage imageFromFile(const QString& path);
 
 } // namespace velmora

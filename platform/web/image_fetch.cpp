@@ -1,6 +1,7 @@
 #include "image_fetch.h"
 
 #include "input_block.h"
+#include "platform/image.h"
 #include "platform/modal_loop.h"
 
 #include <QEventLoop>
@@ -74,7 +75,7 @@ std::optional<QImage> fetchImage(const QUrl& url, const QObject* context) {
         reply->abort();
         return std::nullopt;
     }
-    return cameWhole(*reply) ? QImage::fromData(reply->readAll()) : QImage();
+    return cameWhole(*reply) ? ImageRef::fromBytes(reply->readAll()).toQImage() : QImage();
 }
 
 } // namespace velmora

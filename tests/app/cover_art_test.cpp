@@ -1,0 +1,97 @@
+// The cover well of the window, over files whose covers are not what they say.
+
+#include "window_fixture.h"
+
+#include "imaging/CoverArtView.h"
+#include "support/bytes.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include <sys/stat.h>
+
+namespace velmora {
+namespace {
+
+class CoverArtTest : public test::WindowTest {
+protected:
+    static std::string encoded(const QImage& image, const char* format = "jpeg") {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        EXPECT_TRUE(image.save(&buffer, format));
+        return buffer.data().toStdString();
+    }
+
+    static QImage plain(QSize size) {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::darkCyan);
+        return image;
+    }
+
+    /** An APIC frame that calls DATA a JPEG. */
+    static std::string cover(const std::string& data) {
+        std::string body(1, '\0');
+        body += "image/jpeg";
+        body += std::string("\0\3\0", 3) + data;
+        return frame("APIC", body);
+    }
+    static std::string frame(const std::string& id, const std::string& body) {
+        const std::size_t size = body.size();
+        return id +
+               std::string({static_cast<char>(size >> 21 & 0x7F), static_cast<char>(size >> 14 & 0x7F),
+                            static_cast<char>(size >> 7 & 0x7F), static_cast<char>(size & 0x7F), '\0',
+                            '\0'}) +
+               body;
+    }
+    /** A JPEG whose header is whole and whose data never comes. */
+    static std::string headerOnly(QSize size) {
+        const std::string jpeg = encoded(plain(size));
+        return jpeg.substr(0, jpeg.find("\xFF\xDA"));
+    }
+    static std::string svgThatShows(const std::string& path) {
+        return "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" "
+               "width=\"8\" height=\"8\"><image width=\"8\" height=\"8\" xlink:href=\"" +
+               path + "\"/></svg>";
+    }
+
+    CoverArtView& well() { return widget<CoverArtView>("img_coverArt"); }
+};
+
+TEST_F(CoverArtTest, ACoverThatIsAnSvgShowsNoFileOfThisMachine) {
+    test::write_file(folder_ / "private.png", encoded(plain(QSize(8, 8)), "png"));
+    openFile("a.mp3", cover(svgThatShows(folder_ / "private.png")));
+    EXPECT_TRUE(well().image().isNull());
+    EXPECT_FALSE(file().coverArt());
+    EXPECT_FALSE(enabled("btn_trimBorder"));
+}
+
+TEST_F(CoverArtTest, ACoverThatIsAnSvgWaitsForNoPipe) {
+    ASSERT_EQ(0, ::mkfifo((folder_ / "pipe").c_str(), 0600));
+    test::write_file(folder_ / "folder.jpg", svgThatShows(folder_ / "pipe"));
+    openFile("a.mp3", cover(svgThatShows(folder_ / "pipe")));
+    EXPECT_TRUE(well().image().isNull());
+}
+
+TEST_F(CoverArtTest, ACoverThatCannotBeDecodedLeavesItsPlaceToTheFoldersImage) {
+    for (const QSize size : {QSize(300, 200), QSize(3000, 2000)}) {
+        test::write_file(folder_ / "folder.jpg", encoded(plain(QSize(20, 10))));
+        openFile("a.mp3", cover(headerOnly(size)));
+        EXPECT_EQ(QSize(20, 10), well().image().size());
+        EXPECT_TRUE(enabled("btn_trimBorder"));
+        EXPECT_TRUE(document().isDocumentEdited());
+        controller().removeTag();
+    }
+}
+
+TEST_F(CoverArtTest, ACoverThatCannotBeDecodedLeavesItsPlaceToTheAlbumsImage) {
+    test::write_file(folder_ / "AlbumArt_{13121110-1514-1716-1819-1a1b1c1d1e1f}_Large.jpg",
+                     encoded(plain(QSize(30, 40))));
+    const std::string album = std::string("WM/WMCollectionGroupID") + '\0' +
+                              test::hex("10 11 12 13 14 15 16 17 18 19 1A 1B 1C 1D 1E 1F");
+    openFile("a.mp3", cover(headerOnly(QSize(300, 200))) + frame("PRIV", album));
+    EXPECT_EQ(QSize(30, 40), well().image().size());
+    EXPECT_FALSE(document().isDocumentEdited());
+}
+
+} // namespace
+} // namespace velmora
