@@ -6,30 +6,38 @@
 #include <cerrno>
 #include <cstring>
 #include <unistd.h>
+#include <utility>
 
 namespace velmora {
 
-namespace {
-
-/** Makes ARRAY hold COUNT values; false, with ARRAY as it was, when there is no memory. */
-template <typename Value, typename Deleter>
-bool resize(std::unique_ptr<Value, Deleter>& array, std::size_t count) {
-    void* const moved = std::realloc(array.get(), count * sizeof(Value));
+template <typename Value, std::size_t Count>
+bool WriteCursor::Room<Value, Count>::grow(std::size_t count) {
+    if (count <= count_) {
+        return true;
+    }
+    const int error = errno;
+    const std::size_t room = std::max(count, 2 * count_);
+    auto* const moved = static_cast<Value*>(std::realloc(grown_.get(), room * sizeof(Value)));
     if (!moved) {
+        errno = error;
         return false;
     }
-    (void)array.release();
-    array.reset(static_cast<Value*>(moved));
+    if (!grown_) {
+        std::copy_n(here_.data(), Count, moved);
+    }
+    [[maybe_unused]] Value* const freed_by_realloc = grown_.release();
+    grown_.reset(moved);
+    std::fill(moved + count_, moved + room, Value{});
+    count_ = room;
     return true;
 }
-
-} // namespace
 
 template <typename Value, typename Store>
 void WriteCursor::put_number(Value value, Store store) {
     if (std::uint8_t* const room = add_to_buffer(sizeof value)) {
         store(room, value);
     }
+    count_field(sizeof value);
 }
 
 void WriteCursor::put_byte(std::uint8_t value) {
@@ -60,76 +68,71 @@ void WriteCursor::put(const void* bytes, std::size_t length) {
     if (length == 0) {
         return;
     }
+    const auto* const block = static_cast<const std::uint8_t*>(bytes);
     if (length > largest_copy) {
-        out_of_memory_ |= !add_piece(static_cast<const std::uint8_t*>(bytes), length);
-        count_field(length);
+        add_block(block, length);
     } else if (std::uint8_t* const room = add_to_buffer(length)) {
         std::memcpy(room, bytes, length);
+    } else {
+        add_block(block, length);
+        write_pieces(); // nobody keeps the bytes
     }
+    count_field(length);
 }
 
 bool WriteCursor::commit() {
-    bytes_written_ = 0;
-    fields_written_ = 0;
-    bool whole = !out_of_memory_;
-    if (whole) {
-        for (std::size_t i = 0; whole && i < piece_count_; ++i) {
-            whole = write_piece(pieces_.get()[i]);
-        }
-        fields_written_ = whole ? fields_ : whole_fields_in(bytes_written_);
-    } else {
-        errno = ENOMEM;
+    write_pieces();
+    if (stopped_) {
+        errno = *stopped_;
     }
-    clear();
-    return whole;
+    bytes_written_ = std::exchange(bytes_out_, 0);
+    fields_written_ = std::exchange(fields_out_, 0);
+    bytes_ = 0;
+    fields_ = 0;
+    return !std::exchange(stopped_, std::nullopt);
 }
 
-/** Room for a field of LENGTH bytes at the buffer's end, or null when memory ran out. */
+/** Room for a field of LENGTH bytes at the buffer's end, or null where there is none even in an empty buffer,
+    or no use for it. */
 std::uint8_t* WriteCursor::add_to_buffer(std::size_t length) {
-    if (out_of_memory_ || !reserve_buffer(length) || !add_piece(nullptr, length)) {
-        out_of_memory_ = true;
-        count_field(length);
-        return nullptr;
+    if (!reserve_buffer(length) || !add_piece(nullptr, length)) {
+        write_pieces();
+        if (length > std::min(buffer_.count(), 8 * starts_.count()) || !add_piece(nullptr, length)) {
+            return nullptr;
+        }
     }
-    starts_.get()[used_ / 8] |= static_cast<std::uint8_t>(1U << used_ % 8);
-    std::uint8_t* const room = buffer_.get() + used_;
+    starts_.values()[used_ / 8] |= static_cast<std::uint8_t>(1U << used_ % 8);
+    std::uint8_t* const room = buffer_.values() + used_;
     used_ += length;
-    count_field(length);
     return room;
 }
 
 bool WriteCursor::reserve_buffer(std::size_t length) {
-    if (length <= room_ - used_) {
-        return true;
-    }
-    constexpr std::size_t smallest = 1024;
-    const std::size_t room = (std::max({smallest, 2 * room_, used_ + length}) + 7) / 8 * 8;
-    if (!resize(buffer_, room) || !resize(starts_, room / 8)) {
-        return false;
-    }
-    std::memset(starts_.get() + room_ / 8, 0, (room - room_) / 8);
-    room_ = room;
-    return true;
+    return buffer_.grow(used_ + length) && starts_.grow((used_ + length + 7) / 8);
 }
 
-/** Enters LENGTH bytes at the position: those of BLOCK, or the next ones of the buffer. */
+/** Enters LENGTH bytes at the position: those of BLOCK, or the next ones of the buffer. False when there is
+   no memory for it. */
 bool WriteCursor::add_piece(const std::uint8_t* block, std::size_t length) {
     if (!block && piece_count_ > 0) {
-        Piece& last = pieces_.get()[piece_count_ - 1];
+        Piece& last = pieces_.values()[piece_count_ - 1];
         if (!last.block && last.position + last.length == position_) {
             last.length += length;
             return true;
         }
     }
-    if (piece_count_ == piece_room_) {
-        const std::size_t room = std::max<std::size_t>(4, 2 * piece_room_);
-        if (!resize(pieces_, room)) {
-            return false;
-        }
-        piece_room_ = room;
+    if (!pieces_.grow(piece_count_ + 1)) {
+        return false;
     }
-    pieces_.get()[piece_count_++] = {position_, block, used_, length};
+    pieces_.values()[piece_count_++] = {position_, block, used_, length};
     return true;
+}
+
+void WriteCursor::add_block(const std::uint8_t* block, std::size_t length) {
+    if (!add_piece(block, length)) {
+        write_pieces();
+        [[maybe_unused]] const bool always_in_an_empty_list = add_piece(block, length);
+    }
 }
 
 void WriteCursor::count_field(std::size_t length) {
@@ -138,35 +141,55 @@ void WriteCursor::count_field(std::size_t length) {
     ++fields_;
 }
 
-bool WriteCursor::write_piece(const Piece& piece) {
-    const auto target = static_cast<std::int64_t>(piece.position);
-    if (file_position_ != piece.position) {
-        file_position_.reset();
-        if (fio_lseek(file_, target, SEEK_SET) != target) {
-            return false;
+/** Writes what is collected, unless a write has stopped short before, and empties the buffer. */
+void WriteCursor::write_pieces() {
+    const std::uint64_t before = bytes_out_;
+    std::size_t done = 0;
+    while (!stopped_ && done < piece_count_) {
+        if (write_piece(pieces_.values()[done])) {
+            ++done;
+        } else {
+            stopped_ = errno;
         }
     }
-    file_position_.reset();
-    const bool whole = write_bytes(piece.block ? piece.block : buffer_.get() + piece.begin, piece);
-    if (whole) {
-        file_position_ = piece.position + piece.length;
+    fields_out_ += whole_fields_in(bytes_out_ - before);
+    std::fill_n(starts_.values(), (used_ + 7) / 8, std::uint8_t{0});
+    used_ = 0;
+    piece_count_ = 0;
+}
+
+bool WriteCursor::move_to(std::uint64_t position) {
+    if (file_position_ == position) {
+        return true;
     }
-    return whole;
+    file_position_.reset();
+    const auto target = static_cast<std::int64_t>(position);
+    if (fio_lseek(file_, target, SEEK_SET) != target) {
+        return false;
+    }
+    file_position_ = position;
+    return true;
 }
 
 /** A write that ends between two fields is no short one: the next field's own decides. */
-bool WriteCursor::write_bytes(const std::uint8_t* bytes, const Piece& piece) {
+bool WriteCursor::write_piece(const Piece& piece) {
+    if (!move_to(piece.position)) {
+        return false;
+    }
+    file_position_.reset();
+    const std::uint8_t* const bytes = piece.block ? piece.block : buffer_.values() + piece.begin;
     for (std::size_t done = 0; done < piece.length;) {
         const ssize_t count = fio_write(file_, bytes + done, piece.length - done);
         if (count <= 0) {
             return false;
         }
         done += static_cast<std::size_t>(count);
-        bytes_written_ += static_cast<std::size_t>(count);
+        bytes_out_ += static_cast<std::size_t>(count);
         if (done < piece.length && !begins_field(piece, done)) {
             return false;
         }
     }
+    file_position_ = piece.position + piece.length;
     return true;
 }
 
@@ -175,16 +198,16 @@ bool WriteCursor::begins_field(const Piece& piece, std::size_t offset) const {
         return offset == 0;
     }
     const std::size_t at = piece.begin + offset;
-    return (starts_.get()[at / 8] >> at % 8 & 1) != 0;
+    return (starts_.values()[at / 8] >> at % 8 & 1) != 0;
 }
 
-/** The fields that lie within the first BYTES bytes. */
+/** The fields that lie within the first BYTES bytes of what is collected. */
 std::uint64_t WriteCursor::whole_fields_in(std::uint64_t bytes) const {
     std::uint64_t begun = 0;
     for (std::size_t i = 0; i < piece_count_; ++i) {
-        const Piece& piece = pieces_.get()[i];
+        const Piece& piece = pieces_.values()[i];
         const auto part = static_cast<std::size_t>(std::min<std::uint64_t>(piece.length, bytes));
-        for (std::size_t offset = 0; offset < part; ++offset) {
+        for (std::size_t offset = 0; offset < part && (offset == 0 || !piece.block); ++offset) {
             begun += begins_field(piece, offset) ? 1 : 0;
         }
         bytes -= part;
@@ -193,17 +216,6 @@ std::uint64_t WriteCursor::whole_fields_in(std::uint64_t bytes) const {
         }
     }
     return begun;
-}
-
-void WriteCursor::clear() {
-    if (used_ > 0) {
-        std::memset(starts_.get(), 0, (used_ + 7) / 8);
-    }
-    used_ = 0;
-    piece_count_ = 0;
-    out_of_memory_ = false;
-    bytes_ = 0;
-    fields_ = 0;
 }
 
 void mark_end(FIOFUNCSTRUCT* file) {

@@ -2,6 +2,7 @@
 
 #include "fio.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -13,9 +14,10 @@ namespace velmora {
 /** Collects fields and blocks for a file, and writes them with one checked commit().
 
     Invariant: until commit() the file is untouched, and what it will write is known in full: bytes() bytes in
-    fields() fields, in the order in which they were put. A field is what one put gave; putting nothing is no
-    field. Adjacent ones are written together, with one call of the system where none is larger than
-    largest_copy, so order decides what a kill leaves behind only from one commit to the next.
+    fields() fields, in the order in which they were put. Only where no memory is left to collect in, what was
+    put so far goes to the file at once; commit() tells of it all the same. A field is what one put gave;
+    putting nothing is no field. Adjacent ones are written together, with one call of the system where none is
+    larger than largest_copy, so order decides what a kill leaves behind only from one commit to the next.
 
     Where a write stops short, everything in front of the stop is in the file and nothing behind it is: what
     one write for each field would have left. bytes_written() and fields_written() tell where that is.
@@ -51,9 +53,14 @@ public:
     [[nodiscard]] std::uint64_t fields() const { return fields_; }
 
     /** Writes what was put, and is empty again, at its position. False when not everything was written: errno
-        is that of the failed call and unchanged where a write just came up short, as it would be for the
-        field concerned alone. Without memory for what was put errno is ENOMEM and nothing is written. */
+        is that of the failed call, or as it was where a write just came up short, as it would be for the
+        field concerned alone. */
     [[nodiscard]] bool commit();
+
+    /** Moves the file itself to the position, for callers that tell a position that can't be reached from a
+        write that failed; the commit then spares the move. False, with errno from lseek(2), when it does not
+        get there. */
+    [[nodiscard]] bool settle() { return move_to(position_); }
 
     /** How far the last commit came: the bytes that it wrote, and the fields of which it wrote every byte. So
         fields_written() is also the number, from 0, of the field in which it stopped. */
@@ -72,31 +79,51 @@ private:
         std::size_t length;
     };
 
+    /** Memory that begins inside the cursor: what is small is collected without asking for any. */
+    template <typename Value, std::size_t Count>
+    class Room {
+    public:
+        [[nodiscard]] Value* values() { return grown_ ? grown_.get() : here_.data(); }
+        [[nodiscard]] const Value* values() const { return grown_ ? grown_.get() : here_.data(); }
+        [[nodiscard]] std::size_t count() const { return count_; }
+        /** Makes room for at least COUNT values and keeps those that are there. False when there is none;
+            errno stays. */
+        [[nodiscard]] bool grow(std::size_t count);
+
+    private:
+        std::array<Value, Count> here_{};
+        std::unique_ptr<Value, Free> grown_;
+        std::size_t count_ = Count;
+    };
+
     template <typename Value, typename Store>
     void put_number(Value value, Store store);
     [[nodiscard]] std::uint8_t* add_to_buffer(std::size_t length);
     [[nodiscard]] bool reserve_buffer(std::size_t length);
     [[nodiscard]] bool add_piece(const std::uint8_t* block, std::size_t length);
+    void add_block(const std::uint8_t* block, std::size_t length);
     void count_field(std::size_t length);
+    void write_pieces();
+    [[nodiscard]] bool move_to(std::uint64_t position);
     [[nodiscard]] bool write_piece(const Piece& piece);
-    [[nodiscard]] bool write_bytes(const std::uint8_t* bytes, const Piece& piece);
     [[nodiscard]] bool begins_field(const Piece& piece, std::size_t offset) const;
     [[nodiscard]] std::uint64_t whole_fields_in(std::uint64_t bytes) const;
-    void clear();
 
     FIOFUNCSTRUCT* file_;
     std::uint64_t position_;
     std::optional<std::uint64_t> file_position_; ///< where the file is; nothing: not known
-    std::unique_ptr<std::uint8_t, Free> buffer_;
-    std::unique_ptr<std::uint8_t, Free> starts_; ///< a bit for each byte of the buffer: a field begins there
-    std::size_t used_ = 0;
-    std::size_t room_ = 0; ///< of the buffer; a multiple of 8
-    std::unique_ptr<Piece, Free> pieces_;
+    Room<std::uint8_t, 1024> buffer_;
+    Room<std::uint8_t, 1024 / 8> starts_; ///< a bit for each byte of the buffer: a field begins there
+    std::size_t used_ = 0;                ///< bytes of the buffer
+    Room<Piece, 4> pieces_;
     std::size_t piece_count_ = 0;
-    std::size_t piece_room_ = 0;
-    bool out_of_memory_ = false;
     std::uint64_t bytes_ = 0;
     std::uint64_t fields_ = 0;
+    /* Since the last commit: */
+    std::optional<int> stopped_; ///< a write stopped short, with this errno
+    std::uint64_t bytes_out_ = 0;
+    std::uint64_t fields_out_ = 0;
+    /* Of the last commit: */
     std::uint64_t bytes_written_ = 0;
     std::uint64_t fields_written_ = 0;
 };

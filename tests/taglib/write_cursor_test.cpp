@@ -8,9 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <string>
+#include <sys/resource.h>
 
 namespace velmora {
 namespace {
@@ -134,6 +137,26 @@ TEST_F(WriteCursorTest, TheEndMarkWritesNoBytesAtTheFilesPosition) {
     EXPECT_EQ("abXdef", contents());
 }
 
+/** While it lives, no file grows beyond ROOM bytes: writes come short there and fail behind it. */
+class FullDisk {
+public:
+    explicit FullDisk(std::size_t room) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{room, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    void (*handler_)(int);
+    rlimit before_{};
+};
+
 /** Fields of 4, 1, 2 and LARGE bytes from position 2 on, and one of 8 further behind. */
 const std::string large_field = pattern(WriteCursor::largest_copy + 100);
 constexpr std::size_t field_ends[] = {4, 5, 7, 7 + WriteCursor::largest_copy + 100,
@@ -207,29 +230,93 @@ TEST_F(WriteCursorTest, ASeekThatFailsStopsTheCommit) {
     }
 }
 
-TEST_F(WriteCursorTest, WithoutMemoryNothingIsWritten) {
-    open_with("abcdef");
-    const std::string block = pattern(10000);
+/** Many fields of many sizes, some of them in places of their own; returns what the file is to hold. */
+std::string put_many(WriteCursor& cursor) {
+    std::string expected;
+    for (unsigned i = 0; i < 60; ++i) {
+        const std::string block = pattern(i * i % 1700, i);
+        cursor.put(block.data(), block.size());
+        cursor.put_le32(0x44434241);
+        expected += block + "ABCD";
+        if (i % 7 == 3) {
+            cursor.seek(cursor.position() + 5);
+            expected += std::string(5, '\0');
+        }
+    }
+    cursor.put(large_field.data(), large_field.size());
+    return expected + large_field;
+}
+
+TEST_F(WriteCursorTest, WithoutMemoryEverythingIsWrittenAllTheSame) {
     int requests = 0;
     for (int nth = 0; nth <= requests; ++nth) {
-        const SystemCallFaults watch;
+        open_with("");
         const test::AllocationFaults no_memory(nth);
-        WriteCursor cursor(file_.handle(), 6);
-        put_fields(cursor);
-        cursor.put(block.data(), block.size());
-        EXPECT_EQ(6u, cursor.fields());
+        WriteCursor cursor(file_.handle(), 0);
+        const std::string expected = put_many(cursor);
+        const std::uint64_t bytes = cursor.bytes();
+        const std::uint64_t fields = cursor.fields();
         errno = 0;
-        if (nth == 0) {
-            requests = no_memory.count();
-            ASSERT_GT(requests, 2);
-            continue;
-        }
-        EXPECT_FALSE(cursor.commit()) << nth;
-        EXPECT_EQ(ENOMEM, errno) << nth;
-        EXPECT_EQ(0u, cursor.fields_written()) << nth;
-        EXPECT_EQ(0, watch.count()) << nth;
+        EXPECT_TRUE(cursor.commit()) << nth;
+        EXPECT_EQ(0, errno) << nth;
+        EXPECT_EQ(bytes, cursor.bytes_written()) << nth;
+        EXPECT_EQ(fields, cursor.fields_written()) << nth;
+        EXPECT_TRUE(expected == contents()) << nth;
+        requests = std::max(requests, no_memory.count());
     }
-    EXPECT_EQ("abcdef", contents());
+    EXPECT_GT(requests, 3);
+}
+
+TEST_F(WriteCursorTest, WithoutMemoryAFullDiskIsToldByTheCommit) {
+    for (const std::size_t room : {0U, 100U, 3000U, 20000U, 40000U}) {
+        open_with("");
+        std::string expected;
+        std::uint64_t fields = 0;
+        for (int nth = 0; nth <= 3; ++nth) {
+            open_with("");
+            FullDisk disk(room);
+            const test::AllocationFaults no_memory(nth);
+            WriteCursor cursor(file_.handle(), 0);
+            const std::string all = put_many(cursor);
+            errno = 0;
+            EXPECT_FALSE(cursor.commit()) << room << " " << nth;
+            const int error = errno;
+            EXPECT_TRUE(error == 0 || error == EFBIG) << error;
+            EXPECT_EQ(0u, all.rfind(contents(), 0));
+            EXPECT_GE(room, cursor.bytes_written());
+            fields = nth == 0 ? cursor.fields_written() : fields;
+            expected = nth == 0 ? contents() : expected;
+            EXPECT_EQ(fields, cursor.fields_written()) << room << " " << nth;
+            EXPECT_TRUE(expected == contents()) << room << " " << nth;
+            EXPECT_TRUE(cursor.commit()) << "the next commit is another one";
+        }
+    }
+}
+
+TEST_F(WriteCursorTest, SmallThingsAreCollectedWithoutAskingForMemory) {
+    open_with("");
+    const test::AllocationFaults watch;
+    WriteCursor cursor(file_.handle(), 0);
+    for (int i = 0; i < 256; ++i) {
+        cursor.put_le32(1);
+    }
+    EXPECT_TRUE(cursor.commit());
+    EXPECT_EQ(0, watch.count());
+}
+
+TEST_F(WriteCursorTest, SettlingMovesTheFileAndSparesTheCommitItsMove) {
+    open_with("abcdef");
+    SystemCallFaults watch;
+    WriteCursor cursor(file_.handle(), 4);
+    EXPECT_TRUE(cursor.settle());
+    cursor.put("X", 1);
+    EXPECT_TRUE(cursor.commit());
+    EXPECT_EQ(1, watch.count(SystemCall::lseek));
+    EXPECT_EQ("abcdXf", contents());
+    watch.fail(SystemCall::lseek, 2, EINVAL);
+    cursor.seek(1);
+    EXPECT_FALSE(cursor.settle());
+    EXPECT_EQ(EINVAL, errno);
 }
 
 TEST_F(WriteCursorTest, AfterAFailedCommitTheCursorIsEmptyAndUsable) {
