@@ -1,6 +1,9 @@
 #include "move_file.h"
 
+#include "../move_pieces.h"
+#include "../read_cursor.h"
 #include "../trace.h"
+#include "../write_cursor.h"
 
 #include <algorithm>
 #include <memory>
@@ -15,10 +18,6 @@ constexpr std::int64_t window_size = 65536;
 /** No file reaches it, and the size of an item added to what is below does not overflow. */
 constexpr std::uint64_t first_impossible_offset = std::uint64_t{1} << 62;
 
-std::int64_t piece_size(std::int64_t remaining) {
-    return static_cast<std::uint32_t>(remaining) <= window_size ? window_size : remaining;
-}
-
 bool read_failed() {
     DebugError("avi_move_file: Error reading file\n");
     return false;
@@ -32,42 +31,41 @@ bool write_failed() {
 class Mover {
 public:
     explicit Mover(FIOFUNCSTRUCT* file)
-        : file_(file), length_(fio_lseek(file, 0, SEEK_END)), window_(new (std::nothrow) char[window_size]) {}
+        : file_(file), length_(fio_lseek(file, 0, SEEK_END)),
+          window_(new (std::nothrow) std::uint8_t[window_size]) {}
 
     [[nodiscard]] bool ready() const { return window_ != nullptr; }
 
     /** Moves COUNT bytes as if through one buffer that holds them all. */
-    bool move(std::int64_t from, std::int64_t to, std::int64_t count) {
+    [[nodiscard]] bool move(std::int64_t from, std::int64_t to, std::int64_t count) {
         if (from < 0 || count > length_ - from) {
             return read_failed();
         }
-        for (std::int64_t done = 0; done < count;) {
-            const std::int64_t part = std::min(window_size, count - done);
-            const std::int64_t start = from < to ? count - done - part : done;
-            if (!copy(from + start, to + start, part)) {
-                return false;
-            }
-            done += part;
+        const auto copy_step = [this](std::int64_t source, std::int64_t target, std::int64_t length) {
+            return copy(static_cast<std::uint64_t>(source), static_cast<std::uint64_t>(target),
+                        static_cast<std::size_t>(length));
+        };
+        if (!copy_in_steps(from, to, count, window_size, copy_step)) {
+            return false;
         }
         length_ = std::max(length_, to + count);
         return true;
     }
 
 private:
-    bool copy(std::int64_t from, std::int64_t to, std::int64_t count) {
-        const auto bytes = static_cast<std::size_t>(count);
-        if (fio_lseek(file_, from, SEEK_SET) != from || fio_read(file_, window_.get(), bytes) != count) {
+    [[nodiscard]] bool copy(std::uint64_t from, std::uint64_t to, std::size_t count) {
+        ReadWindow source(file_);
+        if (ReadCursor(source, from, from + count).read(window_.get(), count) != ReadStatus::whole) {
             return read_failed();
         }
-        if (fio_lseek(file_, to, SEEK_SET) != to || fio_write(file_, window_.get(), bytes) != count) {
-            return write_failed();
-        }
-        return true;
+        WriteCursor target(file_, to);
+        target.put(window_.get(), count);
+        return target.commit() || write_failed();
     }
 
     FIOFUNCSTRUCT* file_;
     std::int64_t length_;
-    std::unique_ptr<char[]> window_;
+    std::unique_ptr<std::uint8_t[]> window_;
 };
 
 } // namespace
@@ -83,22 +81,12 @@ int avi_move_file(FIOFUNCSTRUCT* file, const _avi_item_t* item, std::uint64_t to
     if (to >= first_impossible_offset) {
         return write_failed();
     }
-    const auto target = static_cast<std::int64_t>(to);
-    const auto origin = static_cast<std::int64_t>(item->offset);
-    const bool from_the_back = origin < target;
-    std::int64_t remaining = std::int64_t{item->size} + 8;
-    std::int64_t moved =
-        from_the_back ? remaining : 0; // where in the item the next piece starts or, from the back, ends
-    while (remaining > 0) {
-        const std::int64_t piece = piece_size(remaining);
-        moved -= from_the_back ? piece : 0;
-        if (!mover.move(origin + moved, target + moved, piece)) {
-            break;
-        }
-        moved += from_the_back ? 0 : piece;
-        remaining -= piece;
-    }
-    return remaining == 0 ? 1 : 0;
+    const bool moved = move_in_pieces(
+        static_cast<std::int64_t>(item->offset), static_cast<std::int64_t>(to), std::int64_t{item->size} + 8,
+        [&mover](std::int64_t source, std::int64_t target, std::int64_t length) {
+            return mover.move(source, target, length);
+        });
+    return moved ? 1 : 0;
 }
 
 } // namespace velmora
