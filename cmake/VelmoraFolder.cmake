@@ -18,22 +18,49 @@ if(VELMORA_SANITIZE)
 endif()
 
 # velmora_expose(TARGET NAME [DIRECTORY])
-#   Lets whoever links TARGET write #include "NAME/header.h" for the headers of DIRECTORY (the current source folder
-#   when not given). The include path holds nothing but that one name, so a folder can't reach into one it does not link.
+#   Lets whoever links TARGET write #include "NAME/header.h" for the headers that lie in DIRECTORY itself (the current
+#   source folder when not given). Its subfolders are not exposed: a room inside a room is exposed by its own target, and a
+#   folder "detail" by velmora_expose_detail alone. The include path of TARGET holds nothing but what is exposed for it, so a
+#   target can't reach into one that it does not link.
 function(velmora_expose target name)
   set(directory "${CMAKE_CURRENT_SOURCE_DIR}")
   if(ARGC GREATER 2)
     set(directory "${ARGV2}")
   endif()
-  set(root "${CMAKE_BINARY_DIR}/include/${target}")
-  file(MAKE_DIRECTORY "${root}")
-  file(CREATE_LINK "${directory}" "${root}/${name}" SYMBOLIC)
+  set(root "${PROJECT_BINARY_DIR}/include/${target}")
+  set(links "${root}/${name}")
+  if(IS_SYMLINK "${links}")
+    file(REMOVE "${links}") # never write links through a link into the source tree
+  endif()
+  file(MAKE_DIRECTORY "${links}")
+  file(GLOB headers CONFIGURE_DEPENDS RELATIVE "${directory}" "${directory}/*.h")
+  foreach(header IN LISTS headers)
+    file(CREATE_LINK "${directory}/${header}" "${links}/${header}" SYMBOLIC)
+  endforeach()
+  file(GLOB exposed LIST_DIRECTORIES false RELATIVE "${links}" "${links}/*")
+  foreach(header IN LISTS exposed)
+    if(NOT header IN_LIST headers)
+      file(REMOVE "${links}/${header}")
+    endif()
+  endforeach()
   get_target_property(type ${target} TYPE)
   if(type STREQUAL "INTERFACE_LIBRARY")
     target_include_directories(${target} INTERFACE "${root}")
   else()
     target_include_directories(${target} PUBLIC "${root}")
   endif()
+endfunction()
+
+# velmora_expose_detail(TARGET NAME... )
+#   TARGET_detail, an interface target for tests alone: whoever links it sees the internal headers "NAME/detail/header.h"
+#   of the current folder's subfolders NAME/detail, where NAME begins with the folder's own name.
+function(velmora_expose_detail target)
+  add_library(${target}_detail INTERFACE)
+  target_link_libraries(${target}_detail INTERFACE ${target})
+  get_filename_component(parent "${CMAKE_CURRENT_SOURCE_DIR}" DIRECTORY)
+  foreach(name IN LISTS ARGN)
+    velmora_expose(${target}_detail ${name}/detail "${parent}/${name}/detail")
+  endforeach()
 endfunction()
 
 # velmora_folder(NAME SOURCES... ): the static library velmora_NAME of the current folder.

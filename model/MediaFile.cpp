@@ -1,7 +1,8 @@
 #include "MediaFile.h"
 
+#include "detail/tag_module.h"
+#include "detail/text_decoding.h"
 #include "media_type.h"
-#include "text_decoding.h"
 
 #include "platform/file_path.h"
 #include "platform/localisation.h"

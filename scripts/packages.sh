@@ -8,6 +8,7 @@ run_packages=(libqt6svg6 qt6-image-formats-plugins qt6-qpa-plugins qt6-translati
   gstreamer1.0-libav)
 display_packages=(xvfb xauth xdotool x11-utils ffmpeg libid3tag0-dev zlib1g-dev)
 test_packages=(libgtest-dev libgmock-dev libtag1-dev python3 python3-mutagen clang)
+check_packages=(clang-format-14 clang-tidy-14 libclang-rt-14-dev git)
 
 install_packages() {
   local missing=() package

@@ -1,4 +1,4 @@
-#include "model/text_decoding.h"
+#include "model/detail/text_decoding.h"
 
 #include <gtest/gtest.h>
 
