@@ -17,7 +17,7 @@ for line in (project / "docs/source-tour.md").read_text().splitlines():
     cells = line.split("|")
     if folder is None or len(cells) < 3:
         continue
-    for name in re.findall(r"`([^`]+)`", cells[1]):
+    for name in re.findall(r"`([^.`][^`]*)`", cells[1]):
         path = f"{folder}/{name}"
         if path in named:
             wrong.append(f"{path} is named twice")
