@@ -18,7 +18,7 @@ std::optional<std::uint64_t> ReadWindow::size(std::uint64_t in_front) {
     if (!size_asked_) {
         size_asked_ = true;
         std::int64_t position = fio_lseek(file_, -static_cast<std::int64_t>(in_front), SEEK_END);
-        if (position < 0 && in_front > 0) {
+        if (position < 0 && in_front > 0 && errno == EINVAL) {
             in_front = 0; // the file is shorter than that
             position = fio_lseek(file_, 0, SEEK_END);
         }

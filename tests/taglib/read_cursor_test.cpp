@@ -249,6 +249,16 @@ TEST(ReadWindowSize, IsThatOfAFileThatIsShorterThanTheTailToo) {
     EXPECT_EQ("abc", read_text(cursor, 3));
 }
 
+TEST(ReadWindowSize, IsNotAskedForOnceMoreWhereTheSystemDidNotTell) {
+    ReadFile file("0123456789");
+    SystemCallFaults faults;
+    faults.fail(SystemCall::lseek, 1, EIO);
+    ReadWindow window(file.handle(), 0);
+    EXPECT_EQ(std::nullopt, window.size(4));
+    EXPECT_EQ(std::nullopt, window.size(4));
+    EXPECT_EQ(1, faults.count());
+}
+
 TEST(ReadWindowSize, IsNothingWhereTheSystemDoesNotTell) {
     ReadFile file("abc");
     SystemCallFaults faults;
