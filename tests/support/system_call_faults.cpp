@@ -76,7 +76,12 @@ SystemCallFaults* SystemCallFaults::of_this_thread() {
     return watching;
 }
 
-SystemCallFaults::Fate SystemCallFaults::fate_of_next(SystemCall call) const {
+void SystemCallFaults::refuse_bytes(SystemCall call, std::int64_t begin, std::int64_t end, int error) {
+    refused_.push_back({call, begin, end, error});
+}
+
+SystemCallFaults::Fate SystemCallFaults::fate_of_next(SystemCall call, std::int64_t position,
+                                                      std::int64_t length) const {
     for (const Fault& fault : faults_) {
         if (fault.call && *fault.call != call) {
             continue;
@@ -84,6 +89,12 @@ SystemCallFaults::Fate SystemCallFaults::fate_of_next(SystemCall call) const {
         const int next = 1 + (fault.call ? count(call) : count());
         if (fault.and_later ? next >= fault.nth : next == fault.nth) {
             return fault.fate;
+        }
+    }
+    for (const RefusedBytes& bytes : refused_) {
+        if (bytes.call == call && position < bytes.end && position + length > bytes.begin) {
+            return position < bytes.begin ? Fate{0, static_cast<std::size_t>(bytes.begin - position)}
+                                          : Fate{bytes.error, 0};
         }
     }
     return {};

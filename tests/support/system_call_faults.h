@@ -70,6 +70,10 @@ public:
     /** The NTH read or write moves at most BYTES bytes; 0 is an end of file, or a write that takes nothing.
      */
     void cut_short(SystemCall call, int nth, std::size_t bytes);
+    /** The bytes from BEGIN to END (without it) of every file can't be read, or written: a transfer that
+       comes to them in CALLs of that kind ends in front of them, and one that begins with them fails with
+       ERROR (0: it moves nothing). However the bytes are shared out among calls, the same ones are lost. */
+    void refuse_bytes(SystemCall call, std::int64_t begin, std::int64_t end, int error);
     /** From now on mktemp also creates the (empty) file that it has named. */
     void create_generated_names() { create_generated_names_ = true; }
 
@@ -92,7 +96,9 @@ public:
     };
     /** The object that watches this thread, or null. */
     [[nodiscard]] static SystemCallFaults* of_this_thread();
-    [[nodiscard]] Fate fate_of_next(SystemCall call) const;
+    /** POSITION and LENGTH: what a read or write is to move. */
+    [[nodiscard]] Fate fate_of_next(SystemCall call, std::int64_t position = 0,
+                                    std::int64_t length = 0) const;
     [[nodiscard]] std::string path_of(int descriptor) const;
     [[nodiscard]] bool creates_generated_names() const { return create_generated_names_; }
     void record(const SystemCallRecord& record);
@@ -104,7 +110,14 @@ private:
         bool and_later;
         Fate fate;
     };
+    struct RefusedBytes {
+        SystemCall call;
+        std::int64_t begin;
+        std::int64_t end;
+        int error;
+    };
     std::vector<Fault> faults_;
+    std::vector<RefusedBytes> refused_;
     std::vector<SystemCallRecord> records_;
     std::map<int, std::string> open_;
     bool create_generated_names_ = false;

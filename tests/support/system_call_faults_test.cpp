@@ -115,6 +115,23 @@ TEST_F(SystemCallFaultsTest, ATransferIsCutShort) {
     EXPECT_EQ("0123456789", read_file(path_));
 }
 
+TEST_F(SystemCallFaultsTest, RefusedBytesAreNotMovedHoweverTheCallsAreCut) {
+    SystemCallFaults faults;
+    faults.refuse_bytes(SystemCall::read, 3, 5, EIO);
+    faults.refuse_bytes(SystemCall::write, 8, 9, 0);
+    const int descriptor = ::open(path_.c_str(), O_RDWR);
+    EXPECT_EQ(3, ::read(descriptor, buffer_.data(), 8));
+    EXPECT_EQ(-1, ::read(descriptor, buffer_.data(), 1));
+    EXPECT_EQ(EIO, errno);
+    EXPECT_EQ(5, ::lseek(descriptor, 5, SEEK_SET));
+    EXPECT_EQ(2, ::read(descriptor, buffer_.data(), 2));
+    EXPECT_EQ(1, ::write(descriptor, "abc", 3));
+    EXPECT_EQ(0, ::write(descriptor, "bc", 2));
+    EXPECT_EQ(0, ::write(descriptor, "", 0));
+    ::close(descriptor);
+    EXPECT_EQ("0123456a89", read_file(path_));
+}
+
 TEST_F(SystemCallFaultsTest, AFailedOpenGivesNoDescriptor) {
     SystemCallFaults faults;
     faults.fail(SystemCall::open, 1, EACCES);

@@ -33,7 +33,7 @@ using velmora::test::SystemCallRecord;
 /** Makes the call through REAL, or FAILED in its place, and records it. */
 template <typename Real, typename Failed>
 auto watch(SystemCallFaults& faults, SystemCallRecord record, Real real, Failed failed) {
-    const SystemCallFaults::Fate fate = faults.fate_of_next(record.call);
+    const SystemCallFaults::Fate fate = faults.fate_of_next(record.call, record.position, record.requested);
     auto result = failed;
     if (fate.error == 0) {
         result = real(fate.limit);
