@@ -81,4 +81,14 @@ int id3_remove_priv_tag(_id3_file_desc_t* descriptor, const char* owner);
 /** Releases all that DESCRIPTOR owns and zeroes it, so that a second call is harmless. Returns 0. */
 int id3_free_descriptor(_id3_file_desc_t* descriptor);
 
+/** A tag, zeroed at first, that goes with the object. */
+struct Id3Descriptor {
+    Id3Descriptor() = default;
+    ~Id3Descriptor() { id3_free_descriptor(&tag); }
+    Id3Descriptor(const Id3Descriptor&) = delete;
+    Id3Descriptor& operator=(const Id3Descriptor&) = delete;
+
+    _id3_file_desc_t tag{};
+};
+
 } // namespace velmora

@@ -1,18 +1,21 @@
 #include "header_v1.h"
 
+#include "../read_cursor.h"
 #include "../trace.h"
-
-#include <unistd.h>
 
 namespace velmora {
 
 std::int64_t id3_load_header_v1(FIOFUNCSTRUCT* file, _id3_header_v1_t* header) {
-    const std::int64_t position = fio_lseek(file, -4, SEEK_END);
-    if (position < 0 || fio_read(file, header, sizeof *header) != static_cast<ssize_t>(sizeof *header)) {
+    constexpr std::uint64_t distance = 4;
+    ReadWindow window(file);
+    const std::optional<std::uint64_t> size = window.size(distance);
+    const bool has_place = size && *size >= distance;
+    ReadCursor cursor(window, has_place ? *size - distance : 0, window.end());
+    if (!has_place || cursor.read(header, sizeof *header) != ReadStatus::whole) {
         DebugError("id3_load_header_v1: Failed to read header\n");
         return -1;
     }
-    return position;
+    return static_cast<std::int64_t>(cursor.begin());
 }
 
 std::int64_t id3_is_present_v1(FIOFUNCSTRUCT* file) {

@@ -1,11 +1,12 @@
 #include "load_file_info.h"
 
+#include "../byte_file.h"
 #include "../trace.h"
 #include "genres.h"
-#include "guards.h"
 #include "header_v1.h"
 #include "picture.h"
 #include "reader.h"
+#include "tag_fields.h"
 #include "text.h"
 #include "time_text.h"
 
@@ -41,13 +42,9 @@ void load_text(const _id3_frame_t& frame, Text& text) {
     id3_load_string(frame.data + at, frame.size - at, encoding, text, sizeof text);
 }
 
-char* load_text_slot(const _id3_file_desc_t& descriptor, std::uint32_t id) {
-    const _id3_frame_t* const frame = id3_find_frame(&descriptor, id);
-    if (!frame) {
-        return nullptr;
-    }
+char* load_text_slot(const _id3_frame_t& frame) {
     Text text;
-    load_text(*frame, text);
+    load_text(frame, text);
     return copy_unless_empty(text);
 }
 
@@ -67,7 +64,7 @@ PrivateBytes find_private_bytes(const _id3_file_desc_t& descriptor, const char* 
 }
 
 char* load_rating(const _id3_file_desc_t& descriptor) {
-    const PrivateBytes rating = find_private_bytes(descriptor, "WM/ParentalRating");
+    const PrivateBytes rating = find_private_bytes(descriptor, id3_rating_owner);
     Text text;
     id3_load_string(rating.bytes, rating.size, id3_encoding::latin1, text, sizeof text);
     return copy_unless_empty(text);
@@ -78,29 +75,21 @@ char* copy_genre_name(std::int64_t index) {
     return name ? ::strdup(name) : nullptr;
 }
 
-char* load_genre(const _id3_file_desc_t& descriptor) {
-    const _id3_frame_t* const frame = id3_find_frame(&descriptor, id3_frame_id("TCON"));
-    if (!frame) {
-        return nullptr;
-    }
-    if (frame->size == 1) {
-        return copy_genre_name(frame->data[0]); // an index where the encoding byte belongs
+char* load_genre(const _id3_frame_t& frame) {
+    if (frame.size == 1) {
+        return copy_genre_name(frame.data[0]); // an index where the encoding byte belongs
     }
     Text text;
-    load_text(*frame, text);
+    load_text(frame, text);
     return text[0] == '(' ? copy_genre_name(leading_number(text + 1)) : copy_unless_empty(text);
 }
 
 /** The text is read as single bytes whatever its encoding byte says, so a year in UTF-16 is none. */
-std::int32_t load_year(const _id3_file_desc_t& descriptor) {
-    const _id3_frame_t* const frame = id3_find_frame(&descriptor, id3_frame_id("TYER"));
-    if (!frame) {
-        return 0;
-    }
+std::int32_t load_year(const _id3_frame_t& frame) {
     std::uint8_t encoding = 0;
-    const int at = id3_load_byte(frame->data, frame->size, &encoding);
+    const int at = id3_load_byte(frame.data, frame.size, &encoding);
     Text text;
-    id3_load_string(frame->data + at, frame->size - at, id3_encoding::latin1, text, sizeof text);
+    id3_load_string(frame.data + at, frame.size - at, id3_encoding::latin1, text, sizeof text);
     return leading_number(text);
 }
 
@@ -114,34 +103,49 @@ Image* load_album_art(const _id3_file_desc_t& descriptor, const char* path) {
     return id3_load_albumart(path, guid);
 }
 
-Image* load_cover(const _id3_file_desc_t& descriptor, const char* path) {
-    const _id3_frame_t* const frame = id3_find_frame(&descriptor, id3_frame_id("APIC"));
-    Image* const attached = frame ? id3_load_picture(frame) : nullptr;
-    return attached ? attached : load_album_art(descriptor, path);
-}
-
-std::uint64_t load_time(const _id3_file_desc_t& descriptor) {
-    const _id3_frame_t* const frame = id3_find_frame(&descriptor, id3_frame_id("TDRC"));
-    if (!frame) {
-        return 0;
-    }
+std::uint64_t load_time(const _id3_frame_t& frame) {
     Text text;
-    load_text(*frame, text);
+    load_text(frame, text);
     FILETIME time{};
     return id3_parse_time(text, &time) ? filetime_value(time) : 0;
 }
 
+Image* load_cover(const _id3_file_desc_t& descriptor, const _id3_frame_t* frame, const char* path) {
+    Image* const attached = frame ? id3_load_picture(frame) : nullptr;
+    return attached ? attached : load_album_art(descriptor, path);
+}
+
+/** Loads FIELD from its first frame; PATH is the media file's. */
+void load_field(const _id3_file_desc_t& descriptor, const Id3Field& field, const char* path,
+                _file_info_t* info) {
+    const _id3_frame_t* const frame = id3_find_frame(&descriptor, field.frame);
+    switch (field.form) {
+    case Id3FieldForm::text:
+        info->*field.text = frame ? load_text_slot(*frame) : nullptr;
+        break;
+    case Id3FieldForm::rating:
+        info->*field.text = load_rating(descriptor); // by its frame's owner
+        break;
+    case Id3FieldForm::genre:
+        info->*field.text = frame ? load_genre(*frame) : nullptr;
+        break;
+    case Id3FieldForm::year:
+        info->year = frame ? load_year(*frame) : 0;
+        break;
+    case Id3FieldForm::picture:
+        info->picture = load_cover(descriptor, frame, path);
+        break;
+    case Id3FieldForm::time:
+        info->time = frame ? load_time(*frame) : 0;
+        break;
+    }
+}
+
 void load_from_v2(const _id3_file_desc_t& descriptor, const char* path, _file_info_t* info) {
     info->flags |= file_info_flag::tag_present;
-    info->title = load_text_slot(descriptor, id3_frame_id("TALB"));
-    info->artist = load_text_slot(descriptor, id3_frame_id("TPE1"));
-    info->desc = load_text_slot(descriptor, id3_frame_id("TIT2"));
-    info->director = load_text_slot(descriptor, id3_frame_id("TPE3"));
-    info->rating = load_rating(descriptor);
-    info->genre = load_genre(descriptor);
-    info->year = load_year(descriptor);
-    info->picture = load_cover(descriptor, path);
-    info->time = load_time(descriptor);
+    for (const Id3Field& field : id3_fields) {
+        load_field(descriptor, field, path, info);
+    }
 }
 
 /** A copy of an ID3v1 field, which is zero-terminated only when it is shorter than its room. */
@@ -173,14 +177,15 @@ bool load_from_v1(FIOFUNCSTRUCT* file, _file_info_t* info) {
 
 int id3_load_file_info(const char* path, _file_info_t* info) {
     *info = {};
-    Id3File file;
+    ByteFile file;
     if (!file.open(path, O_RDONLY)) {
         DebugError("id3_load_file_info: Couldn't open file\n");
         return 0;
     }
+    ReadWindow window(file.handle());
     Id3Descriptor descriptor;
-    if (id3_load_descriptor_v2(file.handle(), &descriptor.tag, true) < 0 &&
-        id3_load_descriptor_v2(file.handle(), &descriptor.tag, false) < 0) {
+    if (id3_read_tag(window, &descriptor.tag, true).offset < 0 &&
+        id3_read_tag(window, &descriptor.tag, false).offset < 0) {
         return load_from_v1(file.handle(), info) ? 1 : 0;
     }
     load_from_v2(descriptor.tag, path, info);

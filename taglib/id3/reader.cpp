@@ -1,59 +1,18 @@
 #include "reader.h"
 
 #include "../byte_order.h"
+#include "../read_cursor.h"
 #include "../trace.h"
-#include "tag_header.h"
+#include "tag_search.h"
 #include "text.h"
 
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 
 namespace velmora {
 
 namespace {
-
-/** Finds a tag and reads its header, with the loader's messages. Returns the header's offset or -1. Sets
- *FAILED where nobody knows what the file holds. */
-std::int64_t locate(FIOFUNCSTRUCT* file, bool at_end, Id3TagHeader* header, bool* failed) {
-    std::int64_t offset = 0;
-    if (at_end) {
-        Id3TagHeader footer;
-        std::int64_t footer_offset = 0;
-        const Id3Read read = id3_read_tag_footer(file, &footer, &footer_offset);
-        *failed = read == Id3Read::failed;
-        if (read != Id3Read::whole) {
-            DebugError("id3_load_descriptor_v2: Failed to read footer\n");
-            return -1;
-        }
-        if (!footer.has_signature("3DI")) {
-            return -1;
-        }
-        if (footer.version > id3_newest_version) {
-            DebugError("id3_load_descriptor_v2: Unsupported footer version\n");
-            return -1;
-        }
-        offset = id3_header_offset(footer, footer_offset);
-        if (offset < 0) {
-            DebugError("id3_load_descriptor_v2: Invalid footer offset\n");
-            return -1;
-        }
-    }
-    const Id3Read read = id3_read_tag_header(file, offset, header);
-    *failed = read == Id3Read::failed;
-    if (read != Id3Read::whole) {
-        DebugError("id3_load_descriptor_v2: Failed to read header\n");
-        return -1;
-    }
-    if (!header->has_signature("ID3")) {
-        DebugError("id3_load_descriptor_v2: Invalid header sig\n");
-        return -1;
-    }
-    if (header->version > id3_newest_version) {
-        DebugError("id3_load_descriptor_v2: Unsupported header version\n");
-        return -1;
-    }
-    return offset;
-}
 
 std::uint32_t frame_size(const Id3FrameHeader& header, std::uint8_t version) {
     return version >= 4 ? syncsafe_to_long(header.size) : load_be32(header.size);
@@ -62,24 +21,6 @@ std::uint32_t frame_size(const Id3FrameHeader& header, std::uint8_t version) {
 bool is_padding(const Id3FrameHeader& header) {
     static constexpr char no_id[sizeof header.id] = {};
     return std::memcmp(header.id, no_id, sizeof no_id) == 0;
-}
-
-/** Reads SIZE bytes and puts a zero behind them. Returns a block that the caller owns, or null; *FAILED is
-    then set unless the file ends first. */
-std::uint8_t* read_body(FIOFUNCSTRUCT* file, std::uint32_t size, bool* failed) {
-    auto* const body = static_cast<std::uint8_t*>(std::malloc(std::size_t{size} + 1));
-    if (!body) {
-        *failed = true;
-        return nullptr;
-    }
-    const Id3Read read = size > 0 ? id3_read_bytes(file, body, size) : Id3Read::whole;
-    if (read != Id3Read::whole) {
-        *failed = read == Id3Read::failed;
-        std::free(body);
-        return nullptr;
-    }
-    body[size] = 0;
-    return body;
 }
 
 void trace_frame(const _id3_frame_t& frame) {
@@ -91,103 +32,146 @@ void trace_frame(const _id3_frame_t& frame) {
     }
 }
 
-/** Reads the frame at *POSITION, counted from the end of the tag's header, and moves *POSITION on: past the
-   frame's header once it is known to be one, and past the body once that is read. False ends the reading;
-   *FAILED is set where that leaves out what the file holds. */
-bool read_frame(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor, std::uint32_t* position, bool* failed) {
-    Id3FrameHeader header;
-    const Id3Read read = id3_read_bytes(file, &header, sizeof header);
-    if (read != Id3Read::whole) {
-        *failed = read == Id3Read::failed;
-        DebugError("id3_load_descriptor_v2: Failed to read frame\n");
-        return false;
+/** Reads the frames of one tag, one after the other. */
+class FrameReader {
+public:
+    /** For the tag whose header ends at BEGIN. A frame's header may lie across the tag's end. */
+    FrameReader(ReadWindow& window, std::uint64_t begin, _id3_file_desc_t* descriptor)
+        : cursor_(window, begin, begin + descriptor->size + sizeof(Id3FrameHeader) - 1),
+          descriptor_(descriptor) {}
+
+    /** Appends frames until the tag or what can be read of it ends; what is left of the tag is padding. */
+    void read_all() {
+        while (position_ < descriptor_->size && read_frame()) {
+        }
+        if (position_ < descriptor_->size) {
+            descriptor_->padding = descriptor_->size - position_;
+        }
     }
-    if (is_padding(header)) {
-        return false;
+    /** Whether the reading ended in front of bytes that the file may hold. */
+    [[nodiscard]] bool failed() const { return failed_; }
+
+private:
+    bool read_frame() {
+        Id3FrameHeader header;
+        const ReadStatus read = cursor_.read(&header, sizeof header);
+        if (read != ReadStatus::whole) {
+            failed_ = read == ReadStatus::failed;
+            DebugError("id3_load_descriptor_v2: Failed to read frame\n");
+            return false;
+        }
+        if (is_padding(header)) {
+            return false;
+        }
+        position_ += sizeof header;
+        const std::uint32_t size = frame_size(header, descriptor_->version);
+        if (std::uint64_t{position_} + size > descriptor_->size) {
+            DebugError("id3_load_descriptor_v2: Invalid frame size\n");
+            return false;
+        }
+        _id3_frame_t frame{};
+        std::memcpy(&frame, header.id, sizeof header.id);
+        frame.size = static_cast<std::int32_t>(size);
+        frame.flags = std::bit_cast<std::uint16_t>(header.flags);
+        frame.data = read_body(size);
+        if (!frame.data) {
+            DebugError("id3_load_descriptor_v2: Failed to read frame data\n");
+            return false;
+        }
+        position_ += size;
+        trace_frame(frame);
+        return insert(frame);
     }
-    *position += sizeof header;
-    const std::uint32_t size = frame_size(header, descriptor->version);
-    if (std::uint64_t{*position} + size > descriptor->size) {
-        DebugError("id3_load_descriptor_v2: Invalid frame size\n");
-        return false;
+
+    /** Reads SIZE bytes and puts a zero behind them. Returns a block that the caller owns, or null. */
+    std::uint8_t* read_body(std::uint32_t size) {
+        auto* const body = static_cast<std::uint8_t*>(std::malloc(std::size_t{size} + 1));
+        if (!body) {
+            failed_ = true;
+            return nullptr;
+        }
+        const ReadStatus read = cursor_.read(body, size);
+        if (read != ReadStatus::whole) {
+            failed_ = read == ReadStatus::failed;
+            std::free(body);
+            return nullptr;
+        }
+        body[size] = 0;
+        return body;
     }
-    _id3_frame_t frame{};
-    std::memcpy(&frame, header.id, sizeof header.id);
-    frame.size = static_cast<std::int32_t>(size);
-    frame.flags = std::bit_cast<std::uint16_t>(header.flags);
-    frame.data = read_body(file, size, failed);
-    if (!frame.data) {
-        DebugError("id3_load_descriptor_v2: Failed to read frame data\n");
-        return false;
+
+    bool insert(const _id3_frame_t& frame) {
+        if (!id3_insert_frame(descriptor_, &frame)) {
+            failed_ = true;
+            std::free(frame.data);
+            return false;
+        }
+        return true;
     }
-    *position += size;
-    trace_frame(frame);
-    if (!id3_insert_frame(descriptor, &frame)) {
-        *failed = true;
-        std::free(frame.data);
-        return false;
+
+    ReadCursor cursor_;
+    _id3_file_desc_t* descriptor_;
+    /** Counted from the end of the tag's header: behind the last frame, or behind the header of one whose
+        body is bad. */
+    std::uint32_t position_ = 0;
+    bool failed_ = false;
+};
+
+/** Finds a tag that can be read. */
+Id3TagPlace find_readable_tag(ReadWindow& window, bool at_end) {
+    constexpr const char* function = "id3_load_descriptor_v2";
+    Id3TagPlace place = id3_find_tag(window, at_end, id3_newest_version);
+    if (place.finding != Id3Finding::tag) {
+        id3_log_finding(function, place.finding);
+        place.offset = -1;
+    } else if (place.header.version > id3_newest_version) {
+        DebugError("%s: Unsupported header version\n", function);
+        place.offset = -1;
+    } else if (syncsafe_to_long(place.header.size) > id3_largest_tag) {
+        DebugError("%s: header too large\n", function);
+        place.offset = -1;
     }
-    return true;
+    return place;
 }
 
 } // namespace
 
 std::int64_t id3_is_present_v2(FIOFUNCSTRUCT* file, bool at_end) {
-    std::int64_t offset = 0;
-    if (at_end) {
-        Id3TagHeader footer;
-        std::int64_t footer_offset = 0;
-        if (id3_read_tag_footer(file, &footer, &footer_offset) != Id3Read::whole) {
-            DebugError("id3_is_present_v2: Failed to read footer\n");
-            return -1;
+    ReadWindow window(file);
+    return id3_is_present_v2(window, at_end);
+}
+
+std::int64_t id3_is_present_v2(ReadWindow& window, bool at_end) {
+    constexpr std::uint8_t any_version = std::numeric_limits<std::uint8_t>::max();
+    const Id3TagPlace place = id3_find_tag(window, at_end, any_version);
+    if (place.finding != Id3Finding::tag) {
+        if (place.finding != Id3Finding::no_header) {
+            id3_log_finding("id3_is_present_v2", place.finding);
         }
-        if (!footer.has_signature("3DI")) {
-            return -1;
-        }
-        offset = id3_header_offset(footer, footer_offset);
-        if (offset < 0) {
-            DebugError("id3_is_present_v2: Invalid footer offset\n");
-            return -1;
-        }
-    }
-    Id3TagHeader header;
-    if (id3_read_tag_header(file, offset, &header) != Id3Read::whole) {
-        DebugError("id3_is_present_v2: Failed to read header\n");
         return -1;
     }
-    return header.has_signature("ID3") && header.version <= id3_newest_version ? offset : -1;
+    return place.header.version <= id3_newest_version ? place.offset : -1;
 }
 
 std::int64_t id3_load_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor, bool at_end) {
-    return id3_read_tag(file, descriptor, at_end).offset;
+    ReadWindow window(file);
+    return id3_read_tag(window, descriptor, at_end).offset;
 }
 
-Id3TagReading id3_read_tag(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor, bool at_end) {
-    Id3TagReading reading;
-    Id3TagHeader header;
-    reading.offset = locate(file, at_end, &header, &reading.failed);
-    if (reading.offset < 0) {
-        return reading;
+Id3TagReading id3_read_tag(ReadWindow& window, _id3_file_desc_t* descriptor, bool at_end) {
+    const Id3TagPlace place = find_readable_tag(window, at_end);
+    if (place.offset < 0) {
+        return {-1, place.failed};
     }
-    const std::uint32_t size = syncsafe_to_long(header.size);
-    if (size > id3_largest_tag) {
-        DebugError("id3_load_descriptor_v2: header too large\n");
-        reading.offset = -1;
-        return reading;
-    }
+    const Id3TagHeader& header = place.header;
     std::memcpy(descriptor->signature, header.signature, sizeof descriptor->signature);
     descriptor->version = header.version;
     descriptor->revision = header.revision;
     descriptor->header_flags = header.flags;
-    descriptor->size = size;
-
-    std::uint32_t position = 0;
-    while (position < size && read_frame(file, descriptor, &position, &reading.failed)) {
-    }
-    if (position < size) {
-        descriptor->padding = size - position;
-    }
-    return reading;
+    descriptor->size = syncsafe_to_long(header.size);
+    FrameReader frames(window, static_cast<std::uint64_t>(place.offset) + sizeof header, descriptor);
+    frames.read_all();
+    return {place.offset, frames.failed()};
 }
 
 } // namespace velmora

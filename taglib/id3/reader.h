@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../fio.h"
+#include "../read_window.h"
 #include "descriptor.h"
 
 /** Finding and reading an ID3v2 tag. With AT_END set the tag is looked for through its footer in the file's
@@ -15,11 +15,12 @@ inline constexpr std::uint32_t id3_largest_tag = 0x40000;
 /** The file offset of a tag's header (0 is one), or -1. Logs only what can't be read, and a footer that
    points in front of the file. */
 [[nodiscard]] std::int64_t id3_is_present_v2(FIOFUNCSTRUCT* file, bool at_end);
+[[nodiscard]] std::int64_t id3_is_present_v2(ReadWindow& window, bool at_end);
 
 /** Reads a tag into the zeroed DESCRIPTOR. Returns the file offset of its header (0 is one), or -1, with
    DESCRIPTOR still zeroed and the reason logged (but for a file that just has no footer). A bad frame ends
    the reading but does not fail it: the frames in front of it are kept, and what follows the bad frame's
-   header counts as padding. Costs two reads a frame. The caller frees DESCRIPTOR. */
+   header counts as padding. The caller frees DESCRIPTOR. */
 [[nodiscard]] std::int64_t id3_load_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor,
                                                   bool at_end);
 
@@ -31,7 +32,7 @@ struct Id3TagReading {
     bool failed = false;
 };
 
-/** id3_load_descriptor_v2 for a tag that is to be rewritten. */
-[[nodiscard]] Id3TagReading id3_read_tag(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor, bool at_end);
+/** id3_load_descriptor_v2 through a window that also serves other readings of the file. */
+[[nodiscard]] Id3TagReading id3_read_tag(ReadWindow& window, _id3_file_desc_t* descriptor, bool at_end);
 
 } // namespace velmora

@@ -1,41 +1,37 @@
 #include "remove_file_info.h"
 
+#include "../byte_file.h"
 #include "../trace.h"
-#include "guards.h"
+#include "../write_cursor.h"
 #include "header_v1.h"
 #include "reader.h"
-#include "tag_header.h"
+#include "tag_search.h"
 
 #include <fcntl.h>
+#include <limits>
 #include <unistd.h>
 
 namespace velmora {
 
-namespace {
-
-/** Goes to OFFSET and writes nothing, where a truncation would go: the file keeps its length and contents. */
-void cut_at(FIOFUNCSTRUCT* file, std::int64_t offset) {
-    fio_lseek(file, offset, SEEK_SET);
-    [[maybe_unused]] const ssize_t nothing = fio_write(file, "", 0);
-}
-
-} // namespace
-
 int id3_remove_file_info(const char* path) {
-    Id3File file;
+    ByteFile file;
     if (!file.open(path, O_RDWR)) {
         DebugError("id3_remove_file_info: couldn't open file for r/w\n");
         return 0;
     }
-    std::int64_t offset = id3_is_present_v2(file.handle(), true);
+    ReadWindow window(file.handle());
+    std::int64_t offset = id3_is_present_v2(window, true);
     if (offset < 0) {
         offset = id3_is_present_v1(file.handle());
+        window.forget();
     }
     if (offset < 0) {
         return 1;
     }
-    cut_at(file.handle(), offset);
-    file.close();
+    if (window.settle(static_cast<std::uint64_t>(offset))) {
+        mark_end(file.handle());
+    }
+    [[maybe_unused]] const bool nothing_was_written = file.close();
     if (offset == 0) {
         ::unlink(path);
     }
@@ -43,30 +39,19 @@ int id3_remove_file_info(const char* path) {
 }
 
 int id3_remove_descriptor_v2(FIOFUNCSTRUCT* file) {
-    Id3TagHeader footer;
-    std::int64_t footer_offset = 0;
-    if (id3_read_tag_footer(file, &footer, &footer_offset) != Id3Read::whole) {
-        DebugError("id3_remove_descriptor_v2: Failed to read footer\n");
-        return 0;
-    }
-    if (!footer.has_signature("3DI")) {
+    constexpr std::uint8_t any_version = std::numeric_limits<std::uint8_t>::max();
+    ReadWindow window(file);
+    const Id3TagPlace place = id3_find_tag(window, true, any_version);
+    if (place.finding == Id3Finding::no_footer) {
         return 1;
     }
-    const std::int64_t offset = id3_header_offset(footer, footer_offset);
-    if (offset < 0) {
-        DebugError("id3_remove_descriptor_v2: Invalid footer offset\n");
+    if (place.finding != Id3Finding::tag) {
+        id3_log_finding("id3_remove_descriptor_v2", place.finding);
         return 0;
     }
-    Id3TagHeader header;
-    if (id3_read_tag_header(file, offset, &header) != Id3Read::whole) {
-        DebugError("id3_remove_descriptor_v2: Failed to read header\n");
-        return 0;
+    if (window.settle(static_cast<std::uint64_t>(place.offset))) {
+        mark_end(file);
     }
-    if (!header.has_signature("ID3")) {
-        DebugError("id3_remove_descriptor_v2: Invalid header sig\n");
-        return 0;
-    }
-    cut_at(file, offset);
     return 1;
 }
 

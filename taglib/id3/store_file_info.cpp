@@ -1,8 +1,9 @@
 #include "store_file_info.h"
 
+#include "../byte_file.h"
 #include "../path.h"
 #include "../trace.h"
-#include "guards.h"
+#include "../write_cursor.h"
 #include "header_v1.h"
 #include "reader.h"
 #include "store_fields.h"
@@ -56,14 +57,16 @@ void start_new_tag(_id3_file_desc_t* descriptor) {
     descriptor->header_flags = id3_header_flag::footer;
 }
 
-/** Loads the tag to rewrite, or starts a new one. The reading's offset is where it is to be written; negative
-   when the file's length can't be found out. */
+/** Loads the tag to rewrite, or starts a new one. The reading's offset is where it is to be written. */
 Id3TagReading find_write_position(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor) {
-    const std::int64_t length = fio_lseek(file, 0, SEEK_END);
-    fio_lseek(file, 0, SEEK_SET);
-    Id3TagReading reading = id3_read_tag(file, descriptor, true);
-    if (reading.offset < 0 && !reading.failed && length >= 1 && length < first_large_length) {
-        reading = id3_read_tag(file, descriptor, false);
+    ReadWindow window(file);
+    Id3TagReading reading = id3_read_tag(window, descriptor, true);
+    if (reading.offset >= 0 || reading.failed) {
+        return reading;
+    }
+    const auto length = static_cast<std::int64_t>(window.size().value_or(0)); // known, or the reading failed
+    if (length >= 1 && length < first_large_length) {
+        reading = id3_read_tag(window, descriptor, false);
     }
     if (reading.offset >= 0 || reading.failed) {
         return reading;
@@ -74,12 +77,12 @@ Id3TagReading find_write_position(FIOFUNCSTRUCT* file, _id3_file_desc_t* descrip
     return reading;
 }
 
-bool store_in_place(Id3File& media, std::int64_t position, _id3_file_desc_t* descriptor) {
+bool store_in_place(ByteFile& media, std::int64_t position, _id3_file_desc_t* descriptor) {
     descriptor->header_flags |= id3_header_flag::footer;
-    bool stored = position > 0 && fio_lseek(media.handle(), position, SEEK_SET) == position &&
-                  id3_store_descriptor_v2(media.handle(), descriptor);
-    // Stands where a truncation would go: the file keeps its length.
-    [[maybe_unused]] const ssize_t nothing = stored ? fio_write(media.handle(), "", 0) : 0;
+    bool stored = id3_store_descriptor_at(media.handle(), position, descriptor);
+    if (stored) {
+        mark_end(media.handle()); // the file keeps its length
+    }
     stored = media.close() && stored;
     if (!stored) {
         DebugError("id3_store_file_info: couldn't store new descriptor\n");
@@ -102,9 +105,9 @@ bool is_at_end(FIOFUNCSTRUCT* file) {
 }
 
 /** Writes the tag and what follows the old tag in MEDIA to COPY and closes both. */
-bool write_copy(Id3File& copy, Id3File& media, _id3_file_desc_t* descriptor) {
+bool write_copy(ByteFile& copy, ByteFile& media, _id3_file_desc_t* descriptor) {
     const std::int64_t old_length = length_in_file(*descriptor);
-    if (!id3_store_descriptor_v2(copy.handle(), descriptor)) {
+    if (!id3_store_descriptor_at(copy.handle(), 0, descriptor)) {
         DebugError("id3_store_file_info: couldn't store new descriptor\n");
         return false;
     }
@@ -114,16 +117,17 @@ bool write_copy(Id3File& copy, Id3File& media, _id3_file_desc_t* descriptor) {
         DebugError("id3_store_file_info: couldn't append file data\n");
         return false;
     }
-    media.close();
+    [[maybe_unused]] const bool only_read = media.close();
     return true;
 }
 
-bool store_through_copy(const char* path, TemporaryName& name, Id3File& media, _id3_file_desc_t* descriptor) {
+bool store_through_copy(const char* path, TemporaryName& name, ByteFile& media,
+                        _id3_file_desc_t* descriptor) {
     if (!name.make(path)) {
         DebugError("id3_store_file_info: couldn't create temp file\n");
         return false;
     }
-    Id3File copy;
+    ByteFile copy;
     if (!copy.open(name.text(), O_RDWR | O_TRUNC)) { // not created: without a file of that name this fails
         DebugError("id3_store_file_info: couldn't reopen temp file\n");
         return false;
@@ -146,8 +150,8 @@ bool store_through_copy(const char* path, TemporaryName& name, Id3File& media, _
 
 int id3_store_file_info(const char* path, _file_info_t* info) {
     TemporaryName name; // in front of MEDIA, so that its file is deleted once all files are closed
-    Id3File media;
-    if (!media.open(path, O_RDWR | O_CREAT)) {
+    ByteFile media;
+    if (!media.open(path, O_RDWR | O_CREAT, 0644)) {
         DebugError("id3_store_file_info: couldn't open file for r/w: %s\n", std::strerror(errno));
         return 0;
     }

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "../fio.h"
-
-#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -31,22 +28,5 @@ struct Id3FrameHeader {
     std::uint8_t flags[2];
 };
 static_assert(sizeof(Id3FrameHeader) == 10);
-
-/** What a read gave. */
-enum class Id3Read {
-    whole,
-    cut,    ///< the file ends first
-    failed, ///< nobody knows what is there: a call failed, or gave fewer bytes than the file has
-};
-
-/** Reads SIZE bytes at the current position, which is undefined afterwards unless they were read whole. */
-[[nodiscard]] Id3Read id3_read_bytes(FIOFUNCSTRUCT* file, void* bytes, std::size_t size);
-/** Reads the header at OFFSET. */
-[[nodiscard]] Id3Read id3_read_tag_header(FIOFUNCSTRUCT* file, std::int64_t offset, Id3TagHeader* header);
-/** Reads the file's last ten bytes as a footer and stores in OFFSET where they begin. */
-[[nodiscard]] Id3Read id3_read_tag_footer(FIOFUNCSTRUCT* file, Id3TagHeader* footer, std::int64_t* offset);
-/** Where the header of the tag that ends with FOOTER at FOOTER_OFFSET lies; negative when that is in front of
-   the file. */
-[[nodiscard]] std::int64_t id3_header_offset(const Id3TagHeader& footer, std::int64_t footer_offset);
 
 } // namespace velmora

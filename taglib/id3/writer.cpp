@@ -2,11 +2,11 @@
 
 #include "../byte_order.h"
 #include "../trace.h"
+#include "../write_cursor.h"
 #include "tag_header.h"
 #include "text.h"
 
 #include <cstring>
-#include <unistd.h>
 
 namespace velmora {
 
@@ -47,44 +47,72 @@ Id3FrameHeader header_of(const _id3_frame_t& frame, std::uint8_t version) {
     return header;
 }
 
-bool write_frame(FIOFUNCSTRUCT* file, const _id3_frame_t& frame, std::uint8_t version) {
+void put_frame(WriteCursor& cursor, const _id3_frame_t& frame, std::uint8_t version) {
     const Id3FrameHeader header = header_of(frame, version);
-    if (!write_all(file, &header, sizeof header)) {
-        DebugError("id3_store_descriptor_v2: Failed to write frame\n");
-        return false;
+    cursor.put(&header, sizeof header);
+    cursor.put(frame.data, frame.size > 0 ? static_cast<std::size_t>(frame.size) : 0);
+}
+
+/** What a tag's field number FIELD is, as they are put: its header, then each frame's and its body if any. */
+const char* name_of_field(const _id3_file_desc_t& descriptor, std::uint64_t field) {
+    if (field == 0) {
+        return "header";
     }
-    if (frame.size > 0 && !write_all(file, frame.data, static_cast<std::size_t>(frame.size))) {
-        DebugError("id3_store_descriptor_v2: Failed to write frame data\n");
-        return false;
+    std::uint64_t next = 1;
+    for (std::int32_t i = 0; i < descriptor.frame_count; ++i) {
+        if (field == next++) {
+            return "frame";
+        }
+        if (descriptor.frames[i].size > 0 && field == next++) {
+            return "frame data";
+        }
     }
-    return true;
+    return "footer";
+}
+
+bool commit(WriteCursor& cursor, const _id3_file_desc_t& descriptor, std::uint64_t fields_in_front) {
+    if (cursor.commit()) {
+        return true;
+    }
+    DebugError("id3_store_descriptor_v2: Failed to write %s\n",
+               name_of_field(descriptor, fields_in_front + cursor.fields_written()));
+    return false;
 }
 
 } // namespace
 
 int id3_store_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor) {
+    const std::int64_t position = fio_ltell(file);
+    return position >= 0 && id3_store_descriptor_at(file, position, descriptor) ? 1 : 0;
+}
+
+bool id3_store_descriptor_at(FIOFUNCSTRUCT* file, std::int64_t position, _id3_file_desc_t* descriptor) {
     descriptor->size = tag_size(*descriptor);
     Id3TagHeader header = header_of(*descriptor);
-    if (!write_all(file, &header, sizeof header)) {
-        DebugError("id3_store_descriptor_v2: Failed to write header\n");
-        return 0;
+    WriteCursor cursor(file, static_cast<std::uint64_t>(position));
+    if (!cursor.settle()) {
+        return false;
     }
+    cursor.put(&header, sizeof header);
     for (std::int32_t i = 0; i < descriptor->frame_count; ++i) {
-        if (!write_frame(file, descriptor->frames[i], descriptor->version)) {
-            return 0;
-        }
+        put_frame(cursor, descriptor->frames[i], descriptor->version);
     }
-    if (descriptor->padding > 0 && fio_lseek(file, descriptor->padding, SEEK_CUR) < 0) {
-        return 0;
+    std::uint64_t fields = 0;
+    if (descriptor->padding > 0) {
+        fields = cursor.fields();
+        if (!commit(cursor, *descriptor, 0)) {
+            return false;
+        }
+        cursor.seek(cursor.position() + descriptor->padding);
+        if (!cursor.settle()) {
+            return false;
+        }
     }
     if (descriptor->header_flags & id3_header_flag::footer) {
         std::memcpy(header.signature, "3DI", sizeof header.signature);
-        if (!write_all(file, &header, sizeof header)) {
-            DebugError("id3_store_descriptor_v2: Failed to write footer\n");
-            return 0;
-        }
+        cursor.put(&header, sizeof header);
     }
-    return 1;
+    return commit(cursor, *descriptor, fields);
 }
 
 int id3_append_file(FIOFUNCSTRUCT* target, FIOFUNCSTRUCT* source) {

@@ -3,13 +3,18 @@
 #include "../fio.h"
 #include "descriptor.h"
 
+#include <cstdint>
+
 namespace velmora {
 
 /** Writes the tag at the current position: header, frames, padding, and a footer when the header flags ask
    for one. The padding is skipped, not written, so what lies there stays. Sets DESCRIPTOR's size to that of
-   the written tag. Returns 1; 0 with what was written so far left in the file, logged when it was a write
-   that failed (a seek over the padding fails silently). */
+   the written tag. Returns 1, with the position behind the tag; 0 with what was written so far left in the
+   file, logged when it was a write that failed (a seek over the padding fails silently). */
 [[nodiscard]] int id3_store_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor);
+/** The same at POSITION. */
+[[nodiscard]] bool id3_store_descriptor_at(FIOFUNCSTRUCT* file, std::int64_t position,
+                                           _id3_file_desc_t* descriptor);
 
 /** Copies SOURCE, from its current position to its end, onto TARGET. Returns 1, or 0, not logged, on a read
    error or a short write. */

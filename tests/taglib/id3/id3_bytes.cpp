@@ -54,6 +54,14 @@ std::string appended_tag(std::string_view contents) {
     return header(4, 0x10, size) + std::string(contents) + header(4, 0x10, size, "3DI");
 }
 
+std::string frames_with_cover() {
+    const std::string cover = "\xFF\xD8\xFF" + std::string(20'000, 'c');
+    return text4("TALB", "album") + text4("TPE1", "artist") + text4("TIT2", "song") +
+           text4("TPE3", "director") + text4("TCON", "genre") + text4("TYER", "1999") +
+           frame4("PRIV", bytes("WM/ParentalRating\0PG-13")) +
+           frame4("APIC", bytes("\0image/jpeg\0\x03\0") + cover) + text4("TENC", "somebody");
+}
+
 OpenFile::OpenFile(std::string_view contents) {
     write_file(path_, contents);
     open();

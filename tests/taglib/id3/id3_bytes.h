@@ -37,6 +37,9 @@ template <std::size_t size>
 /** A version 4 tag as it stands at a file's end: header, CONTENTS, footer. */
 [[nodiscard]] std::string appended_tag(std::string_view contents);
 
+/** Frames of a version 4 tag for every field, one with a cover of 20,000 bytes that has a frame behind it. */
+[[nodiscard]] std::string frames_with_cover();
+
 /** A file of given bytes, open for reading and writing. */
 class OpenFile {
 public:

@@ -193,6 +193,25 @@ TEST(Id3StoreAppended, EndsWithAWriteOfNoBytes) {
     EXPECT_EQ(0, calls[calls.size() - 2].requested);
 }
 
+/** System calls of a store of a title into a file of BYTES. */
+int calls_of_store(const std::string& bytes) {
+    const Song song(bytes);
+    StoredInfo info;
+    info.with_title("new");
+    const StreamCapture log;
+    const SystemCallFaults watch;
+    EXPECT_EQ(1, id3_store_file_info(song.path().c_str(), &info));
+    return watch.count();
+}
+
+TEST(Id3StoreAppended, CostsThirteenCallsWithACover) {
+    EXPECT_EQ(13, calls_of_store(media + appended_tag(frames_with_cover())));
+}
+
+TEST(Id3StoreAppended, CostsNineCallsWithASmallTag) {
+    EXPECT_EQ(9, calls_of_store(media + appended_tag(text4("TALB", "old"))));
+}
+
 TEST(Id3StoreAppended, FileOf20000000BytesWithALeadingTagGetsASecondOne) {
     const ScratchFolder folder;
     const std::string path = folder / "song.mp3";

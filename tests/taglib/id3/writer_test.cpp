@@ -55,14 +55,15 @@ TEST(Id3Writer, Version4FrameSizesAreSyncsafe) {
               to_hex(file.contents().substr(0, 20)));
 }
 
-TEST(Id3Writer, EmptyFrameIsOneWriteOfItsHeader) {
+TEST(Id3Writer, WholeTagIsOneWrite) {
     Descriptor tag;
-    start(tag, 4, 0);
+    start(tag, 4, 0x10);
     tag.add("TPE1", "");
+    tag.add("TALB", "x");
     OpenFile file("");
     const SystemCallFaults watch;
     EXPECT_EQ(1, id3_store_descriptor_v2(file.handle(), &tag));
-    EXPECT_EQ(2, watch.count(SystemCall::write)); // the tag's header and the frame's
+    EXPECT_EQ(1, watch.count(SystemCall::write));
 }
 
 TEST(Id3Writer, TagIsWrittenAtTheCurrentPosition) {
@@ -105,47 +106,67 @@ TEST(Id3Writer, EveryHeaderFlagIsWrittenAsItIs) {
     EXPECT_EQ(header(3, 0xE0, 0), file.contents());
 }
 
-/** Stores header, frame header, frame body, seek over the padding and footer, with the NTH call going wrong.
- */
+/** What a store of a tag of 10 + 10 + 3 bytes, a padding of 5 and a footer comes to under FAULTS. */
 struct FailedStore {
-    FailedStore(SystemCall call, int nth, bool short_write) {
+    explicit FailedStore(void (*inject)(SystemCallFaults&, std::int64_t), std::int64_t position) {
         Descriptor tag;
         start(tag, 4, 0x10);
         tag.padding = 5;
         tag.add("TALB", "xyz");
         OpenFile file("");
         StreamCapture capture;
-        SystemCallFaults faults;
-        if (short_write) {
-            faults.cut_short(call, nth, 2);
-        } else {
-            faults.fail(call, nth, ENOSPC);
+        {
+            SystemCallFaults faults;
+            inject(faults, position);
+            result = id3_store_descriptor_v2(file.handle(), &tag);
         }
-        result = id3_store_descriptor_v2(file.handle(), &tag);
         log = capture.text();
+        written = file.contents();
     }
     int result = -1;
     std::string log;
+    std::string written;
 };
 
-TEST(Id3Writer, FailedAndShortWritesAreLogged) {
-    const char* const messages[] = {"id3_store_descriptor_v2: Failed to write header\n",
-                                    "id3_store_descriptor_v2: Failed to write frame\n",
-                                    "id3_store_descriptor_v2: Failed to write frame data\n",
-                                    "id3_store_descriptor_v2: Failed to write footer\n"};
-    for (const bool short_write : {false, true}) {
-        for (int nth = 1; nth <= 4; ++nth) {
-            const FailedStore store(SystemCall::write, nth, short_write);
-            EXPECT_EQ(0, store.result);
-            EXPECT_EQ(messages[nth - 1], store.log);
+void fill_disk(SystemCallFaults& faults, std::int64_t position) {
+    faults.refuse_bytes(SystemCall::write, position, INT64_MAX, ENOSPC);
+}
+
+void take_no_more(SystemCallFaults& faults, std::int64_t position) {
+    faults.refuse_bytes(SystemCall::write, position, INT64_MAX, 0);
+}
+
+TEST(Id3Writer, FailedAndShortWritesAreLoggedForTheFieldThatTheyConcern) {
+    const std::string tag =
+        header(4, 0x10, 18) + frame4("TALB", "xyz") + std::string(5, '\0') + header(4, 0x10, 18, "3DI");
+    ASSERT_EQ(38u, tag.size());
+    for (std::size_t room = 0; room < tag.size(); ++room) {
+        const char* const field = room < 10   ? "header"
+                                  : room < 20 ? "frame"
+                                  : room < 23 ? "frame data"
+                                              : "footer";
+        for (const auto inject : {fill_disk, take_no_more}) {
+            const FailedStore store(inject, static_cast<std::int64_t>(room));
+            EXPECT_EQ(0, store.result) << room;
+            EXPECT_EQ("id3_store_descriptor_v2: Failed to write " + std::string(field) + "\n", store.log)
+                << room;
+            const std::size_t in_padding = room > 23 && room <= 28 ? 23 : room; // which is not written
+            EXPECT_EQ(tag.substr(0, in_padding), store.written) << room;
         }
     }
 }
 
-TEST(Id3Writer, FailedSeekOverThePaddingFailsTheStore) {
-    const FailedStore store(SystemCall::lseek, 1, false);
-    EXPECT_EQ(0, store.result);
-    EXPECT_EQ("", store.log);
+TEST(Id3Writer, FailedSeekFailsTheStoreSilently) {
+    for (int nth = 1; nth <= 3; ++nth) { // where it is, to there, over the padding
+        const FailedStore store(
+            [](SystemCallFaults& faults, std::int64_t call) {
+                faults.fail(SystemCall::lseek, static_cast<int>(call), ENOSPC);
+            },
+            nth);
+        EXPECT_EQ(0, store.result) << nth;
+        EXPECT_EQ("", store.log) << nth;
+        EXPECT_EQ(nth < 3 ? 0u : 23u, store.written.size()) << nth;
+    }
 }
 
 TEST(Id3Append, CopiesFromTheSourcesPositionToItsEnd) {
