@@ -29,6 +29,9 @@ public:
      */
     void searchDone();
 
+    /** Whether a worker has looked for the last time, and the lock waits for searchDone. Any thread. */
+    [[nodiscard]] bool isHeld() const { return held_; }
+
     /** The folders in the queue, for a caller that knows no worker to be running. */
     [[nodiscard]] const QStringList& folders() const { return searchFolders_; }
 

@@ -14,7 +14,10 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <filesystem>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -96,8 +99,18 @@ protected:
     bool runLoopUntilDone(int searches = 1) {
         return runLoopUntil([this, searches] { return searchesDone() == searches; });
     }
-    /** Lets the worker come to its end while the main loop stands still. */
-    static void sleep() { std::this_thread::sleep_for(std::chrono::milliseconds(100)); }
+    /** Lets the worker look for the last time while the main loop stands still; false when it never does. */
+    bool waitForWorkersLastLook() {
+        QElapsedTimer timer;
+        timer.start();
+        while (!search_->hasWorkerLooked() && timer.elapsed() < 20'000) {
+            std::this_thread::yield();
+        }
+        return search_->hasWorkerLooked();
+    }
+    static std::ptrdiff_t threadsOfThisProcess() {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+    }
 
     std::string logOf(const std::function<void()>& action) {
         test::StreamCapture capture(stderr);
@@ -132,15 +145,15 @@ TEST_F(MediaSearchTest, StartSetsTheFlagThenAnimatesThenEnablesStop) {
 
 TEST_F(MediaSearchTest, WorkerStartsAfterTheAnimation) {
     test::StreamCapture log(stderr);
-    std::string logAtAnimation = "never";
+    const std::ptrdiff_t before = threadsOfThisProcess();
+    std::ptrdiff_t atAnimation = 0;
     onEvent_ = [&](const std::string& event) {
         if (event == "animate") {
-            sleep();
-            logAtAnimation = log.text();
+            atAnimation = threadsOfThisProcess();
         }
     };
     search_->startMediaSearch();
-    EXPECT_EQ("", logAtAnimation);
+    EXPECT_EQ(before, atAnimation);
     ASSERT_TRUE(runLoopUntilDone());
     EXPECT_THAT(log.text(), HasSubstr("search thread started up\n"));
 }
@@ -266,13 +279,16 @@ TEST_F(MediaSearchTest, UnlistableFolderEndsLikeAnyOther) {
 }
 
 TEST_F(MediaSearchTest, StartWhileASearchRunsDoesNothing) {
-    search_->startMediaSearch();
-    const MessagePort* const port = search_->mainThreadPort();
-    search_->startMediaSearch();
-    EXPECT_EQ(port, search_->mainThreadPort());
-    ASSERT_TRUE(runLoopUntilDone());
-    sleep();
-    QCoreApplication::processEvents();
+    const std::string log = logOf([this] {
+        search_->startMediaSearch();
+        const MessagePort* const port = search_->mainThreadPort();
+        search_->startMediaSearch();
+        EXPECT_EQ(port, search_->mainThreadPort());
+        EXPECT_TRUE(runLoopUntilDone());
+        EXPECT_FALSE(search_->isSearchRunning()) << "a second search would begin when the first one is done";
+        search_.reset(); // waits for all workers
+    });
+    EXPECT_EQ("search thread started up\nsearch thread exiting\n", log);
     EXPECT_EQ(1, searchesStarted());
     EXPECT_EQ(1, searchesDone());
 }
@@ -443,7 +459,7 @@ TEST_F(EndlessSearchTest, DestroyingTheSearchEndsTheWorkerWithoutTheMainLoop) {
 
 TEST_F(MediaSearchTest, DestroyingTheSearchWhoseWorkerHoldsTheQueueEnds) {
     search_->startMediaSearch();
-    sleep();
+    ASSERT_TRUE(waitForWorkersLastLook());
     search_.reset();
     QCoreApplication::processEvents();
     EXPECT_EQ(0, searchesDone());
@@ -452,7 +468,7 @@ TEST_F(MediaSearchTest, DestroyingTheSearchWhoseWorkerHoldsTheQueueEnds) {
 TEST_F(MediaSearchTest, QueueingWhileTheFinishedWorkerHoldsTheQueueComesBackAndSearches) {
     const QString folder = makeFullFolder("music", 1);
     search_->startMediaSearch();
-    sleep();
+    ASSERT_TRUE(waitForWorkersLastLook());
     // The worker has looked for the last time, and its message waits for the main loop.
     ASSERT_TRUE(search_->isSearchRunning());
     search_->queueFolders({folder});
@@ -465,7 +481,7 @@ TEST_F(MediaSearchTest, FoldersThatHadToWaitKeepTheirPlaceInTheQueue) {
     const QString a = makeFolder("a");
     const QString b = makeFolder("b");
     search_->startMediaSearch();
-    sleep();
+    ASSERT_TRUE(waitForWorkersLastLook());
     search_->queueFolders({a});
     search_->queueFolders({b});
     EXPECT_EQ((QStringList{a, b}), search_->searchFolders());
@@ -477,7 +493,7 @@ TEST_F(MediaSearchTest, FoldersThatHadToWaitKeepTheirPlaceInTheQueue) {
 TEST_F(MediaSearchTest, StopAlsoHoldsForFoldersThatHadToWait) {
     const QString folder = makeFullFolder("music", 1);
     search_->startMediaSearch();
-    sleep();
+    ASSERT_TRUE(waitForWorkersLastLook());
     search_->queueFolders({folder});
     search_->stopScan();
     ASSERT_TRUE(runLoopUntilDone());
@@ -516,7 +532,7 @@ TEST_F(MediaSearchTest, NoMessageIsHandledWhileAModalLoopRuns) {
     const QString folder = makeFullFolder("music", 3);
     std::optional<ModalLoop> question(std::in_place);
     search_->queueFolders({folder});
-    sleep();
+    ASSERT_TRUE(waitForWorkersLastLook());
     QCoreApplication::processEvents();
     EXPECT_THAT(events_, ElementsAre("animate", "enable stop"));
     question.reset();
