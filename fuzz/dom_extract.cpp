@@ -70,6 +70,7 @@ std::shared_ptr<const DomDocument> built_document(Input& input) {
         if (instruction < tags.size()) {
             node.nodeName = QString::fromUtf8(tags[instruction].name);
             node.domClass = tags[instruction].domClass;
+            node.isElement = true;
             node.isHTMLElement = node.nodeName != QLatin1String("svg");
             open.push_back(document->append(open.back(), node));
         } else if (instruction < 18) {

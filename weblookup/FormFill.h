@@ -19,8 +19,9 @@ public:
     [[nodiscard]] static std::unique_ptr<FormFill> initWithWebFrame(WebFrame& frame, int type,
                                                                     ImageFetch fetch);
 
-    /** What the page has; null for a type without an extractor. The page is read at the first call only. The
-       record belongs to this object and goes with it. */
+    /** What the page has, each text and each list of names cut to what a form can show; null for a type
+       without an extractor. The page is read at the first call only. The record belongs to this object and
+       goes with it. */
     [[nodiscard]] const FormFillInfo* formFillInfo();
 
     /** Reads the document as the movie database's page, into a fresh record. Always true. */

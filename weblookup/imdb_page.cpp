@@ -30,15 +30,20 @@ QStringList linkedTexts(const DomNode* heading) {
     return texts;
 }
 
-void readReleaseDate(const DomNode* heading, FormFillInfo& info) {
-    std::optional<QString> date;
-    if (const std::optional<QString> text = followingText(heading)) {
-        const QStringList parts = text->split(QLatin1Char(' '), Qt::KeepEmptyParts);
-        if (parts.size() >= 3) {
-            date = parts.mid(0, 3).join(QLatin1Char(' '));
+/** TEXT up to its third blank or its end; no value when it has less than two blanks. */
+std::optional<QString> firstThreeParts(const QString& text) {
+    qsizetype blank = -1;
+    for (int part = 1; part <= 3; ++part) {
+        blank = text.indexOf(QLatin1Char(' '), blank + 1);
+        if (blank < 0) {
+            return part < 3 ? std::nullopt : std::optional(text);
         }
     }
-    setReleaseDate(info, date, QStringLiteral("d MMMM yyyy"));
+    return text.left(blank);
+}
+
+void readReleaseDate(const QString& text, FormFillInfo& info) {
+    setReleaseDate(info, firstThreeParts(text.trimmed()), QStringLiteral("d MMMM yyyy"));
 }
 
 std::optional<QStringList> readGenres(const DomNode* heading) {
@@ -58,21 +63,47 @@ std::optional<QString> readCertification(const DomNode* heading) {
     return std::nullopt;
 }
 
-void readHeading(const DomNode* heading, FormFillInfo& info) {
+/** What has been met on the way through the sections. Of headings that read all that follows them, and of
+   which the last one counts, only the last one is read: a page can have very many. */
+struct Headings {
+    const DomNode* director = nullptr;
+    const DomNode* genre = nullptr;
+    const DomNode* plotOutline = nullptr;
+    const DomNode* certification = nullptr;
+    /** Whether the next text among the siblings is that of a release date. */
+    bool releaseDateExpected = false;
+};
+
+void noteHeading(const DomNode* heading, Headings& met) {
     const std::optional<QString> label = leadingText(heading);
     if (!label) {
         return;
     }
     if (label->contains(QLatin1String("Director:"))) {
-        info.directors = imdb_parse_directors(heading);
+        met.director = heading;
     } else if (label->contains(QLatin1String("Release Date:"))) {
-        readReleaseDate(heading, info);
+        met.releaseDateExpected = true;
     } else if (label->contains(QLatin1String("Genre:"))) {
-        info.genres = readGenres(heading);
+        met.genre = heading;
     } else if (label->contains(QLatin1String("Plot Outline:"))) {
-        info.description = followingText(heading);
+        met.plotOutline = heading;
     } else if (label->contains(QLatin1String("Certification:"))) {
-        info.rating = readCertification(heading);
+        met.certification = heading;
+    }
+}
+
+void readHeadings(const Headings& met, FormFillInfo& info) {
+    if (met.director) {
+        info.directors = imdb_parse_directors(met.director);
+    }
+    if (met.genre) {
+        info.genres = readGenres(met.genre);
+    }
+    if (met.plotOutline) {
+        info.description = followingText(met.plotOutline);
+    }
+    if (met.certification) {
+        info.rating = readCertification(met.certification);
     }
 }
 
@@ -112,19 +143,31 @@ std::optional<QStringList> readCast(const DomNode* table) {
     return unlessEmpty(cast);
 }
 
-void readSections(const DomDocument& page, FormFillInfo& info) {
-    for (const DomNode* const section : page.getElementsByTagName(u"div")) {
-        if (!section->isHTMLElement || section->className != QLatin1String("info")) {
-            continue;
-        }
-        for (const DomNode* child = section->firstChild; child != nullptr; child = child->nextSibling) {
-            if (child->hasTagName(u"h5")) {
-                readHeading(child, info);
-            } else if (child->hasTagName(u"table") && child->className == QLatin1String("cast")) {
-                info.cast = readCast(child);
-            }
+void readSection(const DomNode* section, Headings& met, FormFillInfo& info) {
+    met.releaseDateExpected = false;
+    for (const DomNode* child = section->firstChild; child; child = child->nextSibling) {
+        if (child->domClass == DomClass::DOMText && met.releaseDateExpected) {
+            met.releaseDateExpected = false;
+            readReleaseDate(child->data.value_or(QString()), info);
+        } else if (child->hasTagName(u"h5")) {
+            noteHeading(child, met);
+        } else if (child->hasTagName(u"table") && child->className == QLatin1String("cast")) {
+            info.cast = readCast(child);
         }
     }
+    if (met.releaseDateExpected) {
+        info.releaseDate = std::nullopt;
+    }
+}
+
+void readSections(const DomDocument& page, FormFillInfo& info) {
+    Headings met;
+    for (const DomNode* const section : page.getElementsByTagName(u"div")) {
+        if (section->isHTMLElement && section->className == QLatin1String("info")) {
+            readSection(section, met, info);
+        }
+    }
+    readHeadings(met, info);
 }
 
 /** Fetches the images of one anchor until one comes. Every result is kept, a failed fetch's too. */

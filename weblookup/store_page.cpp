@@ -30,34 +30,69 @@ std::optional<QString> readRating(const DomNode* label) {
     return image == nullptr ? std::nullopt : image->getAttribute(u"alt");
 }
 
-void readLabel(const DomNode* label, FormFillInfo& info) {
+/** What has been met on the way through the lists. Of labels that read all that follows them, and of which
+   the last one counts, only the last one is read: a page can have very many. */
+struct Labels {
+    const DomNode* actors = nullptr;
+    const DomNode* directors = nullptr;
+    const DomNode* rating = nullptr;
+    /** Whether the next text among the siblings is that of a release date. */
+    bool releaseDateExpected = false;
+};
+
+void noteLabel(const DomNode* label, Labels& met) {
     const std::optional<QString> text = leadingText(label);
     if (!text) {
         return;
     }
     if (text->contains(QLatin1String("Actors:"))) {
         appLog(QStringLiteral("looking for actors\n"));
-        info.cast = imdb_parse_directors(label);
+        met.actors = label;
     } else if (text->contains(QLatin1String("Directors:"))) {
-        info.directors = imdb_parse_directors(label);
+        met.directors = label;
     } else if (text->contains(QLatin1String("Rating"))) {
-        info.rating = readRating(label);
+        met.rating = label;
     } else if (text->contains(QLatin1String("Release Date:"))) {
-        setReleaseDate(info, followingText(label), QStringLiteral("MMMM d, yyyy"));
+        met.releaseDateExpected = true;
+    }
+}
+
+void readLabels(const Labels& met, FormFillInfo& info) {
+    if (met.actors) {
+        info.cast = imdb_parse_directors(met.actors);
+    }
+    if (met.directors) {
+        info.directors = imdb_parse_directors(met.directors);
+    }
+    if (met.rating) {
+        info.rating = readRating(met.rating);
+    }
+}
+
+void readItem(const DomNode* item, Labels& met, FormFillInfo& info) {
+    met.releaseDateExpected = false;
+    for (const DomNode* child = item->firstChild; child; child = child->nextSibling) {
+        if (child->domClass == DomClass::DOMText && met.releaseDateExpected) {
+            met.releaseDateExpected = false;
+            setReleaseDate(info, child->data.value_or(QString()).trimmed(), QStringLiteral("MMMM d, yyyy"));
+        } else if (child->hasTagName(u"b")) {
+            noteLabel(child, met);
+        }
+    }
+    if (met.releaseDateExpected) {
+        info.releaseDate = std::nullopt;
     }
 }
 
 void readDetails(const DomDocument& page, FormFillInfo& info) {
+    Labels met;
     for (const DomNode* const list : page.getElementsByTagName(u"ul")) {
         const DomNode* item = get_first_child_of_type(list, DomClass::DOMHTMLLIElement);
-        for (; item != nullptr; item = get_first_sibling_of_type(item, DomClass::DOMHTMLLIElement)) {
-            for (const DomNode* child = item->firstChild; child != nullptr; child = child->nextSibling) {
-                if (child->hasTagName(u"b")) {
-                    readLabel(child, info);
-                }
-            }
+        for (; item; item = get_first_sibling_of_type(item, DomClass::DOMHTMLLIElement)) {
+            readItem(item, met, info);
         }
     }
+    readLabels(met, info);
 }
 
 /** Texts and line breaks from the first text behind LABEL on, up to any other node. */

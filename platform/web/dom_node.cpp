@@ -27,7 +27,7 @@ std::optional<QString> DomNode::getAttribute(QStringView attribute) const {
 }
 
 bool DomNode::hasTagName(QStringView tag) const {
-    return QStringView(nodeName).compare(tag, Qt::CaseInsensitive) == 0;
+    return isElement && QStringView(nodeName).compare(tag, Qt::CaseInsensitive) == 0;
 }
 
 DomDocument::DomDocument() {

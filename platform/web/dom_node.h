@@ -31,6 +31,8 @@ using DomAttributes = std::vector<std::pair<QString, QString>>;
 /** One node. The links belong to the document that holds it and live as long. */
 struct DomNode {
     DomClass domClass = DomClass::Other;
+    /** Whether this is an element of any kind, as opposed to a text, a comment, a document type. */
+    bool isElement = false;
     /** Whether this is an HTML element of any kind, HTMLElement itself included. */
     bool isHTMLElement = false;
     /** "#text", "#comment", "DIV", "svg", ... */
@@ -41,8 +43,8 @@ struct DomNode {
     QString className;
     /** Anchors only. */
     QString name;
-    /** Images only: the address as the page resolved it. Raw text when it could not be resolved, empty when
-     * absent. */
+    /** Images only: the address as the page resolved it. Raw text when it could not be resolved; empty when
+       it is absent or blank, which a page would resolve to its own address. */
     QString src;
     DomAttributes attributes;
 
@@ -53,7 +55,7 @@ struct DomNode {
 
     /** The value of the attribute NAME, given in lower case; no value when the element has none. */
     [[nodiscard]] std::optional<QString> getAttribute(QStringView attribute) const;
-    /** Whether nodeName is NAME in any case. */
+    /** Whether this is an element named TAG, in any case. */
     [[nodiscard]] bool hasTagName(QStringView tag) const;
 };
 

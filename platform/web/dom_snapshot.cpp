@@ -33,6 +33,7 @@ std::optional<DomNode> readNode(const QJsonArray& columns) {
     if (columns.at(Data).isString()) {
         node.data = columns.at(Data).toString();
     }
+    node.isElement = columns.at(Html).isDouble();
     node.isHTMLElement = columns.at(Html).toInt() == 1;
     node.className = columns.at(ClassName).toString();
     node.attributes = readAttributes(columns.at(Attributes).toArray());

@@ -82,7 +82,7 @@ private:
     std::unique_ptr<WebFrame> mainFrame_;
     std::unique_ptr<WebFrame> subFrame_;
     std::shared_ptr<DocumentWait> documentWait_;
-    std::chrono::milliseconds documentTimeLimit_{20000};
+    std::chrono::milliseconds documentTimeLimit_{15000};
     std::unique_ptr<WebEngine> engine_;
 };
 

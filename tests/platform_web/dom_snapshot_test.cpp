@@ -40,6 +40,20 @@ TEST(DomSnapshot, GivesEveryColumn) {
     EXPECT_EQ(node->src, "http://x/s");
 }
 
+TEST(DomSnapshot, TellsElementsFromOtherNodes) {
+    const auto document =
+        readNodes(R"([[-1,0,"title"],[-1,0,"svg",null,0],[-1,0,"TITLE",null,1],[-1,0,"b","x"]])");
+    ASSERT_NE(document, nullptr);
+    const DomNode* const type = document->root()->firstChild;
+    EXPECT_FALSE(type->isElement);
+    EXPECT_TRUE(type->nextSibling->isElement);
+    EXPECT_FALSE(type->nextSibling->isHTMLElement);
+    EXPECT_TRUE(type->nextSibling->nextSibling->isElement);
+    EXPECT_FALSE(document->root()->lastChild->isElement);
+    EXPECT_EQ(document->getElementsByTagName(u"title").size(), 1U);
+    EXPECT_TRUE(document->getElementsByTagName(u"b").empty());
+}
+
 TEST(DomSnapshot, ReadsTheNumberOfEachClass) {
     const auto document =
         readNodes(R"([[-1,0,"x"],[-1,1,"x"],[-1,2,"x"],[-1,3,"x"],[-1,4,"x"],[-1,5,"x"],[-1,6,"x"],

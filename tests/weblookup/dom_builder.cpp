@@ -49,6 +49,7 @@ Dom element(const QString& tag, const Doms& children, const DomAttributes& attri
     Dom dom;
     dom.node.nodeName = tag;
     dom.node.domClass = classOfTag(tag);
+    dom.node.isElement = true;
     dom.node.isHTMLElement = true;
     dom.node.attributes = attributes;
     dom.node.name = dom.node.getAttribute(u"name").value_or(QString());
@@ -59,7 +60,15 @@ Dom element(const QString& tag, const Doms& children, const DomAttributes& attri
 
 Dom foreignElement(const QString& tag, const Doms& children) {
     Dom dom;
+    dom.node.isElement = true;
     dom.node.nodeName = tag;
+    dom.children = children;
+    return dom;
+}
+
+Dom noElement(const QString& name, const Doms& children) {
+    Dom dom;
+    dom.node.nodeName = name;
     dom.children = children;
     return dom;
 }

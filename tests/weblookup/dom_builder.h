@@ -31,6 +31,8 @@ using Doms = std::vector<Dom>;
                           const DomAttributes& attributes = {});
 /** An element outside HTML, as an SVG element is. */
 [[nodiscard]] Dom foreignElement(const QString& tag, const Doms& children = {});
+/** A node that is no element but has a name, as a document type or a processing instruction does. */
+[[nodiscard]] Dom noElement(const QString& name, const Doms& children = {});
 [[nodiscard]] Dom withClass(Dom dom, const QString& className);
 
 [[nodiscard]] Dom title(const QString& data);

@@ -104,5 +104,11 @@ TEST(ElementsByTagName, AreFoundInATreeOfAHundredThousandLevels) {
     EXPECT_EQ(doc.getElementsByTagName(u"b").size(), 1U);
 }
 
+TEST(DomWalk, FindsOnlyElementsByTheirTagName) {
+    const auto doc = page({noElement("title"), noElement("title"), element("TITLE", {text("True")})});
+    EXPECT_EQ(doc->getElementsByTagName(u"title").size(), 1U);
+    EXPECT_EQ(titleText(*doc), QString("True"));
+}
+
 } // namespace
 } // namespace velmora::test

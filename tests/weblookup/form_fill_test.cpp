@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <ctime>
+
 namespace velmora::test {
 namespace {
 
@@ -93,6 +96,79 @@ TEST(FormFill, KeepsTheDocumentForItsLifetime) {
     fill.reset();
     EXPECT_TRUE(watched.expired());
 }
+
+// What a form can show
+
+TEST(FormFill, CutsTextsToWhatAFormCanShow) {
+    const QString shown(32767, 'x');
+    const auto fill =
+        fillOf(page({title(shown + 'y'), div("info", {h5("Plot Outline:"), text(shown + 'y'),
+                                                      h5("Certification:"), a("USA:" + shown + 'y')})}),
+               0);
+    EXPECT_EQ(fill->formFillInfo()->title, shown);
+    EXPECT_EQ(fill->formFillInfo()->description, shown);
+    EXPECT_EQ(fill->formFillInfo()->rating, shown);
+}
+
+TEST(FormFill, KeepsTextsThatAFormCanShow) {
+    const QString shown(32767, 'x');
+    const auto fill = fillOf(page({title(shown), div("info", {h5("Genre:"), a(shown)})}), 0);
+    EXPECT_EQ(fill->formFillInfo()->title, shown);
+    EXPECT_EQ(fill->formFillInfo()->genres, QStringList({shown}));
+}
+
+TEST(FormFill, DropsNamesThatAFormCanNotShow) {
+    Doms children = {h5("Genre:"), a(QString(32765, 'x')), a("y"), a("z")};
+    EXPECT_EQ(fillOf(page({div("info", children)}), 0)->formFillInfo()->genres,
+              QStringList({QString(32765, 'x'), "y"}));
+    children = {h5("Genre:"), a(QString(40000, 'x')), a("y")};
+    EXPECT_EQ(fillOf(page({div("info", children)}), 0)->formFillInfo()->genres,
+              QStringList({QString(32767, 'x')}));
+}
+
+// Large pages
+
+/** The least processor time in seconds that it takes to read a page with the children CHILDREN, as a page of
+ * TYPE. */
+double timeToRead(const Doms& children, int type) {
+    const StreamCapture log;
+    const auto document = page(children);
+    double least = 1e9;
+    for (int run = 0; run < 5; ++run) {
+        const std::clock_t start = std::clock();
+        EXPECT_NE(fillOf(document, type)->formFillInfo(), nullptr);
+        least = std::min(least, static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+    }
+    return least;
+}
+
+/** COUNT times LABEL, then as many anchors. */
+Doms labelsAndAnchors(const Dom& label, int count) {
+    Doms children(static_cast<std::size_t>(count), label);
+    children.insert(children.end(), static_cast<std::size_t>(count), a("x"));
+    return children;
+}
+
+class LargePage : public testing::TestWithParam<const char*> {};
+
+TEST_P(LargePage, OfTheMovieDatabaseTakesTimeInProportionToItsSize) {
+    const auto read = [](int count) {
+        return timeToRead({div("info", labelsAndAnchors(h5(GetParam()), count))}, 0);
+    };
+    EXPECT_LT(read(20000), 10 * read(5000)); // 16 times as long, if each heading looked at all anchors
+}
+
+TEST_P(LargePage, OfTheStoreTakesTimeInProportionToItsSize) {
+    const auto read = [](int count) {
+        return timeToRead({element("UL", {element("LI", labelsAndAnchors(b(GetParam()), count))})}, 1);
+    };
+    EXPECT_LT(read(20000), 10 * read(5000));
+}
+
+INSTANTIATE_TEST_SUITE_P(OfOneLabel, LargePage,
+                         testing::Values("Director:", "Release Date:", "Genre:", "Plot Outline:",
+                                         "Certification:", "Actors:", "Directors:", "Rating",
+                                         "Product Description"));
 
 } // namespace
 } // namespace velmora::test

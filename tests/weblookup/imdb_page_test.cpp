@@ -480,5 +480,18 @@ TEST(ImdbPage, ReadsAllOfATitlePage) {
     EXPECT_EQ(info.releaseDate, QDate(2005, 5, 12));
 }
 
+TEST(ImdbPage, TakesNoOtherNodeForAnElement) {
+    const FormFillInfo info =
+        read({noElement("title", {text("Wrong")}), title("True (2001)"),
+              div("info",
+                  {noElement("h5", {text("Genre:")}), a("Drama"),
+                   withClass(element("TABLE", {noElement("tbody"),
+                                               element("TR", {element("TD"), element("TD", {a("A. One")})})}),
+                             "cast")})});
+    EXPECT_EQ(info.title, QString("True "));
+    EXPECT_EQ(info.cast, QStringList({"A. One"}));
+    EXPECT_EQ(info.genres, std::nullopt);
+}
+
 } // namespace
 } // namespace velmora::test

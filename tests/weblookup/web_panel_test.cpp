@@ -182,6 +182,28 @@ TEST_F(WebPanel, FillsTheRestWhenThePosterFails) {
     EXPECT_EQ(info.title, QString("Harbour Lights "));
 }
 
+TEST_F(WebPanel, PosterWithoutAnAddressIsPassedOver) {
+    server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png"});
+    show("<a name='poster'><img src=''><img src=' '><img src='/poster.jpg'></a>"
+         "<a name='poster'><img src=''><img></a>");
+    EXPECT_EQ(fill().coverArt.width(), 9);
+    EXPECT_EQ(server.requests().count("/find?q=x"), 1) << "the page itself is no picture";
+}
+
+TEST_F(WebPanel, OnlyElementsAreReadFromAPage) {
+    server.serve("/find",
+                 Answer{.body =
+                            "<!DOCTYPE title><html xmlns='http://www.w3.org/1999/xhtml'><head>"
+                            "<title>True (1999)</title></head><body><div class='info'><table class='cast'>"
+                            "<?tbody x?><tr><td></td><td><a>A. One</a></td></tr></table></div></body></html>",
+                        .type = "application/xhtml+xml"});
+    search("x");
+    ASSERT_TRUE(finished());
+    const FormFillInfo info = fill();
+    EXPECT_EQ(info.title, QString("True "));
+    EXPECT_EQ(info.cast, QStringList({"A. One"}));
+}
+
 TEST_F(WebPanel, FillsTheRestWhenThePosterIsNoPicture) {
     server.serve("/poster.jpg", "<p>gone</p>");
     show(titlePage);
@@ -302,6 +324,27 @@ TEST_F(WebPanel, FillsFromAPageOfTwentyThousandNodes) {
     time.start();
     EXPECT_EQ(fill().rating, QString("PG-13"));
     std::printf("a page of 20,000 nodes was copied and read in %lld ms\n",
+                static_cast<long long>(time.elapsed()));
+}
+
+TEST_F(WebPanel, FillsFromAPageOfVeryManyHeadingsAndAVeryLongText) {
+    constexpr int count = 60000;
+    QByteArray html = "<title>Long (2001)</title><div class='info' style='display: none'>";
+    for (int i = 0; i < count; ++i) {
+        html += "<h5>Genre:</h5>";
+    }
+    for (int i = 0; i < count; ++i) {
+        html += "<a>Drama</a>";
+    }
+    html += "<h5>Plot Outline:</h5>" + QByteArray(20000000, 'x') + "</div>";
+    show(html);
+    QElapsedTimer time;
+    time.start();
+    const FormFillInfo info = fill();
+    EXPECT_EQ(info.genres.value_or(QStringList()).size(),
+              5461); // of six characters each, with what stands between
+    EXPECT_EQ(info.description, QString(32767, 'x'));
+    std::printf("a page of %d headings and a text of 20 MB was copied and read in %lld ms\n", count,
                 static_cast<long long>(time.elapsed()));
 }
 

@@ -73,7 +73,7 @@
         if (exactClass === anchor) {
             row.push(anchorName(node));
         } else if (exactClass === image) {
-            row.push('', imageSource(node));
+            row.push('', /^[\0- ]*$/.test(attribute(node, 'src') ?? '') ? '' : imageSource(node));
         }
         return row;
     }
