@@ -1,5 +1,6 @@
 #include "alert.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -9,6 +10,25 @@
 namespace velmora {
 
 namespace {
+
+/** A message box whose buttons are pressed by their shortcuts with the modifier only. The plain box takes the
+    letter alone for the shortcut, which may come from a person who was still typing when the question came.
+ */
+class SheetBox : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool hasModifier =
+            event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+        if (hasModifier || event->matches(QKeySequence::Cancel)) {
+            QMessageBox::keyPressEvent(event);
+        } else {
+            QDialog::keyPressEvent(event);
+        }
+    }
+};
 
 /** Names with "<" in them are names, not markup; the informative text needs its own setting. */
 void setPlainTexts(QMessageBox& box, const QString& text, const QString& informativeText) {
@@ -35,7 +55,7 @@ int returnCode(const QMessageBox& box) {
 
 } // namespace
 
-Alert::Alert() : box_(new QMessageBox) {
+Alert::Alert() : box_(new SheetBox) {
     box_->setIcon(QMessageBox::Warning);
 }
 
@@ -88,7 +108,7 @@ void Alert::beginSheetModalForWindow(QWidget* window, std::function<void(int ret
 }
 
 void presentErrorSheet(const Error& error, QWidget* window) {
-    auto* box = new QMessageBox(window);
+    auto* box = new SheetBox(window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setIcon(QMessageBox::Critical);
     box->setStandardButtons(QMessageBox::Ok);

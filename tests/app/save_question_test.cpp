@@ -4,6 +4,7 @@
 #include "support/bytes.h"
 
 #include <QAction>
+#include <QPointer>
 #include <QTableView>
 #include <QTest>
 
@@ -128,6 +129,39 @@ TEST_F(SaveQuestionTest, ComesBeforeTheAddressIsLookedAt) {
     EXPECT_EQ(1, answer.questions());
     EXPECT_EQ(nullptr, document().mediaFile());
     EXPECT_FALSE(error.userInfo.isEmpty());
+}
+
+TEST_F(SaveQuestionTest, TypingOnInTheListAnswersNothing) {
+    addFile("video.mp3", taggedFile(textFrame("TIT2", "V")));
+    bool stillAsked = false;
+    bool done = false;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, document().window(), [&] {
+        const QPointer<QMessageBox> question = document().window()->findChild<QMessageBox*>();
+        if (!question || !question->isVisible()) {
+            return;
+        }
+        look.stop();
+        for (const Qt::Key key : {Qt::Key_D, Qt::Key_E, Qt::Key_O, Qt::Key_D}) {
+            if (question) {
+                QTest::keyClick(question->focusWidget(), key);
+            }
+            QTest::qWait(150); // longer than a button that is pressed by a key stays down
+        }
+        stillAsked = question && question->isVisible();
+        if (stillAsked) {
+            QTest::keyClick(question.data(), Qt::Key_Escape);
+        }
+        done = true;
+    });
+    look.start(5);
+    QTest::keyClick(&widget<QTableView>("tbl_mediaFiles"), Qt::Key_V);
+    ASSERT_TRUE(waitUntil([&] { return done; }));
+    settle();
+    EXPECT_TRUE(stillAsked);
+    EXPECT_EQ(path("a.mp3"), file().filename());
+    EXPECT_EQ("edited", file().title());
+    EXPECT_TRUE(document().isDocumentEdited());
 }
 
 TEST_F(SaveQuestionTest, IsNotAskedASecondTimeWhileItIsOnTheScreen) {

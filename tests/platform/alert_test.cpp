@@ -96,6 +96,27 @@ TEST_F(AlertTest, ThirdButtonHasControlD) {
     EXPECT_EQ(QKeySequence(Qt::CTRL | Qt::Key_D), button("Don't Save")->shortcut());
 }
 
+TEST_F(AlertTest, LetterOfAShortcutAlonePressesNoButton) {
+    ask();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&box()));
+    for (const Qt::KeyboardModifiers modifiers : {Qt::NoModifier, Qt::ShiftModifier}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_D, modifiers);
+        QTest::qWait(200); // longer than a button that is pressed by a key stays down
+        ASSERT_EQ(std::nullopt, code_);
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_D, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return code_ == Alert::thirdButtonReturn; }));
+}
+
+TEST_F(AlertTest, LetterOfAShortcutAlonePressesNoButtonFromAnotherButtonEither) {
+    ask();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&box()));
+    button("Cancel")->setFocus();
+    QTest::keyClick(button("Cancel"), Qt::Key_D);
+    QTest::qWait(200);
+    EXPECT_EQ(std::nullopt, code_);
+}
+
 TEST_F(AlertTest, SheetThatGoesWithoutAButtonHasAnotherCode) {
     ask();
     box().done(77);
