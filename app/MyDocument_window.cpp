@@ -5,6 +5,7 @@
 #include "browser/VelmoraController.h"
 #include "browser/media_list.h"
 #include "browser/tag_form.h"
+#include "platform/alt_letters.h"
 #include "ui_MyDocument.h"
 #include "weblookup/TagWebBrowser.h"
 
@@ -21,6 +22,7 @@ void MyDocument::makeWindow() {
     makeForms();
     window_->setObjectName(windowNibName());
     window_->setWindowTitle(displayName());
+    keepAltLettersFromTyping(*window_);
     window_->setDelegate(this);
     setWindow(window_.get());
     controller_ = std::make_unique<VelmoraController>(*list_, *form_, *webBrowser_, *this);

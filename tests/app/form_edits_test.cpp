@@ -346,5 +346,72 @@ TEST_F(FormEditsTest, WheelOverABoxWithoutFocusChangesNothing) {
     expectMarked(false);
 }
 
+TEST_F(FormEditsTest, AltAndTheLetterOfAButtonOutOfUseTypeNothing) {
+    openAudio();
+    QApplication::setActiveWindow(document().window());
+    for (const char* name : {"entry_title", "entry_artist", "entry_album", "entry_year", "entry_search"}) {
+        QLineEdit& field = entry(name);
+        field.setFocus();
+        const QString before = field.text();
+        for (const Qt::Key key : {Qt::Key_S, Qt::Key_B, Qt::Key_K, Qt::Key_M, Qt::Key_P, Qt::Key_R}) {
+            ASSERT_EQ(&field, QApplication::focusWidget()) << name;
+            QTest::keyClick(&field, key, Qt::AltModifier);
+            QTest::keyClick(&field, key, Qt::AltModifier | Qt::ShiftModifier);
+        }
+        EXPECT_EQ(before, field.text()) << name;
+    }
+    synopsis().setFocus();
+    QTest::keyClick(&synopsis(), Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ("", synopsis().toPlainText());
+    genre().setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ("Jazz", genre().currentText());
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, AltAndSASecondTimeTypesNothingBehindTheSave) {
+    openAudio();
+    QApplication::setActiveWindow(document().window());
+    QLineEdit& title = entry("entry_title");
+    title.setFocus();
+    QTest::keyClicks(&title, "ound");
+    QTest::keyClick(&title, Qt::Key_S, Qt::AltModifier);
+    ASSERT_TRUE(test::waitUntil([this] { return !enabled("btn_saveTag"); }));
+    QTest::keyClick(&title, Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ("Zound", title.text());
+    EXPECT_EQ(1, logged("saving tag to file"));
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, AltAndTheLetterOfAButtonOutOfUseChooseNothing) {
+    openVideo();
+    QApplication::setActiveWindow(document().window());
+    rating().setFocus();
+    const int before = rating().currentIndex();
+    QTest::keyClick(&rating(), Qt::Key_R, Qt::AltModifier); // "R" is a rating, too
+    QTest::keyClick(&rating(), Qt::Key_P, Qt::AltModifier);
+    EXPECT_EQ(before, rating().currentIndex());
+    auto& date = widget<QDateTimeEdit>("picker_dateTime");
+    date.setFocus();
+    const QDateTime shown = date.dateTime();
+    date.setCurrentSection(QDateTimeEdit::AmPmSection);
+    QTest::keyClick(&date, Qt::Key_P, Qt::AltModifier);
+    QTest::keyClick(&date, Qt::Key_M, Qt::AltModifier);
+    EXPECT_EQ(shown, date.dateTime());
+    expectMarked(false);
+}
+
+TEST_F(FormEditsTest, LettersOfTheThirdLevelAreTyped) {
+    openAudio();
+    QLineEdit& title = entry("entry_title");
+    // As the key to the right of the space bar gives them, which some systems report as two modifiers.
+    for (const Qt::KeyboardModifiers modifiers :
+         {Qt::KeyboardModifiers(Qt::GroupSwitchModifier), Qt::ControlModifier | Qt::AltModifier}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_At, modifiers, QStringLiteral("@"));
+        QCoreApplication::sendEvent(&title, &press);
+    }
+    EXPECT_EQ("Z@@", title.text());
+}
+
 } // namespace
 } // namespace velmora
