@@ -3,6 +3,7 @@
 
 #include "platform/image.h"
 #include "platform/localisation.h"
+#include "platform/settings.h"
 #include "platform/standard_streams.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 
 int main(int argc, char** argv) {
     velmora::ensureStandardStreams();
+    velmora::keepNoSettings();
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/velmora.png")));
