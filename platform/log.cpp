@@ -2,6 +2,8 @@
 
 #include "file_path.h"
 
+#include "log_seam/patient_write.h"
+
 #include <QByteArray>
 
 #include <cstdio>
@@ -14,8 +16,11 @@ void appLog(const QString& text) {
     if (!line.endsWith('\n')) {
         line += '\n';
     }
-    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
-    std::fflush(stderr);
+    std::size_t rest = static_cast<std::size_t>(line.size());
+    write_patiently([&line, &rest] {
+        rest -= std::fwrite(line.constData() + line.size() - rest, 1, rest, stderr);
+        return rest == 0;
+    });
 }
 
 } // namespace velmora

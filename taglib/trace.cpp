@@ -2,6 +2,8 @@
 
 #include "trace_format.h"
 
+#include "log_seam/patient_write.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -12,11 +14,16 @@ namespace {
 
 thread_local TraceBatch* batch_of_this_thread = nullptr;
 
+/** A pipe takes such texts, of up to 4,096 bytes, whole or not at all, so that a second call repeats nothing. */
+void write_out(const char* text) {
+    write_patiently([text] { return std::fputs(text, stderr) != EOF; });
+}
+
 void write_message(const char* message) {
     if (batch_of_this_thread) {
         batch_of_this_thread->add(message, std::strlen(message));
     } else {
-        std::fputs(message, stderr);
+        write_out(message);
     }
 }
 
@@ -78,7 +85,7 @@ void TraceBatch::write() {
     const int error = errno;
     text_[length_] = '\0';
     length_ = 0;
-    std::fputs(text_.data(), stderr);
+    write_out(text_.data());
     errno = error;
 }
 

@@ -10,7 +10,8 @@ namespace velmora {
 /** Formats as vsnprintf does, with two conversions of its own: "I64", as in "%I64x" and "%I64d", is the
    length of a 64-bit value, and "%S" takes a `const void*` to zero-terminated UTF-16LE text (unaligned is
    fine, null prints nothing), shown as UTF-8 whatever the locale. The finished text is cut to 511 bytes and
-   written to standard error as it is: no prefix, no line end. errno is what it was before the call. */
+   written to standard error as it is: no prefix, no line end. It is lost when standard error is one
+   that does not wait (O_NONBLOCK) and is still full after a moment. errno is what it was before the call. */
 void DebugTraceV(const char* format, va_list arguments);
 
 /** A trace: what was found or done. */

@@ -11,6 +11,7 @@
 #include <fcntl.h>
 #include <string>
 #include <sys/socket.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
@@ -321,6 +322,54 @@ TEST(TraceBatch, KeepsErrnoWhenItsWriteFails) {
     ::close(full);
     ::close(saved);
     EXPECT_EQ(5, error);
+}
+
+TEST(Trace, NobodyWhoReadsIsWaitedForMoreThanAMoment) {
+    int ends[2];
+    ASSERT_EQ(0, ::pipe2(ends, O_NONBLOCK));
+    const std::string filling(4096, 'x');
+    while (::write(ends[1], filling.data(), filling.size()) > 0) {
+    }
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::dup2(ends[1], STDERR_FILENO);
+        ::alarm(10);
+        errno = EXDEV;
+        // A moment for each text would be a hundred seconds.
+        for (int line = 0; line < 1000; ++line) {
+            DebugInfo("nobody reads this %d\n", line);
+        }
+        ::_exit(errno == EXDEV ? 0 : 1);
+    }
+    int status = 0;
+    EXPECT_EQ(child, ::waitpid(child, &status, 0));
+    EXPECT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(0, WEXITSTATUS(status));
+    ::close(ends[0]);
+    ::close(ends[1]);
+}
+
+TEST(Trace, ReaderWhoIsOnlySlowMissesNothing) {
+    int ends[2];
+    ASSERT_EQ(0, ::pipe2(ends, O_NONBLOCK));
+    const std::string filling(4096, 'x');
+    std::string buffer(1 << 20, '\0');
+    while (::write(ends[1], filling.data(), filling.size()) > 0) {
+    }
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::dup2(ends[1], STDERR_FILENO);
+        DebugInfo("first\n");
+        DebugInfo("second\n");
+        ::_exit(0);
+    }
+    ::usleep(30'000);
+    EXPECT_LT(0, ::read(ends[0], buffer.data(), buffer.size()));
+    ASSERT_EQ(child, ::waitpid(child, nullptr, 0));
+    const ssize_t count = ::read(ends[0], buffer.data(), buffer.size());
+    EXPECT_EQ("first\nsecond\n", count > 0 ? buffer.substr(0, static_cast<std::size_t>(count)) : "");
+    ::close(ends[0]);
+    ::close(ends[1]);
 }
 
 } // namespace
