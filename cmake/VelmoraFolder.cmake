@@ -11,7 +11,22 @@ target_compile_options(velmora_options INTERFACE -Wall -Wextra -Wpedantic -Wshad
 if(VELMORA_WERROR)
   target_compile_options(velmora_options INTERFACE -Werror)
 endif()
-if(VELMORA_SANITIZE)
+# What files and pages hold is not to be trusted, and neither is the code that reads them: what the compiler and the
+# loader can do against a slip is done. Builds that look for slips do without; of a debug build only the program and its
+# module are compiled so.
+set(VELMORA_HARDENING "")
+if(NOT VELMORA_SANITIZE)
+  include(CheckPIESupported)
+  check_pie_supported()
+  set(VELMORA_HARDENING -fstack-protector-strong)
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|amd64|AMD64|i.86)$")
+    list(APPEND VELMORA_HARDENING -fcf-protection=full)
+  endif()
+  # Fortified functions need the optimiser. Some compilers define the macro on their own.
+  target_compile_options(velmora_options INTERFACE
+                         "$<$<NOT:$<CONFIG:Debug>>:${VELMORA_HARDENING};-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+  target_link_options(velmora_options INTERFACE LINKER:-z,relro,-z,now)
+else()
   target_compile_options(velmora_options INTERFACE -fsanitize=${VELMORA_SANITIZE} -fno-omit-frame-pointer
                                                    -fno-sanitize-recover=all)
   target_link_options(velmora_options INTERFACE -fsanitize=${VELMORA_SANITIZE})
