@@ -9,19 +9,11 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 
-#include <chrono>
 #include <optional>
 #include <utility>
 
 namespace velmora {
 namespace {
-
-using namespace std::chrono_literals;
-
-// A view lays itself out and paints anew after each reload, which is more work than the new row itself. So
-// the files that a search finds by the thousands are shown some forty times a second.
-constexpr auto burstLength = 25ms;
-constexpr int reloadsAtOnce = 100;
 
 /** An error that a failed open has filled; one that it left alone means that the person cancelled. */
 bool isFilled(const Error& error) {
@@ -37,13 +29,6 @@ bool isLeftButton(const QEvent& event) {
 MediaTable::MediaTable(QTableView& view, MediaDocument& document, Form form, QObject* parent)
     : QObject(parent), view_(view), document_(document), form_(std::move(form)),
       modalLoopWatch_([this] { handleLater(); }) {
-    burst_.setSingleShot(true);
-    burst_.setInterval(burstLength);
-    connect(&burst_, &QTimer::timeout, this, [this] {
-        if (reloadNeeded_) {
-            reloadData();
-        }
-    });
     setUpView();
     setUpHeader();
     connect(view_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -91,7 +76,7 @@ bool MediaTable::addMediaFile(const QString& path) {
         return false;
     }
     addColdataSorted(std::move(row));
-    reloadSoon();
+    reloadData();
     return true;
 }
 
@@ -100,21 +85,7 @@ void MediaTable::addColdataSorted(ColdataPointer row) {
 }
 
 void MediaTable::reloadData() {
-    reloadNeeded_ = false;
     model_.reloadData();
-}
-
-void MediaTable::reloadSoon() {
-    if (!burst_.isActive()) {
-        burst_.start();
-        reloadsOfBurst_ = 0;
-    }
-    if (reloadsOfBurst_ < reloadsAtOnce) {
-        ++reloadsOfBurst_;
-        reloadData();
-    } else {
-        reloadNeeded_ = true;
-    }
 }
 
 void MediaTable::tableViewDidClickTableColumn(int column) {

@@ -9,7 +9,6 @@
 #include <QObject>
 #include <QString>
 #include <QTableView>
-#include <QTimer>
 
 #include <functional>
 
@@ -38,10 +37,9 @@ public:
      * table. */
     MediaTable(QTableView& view, MediaDocument& document, Form form, QObject* parent = nullptr);
 
-    /** Adds a row for the file at PATH at its sorted place and reloads the table: at once, or, while files
-       come in by the hundreds, within a fraction of a second. False, with nothing added, when the file's
-       attributes can't be read or lack the size or the creation date. Looks neither at the extension nor at
-       the size. */
+    /** Adds a row for the file at PATH at its sorted place and reloads the table. False, with nothing added,
+       when the file's attributes can't be read or lack the size or the creation date. Looks neither at the
+       extension nor at the size. */
     bool addMediaFile(const QString& path);
 
     /** Inserts ROW into the list at its sorted place; the views don't know of it before reloadData. */
@@ -72,7 +70,6 @@ protected:
 private:
     void setUpView();
     void setUpHeader();
-    void reloadSoon();
     void noteSelectionChange();
     void handleLater();
     void handleSelectionChange();
@@ -88,11 +85,6 @@ private:
     MediaRows mediaFiles_;
     MediaTableModel model_{mediaFiles_};
     int curSelectedRow_ = -1;
-
-    /** Runs while the reloads of a burst of new rows are counted. */
-    QTimer burst_;
-    int reloadsOfBurst_ = 0;
-    bool reloadNeeded_ = false;
 
     /** The selection may have changed since the handler ran last. */
     bool changeNoted_ = false;

@@ -78,6 +78,22 @@ TEST_F(MediaTableTest, FloodOfFilesIsAllShownSoonAfter) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return view_.model()->rowCount() == 1000; }, 5000));
 }
 
+TEST_F(MediaTableTest, EveryFileOfAFloodIsTheViewsAtOnce) {
+    const test::ScratchFolder scratch;
+    test::write_file(scratch / "a.mp3", "abc");
+    const QString path = QString::fromStdString(scratch / "a.mp3");
+    const QSignalSpy inserted(view_.model(), &QAbstractItemModel::rowsInserted);
+    const QSignalSpy changed(view_.model(), &QAbstractItemModel::dataChanged);
+    const QSignalSpy reset(view_.model(), &QAbstractItemModel::modelReset);
+    for (int number = 1; number <= 1000; ++number) {
+        ASSERT_TRUE(table_->addMediaFile(path));
+        ASSERT_EQ(number, view_.model()->rowCount());
+        ASSERT_EQ(number, inserted.count());
+        ASSERT_EQ(number, changed.count());
+    }
+    EXPECT_EQ(0, reset.count());
+}
+
 TEST_F(MediaTableTest, AskedForReloadIsNeverPutOff) {
     for (int number = 0; number < 1000; ++number) {
         add("a");
