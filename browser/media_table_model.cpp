@@ -118,9 +118,12 @@ QVariant MediaTableModel::data(const QModelIndex& index, int role) const {
                       : onOneLine(tableViewObjectValueForTableColumn(column, index.row()).toString());
     case Qt::DecorationRole:
         return isIcon ? tableViewObjectValueForTableColumn(column, index.row()) : QVariant();
-    case Qt::ToolTipRole:
-        return literally(
-            tableViewObjectValueForTableColumn({QStringLiteral("fullpath")}, index.row()).toString());
+    case Qt::ToolTipRole: {
+        // The date may be cut off in its cell; the others tell where the file is.
+        const bool isDate = column.identifier == u"created";
+        const TableColumn shown{isDate ? column.identifier : QStringLiteral("fullpath")};
+        return literally(tableViewObjectValueForTableColumn(shown, index.row()).toString());
+    }
     case Qt::TextAlignmentRole:
         return alignment(column);
     default:

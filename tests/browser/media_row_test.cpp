@@ -2,6 +2,7 @@
 
 #include "platform/file_path.h"
 
+#include "made_locale.h"
 #include "support/bytes.h"
 #include "support/qt_printing.h"
 #include "support/scratch_folder.h"
@@ -45,36 +46,8 @@ TEST(SizeText, HalvesAreRoundedAsPrintfRoundsThem) {
     EXPECT_EQ("100.8 KB", sizeText(103'168)); // 100.75 exactly
 }
 
-class LocaleGuard {
-public:
-    LocaleGuard() : former_(std::setlocale(LC_ALL, nullptr)) {}
-    ~LocaleGuard() { std::setlocale(LC_ALL, former_.c_str()); }
-
-private:
-    std::string former_;
-};
-
-/** The German locale, made for the test and in force as long as the object lives. */
-class GermanLocale {
-public:
-    GermanLocale() {
-        const std::string make =
-            "localedef -i de_DE -f ISO-8859-1 '" + (folder_ / "de_DE") + "' > /dev/null 2>&1";
-        setenv("LOCPATH", folder_.path().c_str(), 1);
-        isThere_ = std::system(make.c_str()) == 0 && std::setlocale(LC_ALL, "de_DE");
-    }
-    ~GermanLocale() { unsetenv("LOCPATH"); }
-
-    [[nodiscard]] bool isThere() const { return isThere_; }
-
-private:
-    LocaleGuard guard_;
-    test::ScratchFolder folder_;
-    bool isThere_ = false;
-};
-
 TEST(SizeText, DecimalSignIsAPointInEveryLocale) {
-    const GermanLocale german;
+    const test::MadeLocale german("de_DE", "ISO-8859-1");
     if (!german.isThere()) {
         GTEST_SKIP() << "needs the sources of the German locale";
     }
@@ -93,7 +66,7 @@ protected:
     }
 
 private:
-    LocaleGuard locale_;
+    test::LocaleGuard locale_;
     std::string formerZone_ = std::getenv("TZ") ? std::getenv("TZ") : "";
 };
 
@@ -120,7 +93,7 @@ TEST_F(CreatedTextTest, FractionBefore1970IsCutOffTowardZero) {
 }
 
 TEST_F(CreatedTextTest, FollowsTheLocaleOfTheProcess) {
-    const GermanLocale german;
+    const test::MadeLocale german("de_DE", "ISO-8859-1");
     if (!german.isThere()) {
         GTEST_SKIP() << "needs the sources of the German locale";
     }

@@ -1,3 +1,4 @@
+#include "made_locale.h"
 #include "media_table_fixture.h"
 
 #include <QMouseEvent>
@@ -92,6 +93,82 @@ TEST_F(MediaTableColumnsTest, AWidthThatAPersonSetStays) {
     widen(300);
     EXPECT_EQ(before + 40, width(sizeColumn));
     EXPECT_EQ(date, width(createdColumn));
+}
+
+TEST_F(MediaTableColumnsTest, DatesOfTheLocaleAreShownWhole) {
+    const test::MadeLocale american("en_US", "UTF-8");
+    if (!american.isThere()) {
+        GTEST_SKIP() << "needs the sources of the American locale";
+    }
+    table_ = std::make_unique<MediaTable>(view_, document_, form());
+    widen(470);
+    EXPECT_TRUE(shows(createdColumn, "12/20/2026 10:58:58 AM"));
+    EXPECT_TRUE(shows(createdColumn, "11/22/2026 11:28:54 PM"));
+    EXPECT_TRUE(shows(nameColumn, "my films.mp4"));
+}
+
+TEST_F(MediaTableColumnsTest, MonthsAndDaysOfTheLocaleAreShownWhole) {
+    const test::MadeLocale language("cy_GB", "UTF-8");
+    if (!language.isThere() || createdText({1'781'438'399, 0}).size() < 12) {
+        GTEST_SKIP() << "needs the sources of the Welsh locale";
+    }
+    table_ = std::make_unique<MediaTable>(view_, document_, form());
+    widen(700);
+    for (int day = 0; day < 366; ++day) {
+        const QString text = createdText({1'767'225'600 + day * 86'400 + day % 24 * 3600, 0});
+        EXPECT_TRUE(shows(createdColumn, text)) << text.toStdString();
+    }
+}
+
+TEST_F(MediaTableColumnsTest, ALargerFontHasItsRoomToo) {
+    widen(1200);
+    QFont font = view_.font();
+    font.setPointSize(2 * font.pointSize());
+    view_.setFont(font);
+    runLoop();
+    EXPECT_TRUE(shows(createdColumn, "12/31/26 23:59:59"));
+    EXPECT_TRUE(shows(sizeColumn, "1024.0 KB"));
+}
+
+TEST_F(MediaTableColumnsTest, TextsOfNeighbouringColumnsDontTouch) {
+    add("a", 1'048'575, "12/31/26 23:59:59");
+    widen(700);
+    const QImage picture = view_.viewport()->grab().toImage();
+    const QRect size = view_.visualRect(view_.model()->index(0, sizeColumn));
+    const QRect date = view_.visualRect(view_.model()->index(0, createdColumn));
+    const QRgb ground = picture.pixel(size.right(), size.top() + 2);
+    // Columns of pixels to the left and right of the border between the two, without any text.
+    int blank = 0;
+    const auto isBlank = [&](int x) {
+        for (int y = size.top() + 2; y < size.bottom() - 2; ++y) {
+            if (picture.pixel(x, y) != ground) {
+                return false;
+            }
+        }
+        return true;
+    };
+    for (int x = date.left() - 1; isBlank(x); --x) {
+        ++blank;
+    }
+    for (int x = date.left(); isBlank(x); ++x) {
+        ++blank;
+    }
+    EXPECT_GE(blank, 12);
+    EXPECT_LT(blank, size.width()) << "there are texts";
+}
+
+TEST_F(MediaTableColumnsTest, ADateThatIsCutOffKeepsItsBeginning) {
+    add("a", 0, "12/31/26 23:59:59");
+    widen(700);
+    const auto beginning = [this] {
+        runLoop();
+        const QRect cell = view_.visualRect(view_.model()->index(0, createdColumn));
+        return view_.viewport()->grab(QRect(cell.topLeft(), QSize(42, cell.height()))).toImage();
+    };
+    const QImage whole = beginning();
+    view_.setColumnWidth(createdColumn, 84);
+    ASSERT_FALSE(shows(createdColumn, "12/31/26 23:59:59"));
+    EXPECT_EQ(whole, beginning());
 }
 
 } // namespace

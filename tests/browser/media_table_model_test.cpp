@@ -270,6 +270,13 @@ TEST_F(MediaTableModelTest, ToolTipIsThePathAndNeverTakenForRichText) {
               shown(0, u"filename", Qt::ToolTipRole));
 }
 
+TEST_F(MediaTableModelTest, ToolTipOfADateIsTheWholeDate) {
+    rows_.addColdataSorted(makeRow("a.mp3", 500'000, "11/22/2026 11:28:54 AM"));
+    model_.reloadData();
+    EXPECT_EQ(QVariant("<span>11/22/2026 11:28:54 AM</span>"), shown(0, u"created", Qt::ToolTipRole));
+    EXPECT_EQ(QVariant("<span>/media/a.mp3</span>"), shown(0, u"filesize", Qt::ToolTipRole));
+}
+
 TEST_F(MediaTableModelTest, HeadersNameTheirColumns) {
     const auto title = [this](int column) {
         return model_.headerData(column, Qt::Horizontal, Qt::DisplayRole);
