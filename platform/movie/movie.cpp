@@ -63,7 +63,7 @@ private:
    file that was let go can't be taken for one about the file that followed. */
 class Movie::Player : public QObject {
 public:
-    Player(Movie& movie, const QString& path) : movie_(movie), file_(path) {
+    Player(Movie& movie, const QString& path) : movie_(movie), file_(path), address_(file_.url(path)) {
         player_.setVideoSink(&sink_);
         deadline_.setSingleShot(true);
         connect(&deadline_, &QTimer::timeout, this, &Player::fail);
@@ -75,13 +75,13 @@ public:
         connect(&sink_, &QVideoSink::videoFrameChanged, &movie_, &Movie::frameChanged);
     }
 
-    void load(const QString& path) {
+    void load() {
         if (!file_.isOpen()) {
             fail();
             return;
         }
         deadline_.start(decisionDeadline);
-        player_.setSource(file_.url(path));
+        player_.setSource(address_);
     }
 
     /** Nothing is heard of the file any more; the object goes as soon as none of its own calls is running. */
@@ -100,10 +100,8 @@ public:
     [[nodiscard]] QMediaPlayer& media() { return player_; }
 
     void play() {
-        // A machine without a sound device plays in silence: a sound output that can't be opened would end
-        // the movie.
-        if (!player_.audioOutput() && !QMediaDevices::defaultAudioOutput().isNull()) {
-            player_.setAudioOutput(new QAudioOutput(this));
+        if (!player_.audioOutput()) {
+            connectSound();
         }
         player_.play();
     }
@@ -116,6 +114,21 @@ private:
             succeed();
         } else if (status == QMediaPlayer::InvalidMedia) {
             errorOccurred();
+        }
+    }
+
+    /** Sound is connected when somebody wants to hear it: to choose a file opens no device. */
+    void connectSound() {
+        if (!hasVideo_) {
+            // What stands in for a missing sound device keeps the time. The player has given the file up by
+            // now, for want of an output, and begins anew.
+            player_.setAudioOutput(new QAudioOutput(this));
+            player_.setSource(QUrl());
+            player_.setSource(address_);
+        } else if (!QMediaDevices::defaultAudioOutput().isNull()) {
+            // A film plays in silence on a machine without a sound device: a sound output that can't be
+            // opened would end it.
+            player_.setAudioOutput(new QAudioOutput(this));
         }
     }
 
@@ -155,6 +168,7 @@ private:
 
     Movie& movie_;
     RegularFile file_;
+    QUrl address_;
     QTimer deadline_;
     QVideoSink sink_;
     QMediaPlayer player_;
@@ -191,7 +205,7 @@ void Movie::close() {
 
 void Movie::openNow() {
     player_ = new Player(*this, path_);
-    player_->load(path_);
+    player_->load();
 }
 
 void Movie::letGo() {

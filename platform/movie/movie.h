@@ -33,10 +33,12 @@ public:
     /** The picture now shown, in its own pixels and upright; null when there is none (yet). */
     [[nodiscard]] QImage currentFrame() const;
 
+    /** With its sound. Where there is no sound device the movie, or the position in a song, moves in silence.
+     */
     void play();
     void pause();
     [[nodiscard]] bool isPlaying() const;
-    /** Milliseconds. */
+    /** Milliseconds. The length of a file of sound alone is known once it has been played, and 0 before. */
     [[nodiscard]] qint64 position() const;
     [[nodiscard]] qint64 duration() const;
     void setPosition(qint64 milliseconds);

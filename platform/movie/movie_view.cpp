@@ -129,12 +129,10 @@ void MovieView::changeEvent(QEvent* event) {
 }
 
 void MovieView::updateControls() {
-    const bool playable = movie_ && movie_->hasVideo();
-    const bool playing = playable && movie_->isPlaying();
-    playButton_->setEnabled(playable);
+    const bool playing = movie_ && movie_->isPlaying();
+    playButton_->setEnabled(movie_ && movie_->isOpen());
     const QStyle::StandardPixmap sign = playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay;
     playButton_->setIcon(coloured(style()->standardIcon(sign), palette()));
-    positionSlider_->setEnabled(playable);
     updatePosition();
     screen_->update();
 }
@@ -142,6 +140,7 @@ void MovieView::updateControls() {
 void MovieView::updatePosition() {
     // The movie's own progress moves the slider; only the person's hand moves the movie.
     const QSignalBlocker blocker(positionSlider_);
+    positionSlider_->setEnabled(movie_ && (movie_->hasVideo() || movie_->duration() > 0));
     positionSlider_->setRange(0, movie_ ? sliderValue(movie_->duration()) : 0);
     if (!positionSlider_->isSliderDown()) {
         positionSlider_->setValue(movie_ ? sliderValue(movie_->position()) : 0);

@@ -2,6 +2,8 @@
 
 #include "support/bytes.h"
 
+#include <cstdlib>
+
 namespace velmora::test {
 namespace {
 
@@ -68,6 +70,47 @@ TEST_F(MoviePlaying, AnotherFileOpenedWhilePlayingStandsStill) {
     open(files.film("other.avi", {"-c:v", "mjpeg", "-pix_fmt", "yuvj420p"}));
     EXPECT_FALSE(movie.isPlaying());
     EXPECT_TRUE(waitForFrame(isFirstFrame));
+}
+
+// Whether or not the machine has a sound device.
+
+TEST_F(MovieTest, ASongsPositionRunsToItsEnd) {
+    open(mp3());
+    ASSERT_EQ(opened.count(), 1);
+    EXPECT_FALSE(movie.isPlaying());
+    movie.play();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return movie.position() > 0; }, patience));
+    EXPECT_TRUE(movie.isPlaying());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return std::abs(movie.duration() - 2000) < 200; }, patience));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !movie.isPlaying(); }, patience));
+    EXPECT_TRUE(movie.isOpen());
+    EXPECT_EQ(0, failed.count());
+    EXPECT_EQ(1, opened.count());
+}
+
+TEST_F(MovieTest, ASongThatIsPausedStandsStillAndGoesOn) {
+    open(mp3());
+    movie.play();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return movie.position() > 200; }, patience));
+    movie.pause();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !movie.isPlaying(); }, patience));
+    QTest::qWait(200);
+    const qint64 position = movie.position();
+    QTest::qWait(silence);
+    EXPECT_EQ(movie.position(), position);
+    movie.play();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return movie.position() > position + 200; }, patience));
+}
+
+TEST_F(MovieTest, ASongIsPlayedFromWhereItWasPut) {
+    open(mp3());
+    movie.play();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return movie.position() > 0; }, patience));
+    movie.setPosition(1500);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return movie.position() >= 1500; }, patience));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !movie.isPlaying(); }, patience));
+    movie.play();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return movie.isPlaying() && movie.position() < 1500; }, patience));
 }
 
 TEST_F(MovieTest, WithoutAFileNothingPlays) {

@@ -96,11 +96,16 @@ TEST_F(MovieViewTest, AMovieThatIsDestroyedLeavesNothing) {
     EXPECT_EQ(share(Qt::red), 0);
 }
 
-TEST_F(MovieViewTest, SoundAloneCannotBePlayed) {
+TEST_F(MovieViewTest, SoundAloneIsPlayedAndPausedToo) {
     open(mp3());
     view.setMovie(&movie);
-    EXPECT_FALSE(button()->isEnabled());
-    EXPECT_FALSE(slider()->isEnabled());
+    EXPECT_TRUE(button()->isEnabled());
+    QTest::mouseClick(button(), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return slider()->value() > 200; }, patience));
+    EXPECT_TRUE(movie.isPlaying());
+    EXPECT_TRUE(slider()->isEnabled());
+    QTest::mouseClick(button(), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !movie.isPlaying(); }, patience));
 }
 
 TEST_F(MovieViewTest, TheButtonPlaysAndPauses) {
