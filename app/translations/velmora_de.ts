@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Do you want to save the changes you made?</source>
-        <translation>Möchten Sie Ihre Änderungen sichern?</translation>
+        <translation>Möchten Sie Ihre Änderungen speichern?</translation>
     </message>
     <message>
         <source>Your changes to &quot;%@&quot; will be lost if you don&#x27;t save them.</source>
-        <translation>Ihre Änderungen an „%@“ gehen verloren, wenn Sie sie nicht sichern.</translation>
+        <translation>Ihre Änderungen an „%@“ gehen verloren, wenn Sie sie nicht speichern.</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation>Sichern</translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Don&#x27;t Save</source>
-        <translation>Nicht sichern</translation>
+        <translation>Nicht speichern</translation>
     </message>
     <message>
         <source>Add Files</source>
@@ -296,7 +296,7 @@
     <name>MyDocument</name>
     <message>
         <source>&amp;Add Files…</source>
-        <translation>D&amp;ateien hinzufügen …</translation>
+        <translation>Dateien hinz&amp;ufügen …</translation>
     </message>
     <message>
         <source>Add F&amp;older…</source>
@@ -308,7 +308,7 @@
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation>&amp;Sichern</translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -340,7 +340,7 @@
     </message>
     <message>
         <source>Vie&amp;w</source>
-        <translation>Ansicht (&amp;W)</translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>Sort by &amp;Name</source>
@@ -359,7 +359,7 @@
     <name>MediaList</name>
     <message>
         <source>&amp;Add Files…</source>
-        <translation>D&amp;ateien hinzufügen …</translation>
+        <translation>Dateien hinz&amp;ufügen …</translation>
     </message>
     <message>
         <source>Add files to the list</source>
@@ -550,7 +550,7 @@
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation>&amp;Sichern</translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Write the changes into the file</source>
@@ -588,7 +588,7 @@
     <name>TagWebBrowser</name>
     <message>
         <source>Look &amp;up:</source>
-        <translation>S&amp;uchen:</translation>
+        <translation>Im &amp;Web:</translation>
     </message>
     <message>
         <source>The site to search</source>

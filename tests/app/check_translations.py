@@ -74,6 +74,8 @@ def main():
                 failures.append(f"{table.name}: placeholders differ in {text}")
         twice = letters_given_twice([translated.get(text) or "" for text in lettered])
         failures += [f"{table.name}: letter given twice: {letter}" for letter in twice]
+        # A letter in brackets is for scripts whose own letters are on no key.
+        failures += [f"{table.name}: letter in brackets: {text}" for text in sorted(translated.values()) if "(&" in text]
         failures += [f"{table.name}: not shown any more: {text}" for text in sorted(set(translated) - shown)]
     print("\n".join(failures) or f"{len(shown)} texts checked")
     return 1 if failures else 0
