@@ -136,6 +136,7 @@ void WriteCursor::add_block(const std::uint8_t* block, std::size_t length) {
 }
 
 void WriteCursor::count_field(std::size_t length) {
+    rest_ = nullptr;
     position_ += length;
     bytes_ += length;
     ++fields_;
@@ -181,16 +182,37 @@ bool WriteCursor::write_piece(const Piece& piece) {
     for (std::size_t done = 0; done < piece.length;) {
         const ssize_t count = fio_write(file_, bytes + done, piece.length - done);
         if (count <= 0) {
+            if (count == 0) {
+                keep_rest(bytes, piece, done);
+            }
             return false;
         }
         done += static_cast<std::size_t>(count);
         bytes_out_ += static_cast<std::size_t>(count);
         if (done < piece.length && !begins_field(piece, done)) {
+            keep_rest(bytes, piece, done);
             return false;
         }
     }
     file_position_ = piece.position + piece.length;
     return true;
+}
+
+/** Keeps in mind what is left, behind DONE bytes of PIECE, of the field in which a write stopped. */
+void WriteCursor::keep_rest(const std::uint8_t* bytes, const Piece& piece, std::size_t done) {
+    std::size_t end = done + 1;
+    while (end < piece.length && !begins_field(piece, end)) {
+        ++end;
+    }
+    rest_ = bytes + done;
+    rest_length_ = end - done;
+}
+
+void WriteCursor::ask_why_short() {
+    if (const std::uint8_t* const rest = std::exchange(rest_, nullptr)) {
+        file_position_.reset();
+        [[maybe_unused]] const ssize_t known_to_be_short = fio_write(file_, rest, rest_length_);
+    }
 }
 
 bool WriteCursor::begins_field(const Piece& piece, std::size_t offset) const {

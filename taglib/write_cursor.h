@@ -57,6 +57,11 @@ public:
         field concerned alone. */
     [[nodiscard]] bool commit();
 
+    /** After a commit in which a write came up short: tries to write the rest of the field in which it stopped,
+        so that errno tells why where that fails, too. For callers whose fields behind that one were always
+        tried. Does nothing after any other commit, nor once something else was put. */
+    void ask_why_short();
+
     /** Moves the file itself to the position, for callers that tell a position that can't be reached from a
         write that failed; the commit then spares the move. False, with errno from lseek(2), when it does not
         get there. */
@@ -106,6 +111,7 @@ private:
     void write_pieces();
     [[nodiscard]] bool move_to(std::uint64_t position);
     [[nodiscard]] bool write_piece(const Piece& piece);
+    void keep_rest(const std::uint8_t* bytes, const Piece& piece, std::size_t done);
     [[nodiscard]] bool begins_field(const Piece& piece, std::size_t offset) const;
     [[nodiscard]] std::uint64_t whole_fields_in(std::uint64_t bytes) const;
 
@@ -124,6 +130,8 @@ private:
     std::uint64_t bytes_out_ = 0;
     std::uint64_t fields_out_ = 0;
     /* Of the last commit: */
+    const std::uint8_t* rest_ = nullptr; ///< what a short write left of its field; null for no such write
+    std::size_t rest_length_ = 0;
     std::uint64_t bytes_written_ = 0;
     std::uint64_t fields_written_ = 0;
 };

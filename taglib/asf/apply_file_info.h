@@ -7,18 +7,7 @@
 namespace velmora {
 
 /** Puts every field of INFO whose flag is set into the two records, or takes it out where INFO has none
-    (null, 0).
-
-        field     content description   attribute, older name, name      type
-        title                           "AlbumTitle", "WM/AlbumTitle"    unicode
-        artist    author                "AlbumArtist", "WM/AlbumArtist"  unicode
-        desc      title                 "Description", "WM/Track"        unicode
-        genre                           "Genre", "WM/Genre"              unicode
-        year                            "Year", "WM/Year"                dword
-        director                        "WM/Director"                    unicode
-        rating                          "WM/ParentalRating"              unicode
-        time                            "WM/EncodingTime"                qword
-        picture                         "WM/Picture"                     byte array
+    (null, 0), as tag_fields.h has it.
 
     Of a pair of names the older one is kept current where the file has it; the other one is made only where
     neither is there. A picture that can't be stored leaves the old one, which is no failure. False when

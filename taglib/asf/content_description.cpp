@@ -2,14 +2,13 @@
 
 #include "../byte_order.h"
 #include "../trace.h"
-#include "checked_position.h"
+#include "cursor_readers.h"
 #include "guids.h"
+#include "object_writer.h"
 #include "owned.h"
-#include "read_at.h"
 #include "utf16.h"
 
 #include <array>
-#include <unistd.h>
 
 namespace velmora {
 
@@ -42,40 +41,38 @@ void free_strings(_asf_content_description_t* cd) {
     }
 }
 
-void log_object_lines(std::int64_t start, const _asf_content_description_t* cd) {
-    DebugInfo("[%I64x] ContentDescription\n", start);
-    DebugInfo("  Size = 0x%I64x\n", cd->size);
-}
-
 /** False when the bytes can't be had although the file holds them. */
-bool read_strings(FIOFUNCSTRUCT* file, std::int64_t start, _asf_content_description_t* cd) {
-    std::int64_t position = start + fixed_size;
+bool read_strings(ReadCursor* cursor, _asf_content_description_t* cd) {
     for (const StringField& field : string_fields) {
         const std::uint16_t length = cd->*field.length;
         if (length == 0) {
             continue;
         }
-        position += length;
         std::uint8_t* const text = asf_new_bytes(length);
         if (!text) {
             cd->*field.length = 0;
-            fio_lseek(file, position, SEEK_SET);
+            if (!cursor->skip(length)) {
+                return false;
+            }
             continue;
         }
         cd->*field.text = text;
-        if (!asf_read_zero_padded(file, position - length, text, length)) {
+        if (!asf_read_zero_padded(cursor, text, length)) {
             return false;
         }
     }
     return true;
 }
 
-bool read_lengths(FIOFUNCSTRUCT* file, std::int64_t start, _asf_content_description_t* cd) {
-    std::uint8_t lengths[2 * string_fields.size()] = {};
-    if (!asf_read_zero_padded(file, start + asf_object_header_size, lengths, sizeof lengths)) {
+/** The object header and the lengths. */
+bool read_lengths(ReadCursor* cursor, _asf_content_description_t* cd) {
+    std::array<std::uint8_t, 2 * string_fields.size()> lengths;
+    const std::uint64_t behind = cursor->position() + asf_object_header_size;
+    if (!asf_read_object(cursor, cd) || !cursor->seek(behind) ||
+        !asf_read_zero_padded(cursor, lengths.data(), lengths.size())) {
         return false;
     }
-    const std::uint8_t* at = lengths;
+    const std::uint8_t* at = lengths.data();
     for (const StringField& field : string_fields) {
         cd->*field.length = load_le16(at);
         at += 2;
@@ -83,17 +80,21 @@ bool read_lengths(FIOFUNCSTRUCT* file, std::int64_t start, _asf_content_descript
     return true;
 }
 
-/** Traces the description and seeks behind it. */
-bool finish(FIOFUNCSTRUCT* file, std::int64_t start, const _asf_content_description_t* cd) {
-    log_object_lines(start, cd);
+/** Traces the description and goes behind it. */
+bool finish(ReadCursor* cursor, std::uint64_t start, const _asf_content_description_t* cd) {
+    asf_log_content_description(static_cast<std::int64_t>(start), *cd);
     for (const StringField& field : string_fields) {
         DebugInfo(field.line, Utf16TraceText(cd->*field.text, cd->*field.length).get());
     }
-    const std::int64_t next = asf_position_behind(start, cd->size);
-    return next >= 0 && fio_lseek(file, next, SEEK_SET) == next;
+    return asf_seek_behind(cursor, start, cd->size);
 }
 
 } // namespace
+
+void asf_log_content_description(std::int64_t position, const _asf_content_description_t& cd) {
+    DebugInfo("[%I64x] ContentDescription\n", position);
+    DebugInfo("  Size = 0x%I64x\n", cd.size);
+}
 
 _asf_content_description_t* asf_init_content_description() {
     auto* const cd = asf_new_record<_asf_content_description_t>();
@@ -126,11 +127,18 @@ std::uint32_t asf_get_content_description_size(const _asf_content_description_t*
 
 _asf_content_description_t* asf_read_content_description(FIOFUNCSTRUCT* file,
                                                          _asf_content_description_t* cd) {
-    return asf_read_content_description_at(file, fio_ltell(file), cd);
+    if (cd) {
+        *cd = {};
+    }
+    return asf_read_at_position(
+        file, [cd](ReadCursor* cursor) { return asf_read_content_description(cursor, cd); },
+        [cd](_asf_content_description_t* read) {
+            free_strings(read);
+            std::free(read == cd ? nullptr : read);
+        });
 }
 
-_asf_content_description_t* asf_read_content_description_at(FIOFUNCSTRUCT* file, std::int64_t start,
-                                                            _asf_content_description_t* cd) {
+_asf_content_description_t* asf_read_content_description(ReadCursor* cursor, _asf_content_description_t* cd) {
     AsfOwned<_asf_content_description_t> made;
     if (!cd) {
         made.reset(asf_new_record<_asf_content_description_t>());
@@ -140,10 +148,9 @@ _asf_content_description_t* asf_read_content_description_at(FIOFUNCSTRUCT* file,
         }
     }
     *cd = {};
-    if (!asf_read_object_at(file, start, cd)) {
-        return nullptr;
-    }
-    if (!read_lengths(file, start, cd) || !read_strings(file, start, cd) || !finish(file, start, cd)) {
+    const TraceBatch batch;
+    const std::uint64_t start = cursor->position();
+    if (!read_lengths(cursor, cd) || !read_strings(cursor, cd) || !finish(cursor, start, cd)) {
         free_strings(cd);
         return nullptr;
     }
@@ -151,14 +158,15 @@ _asf_content_description_t* asf_read_content_description_at(FIOFUNCSTRUCT* file,
     return cd;
 }
 
-_asf_content_description_t* asf_read_fixed_content_description_at(FIOFUNCSTRUCT* file, std::int64_t start) {
+_asf_content_description_t* asf_read_fixed_content_description(ReadCursor* cursor) {
     _asf_content_description_t cd{};
-    if (!asf_read_object_at(file, start, &cd) || !read_lengths(file, start, &cd)) {
+    const std::uint64_t start = cursor->position();
+    if (!read_lengths(cursor, &cd)) {
         return nullptr;
     }
     const std::size_t strings = asf_content_description_bytes(&cd) - fixed_size;
     AsfOwned<std::uint8_t> block(asf_new_bytes(sizeof cd + strings));
-    if (!block || !asf_read_zero_padded(file, start + fixed_size, block.get() + sizeof cd, strings)) {
+    if (!block || !asf_read_zero_padded(cursor, block.get() + sizeof cd, strings)) {
         return nullptr;
     }
     cd.is_fixed = true;
@@ -169,7 +177,7 @@ _asf_content_description_t* asf_read_fixed_content_description_at(FIOFUNCSTRUCT*
     }
     auto* const record = reinterpret_cast<_asf_content_description_t*>(block.get());
     *record = cd;
-    if (!finish(file, start, record)) {
+    if (!finish(cursor, start, record)) {
         return nullptr;
     }
     (void)block.release();
@@ -177,19 +185,10 @@ _asf_content_description_t* asf_read_fixed_content_description_at(FIOFUNCSTRUCT*
 }
 
 int asf_store_content_description(FIOFUNCSTRUCT* file, const _asf_content_description_t* cd) {
-    log_object_lines(fio_ltell(file), cd);
-    if (!asf_store_object(file, cd)) {
-        return 0;
-    }
-    for (const StringField& field : string_fields) {
-        (void)fio_put_le16(file, cd->*field.length);
-    }
-    for (const StringField& field : string_fields) {
-        if (cd->*field.text && cd->*field.length > 0) {
-            (void)fio_write(file, cd->*field.text, cd->*field.length);
-        }
-    }
-    return 1;
+    AsfObjectWriter writer(file, fio_ltell(file));
+    writer.put_content_description(*cd);
+    writer.finish();
+    return writer.guid_was_written() ? 1 : 0;
 }
 
 } // namespace velmora

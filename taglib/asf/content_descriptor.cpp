@@ -2,28 +2,29 @@
 
 #include "../byte_order.h"
 #include "../trace.h"
-#include "ahead_reader.h"
+#include "cursor_readers.h"
 #include "descriptor_value.h"
+#include "object_writer.h"
 #include "owned.h"
 #include "utf16.h"
 
-#include <limits>
+#include <array>
 
 namespace velmora {
 
 namespace {
 
-/** LENGTH bytes of FIELDS in BYTES, nothing for length 0. False when they can't be had or there is no memory
-   for them. */
-bool read_bytes(AsfAheadReader* fields, std::uint16_t length, AsfOwned<std::uint8_t>& bytes) {
+/** LENGTH bytes in BYTES, nothing for length 0. False when they can't be had or there is no memory for
+    them. */
+bool read_bytes(ReadCursor* cursor, std::uint16_t length, AsfOwned<std::uint8_t>& bytes) {
     if (length == 0) {
         return true;
     }
-    if (length > fields->left()) {
+    if (length > cursor->left()) {
         return false;
     }
     bytes.reset(asf_new_bytes(length));
-    return bytes && fields->read(bytes.get(), length);
+    return bytes && asf_read_zero_padded(cursor, bytes.get(), length);
 }
 
 void log_value(const _asf_content_descriptor_t& descriptor) {
@@ -75,56 +76,52 @@ std::uint32_t asf_content_descriptor_bytes(const _asf_content_descriptor_t* desc
 }
 
 void asf_log_content_descriptor(std::int64_t position, const _asf_content_descriptor_t& descriptor) {
-    asf_log_content_descriptor_name(position, descriptor);
+    asf_log_content_descriptor_name(position, descriptor.name, descriptor.name_length);
     log_value(descriptor);
 }
 
-void asf_log_content_descriptor_name(std::int64_t position, const _asf_content_descriptor_t& descriptor) {
-    DebugInfo("[%I64x] %S\n", position, Utf16TraceText(descriptor.name, descriptor.name_length).get());
+void asf_log_content_descriptor_name(std::int64_t position, const void* name, std::uint16_t length) {
+    DebugInfo("[%I64x] %S\n", position, Utf16TraceText(name, length).get());
 }
 
 _asf_content_descriptor_t* asf_read_content_descriptor(FIOFUNCSTRUCT* file,
                                                        _asf_content_descriptor_t* descriptor) {
-    return asf_read_content_descriptor_before(file, descriptor, std::numeric_limits<std::int64_t>::max());
-}
-
-_asf_content_descriptor_t* asf_read_content_descriptor_before(FIOFUNCSTRUCT* file,
-                                                              _asf_content_descriptor_t* descriptor,
-                                                              std::int64_t end) {
-    const std::int64_t start = fio_ltell(file);
-    if (start < 0) {
-        if (descriptor) {
-            *descriptor = {};
-        }
-        return nullptr;
-    }
-    AsfAheadReader fields(file, start, end, 0);
-    return asf_read_content_descriptor_from(&fields, descriptor);
-}
-
-_asf_content_descriptor_t* asf_read_content_descriptor_from(AsfAheadReader* fields,
-                                                            _asf_content_descriptor_t* descriptor) {
     if (descriptor) {
         *descriptor = {};
     }
-    const std::int64_t start = fields->position();
+    return asf_read_at_position(
+        file, [descriptor](ReadCursor* cursor) { return asf_read_content_descriptor(cursor, descriptor); },
+        [descriptor](_asf_content_descriptor_t* read) {
+            std::free(read->name);
+            std::free(read->value);
+            *read = {};
+            std::free(read == descriptor ? nullptr : read);
+        });
+}
+
+_asf_content_descriptor_t* asf_read_content_descriptor(ReadCursor* cursor,
+                                                       _asf_content_descriptor_t* descriptor) {
+    if (descriptor) {
+        *descriptor = {};
+    }
+    const auto start = static_cast<std::int64_t>(cursor->position());
     AsfOwned<std::uint8_t> name;
     AsfOwned<std::uint8_t> value;
     _asf_content_descriptor_t read{};
-    std::uint8_t name_length[2] = {};
-    std::uint8_t type_and_length[4] = {};
-    if (fields->left() < asf_content_descriptor_fixed_size ||
-        !fields->read(name_length, sizeof name_length)) {
+    std::array<std::uint8_t, 2> name_length;
+    std::array<std::uint8_t, 4> type_and_length;
+    if (cursor->left() < asf_content_descriptor_fixed_size ||
+        !asf_read_zero_padded(cursor, name_length.data(), name_length.size())) {
         return nullptr;
     }
-    read.name_length = load_le16(name_length);
-    if (!read_bytes(fields, read.name_length, name) ||
-        !fields->read(type_and_length, sizeof type_and_length)) {
+    read.name_length = load_le16(name_length.data());
+    if (!read_bytes(cursor, read.name_length, name) ||
+        !asf_read_zero_padded(cursor, type_and_length.data(), type_and_length.size())) {
         return nullptr;
     }
-    read.type = load_le16(type_and_length);
-    read.value_length = load_le16(type_and_length + 2);
-    if (!read_bytes(fields, read.value_length, value)) {
+    read.type = load_le16(type_and_length.data());
+    read.value_length = load_le16(type_and_length.data() + 2);
+    if (!read_bytes(cursor, read.value_length, value)) {
         return nullptr;
     }
     if (!descriptor) {
@@ -141,16 +138,9 @@ _asf_content_descriptor_t* asf_read_content_descriptor_from(AsfAheadReader* fiel
 }
 
 int asf_store_content_descriptor(FIOFUNCSTRUCT* file, const _asf_content_descriptor_t* descriptor) {
-    asf_log_content_descriptor_name(fio_ltell(file), *descriptor);
-    (void)fio_put_le16(file, descriptor->name_length);
-    if (descriptor->name && descriptor->name_length > 0) {
-        (void)fio_write(file, descriptor->name, descriptor->name_length);
-    }
-    (void)fio_put_le16(file, descriptor->type);
-    (void)fio_put_le16(file, descriptor->value_length);
-    if (descriptor->value && descriptor->value_length > 0) {
-        (void)fio_write(file, descriptor->value, descriptor->value_length);
-    }
+    AsfObjectWriter writer(file, fio_ltell(file));
+    writer.put_descriptor(*descriptor);
+    writer.finish();
     return 1;
 }
 

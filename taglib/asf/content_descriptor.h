@@ -14,8 +14,6 @@
 */
 namespace velmora {
 
-class AsfAheadReader;
-
 /** Value types. A file may hold others: those are kept and written back unchanged. */
 namespace asf_value_type {
 inline constexpr std::uint16_t unicode = 0;   ///< UTF-16LE text
@@ -53,20 +51,10 @@ inline constexpr std::uint32_t asf_content_descriptor_fixed_size = 6;
 _asf_content_descriptor_t* asf_read_content_descriptor(FIOFUNCSTRUCT* file,
                                                        _asf_content_descriptor_t* descriptor);
 
-/** The same for a descriptor that must end at or before the file position END: null for one that does not,
-    and nothing is allocated for a name or value that would run past it. */
-_asf_content_descriptor_t* asf_read_content_descriptor_before(FIOFUNCSTRUCT* file,
-                                                              _asf_content_descriptor_t* descriptor,
-                                                              std::int64_t end);
-
-/** The same with the bytes that FIELDS gives, in front of its end. */
-_asf_content_descriptor_t* asf_read_content_descriptor_from(AsfAheadReader* fields,
-                                                            _asf_content_descriptor_t* descriptor);
-
 /** The lines that reading a descriptor at POSITION traces: its name and its value. */
 void asf_log_content_descriptor(std::int64_t position, const _asf_content_descriptor_t& descriptor);
-/** The line that writing one traces: its name. */
-void asf_log_content_descriptor_name(std::int64_t position, const _asf_content_descriptor_t& descriptor);
+/** The line that writing one traces: its name, LENGTH bytes. */
+void asf_log_content_descriptor_name(std::int64_t position, const void* name, std::uint16_t length);
 
 /** Writes DESCRIPTOR. Returns 1; a failed write shows in the file's position only. */
 int asf_store_content_descriptor(FIOFUNCSTRUCT* file, const _asf_content_descriptor_t* descriptor);

@@ -2,19 +2,18 @@
 
 #include "../byte_order.h"
 #include "../trace.h"
-#include "ahead_reader.h"
-#include "checked_position.h"
+#include "cursor_readers.h"
 #include "descriptor_value.h"
 #include "guids.h"
+#include "object_writer.h"
 #include "owned.h"
 #include "packed_descriptors.h"
-#include "read_at.h"
 #include "utf16.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <limits>
-#include <unistd.h>
 
 namespace velmora {
 
@@ -66,11 +65,6 @@ void free_descriptors(_asf_ext_content_description_t* ecd) {
     ecd->count = 0;
 }
 
-void log_object_lines(std::int64_t start, const _asf_ext_content_description_t* ecd) {
-    DebugInfo("[%I64x] ExtendedContentDescription\n", start);
-    DebugInfo("  Size = 0x%I64x\n", ecd->size);
-}
-
 [[nodiscard]] bool resize_array(_asf_ext_content_description_t* ecd, std::size_t entries) {
     void* const array = std::realloc(ecd->descriptors, entries * sizeof *ecd->descriptors);
     if (!array) {
@@ -81,7 +75,7 @@ void log_object_lines(std::int64_t start, const _asf_ext_content_description_t* 
 }
 
 /** Reads COUNT descriptors. The array grows with what is really there. */
-bool read_descriptors(AsfAheadReader* fields, _asf_ext_content_description_t* ecd, std::uint16_t count) {
+bool read_descriptors(ReadCursor* cursor, _asf_ext_content_description_t* ecd, std::uint16_t count) {
     std::size_t capacity = 0;
     while (ecd->count < count) {
         if (ecd->count == capacity) {
@@ -90,7 +84,7 @@ bool read_descriptors(AsfAheadReader* fields, _asf_ext_content_description_t* ec
                 return false;
             }
         }
-        _asf_content_descriptor_t* const descriptor = asf_read_content_descriptor_from(fields, nullptr);
+        _asf_content_descriptor_t* const descriptor = asf_read_content_descriptor(cursor, nullptr);
         if (!descriptor) {
             return false;
         }
@@ -99,34 +93,31 @@ bool read_descriptors(AsfAheadReader* fields, _asf_ext_content_description_t* ec
     return true;
 }
 
-bool read_body(FIOFUNCSTRUCT* file, std::int64_t start, std::int64_t file_end, AsfDescriptorForm form,
+bool read_body(ReadCursor* cursor, std::uint64_t start, AsfDescriptorForm form,
                _asf_ext_content_description_t* ecd) {
-    std::uint8_t count_bytes[fixed_size - asf_object_header_size] = {};
-    const std::int64_t next = asf_position_behind(start, ecd->size);
-    if (next < 0 || file_end < 0 ||
-        !asf_read_zero_padded(file, start + asf_object_header_size, count_bytes, sizeof count_bytes)) {
+    std::array<std::uint8_t, fixed_size - asf_object_header_size> count_bytes;
+    const std::int64_t next = asf_position_behind(static_cast<std::int64_t>(start), ecd->size);
+    const std::optional<std::uint64_t> file_end = cursor->window().size();
+    if (next < 0 || !file_end || !cursor->seek(start + asf_object_header_size) ||
+        !asf_read_zero_padded(cursor, count_bytes.data(), count_bytes.size())) {
         return false;
     }
-    const std::uint16_t count = load_le16(count_bytes);
-    log_object_lines(start, ecd);
+    const std::uint16_t count = load_le16(count_bytes.data());
+    asf_log_ext_content_description(static_cast<std::int64_t>(start), *ecd);
     DebugInfo("  NumEntries = %d\n", count);
-    AsfAheadReader fields(file, start + fixed_size, std::min(next, file_end), AsfAheadReader::most_ahead);
+    ReadCursor fields(cursor->window(), start + fixed_size,
+                      std::min(static_cast<std::uint64_t>(next), *file_end));
     const bool whole = form == AsfDescriptorForm::packed ? asf_read_packed_descriptors(&fields, ecd, count)
                                                          : read_descriptors(&fields, ecd, count);
-    return whole && fio_lseek(file, next, SEEK_SET) == next;
-}
-
-/** A failed write shows in the file's position only. */
-void store_packed(FIOFUNCSTRUCT* file, const _asf_ext_content_description_t* ecd) {
-    std::int64_t position = fio_ltell(file);
-    for (AsfPackedWalk walk(ecd); walk.next();) {
-        asf_log_content_descriptor_name(position, walk.descriptor());
-        position += asf_content_descriptor_bytes(&walk.descriptor());
-    }
-    (void)fio_write(file, ecd->packed, ecd->packed_size);
+    return whole && cursor->seek(static_cast<std::uint64_t>(next));
 }
 
 } // namespace
+
+void asf_log_ext_content_description(std::int64_t position, const _asf_ext_content_description_t& ecd) {
+    DebugInfo("[%I64x] ExtendedContentDescription\n", position);
+    DebugInfo("  Size = 0x%I64x\n", ecd.size);
+}
 
 _asf_ext_content_description_t* asf_init_ext_content_description() {
     auto* const ecd = asf_new_record<_asf_ext_content_description_t>();
@@ -159,14 +150,22 @@ std::uint32_t asf_get_ext_content_description_size(const _asf_ext_content_descri
 
 _asf_ext_content_description_t* asf_read_ext_content_description(FIOFUNCSTRUCT* file,
                                                                  _asf_ext_content_description_t* ecd) {
-    return asf_read_ext_content_description_at(file, fio_ltell(file), asf_file_end(file),
-                                               AsfDescriptorForm::records, ecd);
+    if (ecd) {
+        *ecd = {};
+    }
+    return asf_read_at_position(
+        file,
+        [ecd](ReadCursor* cursor) {
+            return asf_read_ext_content_description(cursor, AsfDescriptorForm::records, ecd);
+        },
+        [ecd](_asf_ext_content_description_t* read) {
+            free_descriptors(read);
+            std::free(read == ecd ? nullptr : read);
+        });
 }
 
-_asf_ext_content_description_t* asf_read_ext_content_description_at(FIOFUNCSTRUCT* file, std::int64_t start,
-                                                                    std::int64_t file_end,
-                                                                    AsfDescriptorForm form,
-                                                                    _asf_ext_content_description_t* ecd) {
+_asf_ext_content_description_t* asf_read_ext_content_description(ReadCursor* cursor, AsfDescriptorForm form,
+                                                                 _asf_ext_content_description_t* ecd) {
     AsfOwned<_asf_ext_content_description_t> made;
     if (!ecd) {
         made.reset(asf_new_record<_asf_ext_content_description_t>());
@@ -177,10 +176,11 @@ _asf_ext_content_description_t* asf_read_ext_content_description_at(FIOFUNCSTRUC
     }
     *ecd = {};
     const TraceBatch batch;
-    if (!asf_read_object_at(file, start, ecd)) {
+    const std::uint64_t start = cursor->position();
+    if (!asf_read_object(cursor, ecd)) {
         return nullptr;
     }
-    if (!read_body(file, start, file_end, form, ecd)) {
+    if (!read_body(cursor, start, form, ecd)) {
         free_descriptors(ecd);
         return nullptr;
     }
@@ -189,21 +189,10 @@ _asf_ext_content_description_t* asf_read_ext_content_description_at(FIOFUNCSTRUC
 }
 
 int asf_store_ext_content_description(FIOFUNCSTRUCT* file, const _asf_ext_content_description_t* ecd) {
-    log_object_lines(fio_ltell(file), ecd);
-    if (!asf_store_object(file, ecd)) {
-        return 0;
-    }
-    (void)fio_put_le16(file, ecd->count);
-    if (ecd->packed) {
-        store_packed(file, ecd);
-        return 1;
-    }
-    for (std::uint16_t i = 0; i < ecd->count; ++i) {
-        if (!asf_store_content_descriptor(file, ecd->descriptors[i])) {
-            return 0;
-        }
-    }
-    return 1;
+    AsfObjectWriter writer(file, fio_ltell(file));
+    writer.put_ext_content_description(*ecd);
+    writer.finish();
+    return writer.guid_was_written() ? 1 : 0;
 }
 
 int asf_insert_content_descriptor(_asf_ext_content_description_t* ecd,

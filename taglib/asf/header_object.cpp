@@ -2,14 +2,15 @@
 
 #include "../byte_order.h"
 #include "../trace.h"
-#include "checked_position.h"
 #include "content_description.h"
+#include "cursor_readers.h"
 #include "ext_content_description.h"
 #include "guids.h"
+#include "object_writer.h"
 #include "owned.h"
-#include "read_at.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <functional>
@@ -45,14 +46,14 @@ void free_child(_asf_object_t* child) {
 /** Reads the children of one header object. */
 class ChildReader {
 public:
-    /** The children begin at START, where FILE is. */
-    ChildReader(FIOFUNCSTRUCT* file, _asf_header_object_t* header, std::int64_t start)
-        : file_(file), header_(header), position_(start), file_end_(asf_file_end(file)) {}
+    /** The children begin at CURSOR's position. */
+    ChildReader(ReadCursor* cursor, _asf_header_object_t* header)
+        : cursor_(cursor), header_(header), position_(cursor->position()),
+          file_end_(cursor->window().size()) {}
 
-    /** Reads COUNT children; HEADER counts those that it has. False when they are fewer. */
+    /** Reads COUNT children, and goes where the last one ends; HEADER counts those that it has. False when
+       they are fewer. */
     [[nodiscard]] bool read(std::uint32_t count);
-    /** Where the last child that was read ends. */
-    [[nodiscard]] std::int64_t position() const { return position_; }
 
 private:
     [[nodiscard]] _asf_object_t* read_child(bool last);
@@ -62,18 +63,18 @@ private:
     [[nodiscard]] _asf_object_t* read_raw_block(const _asf_object_t& child);
     [[nodiscard]] bool append(_asf_object_t* child, std::uint32_t count);
 
-    FIOFUNCSTRUCT* file_;
+    ReadCursor* cursor_;
     _asf_header_object_t* header_;
-    std::int64_t position_;
-    std::int64_t file_end_;
-    std::int64_t strings_ = 0; ///< bytes that the content descriptions took so far
-    bool has_cd_ = false;      ///< the first content description was read: no other one is looked into
+    std::uint64_t position_;
+    std::optional<std::uint64_t> file_end_;
+    std::uint64_t strings_ = 0; ///< bytes that the content descriptions took so far
+    bool has_cd_ = false;       ///< the first content description was read: no other one is looked into
     bool has_ecd_ = false;
     std::size_t capacity_ = 0; ///< of the child array
 };
 
 bool ChildReader::read(std::uint32_t count) {
-    if (position_ < 0 || file_end_ < 0) {
+    if (!file_end_) {
         return false;
     }
     while (header_->child_count < count) {
@@ -81,7 +82,10 @@ bool ChildReader::read(std::uint32_t count) {
         if (!child || !append(child, count)) {
             return false;
         }
-        position_ += static_cast<std::int64_t>(child->size);
+        position_ += child->size;
+        if (!cursor_->seek(position_)) {
+            return false;
+        }
     }
     return true;
 }
@@ -89,16 +93,15 @@ bool ChildReader::read(std::uint32_t count) {
 /** The child at the running position, or null. LAST: no other one follows. */
 _asf_object_t* ChildReader::read_child(bool last) {
     _asf_object_t child{};
-    if (!asf_read_object_at(file_, position_, &child)) {
+    if (!asf_read_object(cursor_, &child)) {
         return nullptr;
     }
-    const auto position = static_cast<std::uint64_t>(position_);
-    if (position > header_->size || child.size > header_->size - position) {
+    if (position_ > header_->size || child.size > header_->size - position_) {
         DebugError("asf_read_header_object: Size overrun reading header object %I64x + %I64x > %I64x\n",
-                   position, child.size, header_->size);
+                   position_, child.size, header_->size);
         return nullptr;
     }
-    if (asf_position_behind(position_, child.size) < 0) {
+    if (asf_position_behind(static_cast<std::int64_t>(position_), child.size) < 0) {
         return nullptr;
     }
     _asf_object_t* const parsed = parse(child, last);
@@ -117,7 +120,7 @@ _asf_object_t* ChildReader::parse(const _asf_object_t& child, bool last) {
         return read_raw_block(child);
     }
     // The readers of these begin with the object header.
-    if (fio_lseek(file_, position_, SEEK_SET) != position_) {
+    if (!cursor_->seek(position_)) {
         return nullptr;
     }
     const bool leads_on = last || child.size > 0;
@@ -127,18 +130,17 @@ _asf_object_t* ChildReader::parse(const _asf_object_t& child, bool last) {
     if (is_ecd) {
         return leads_on ? read_ext_content_description() : nullptr;
     }
-    return child.size > 0 ? asf_read_padding_object_at(file_, position_, nullptr) : nullptr;
+    return child.size > 0 ? asf_read_padding_object(cursor_, nullptr) : nullptr;
 }
 
 /** A content description's strings may run past its declared size, into bytes that later children claim
     again. All of them together can't be longer than the file, but for the last one. */
 _asf_object_t* ChildReader::read_content_description(bool leads_on) {
-    if (!leads_on || strings_ > file_end_) {
+    if (!leads_on || strings_ > *file_end_) {
         return nullptr;
     }
-    _asf_content_description_t* const cd = has_cd_
-                                               ? asf_read_fixed_content_description_at(file_, position_)
-                                               : asf_read_content_description_at(file_, position_, nullptr);
+    _asf_content_description_t* const cd = has_cd_ ? asf_read_fixed_content_description(cursor_)
+                                                   : asf_read_content_description(cursor_, nullptr);
     has_cd_ = true;
     if (cd) {
         strings_ += asf_content_description_bytes(cd);
@@ -149,18 +151,18 @@ _asf_object_t* ChildReader::read_content_description(bool leads_on) {
 _asf_object_t* ChildReader::read_ext_content_description() {
     const auto form = has_ecd_ ? AsfDescriptorForm::packed : AsfDescriptorForm::records;
     has_ecd_ = true;
-    return asf_read_ext_content_description_at(file_, position_, file_end_, form, nullptr);
+    return asf_read_ext_content_description(cursor_, form, nullptr);
 }
 
 _asf_object_t* ChildReader::read_raw_block(const _asf_object_t& child) {
     DebugInfo("[%I64x] %s\n", position_, GUIDNAME(child.guid));
-    if (child.size < asf_object_header_size || position_ > file_end_ ||
-        child.size > static_cast<std::uint64_t>(file_end_ - position_)) {
+    if (child.size < asf_object_header_size || position_ > *file_end_ ||
+        child.size > *file_end_ - position_) {
         return nullptr;
     }
     AsfOwned<_asf_object_t> block(static_cast<_asf_object_t*>(std::malloc(child.size)));
     const std::uint64_t body = child.size - asf_object_header_size;
-    if (!block || (body > 0 && fio_read(file_, block.get() + 1, body) != static_cast<ssize_t>(body))) {
+    if (!block || cursor_->read(block.get() + 1, body) != ReadStatus::whole) {
         return nullptr;
     }
     *block = child;
@@ -179,26 +181,6 @@ bool ChildReader::append(_asf_object_t* child, std::uint32_t count) {
     }
     header_->children[header_->child_count++] = child;
     return true;
-}
-
-/** False when not every byte of CHILD was written. */
-bool store_child(FIOFUNCSTRUCT* file, const _asf_object_t* child) {
-    const std::int64_t start = fio_ltell(file);
-    if (child->guid == ASF_ContentDescription) {
-        const auto* const cd = static_cast<const _asf_content_description_t*>(child);
-        return asf_store_content_description(file, cd) &&
-               asf_write_reached(file, start + asf_content_description_bytes(cd));
-    }
-    if (child->guid == ASF_ExtendedContentDescription) {
-        const auto* const ecd = static_cast<const _asf_ext_content_description_t*>(child);
-        return asf_store_ext_content_description(file, ecd) &&
-               asf_write_reached(file, start + asf_ext_content_description_bytes(ecd));
-    }
-    if (child->guid == ASF_PaddingObject) {
-        return asf_store_padding_object(file, child) != 0;
-    }
-    DebugInfo("[%I64x] %s (0x%x bytes)\n", start, GUIDNAME(child->guid), static_cast<unsigned>(child->size));
-    return fio_write(file, child, child->size) == static_cast<ssize_t>(child->size);
 }
 
 } // namespace
@@ -224,47 +206,47 @@ _asf_object_t* asf_find_object(const _asf_header_object_t* header, const GUID& g
 
 _asf_header_object_t* asf_read_header_object(FIOFUNCSTRUCT* file, _asf_header_object_t* header) {
     *header = {};
-    const TraceBatch batch;
     const std::int64_t start = fio_ltell(file);
-    if (!asf_read_object_at(file, start, header) || header->guid != ASF_HeaderObject) {
+    if (start < 0) {
         DebugError("asf_read_header_object: Not a valid header\n");
         return nullptr;
     }
-    std::uint8_t fields[asf_header_object_fixed_size - asf_object_header_size] = {};
-    if (!asf_read_zero_padded(file, start + asf_object_header_size, fields, sizeof fields)) {
+    const auto position = static_cast<std::uint64_t>(start);
+    ReadWindow window(file, position);
+    ReadCursor cursor(window, position, ReadWindow::no_end);
+    if (!asf_read_header_object(&cursor, header)) {
         return nullptr;
     }
-    const std::uint32_t count = load_le32(fields);
-    header->reserved = load_le16(fields + 4);
+    fio_lseek(file, static_cast<std::int64_t>(cursor.position() + header->size), SEEK_SET);
+    return header;
+}
+
+_asf_header_object_t* asf_read_header_object(ReadCursor* cursor, _asf_header_object_t* header) {
+    *header = {};
+    const TraceBatch batch;
+    const std::uint64_t start = cursor->position();
+    if (!asf_read_object(cursor, header) || header->guid != ASF_HeaderObject) {
+        DebugError("asf_read_header_object: Not a valid header\n");
+        return nullptr;
+    }
+    std::array<std::uint8_t, asf_header_object_fixed_size - asf_object_header_size> fields;
+    if (!cursor->seek(start + asf_object_header_size) ||
+        !asf_read_zero_padded(cursor, fields.data(), fields.size())) {
+        return nullptr;
+    }
+    const std::uint32_t count = load_le32(fields.data());
+    header->reserved = load_le16(fields.data() + 4);
     DebugInfo("[%I64x] HeaderObject\n", start);
     DebugInfo("Size = 0x%I64x\n", header->size);
     DebugInfo("NumObjects = %d\n", count);
     DebugInfo("Reserved = 0x%x\n", header->reserved);
-    ChildReader reader(file, header, start + asf_header_object_fixed_size);
-    if (!reader.read(count)) {
-        return nullptr;
-    }
-    fio_lseek(file, static_cast<std::int64_t>(static_cast<std::uint64_t>(reader.position()) + header->size),
-              SEEK_SET);
-    return header;
+    return ChildReader(cursor, header).read(count) ? header : nullptr;
 }
 
 int asf_store_header_object(FIOFUNCSTRUCT* file, const _asf_header_object_t* header) {
     const TraceBatch batch;
-    if (fio_lseek(file, 0, SEEK_SET) != 0 || !asf_store_object(file, header)) {
-        return 0;
-    }
-    (void)fio_put_le32(file, header->child_count);
-    (void)fio_put_le16(file, header->reserved);
-    if (!asf_write_reached(file, asf_header_object_fixed_size)) {
-        return 0;
-    }
-    for (std::uint32_t i = 0; i < header->child_count; ++i) {
-        if (header->children[i] && !store_child(file, header->children[i])) {
-            return 0;
-        }
-    }
-    return 1;
+    AsfObjectWriter writer(file, 0);
+    return asf_put_header_object(&writer, *header) && writer.settle() ? 1 : 0;
 }
 
 std::uint32_t asf_get_header_object_size(const _asf_header_object_t* header) {

@@ -6,15 +6,16 @@
 #include "descriptor_value.h"
 #include "ext_content_description.h"
 #include "guids.h"
-#include "open_header.h"
+#include "owned_header.h"
 #include "picture.h"
+#include "tag_fields.h"
 #include "utf16.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
-#include <initializer_list>
 
 namespace velmora {
 
@@ -37,104 +38,91 @@ void replace_text(char** slot, const char* text) {
     *slot = ::strdup(text);
 }
 
-/** Puts the first of NAMES that is present into TEXT. */
-bool get_first(const _asf_ext_content_description_t* ecd, std::initializer_list<const char*> names,
-               TextBuffer& buffer) {
-    for (const char* const name : names) {
-        if (asf_get_content_descriptor_str(ecd, name, buffer.text, TextBuffer::capacity) != 0) {
-            return true;
-        }
-    }
-    return false;
+/** Puts the attribute's text, under the first of its names that is present, into BUFFER. */
+bool get_text(const _asf_ext_content_description_t* ecd, const AsfField& field, TextBuffer& buffer) {
+    const auto has = [&](const char* name) {
+        return name && asf_get_content_descriptor_str(ecd, name, buffer.text, TextBuffer::capacity) != 0;
+    };
+    return field.older_is_read_first ? has(field.older_name) || has(field.name)
+                                     : has(field.name) || has(field.older_name);
 }
 
-void load_text(const _asf_ext_content_description_t* ecd, std::initializer_list<const char*> names,
-               char** slot) {
-    TextBuffer buffer;
-    if (get_first(ecd, names, buffer)) {
-        replace_text(slot, buffer.text);
-    }
-}
-
-void load_year(const _asf_ext_content_description_t* ecd, _file_info_t* info) {
-    TextBuffer buffer;
-    if (get_first(ecd, {"WM/Year", "Year"}, buffer)) {
-        info->year = asf_text_as_integer(buffer.text);
-    }
-}
-
-void load_time(const _asf_ext_content_description_t* ecd, _file_info_t* info) {
-    const _asf_content_descriptor_t* const descriptor = asf_find_content_descriptor(ecd, "WM/EncodingTime");
+void load_time(const _asf_content_descriptor_t* descriptor, _file_info_t* info) {
     if (descriptor && descriptor->value && descriptor->value_length == 8) {
         info->time = load_le64(descriptor->value);
     }
 }
 
-void load_picture(const _asf_ext_content_description_t* ecd, _file_info_t* info) {
-    const _asf_content_descriptor_t* const descriptor = asf_find_content_descriptor(ecd, "WM/Picture");
-    if (descriptor) {
-        info->picture = asf_load_picture(descriptor);
+void load_attribute(const _asf_ext_content_description_t* ecd, const AsfField& field, _file_info_t* info) {
+    TextBuffer buffer;
+    switch (field.kind) {
+    case AsfFieldKind::text:
+        if (get_text(ecd, field, buffer)) {
+            replace_text(&(info->*field.text), buffer.text);
+        }
+        break;
+    case AsfFieldKind::year:
+        if (get_text(ecd, field, buffer)) {
+            info->year = asf_text_as_integer(buffer.text);
+        }
+        break;
+    case AsfFieldKind::time:
+        load_time(asf_find_content_descriptor(ecd, field.name), info);
+        break;
+    case AsfFieldKind::picture:
+        if (const auto* const descriptor = asf_find_content_descriptor(ecd, field.name)) {
+            info->picture = asf_load_picture(descriptor);
+        }
+        break;
     }
 }
 
-void load_attributes(const _asf_ext_content_description_t* ecd, _file_info_t* info) {
-    load_text(ecd, {"WM/AlbumArtist", "AlbumArtist"}, &info->artist);
-    load_text(ecd, {"WM/AlbumTitle", "AlbumTitle"}, &info->title);
-    load_text(ecd, {"Description", "WM/Track"}, &info->desc);
-    load_text(ecd, {"WM/Genre", "Genre"}, &info->genre);
-    load_year(ecd, info);
-    load_text(ecd, {"WM/Director"}, &info->director);
-    load_text(ecd, {"WM/ParentalRating"}, &info->rating);
-    load_time(ecd, info);
-    load_picture(ecd, info);
-}
-
-/** A string of the content description goes into SLOT when that is still empty. */
-void load_string(const std::uint8_t* string, std::uint16_t length, char** slot) {
-    if (string && is_empty(*slot)) {
-        TextBuffer buffer;
-        utf16le_to_utf8(string, length, buffer.text, TextBuffer::capacity);
-        replace_text(slot, buffer.text);
+/** The string of the content description takes the place of an attribute that gave no text. */
+void load_string(const _asf_content_description_t* cd, const AsfField& field, _file_info_t* info) {
+    if (!field.string || !(cd->*field.string) || !is_empty(info->*field.text)) {
+        return;
     }
+    TextBuffer buffer;
+    utf16le_to_utf8(cd->*field.string, cd->*field.string_length, buffer.text, TextBuffer::capacity);
+    replace_text(&(info->*field.text), buffer.text);
 }
 
 bool has_tag(const _file_info_t& info) {
-    for (const char* const text :
-         {info.artist, info.title, info.desc, info.genre, info.rating, info.director}) {
-        if (!is_empty(text)) {
-            return true;
+    return info.year != 0 || info.picture ||
+           std::any_of(asf_fields.begin(), asf_fields.end(),
+                       [&info](const AsfField& field) { return field.text && !is_empty(info.*field.text); });
+}
+
+void load_fields(AsfHeader* header, _file_info_t* info) {
+    const auto* const ecd = header->find<_asf_ext_content_description_t>(ASF_ExtendedContentDescription);
+    const auto* const cd = header->find<_asf_content_description_t>(ASF_ContentDescription);
+    for (const AsfField& field : asf_fields) {
+        if (ecd) {
+            load_attribute(ecd, field, info);
+        }
+        if (cd) {
+            load_string(cd, field, info);
         }
     }
-    return info.year != 0 || info.picture;
 }
 
 } // namespace
 
 int asf_load_file_info(const char* path, _file_info_t* info) {
     *info = {};
-    {
-        AsfOpenHeader opened;
-        if (!opened.open(path, O_RDONLY)) {
-            DebugError("asf_load_file_info: Couldn't open file\n");
-            return 0;
-        }
-        if (opened.read()) {
-            const auto* const ecd =
-                opened.find<_asf_ext_content_description_t>(ASF_ExtendedContentDescription);
-            if (ecd) {
-                load_attributes(ecd, info);
-            }
-            const auto* const cd = opened.find<_asf_content_description_t>(ASF_ContentDescription);
-            if (cd) {
-                load_string(cd->title, cd->title_length, &info->desc);
-                load_string(cd->author, cd->author_length, &info->artist);
-            }
-            info->flags = has_tag(*info) ? file_info_flag::tag_present : 0;
-            return 1;
-        }
+    ByteFile file;
+    if (!file.open(path, O_RDONLY)) {
+        DebugError("asf_load_file_info: Couldn't open file\n");
+        return 0;
     }
-    errno = asf_header_unreadable;
-    return 0;
+    AsfHeader header;
+    if (!header.read(&file)) {
+        errno = asf_header_unreadable;
+        return 0;
+    }
+    load_fields(&header, info);
+    info->flags = has_tag(*info) ? file_info_flag::tag_present : 0;
+    return 1;
 }
 
 } // namespace velmora

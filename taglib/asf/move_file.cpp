@@ -1,7 +1,9 @@
 #include "move_file.h"
 
+#include "../move_pieces.h"
 #include "../trace.h"
-#include "checked_position.h"
+#include "../write_cursor.h"
+#include "cursor_readers.h"
 #include "owned.h"
 
 #include <algorithm>
@@ -11,34 +13,23 @@ namespace velmora {
 
 namespace {
 
-constexpr std::int64_t small_piece = 65536;
 /** A piece larger than this goes through the buffer in several steps. */
 constexpr std::int64_t largest_buffer = 1024 * 1024;
-
-std::int64_t piece_size(std::int64_t remaining) {
-    return static_cast<std::uint32_t>(remaining) <= small_piece ? small_piece : remaining;
-}
 
 /** The transfer buffer of one move. */
 class Transfer {
 public:
     Transfer(FIOFUNCSTRUCT* file, std::int64_t remaining)
-        : file_(file), size_(remaining > small_piece ? largest_buffer : small_piece),
+        : file_(file), size_(remaining > small_move_piece ? largest_buffer : small_move_piece),
           buffer_(static_cast<std::uint8_t*>(std::malloc(static_cast<std::size_t>(size_)))) {}
 
     [[nodiscard]] bool ready() const { return buffer_ != nullptr; }
 
     /** Copies LENGTH bytes from SOURCE to TARGET; the two may overlap. */
     [[nodiscard]] bool copy_piece(std::int64_t source, std::int64_t target, std::int64_t length) {
-        for (std::int64_t done = 0; done < length;) {
-            const std::int64_t step = std::min(size_, length - done);
-            const std::int64_t offset = source < target ? length - done - step : done;
-            if (!copy_step(source + offset, target + offset, static_cast<std::size_t>(step))) {
-                return false;
-            }
-            done += step;
-        }
-        return true;
+        return copy_in_steps(source, target, length, size_, [this](auto from, auto to, auto count) {
+            return copy_step(from, to, static_cast<std::size_t>(count));
+        });
     }
 
 private:
@@ -63,7 +54,8 @@ private:
         if (source < target && target - source < static_cast<std::int64_t>(length) &&
             fio_lseek(file_, target, SEEK_SET) == target) {
             const auto behind = static_cast<std::size_t>(target - source);
-            (void)fio_write(file_, buffer_.get() + behind, length - behind);
+            [[maybe_unused]] const ssize_t best_effort =
+                fio_write(file_, buffer_.get() + behind, length - behind);
         }
     }
 
@@ -86,31 +78,15 @@ int asf_move_file(FIOFUNCSTRUCT* file, std::int64_t from, std::int64_t to) {
     if (!transfer.ready()) {
         return 0;
     }
-    const bool from_the_back = from < to;
-    std::int64_t source = from_the_back ? end : from;
-    std::int64_t target = from_the_back ? to + size : to;
-    std::int64_t remaining = size;
-    while (remaining > 0) {
-        const std::int64_t piece = piece_size(remaining);
-        if (from_the_back) {
-            source -= piece;
-            target -= piece;
-        }
-        if (!transfer.copy_piece(source, target, piece)) {
-            break;
-        }
-        if (!from_the_back) {
-            source += piece;
-            target += piece;
-        }
-        remaining -= piece;
-    }
-    if (remaining != 0) {
+    const auto copy_piece = [&transfer](std::int64_t source, std::int64_t target, std::int64_t length) {
+        return transfer.copy_piece(source, target, length);
+    };
+    if (!move_in_pieces(from, to, size, copy_piece)) {
         return 0;
     }
     // Where the file would be cut if it could be.
     fio_lseek(file, to + size, SEEK_SET);
-    (void)fio_write(file, "", 0);
+    mark_end(file);
     return 1;
 }
 

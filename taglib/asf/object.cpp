@@ -2,10 +2,11 @@
 
 #include "../byte_order.h"
 #include "../trace.h"
-#include "checked_position.h"
-#include "read_at.h"
+#include "cursor_readers.h"
+#include "object_writer.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <unistd.h>
 
@@ -13,44 +14,45 @@ namespace velmora {
 
 namespace {
 
-void log_object(std::int64_t position, const _asf_object_t& object) {
+/** What gives back a RECORD that was read but can't be handed out; GIVEN is the caller's own. */
+auto free_unless(const _asf_object_t* given) {
+    return [given](_asf_object_t* record) { std::free(record == given ? nullptr : record); };
+}
+
+} // namespace
+
+void asf_log_object(std::int64_t position, const _asf_object_t& object) {
     DebugInfo("[%I64x] %s (0x%x bytes)\n", position, GUIDNAME(object.guid),
               static_cast<unsigned>(object.size));
 }
 
-void log_padding(std::int64_t position, const _asf_object_t& object) {
+void asf_log_padding_object(std::int64_t position, const _asf_object_t& object) {
     DebugInfo("[%I64x] PaddingObject\n", position);
     DebugInfo("  Size = 0x%I64x\n", object.size);
 }
-
-bool seek_behind(FIOFUNCSTRUCT* file, std::int64_t start, const _asf_object_t& object) {
-    const std::int64_t next = asf_position_behind(start, object.size);
-    return next >= 0 && fio_lseek(file, next, SEEK_SET) == next;
-}
-
-} // namespace
 
 _asf_object_t* asf_init_object() {
     return static_cast<_asf_object_t*>(std::calloc(1, sizeof(_asf_object_t)));
 }
 
 _asf_object_t* asf_read_object(FIOFUNCSTRUCT* file, _asf_object_t* object) {
-    return asf_read_object_at(file, fio_ltell(file), object);
+    return asf_read_at_position(
+        file, [object](ReadCursor* cursor) { return asf_read_object(cursor, object); }, free_unless(object));
 }
 
-_asf_object_t* asf_read_object_at(FIOFUNCSTRUCT* file, std::int64_t start, _asf_object_t* object) {
-    std::uint8_t bytes[asf_object_header_size] = {};
+_asf_object_t* asf_read_object(ReadCursor* cursor, _asf_object_t* object) {
+    std::array<std::uint8_t, asf_object_header_size> bytes;
     _asf_object_t header{};
-    constexpr auto whole = static_cast<ssize_t>(sizeof bytes);
-    const ssize_t count = fio_read(file, bytes, sizeof bytes);
-    if (start < 0 || count < static_cast<ssize_t>(sizeof header.guid.bytes) ||
-        (count < whole && !asf_read_reached(file, start + whole))) {
+    const std::uint64_t start = cursor->position();
+    const ReadStatus status = cursor->read(bytes.data(), bytes.size());
+    if (status == ReadStatus::failed || cursor->position() - start < sizeof header.guid.bytes) {
         return nullptr;
     }
-    std::copy_n(bytes, sizeof header.guid.bytes, header.guid.bytes);
-    header.size = load_le64(bytes + sizeof header.guid.bytes);
+    std::copy_n(bytes.data(), sizeof header.guid.bytes, header.guid.bytes);
+    header.size = load_le64(bytes.data() + sizeof header.guid.bytes);
     // Counted back from where the read ended.
-    log_object(start + count - whole, header);
+    asf_log_object(static_cast<std::int64_t>(cursor->position()) - std::int64_t{asf_object_header_size},
+                   header);
     if (!object) {
         object = asf_init_object();
     }
@@ -61,40 +63,36 @@ _asf_object_t* asf_read_object_at(FIOFUNCSTRUCT* file, std::int64_t start, _asf_
 }
 
 int asf_store_object(FIOFUNCSTRUCT* file, const _asf_object_t* object) {
-    log_object(fio_ltell(file), *object);
-    if (fio_write(file, object->guid.bytes, sizeof object->guid.bytes) != sizeof object->guid.bytes) {
-        return 0;
-    }
-    (void)fio_put_le64(file, object->size);
-    return 1;
+    AsfObjectWriter writer(file, fio_ltell(file));
+    writer.put_object(*object);
+    writer.finish();
+    return writer.guid_was_written() ? 1 : 0;
 }
 
 _asf_object_t* asf_read_padding_object(FIOFUNCSTRUCT* file, _asf_object_t* object) {
-    return asf_read_padding_object_at(file, fio_ltell(file), object);
+    return asf_read_at_position(
+        file, [object](ReadCursor* cursor) { return asf_read_padding_object(cursor, object); },
+        free_unless(object));
 }
 
-_asf_object_t* asf_read_padding_object_at(FIOFUNCSTRUCT* file, std::int64_t start, _asf_object_t* object) {
-    _asf_object_t* const read = asf_read_object_at(file, start, object);
+_asf_object_t* asf_read_padding_object(ReadCursor* cursor, _asf_object_t* object) {
+    const std::uint64_t start = cursor->position();
+    _asf_object_t* const read = asf_read_object(cursor, object);
     if (!read) {
         return nullptr;
     }
-    log_padding(start, *read);
-    if (!seek_behind(file, start, *read)) {
-        if (read != object) {
-            std::free(read);
-        }
+    asf_log_padding_object(static_cast<std::int64_t>(start), *read);
+    if (!asf_seek_behind(cursor, start, read->size)) {
+        free_unless(object)(read);
         return nullptr;
     }
     return read;
 }
 
 int asf_store_padding_object(FIOFUNCSTRUCT* file, const _asf_object_t* object) {
-    const std::int64_t start = fio_ltell(file);
-    if (!asf_store_object(file, object) || !asf_write_reached(file, start + asf_object_header_size)) {
-        return 0;
-    }
-    log_padding(start, *object);
-    return seek_behind(file, start, *object) ? 1 : 0;
+    AsfObjectWriter writer(file, fio_ltell(file));
+    writer.put_padding(*object);
+    return writer.finish() && writer.settle() ? 1 : 0;
 }
 
 } // namespace velmora

@@ -1,7 +1,7 @@
 #include "packed_descriptors.h"
 
 #include "../byte_order.h"
-#include "ahead_reader.h"
+#include "cursor_readers.h"
 #include "owned.h"
 
 #include <algorithm>
@@ -15,14 +15,13 @@ namespace {
 class Block {
 public:
     /** Reads LENGTH bytes behind those that the block has; null when they can't be had. */
-    [[nodiscard]] const std::uint8_t* read(AsfAheadReader* fields, std::size_t length) {
-        if (static_cast<std::int64_t>(length) > fields->left() || !reserve(size_ + length)) {
+    [[nodiscard]] const std::uint8_t* read(ReadCursor* cursor, std::size_t length) {
+        if (length > cursor->left() || !reserve(size_ + length)) {
             return nullptr;
         }
         std::uint8_t* const bytes = memory_.get() + size_;
-        std::memset(bytes, 0, length);
         size_ += length;
-        return fields->read(bytes, length) ? bytes : nullptr;
+        return asf_read_zero_padded(cursor, bytes, length) ? bytes : nullptr;
     }
     [[nodiscard]] std::size_t size() const { return size_; }
     /** The byte at POSITION, which stays there only until the next read. */
@@ -67,18 +66,18 @@ _asf_content_descriptor_t view_of(const std::uint8_t* at) {
     return view;
 }
 
-bool read_packed(AsfAheadReader* fields, Block& block) {
+bool read_packed(ReadCursor* cursor, Block& block) {
     const std::size_t start = block.size();
-    const std::int64_t position = fields->position();
-    if (fields->left() < static_cast<std::int64_t>(asf_content_descriptor_fixed_size)) {
+    const auto position = static_cast<std::int64_t>(cursor->position());
+    if (cursor->left() < asf_content_descriptor_fixed_size) {
         return false;
     }
-    const std::uint8_t* bytes = block.read(fields, 2);
-    if (!bytes || !block.read(fields, load_le16(bytes))) {
+    const std::uint8_t* bytes = block.read(cursor, 2);
+    if (!bytes || !block.read(cursor, load_le16(bytes))) {
         return false;
     }
-    bytes = block.read(fields, 4);
-    if (!bytes || !block.read(fields, load_le16(bytes + 2))) {
+    bytes = block.read(cursor, 4);
+    if (!bytes || !block.read(cursor, load_le16(bytes + 2))) {
         return false;
     }
     asf_log_content_descriptor(position, view_of(block.at(start)));
@@ -121,11 +120,11 @@ bool AsfPackedWalk::next() {
     return true;
 }
 
-bool asf_read_packed_descriptors(AsfAheadReader* fields, _asf_ext_content_description_t* ecd,
+bool asf_read_packed_descriptors(ReadCursor* cursor, _asf_ext_content_description_t* ecd,
                                  std::uint16_t count) {
     Block block;
     for (std::uint16_t i = 0; i < count; ++i) {
-        if (!read_packed(fields, block)) {
+        if (!read_packed(cursor, block)) {
             return false;
         }
     }

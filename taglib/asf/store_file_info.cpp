@@ -6,8 +6,9 @@
 #include "ext_content_description.h"
 #include "guids.h"
 #include "move_file.h"
-#include "open_header.h"
+#include "object_writer.h"
 #include "owned.h"
+#include "owned_header.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -29,11 +30,11 @@ struct FreeExtContentDescription {
 using LooseExtContentDescription = std::unique_ptr<_asf_ext_content_description_t, FreeExtContentDescription>;
 
 /** The first Content Description, appended when there is none; null when that fails. */
-_asf_content_description_t* find_or_append_cd(AsfOpenHeader& opened) {
-    auto* cd = opened.find<_asf_content_description_t>(ASF_ContentDescription);
+_asf_content_description_t* find_or_append_cd(AsfHeader& header) {
+    auto* cd = header.find<_asf_content_description_t>(ASF_ContentDescription);
     if (!cd) {
         cd = asf_init_content_description();
-        if (cd && !asf_insert_object(opened.header(), cd)) {
+        if (cd && !asf_insert_object(header.record(), cd)) {
             asf_free_content_description(cd);
             cd = nullptr;
         }
@@ -44,14 +45,14 @@ _asf_content_description_t* find_or_append_cd(AsfOpenHeader& opened) {
 /** The first Extended Content Description. For a header that has none an empty one is made, which takes the
     edits but stays outside the header (LOOSE owns it): what the header gets is its Content Description CD
     once more. */
-_asf_ext_content_description_t* find_or_make_ecd(AsfOpenHeader& opened, _asf_content_description_t* cd,
+_asf_ext_content_description_t* find_or_make_ecd(AsfHeader& header, _asf_content_description_t* cd,
                                                  LooseExtContentDescription& loose) {
-    auto* const ecd = opened.find<_asf_ext_content_description_t>(ASF_ExtendedContentDescription);
+    auto* const ecd = header.find<_asf_ext_content_description_t>(ASF_ExtendedContentDescription);
     if (ecd) {
         return ecd;
     }
     loose.reset(asf_init_ext_content_description());
-    return loose && asf_insert_object(opened.header(), cd) ? loose.get() : nullptr;
+    return loose && asf_insert_object(header.record(), cd) ? loose.get() : nullptr;
 }
 
 /** The padding that growth may use: the last child, when that is a padding object. */
@@ -129,69 +130,70 @@ bool leaves_a_hole(const _asf_header_object_t& header, std::uint64_t file_end) {
 }
 
 /** Writes the header and moves the data to where the header, GROWTH bytes larger than before, will end. */
-[[nodiscard]] bool write_header(AsfOpenHeader& opened, std::uint64_t old_size, std::int64_t growth) {
+[[nodiscard]] bool write_header(FIOFUNCSTRUCT* file, _asf_header_object_t* header, std::uint64_t old_size,
+                                std::int64_t growth) {
     const std::uint64_t new_size = old_size + static_cast<std::uint64_t>(growth);
     const auto from = static_cast<std::int64_t>(old_size);
     const auto to = static_cast<std::int64_t>(new_size);
-    if (growth > 0 && !asf_move_file(opened.file(), from, to)) {
+    if (growth > 0 && !asf_move_file(file, from, to)) {
         return false;
     }
     if (growth < 0) {
         // Data that is not there can't move. A header that would be far away from the rest of the file, with
         // a hole between them, is then not written either.
-        const std::int64_t file_end = fio_lseek(opened.file(), 0, SEEK_END);
+        const std::int64_t file_end = fio_lseek(file, 0, SEEK_END);
         if (file_end >= 0 && from > file_end &&
-            leaves_a_hole(*opened.header(), static_cast<std::uint64_t>(file_end))) {
-            return asf_move_file(opened.file(), from, to) != 0;
+            leaves_a_hole(*header, static_cast<std::uint64_t>(file_end))) {
+            return asf_move_file(file, from, to) != 0;
         }
     }
-    opened.header()->size = new_size;
-    if (!asf_store_header_object(opened.file(), opened.header())) {
+    header->size = new_size;
+    AsfObjectWriter writer(file, 0);
+    if (!asf_put_header_object(&writer, *header)) {
         return false;
     }
-    DebugInfo("Size after writing header: %I64x\n", fio_ltell(opened.file()));
-    return growth >= 0 || asf_move_file(opened.file(), from, to);
+    DebugInfo("Size after writing header: %I64x\n", writer.position());
+    return growth >= 0 || asf_move_file(file, from, to);
 }
 
-[[nodiscard]] bool store(AsfOpenHeader& opened, const _file_info_t& info) {
-    _asf_header_object_t* const header = opened.header();
-    const std::uint64_t old_size = header->size;
+[[nodiscard]] bool store(FIOFUNCSTRUCT* file, AsfHeader& header, const _file_info_t& info) {
+    _asf_header_object_t* const record = header.record();
+    const std::uint64_t old_size = record->size;
     DebugInfo("Old size = %I64x\n", old_size);
     LooseExtContentDescription loose;
-    _asf_content_description_t* const cd = find_or_append_cd(opened);
-    _asf_ext_content_description_t* const ecd = cd ? find_or_make_ecd(opened, cd, loose) : nullptr;
+    _asf_content_description_t* const cd = find_or_append_cd(header);
+    _asf_ext_content_description_t* const ecd = cd ? find_or_make_ecd(header, cd, loose) : nullptr;
     if (!ecd) {
         return false;
     }
-    _asf_object_t* const padding = find_padding(*header);
+    _asf_object_t* const padding = find_padding(*record);
     if (!asf_apply_file_info(info, cd, ecd)) {
         return false;
     }
-    const std::int64_t diff = header_growth(header, old_size);
+    const std::int64_t diff = header_growth(record, old_size);
     DebugInfo("Diff size = %I64x\n", diff);
-    if (!adjust_padding(header, padding, diff)) {
+    if (!adjust_padding(record, padding, diff)) {
         return false;
     }
-    const std::int64_t growth = header_growth(header, old_size);
+    const std::int64_t growth = header_growth(record, old_size);
     DebugInfo("Final diff size = %I64x\n", growth);
-    return write_header(opened, old_size, growth);
+    return write_header(file, record, old_size, growth);
 }
 
 } // namespace
 
 int asf_store_file_info(const char* path, const _file_info_t* info) {
-    {
-        AsfOpenHeader opened;
-        if (!opened.open(path, O_RDWR)) {
-            DebugError("asf_store_file_info: Couldn't open file\n");
-            return 0;
-        }
-        if (opened.read() && opened.header()->size <= largest_header) {
-            return store(opened, *info) && opened.close() ? 1 : 0;
-        }
+    ByteFile file;
+    if (!file.open(path, O_RDWR)) {
+        DebugError("asf_store_file_info: Couldn't open file\n");
+        return 0;
     }
-    errno = asf_header_unreadable;
-    return 0;
+    AsfHeader header;
+    if (!header.read(&file) || header.record()->size > largest_header) {
+        errno = asf_header_unreadable;
+        return 0;
+    }
+    return store(file.handle(), header, *info) && file.close() ? 1 : 0;
 }
 
 int asf_remove_file_info(const char* path) {

@@ -216,6 +216,43 @@ TEST_F(WriteCursorTest, AWriteThatStopsBetweenTwoFieldsIsGoneOnWith) {
     EXPECT_EQ(5u, cursor.fields_written());
 }
 
+TEST_F(WriteCursorTest, AskedWhyAWriteCameUpShortItTriesTheRestOfTheField) {
+    open_with("");
+    SystemCallFaults faults;
+    faults.cut_short(SystemCall::write, 1, 6);
+    faults.fail(SystemCall::write, 2, ENOSPC);
+    WriteCursor cursor(file_.handle(), 0);
+    cursor.put("abcd", 4);
+    cursor.put("efgh", 4);
+    cursor.put("ijkl", 4);
+    errno = 0;
+    EXPECT_FALSE(cursor.commit());
+    EXPECT_EQ(0, errno);
+    cursor.ask_why_short();
+    EXPECT_EQ(ENOSPC, errno);
+    EXPECT_EQ(2, faults.records().back().requested); // "gh"
+    EXPECT_EQ("abcdef", contents());
+    const int calls = faults.count();
+    cursor.ask_why_short();
+    EXPECT_EQ(calls, faults.count());
+}
+
+TEST_F(WriteCursorTest, HasNothingToAskAfterAWriteThatFailedOrOnceMoreWasPut) {
+    open_with("");
+    SystemCallFaults faults;
+    faults.fail(SystemCall::write, 1, EIO);
+    faults.cut_short(SystemCall::write, 2, 1);
+    WriteCursor cursor(file_.handle(), 0);
+    for (int i = 0; i < 2; ++i) {
+        cursor.put("abcd", 4);
+        EXPECT_FALSE(cursor.commit());
+        cursor.put("x", i);
+        const int calls = faults.count();
+        cursor.ask_why_short();
+        EXPECT_EQ(calls, faults.count()) << i;
+    }
+}
+
 TEST_F(WriteCursorTest, ASeekThatFailsStopsTheCommit) {
     for (const int nth : {1, 2}) {
         open_with("");

@@ -4,6 +4,7 @@
 #include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/stream_capture.h"
+#include "taglib/asf/cursor_readers.h"
 
 #include <gtest/gtest.h>
 
@@ -106,16 +107,22 @@ TEST(AsfContentDescriptor, ReadThatFailsLeavesAGivenRecordEmpty) {
     EXPECT_EQ(nullptr, given.name);
 }
 
+/** Read from the file's beginning by a cursor that ends at LIMIT. */
+_asf_content_descriptor_t* read_before(OpenBytes& file, std::uint64_t limit) {
+    ReadWindow window(file.file());
+    ReadCursor cursor(window, 0, limit);
+    return asf_read_content_descriptor(&cursor, nullptr);
+}
+
 TEST(AsfContentDescriptor, ReadBeforeALimitTakesADescriptorThatEndsThere) {
     OpenBytes file(word_descriptor);
-    const Descriptor descriptor(asf_read_content_descriptor_before(file.file(), nullptr, 14));
-    EXPECT_TRUE(descriptor);
+    EXPECT_TRUE(Descriptor(read_before(file, 14)));
 }
 
 TEST(AsfContentDescriptor, ReadBeforeALimitFailsOnADescriptorThatRunsPastIt) {
-    for (int limit = 0; limit < 14; ++limit) {
+    for (std::uint64_t limit = 0; limit < 14; ++limit) {
         OpenBytes file(word_descriptor);
-        EXPECT_EQ(nullptr, asf_read_content_descriptor_before(file.file(), nullptr, limit)) << limit;
+        EXPECT_EQ(nullptr, read_before(file, limit)) << limit;
     }
 }
 

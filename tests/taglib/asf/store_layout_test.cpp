@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <vector>
 
 namespace velmora {
 namespace {
@@ -453,6 +454,49 @@ TEST_F(AsfStoreLayout, RemoveReturnsWhatTheStoreReturns) {
     EXPECT_EQ(5, errno);
     write_file(path_, header_with("Pop", padding(100)));
     EXPECT_EQ(1, asf_remove_file_info(path_.c_str()));
+}
+
+// Cost
+
+/** The calls that storing a title into a file of these bytes makes, from open to close. */
+std::vector<SystemCallRecord> calls_of_title_store(const std::string& bytes) {
+    const ScratchFolder folder;
+    const std::string path = folder / "file.wma";
+    write_file(path, bytes);
+    char title[] = "A new title";
+    _file_info_t info{};
+    info.flags = file_info_flag::title;
+    info.title = title;
+    const StreamCapture quiet;
+    const SystemCallFaults watch;
+    EXPECT_EQ(1, asf_store_file_info(path.c_str(), &info));
+    return watch.records();
+}
+
+std::string nine_attributes(std::size_t comment) {
+    return ext_content_description(
+        {text_descriptor("WM/AlbumTitle", "a"), text_descriptor("WM/AlbumArtist", "b"),
+         text_descriptor("WM/Genre", "c"), text_descriptor("WM/Year", "1999"),
+         text_descriptor("WM/Director", "d"), text_descriptor("Description", "e"),
+         text_descriptor("WM/ParentalRating", "f"), text_descriptor("Comment", std::string(comment, 'g')),
+         text_descriptor("WM/Track", "1")});
+}
+
+TEST(AsfStoreCost, ATitleIntoThePaddingOfASmallHeaderCostsSixCalls) {
+    const std::string bytes =
+        header_object({other_object(), cd, other_object(), nine_attributes(10), padding(1000)}) +
+        pattern(100'000);
+    // Open, a read, the file's length; back to the beginning, a write, close.
+    EXPECT_EQ(6u, calls_of_title_store(bytes).size());
+}
+
+TEST(AsfStoreCost, ATitleIntoThePaddingBehindALargeAttributeCostsAtMostFourteenCalls) {
+    const std::string bytes =
+        header_object({other_object(), cd, other_object(), nine_attributes(20'000), padding(1000)}) +
+        pattern(100'000);
+    const std::vector<SystemCallRecord> calls = calls_of_title_store(bytes);
+    EXPECT_LE(calls.size(), 14u);
+    EXPECT_EQ(12u, calls.size()); // what follows the attribute is read, and the attribute written, by itself
 }
 
 } // namespace
