@@ -46,22 +46,31 @@ ReadStatus ReadWindow::read(std::uint64_t position, void* bytes, std::size_t len
     }
     ReadStatus status = ReadStatus::whole;
     if (got < length) {
-        const int error = errno;
-        const ssize_t rest = read_file(position + got, target + got, length - got);
-        if (rest > 0) {
-            got += static_cast<std::size_t>(rest);
-        }
-        if (got > 0) {
-            errno = error; // read in one piece it would just have come up short
-        }
-        if (got < length) {
-            status = rest < 0 ? ReadStatus::failed : why_short(position + got);
-            std::memset(target + got, 0, length - got);
-        }
+        status = read_rest(position, target, length, &got);
+        std::memset(target + got, 0, length - got);
     }
     failed_ |= status == ReadStatus::failed;
     *count = got;
     return status;
+}
+
+/** Reads what is missing behind the first *GOT bytes of a field past the window. Where that comes short, the
+    field is read by itself, and *GOT and the status are what becomes of that. */
+ReadStatus ReadWindow::read_rest(std::uint64_t position, std::uint8_t* bytes, std::size_t length,
+                                 std::size_t* got) {
+    const int error = errno;
+    ssize_t count = read_file(position + *got, bytes + *got, length - *got);
+    const std::size_t came = *got + static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+    if (*got > 0 && came < length && (count < 0 || why_short(position + came) == ReadStatus::failed)) {
+        errno = error;
+        *got = 0;
+        count = read_file(position, bytes, length);
+    }
+    *got += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+    if (*got == length) {
+        return ReadStatus::whole;
+    }
+    return count < 0 ? ReadStatus::failed : why_short(position + *got);
 }
 
 bool ReadWindow::settle(std::uint64_t position) {

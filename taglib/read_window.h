@@ -77,6 +77,7 @@ public:
 private:
     [[nodiscard]] std::size_t take(std::uint64_t position, std::uint8_t* bytes, std::size_t length) const;
     [[nodiscard]] bool fill(std::uint64_t position, std::uint64_t end, std::size_t more_than);
+    ReadStatus read_rest(std::uint64_t position, std::uint8_t* bytes, std::size_t length, std::size_t* got);
     [[nodiscard]] ssize_t read_file(std::uint64_t position, std::uint8_t* bytes, std::size_t length);
     [[nodiscard]] ReadStatus why_short(std::uint64_t position);
 

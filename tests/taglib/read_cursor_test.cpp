@@ -370,19 +370,42 @@ TEST(ReadCursorFault, AFailureIsToldOfTheFieldThatFailed) {
     EXPECT_TRUE(window.failed());
 }
 
-TEST(ReadCursorFault, AFieldThatCameInPartLeavesErrnoAsAShortReadDoes) {
+TEST(ReadCursorFault, AFieldThatBeginsInABlockAndFailsBehindItIsReadByItself) {
     const std::string bytes = pattern(6000);
     ReadFile file(bytes);
-    SystemCallFaults faults;
-    faults.cut_short(SystemCall::read, 1, 10);
-    faults.fail_from(SystemCall::read, 2, EIO);
-    ReadWindow window(file.handle(), 0);
+    for (const bool comes_in_part : {true, false}) {
+        SystemCallFaults faults;
+        faults.cut_short(SystemCall::read, 1, 10);
+        faults.fail(SystemCall::read, 2, EIO); // the next block
+        faults.fail(SystemCall::read, 3, EIO); // what is missing of the field
+        if (comes_in_part) {
+            faults.cut_short(SystemCall::read, 4, 2);
+        } else {
+            faults.fail(SystemCall::read, 4, ENXIO);
+        }
+        ReadWindow window(file.handle());
+        ReadCursor cursor(window);
+        errno = 0;
+        read_text(cursor, 8);
+        const std::size_t came = comes_in_part ? 2 : 0;
+        EXPECT_EQ(bytes.substr(8, came) + std::string(10 - came, '\0'),
+                  read_text(cursor, 10, ReadStatus::failed));
+        EXPECT_EQ(8 + came, cursor.position());
+        EXPECT_EQ(comes_in_part ? 0 : ENXIO, errno);
+    }
+}
+
+TEST(ReadCursorFault, AFieldThatTheFileCutsOffIsNotReadTwice) {
+    ReadFile file(pattern(6000));
+    SystemCallFaults watch;
+    ReadWindow window(file.handle());
+    ASSERT_EQ(6000u, window.size());
     ReadCursor cursor(window);
-    errno = 0;
-    read_text(cursor, 8);
-    EXPECT_EQ(bytes.substr(8, 2) + std::string(8, '\0'), read_text(cursor, 10, ReadStatus::failed));
-    EXPECT_EQ(10u, cursor.position());
-    EXPECT_EQ(0, errno);
+    ASSERT_TRUE(cursor.seek(5990));
+    read_text(cursor, 4);
+    read_text(cursor, 10, ReadStatus::ended);
+    EXPECT_EQ(6000u, cursor.position());
+    EXPECT_EQ(1, watch.count(SystemCall::read));
 }
 
 TEST(ReadCursorFault, AReadThatStopsInFrontOfTheEndHasFailed) {
