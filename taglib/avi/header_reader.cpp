@@ -1,6 +1,7 @@
 #include "header_reader.h"
 
 #include "../byte_order.h"
+#include "../read_cursor.h"
 #include "../trace.h"
 #include "item_memory.h"
 
@@ -8,7 +9,7 @@
 #include <array>
 #include <cerrno>
 #include <limits>
-#include <unistd.h>
+#include <optional>
 
 namespace velmora {
 
@@ -22,64 +23,27 @@ struct ChunkHeader {
     std::uint32_t size;
 };
 
-/** Reads held against the file's length, so that the end of the file and a failing medium are told apart.
-   Nobody else moves in the file meanwhile. */
-class Reader {
-public:
-    explicit Reader(FIOFUNCSTRUCT* file)
-        : file_(file), length_(fio_lseek(file, 0, SEEK_END)), position_(length_) {}
+/** Reads the header at POSITION. False when less than the whole came. */
+bool read_chunk_header(ReadCursor& cursor, std::int64_t position, ChunkHeader* header) {
+    std::array<std::uint8_t, header_size> bytes{};
+    const bool whole = cursor.seek(static_cast<std::uint64_t>(position)) &&
+                       cursor.read(bytes.data(), bytes.size()) == ReadStatus::whole;
+    *header = {load_le32(bytes.data()), load_le32(bytes.data() + 4)};
+    return whole;
+}
 
-    /** The file's length, or -1. */
-    [[nodiscard]] std::int64_t length() const { return length_; }
-    /** Whether bytes that the file has could not be read. */
-    [[nodiscard]] bool failed() const { return failed_; }
+/** The FOURCC at the position; zeros where it can't be read. */
+std::uint32_t read_fourcc(ReadCursor& cursor) {
+    std::uint32_t fourcc = 0;
+    [[maybe_unused]] const ReadStatus shows_in_the_window = cursor.read_le32(&fourcc);
+    return fourcc;
+}
 
-    [[nodiscard]] std::int64_t position() const { return position_; }
-
-    bool seek(std::int64_t position) {
-        if (position == position_ && in_place_) {
-            return true; // as where an item follows on the one before it
-        }
-        position_ = position;
-        const bool arrived = fio_lseek(file_, position, SEEK_SET) == position;
-        failed_ |= !arrived;
-        in_place_ = arrived;
-        return arrived;
-    }
-
-    /** Reads on into BUFFER, which the caller has zeroed. False when less than COUNT bytes came. */
-    bool read(void* buffer, std::uint32_t count) {
-        const std::int64_t expected = std::clamp<std::int64_t>(length_ - position_, 0, count);
-        const std::int64_t got = fio_read(file_, buffer, count);
-        failed_ |= got < expected;
-        in_place_ = in_place_ && got == count;
-        position_ += count;
-        return got == count;
-    }
-
-    /** The header at POSITION. False when less than the whole came. */
-    bool read_header(std::int64_t position, ChunkHeader* header) {
-        // The pad byte of the chunk before comes along, which spares a seek.
-        const std::uint32_t pad = in_place_ && position == position_ + 1 ? 1 : 0;
-        std::array<std::uint8_t, 1 + header_size> bytes{};
-        const bool whole = seek(position - pad) && read(bytes.data(), pad + header_size);
-        *header = {load_le32(&bytes[pad]), load_le32(&bytes[pad + 4])};
-        return whole;
-    }
-
-    std::uint32_t read_fourcc() {
-        std::array<std::uint8_t, 4> bytes{};
-        read(bytes.data(), bytes.size());
-        return load_le32(bytes.data());
-    }
-
-private:
-    FIOFUNCSTRUCT* file_;
-    std::int64_t length_;
-    std::int64_t position_;
-    bool in_place_ = false; ///< the file is at the position
-    bool failed_ = false;
-};
+/** The file's length, or -1. */
+std::int64_t length_of(ReadWindow& window) {
+    const std::optional<std::uint64_t> size = window.size();
+    return size ? static_cast<std::int64_t>(*size) : -1;
+}
 
 constexpr std::int64_t round_up_to_even(std::int64_t offset) {
     return offset + (offset & 1);
@@ -95,10 +59,10 @@ _avi_item_t make_item(const ChunkHeader& header, std::int64_t position) {
 
 /** The item's own bytes: zeros where the file ends before them. Never null for want of bytes alone, because
    data is what tells a list that is kept as bytes from one with children. */
-void load_data(Reader& reader, _avi_item_t* item) {
+void load_data(ReadCursor& cursor, _avi_item_t* item) {
     item->data = avi_new_data(item->size);
-    if (item->data && item->size > 0) {
-        reader.read(item->data, item->size);
+    if (item->data) {
+        [[maybe_unused]] const ReadStatus shows_in_the_window = cursor.read(item->data, item->size);
     }
     if (item->data && item->size >= 4 && (item->fourcc == fourcc::list || item->fourcc == fourcc::riff)) {
         item->list_type = load_le32(item->data);
@@ -106,9 +70,9 @@ void load_data(Reader& reader, _avi_item_t* item) {
 }
 
 /** The sub-chunk at POSITION, whose data must end within ROOM bytes of it. False where the list ends. */
-bool read_sub_chunk_header(Reader& reader, std::int64_t position, std::int64_t room, ChunkHeader* chunk) {
+bool read_sub_chunk_header(ReadCursor& cursor, std::int64_t position, std::int64_t room, ChunkHeader* chunk) {
     const auto at = static_cast<unsigned>(position);
-    if (!reader.read_header(position, chunk)) {
+    if (!read_chunk_header(cursor, position, chunk)) {
         DebugError("avi_load_item_list: Error reading at %x\n", at);
         return false;
     }
@@ -124,16 +88,17 @@ bool read_sub_chunk_header(Reader& reader, std::int64_t position, std::int64_t r
     return true;
 }
 
-void load_sub_chunks(Reader& reader, std::int64_t base, _avi_item_t* list) {
+/** BASE: the position of the list's type, in a file of LENGTH bytes. */
+void load_sub_chunks(ReadCursor& cursor, std::int64_t length, std::int64_t base, _avi_item_t* list) {
     // No list reaches further than the 8 bytes past the end that the walk of the top level lets pass.
-    const std::int64_t size = std::min<std::int64_t>(list->size, reader.length() + header_size - base);
+    const std::int64_t size = std::min<std::int64_t>(list->size, length + header_size - base);
     std::int64_t offset = 4;
     while (offset + header_size <= size) {
         offset = round_up_to_even(offset);
         const std::int64_t position = base + offset;
         ChunkHeader chunk{};
         // Measured from the header's start and against 4 less than the list's size: 4 bytes of overrun pass.
-        if (!read_sub_chunk_header(reader, position, size - 4 - offset, &chunk)) {
+        if (!read_sub_chunk_header(cursor, position, size - 4 - offset, &chunk)) {
             return;
         }
         if (chunk.fourcc == 0) {
@@ -143,7 +108,7 @@ void load_sub_chunks(Reader& reader, std::int64_t base, _avi_item_t* list) {
             DebugInfo("[%08lx]        <%s> size 0x%x\n", static_cast<unsigned long>(position),
                       riff_tag(chunk.fourcc), chunk.size);
             _avi_item_t item = make_item(chunk, position);
-            load_data(reader, &item);
+            load_data(cursor, &item);
             const bool loaded = item.data != nullptr;
             const bool kept = avi_insert_item(list, &item, append) != nullptr;
             if (!kept) {
@@ -161,16 +126,17 @@ void load_sub_chunks(Reader& reader, std::int64_t base, _avi_item_t* list) {
 class TopLevel {
 public:
     TopLevel(FIOFUNCSTRUCT* file, _avi_item_t* root)
-        : root_(root), reader_(file), limit_(reader_.length() - header_size) {}
+        : root_(root), window_(file), cursor_(window_), length_(length_of(window_)),
+          limit_(length_ - header_size) {}
 
     /** False for what is no readable AVI file. */
     bool read() {
-        if (reader_.length() < 0 || !read_riff_header()) {
+        if (length_ < 0 || !read_riff_header()) {
             return false;
         }
         while (offset_ + header_size <= limit_ && read_chunk()) {
         }
-        if (reader_.failed()) {
+        if (window_.failed()) {
             avi_mark_incomplete(root_);
         }
         if (several_riffs_ || offset_ + avi_tolerated_tail < limit_) {
@@ -194,12 +160,10 @@ private:
 
     bool read_riff_header() {
         ChunkHeader header{};
-        if (reader_.seek(0)) {
-            reader_.read_header(0, &header);
-            root_->fourcc = header.fourcc;
-            root_->size = header.size;
-            root_->list_type = reader_.read_fourcc();
-        }
+        [[maybe_unused]] const bool shows_in_the_fields = read_chunk_header(cursor_, 0, &header);
+        root_->fourcc = header.fourcc;
+        root_->size = header.size;
+        root_->list_type = read_fourcc(cursor_);
         if (root_->fourcc != fourcc::riff) {
             DebugError("avi_read_header: Not a RIFF header\n");
             return false;
@@ -223,7 +187,7 @@ private:
         const std::int64_t position = base + offset_;
         const auto at = static_cast<unsigned>(position);
         ChunkHeader chunk{};
-        if (!reader_.read_header(position, &chunk)) {
+        if (!read_chunk_header(cursor_, position, &chunk)) {
             DebugError("avi_read_header: Error reading at %x\n", at);
             return false;
         }
@@ -248,12 +212,13 @@ private:
     bool add_chunk(_avi_item_t item) {
         const auto shown_offset = static_cast<unsigned long>(item.offset);
         if (item.fourcc == fourcc::list) {
-            item.list_type = reader_.read_fourcc();
+            const auto base_of_list = static_cast<std::int64_t>(cursor_.position());
+            item.list_type = read_fourcc(cursor_);
             DebugInfo("[%08lx] <list> type %s size 0x%x\n", shown_offset, riff_tag(item.list_type),
                       item.size);
             if (item.list_type == fourcc::info) {
-                load_sub_chunks(reader_, reader_.position() - 4, &item);
-                if (reader_.failed()) {
+                load_sub_chunks(cursor_, length_, base_of_list, &item);
+                if (window_.failed()) {
                     avi_mark_incomplete(&item);
                 }
                 avi_settle_children(&item);
@@ -275,7 +240,9 @@ private:
     }
 
     _avi_item_t* root_;
-    Reader reader_;
+    ReadWindow window_;
+    ReadCursor cursor_;
+    std::int64_t length_; ///< of the file; -1: not known
     std::int64_t limit_;
     std::int64_t offset_ = 4;
     bool several_riffs_ = false;
@@ -297,11 +264,13 @@ int avi_read_header(FIOFUNCSTRUCT* file, _avi_item_t* root) {
 int avi_load_item_list(FIOFUNCSTRUCT* file, _avi_item_t* list) {
     const TraceBatch batch;
     const std::int64_t base = fio_ltell(file) - 4;
-    Reader reader(file);
-    if (base >= 0 && reader.length() >= 0) {
-        load_sub_chunks(reader, base, list);
+    ReadWindow window(file);
+    const std::int64_t length = length_of(window);
+    if (base >= 0 && length >= 0) {
+        ReadCursor cursor(window);
+        load_sub_chunks(cursor, length, base, list);
     }
-    if (base < 0 || reader.length() < 0 || reader.failed()) {
+    if (base < 0 || length < 0 || window.failed()) {
         avi_mark_incomplete(list);
     }
     return 1;

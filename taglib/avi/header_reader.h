@@ -2,8 +2,9 @@
 
 #include "item.h"
 
-/** Reading an AVI file's chunk headers. Media data is never read: opening costs about two reads a top-level
-   chunk and two a sub-chunk of the INFO list. */
+/** Reading an AVI file's chunk headers. Media data is not read, but for what a block takes along that begins
+    with a chunk's header: less than 4 KiB. Opening costs a seek and a read for each place in the file that
+   has headers, and a read for each 4 KiB of the INFO list. */
 namespace velmora {
 
 /** The numbers that a caller finds in errno, whatever names they have here. */

@@ -1,14 +1,10 @@
 #include "item.h"
 
-#include "../byte_order.h"
 #include "../trace.h"
 #include "item_memory.h"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
 #include <functional>
-#include <utility>
 
 namespace velmora {
 
@@ -18,54 +14,36 @@ bool is_list_kind(std::uint32_t fourcc) {
     return fourcc == fourcc::list || fourcc == fourcc::riff;
 }
 
-/** Writes at the file's position, small things together: a list may have millions of empty items. */
-class ItemWriter {
-public:
-    explicit ItemWriter(FIOFUNCSTRUCT* file) : file_(file) {}
+/** What is collected at most, but for one item's bytes: a list may have millions of empty items. */
+constexpr std::uint64_t largest_commit = 65536;
 
-    /** False when not everything up to here could be written, as for all of these. */
-    [[nodiscard]] bool item(const _avi_item_t& item) {
-        if (!le32(item.fourcc) || !le32(item.size)) {
+bool write_item(WriteCursor& cursor, const _avi_item_t& item);
+
+bool write_children(WriteCursor& cursor, const _avi_item_t& list) {
+    return std::all_of(list.children, list.children + list.child_count, [&cursor](const _avi_item_t& child) {
+        if (!write_item(cursor, child)) {
             return false;
         }
-        if (item.fourcc == fourcc::list && avi_has_children(&item)) {
-            return le32(item.list_type) && children(item);
+        if (child.size % 2 != 0) {
+            cursor.put_byte(0);
         }
-        const std::uint8_t* const data = avi_data(&item);
-        return item.size == 0 || !data || bytes(data, item.size);
-    }
-    [[nodiscard]] bool flush() {
-        const std::size_t count = std::exchange(used_, 0);
-        return count == 0 || fio_write(file_, buffer_.data(), count) == static_cast<ssize_t>(count);
-    }
+        return cursor.bytes() < largest_commit || cursor.commit();
+    });
+}
 
-private:
-    bool children(const _avi_item_t& list) {
-        return std::all_of(list.children, list.children + list.child_count, [this](const _avi_item_t& child) {
-            return item(child) && (child.size % 2 == 0 || bytes("", 1));
-        });
+/** Collects ITEM. False when what had to be committed on the way could not be written. */
+bool write_item(WriteCursor& cursor, const _avi_item_t& item) {
+    cursor.put_le32(item.fourcc);
+    cursor.put_le32(item.size);
+    if (item.fourcc == fourcc::list && avi_has_children(&item)) {
+        cursor.put_le32(item.list_type);
+        return write_children(cursor, item);
     }
-    bool le32(std::uint32_t value) {
-        std::uint8_t stored[4];
-        store_le32(stored, value);
-        return bytes(stored, sizeof stored);
+    if (const std::uint8_t* const data = avi_data(&item)) {
+        cursor.put(data, item.size);
     }
-    bool bytes(const void* from, std::uint32_t count) {
-        if (count > buffer_.size() - used_ && !flush()) {
-            return false;
-        }
-        if (count > buffer_.size()) {
-            return fio_write(file_, from, count) == static_cast<ssize_t>(count);
-        }
-        std::memcpy(buffer_.data() + used_, from, count);
-        used_ += count;
-        return true;
-    }
-
-    FIOFUNCSTRUCT* file_;
-    std::size_t used_ = 0;
-    std::array<std::uint8_t, 16384> buffer_;
-};
+    return true;
+}
 
 } // namespace
 
@@ -81,8 +59,12 @@ std::uint64_t avi_sizeof_item(const _avi_item_t* item) {
 }
 
 int avi_store_item(FIOFUNCSTRUCT* file, const _avi_item_t* item) {
-    ItemWriter writer(file);
-    if (!writer.item(*item) || !writer.flush()) {
+    WriteCursor cursor(file, static_cast<std::uint64_t>(fio_ltell(file)));
+    return avi_store_item(&cursor, item);
+}
+
+int avi_store_item(WriteCursor* cursor, const _avi_item_t* item) {
+    if (!write_item(*cursor, *item) || !cursor->commit()) {
         DebugError("avi_store_item: Error writing file\n");
         return 0;
     }

@@ -1,12 +1,14 @@
 #include "load_file_info.h"
 
+#include "../byte_file.h"
 #include "../trace.h"
-#include "avi_file.h"
 #include "item_data.h"
 #include "picture.h"
 #include "tag_fields.h"
+#include "tree.h"
 
 #include <array>
+#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
@@ -42,15 +44,17 @@ void load_fields(const _avi_item_t* list, _file_info_t* info) {
 
 int avi_load_file_info(const char* path, _file_info_t* info) {
     *info = {};
-    AviFile avi;
-    if (!avi.open(path, O_RDONLY)) {
+    errno = 0;
+    ByteFile file;
+    if (!file.open(path, O_RDONLY)) {
         DebugError("avi_load_file_info: Couldn't open file\n");
         return 0;
     }
-    if (!avi.read_header()) {
+    AviTree tree;
+    if (!tree.read(file.handle())) {
         return 0;
     }
-    if (const _avi_item_t* const list = avi.info_list()) {
+    if (const _avi_item_t* const list = tree.info_list()) {
         info->flags |= file_info_flag::tag_present;
         avi_list_items(list);
         load_fields(list, info);

@@ -1,42 +1,47 @@
 #include "remove_file_info.h"
 
+#include "../byte_file.h"
 #include "../trace.h"
-#include "avi_file.h"
+#include "../write_cursor.h"
+#include "tree.h"
 
+#include <cerrno>
 #include <fcntl.h>
-#include <unistd.h>
 
 namespace velmora {
 
 namespace {
 
-bool remove_tags(AviFile* avi) {
-    const _avi_item_t* const list = avi->info_list();
+bool remove_tags(FIOFUNCSTRUCT* file, AviTree* tree) {
+    const _avi_item_t* const list = tree->info_list();
     if (!list) {
         return true;
     }
-    if (avi->is_last(list)) {
+    if (tree->is_last(list)) {
         DebugInfo("Writing <EOF> at 0x%x\n", static_cast<unsigned>(list->offset));
-        fio_lseek(&avi->file, static_cast<std::int64_t>(list->offset), SEEK_SET);
-        avi->end_here();
-    } else if (!avi->write_junk_over_info_list()) {
+        if (WriteCursor(file, list->offset).settle()) {
+            mark_end(file);
+        }
+    } else if (!tree->write_junk_over_info_list(file)) {
         DebugError("avi_remove_file_info: Error writing <junk> tag\n");
         return false;
     }
-    avi_remove_item(&avi->root, avi->info_list());
-    return avi->write_riff_header();
+    avi_remove_item(&tree->root, tree->info_list());
+    return tree->write_riff_header(file);
 }
 
 } // namespace
 
 int avi_remove_file_info(const char* path) {
-    AviFile avi;
-    if (!avi.open(path, O_RDWR)) {
+    errno = 0;
+    ByteFile file;
+    if (!file.open(path, O_RDWR)) {
         // Removing is a store of nothing, and reports as one.
         DebugError("avi_store_file_info: Couldn't open file\n");
         return 0;
     }
-    return avi.read_header_for_writing() && remove_tags(&avi) && avi.close() ? 1 : 0;
+    AviTree tree;
+    return tree.read_for_writing(file.handle()) && remove_tags(file.handle(), &tree) && file.close() ? 1 : 0;
 }
 
 } // namespace velmora

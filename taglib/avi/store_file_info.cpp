@@ -1,10 +1,12 @@
 #include "store_file_info.h"
 
+#include "../byte_file.h"
 #include "../trace.h"
-#include "avi_file.h"
+#include "../write_cursor.h"
 #include "item_data.h"
 #include "picture.h"
 #include "tag_fields.h"
+#include "tree.h"
 
 #include <array>
 #include <cerrno>
@@ -18,15 +20,15 @@ namespace velmora {
 namespace {
 
 /** The INFO list, made at the end of the RIFF chunk when there is none; null when memory runs out. */
-_avi_item_t* find_or_append_info_list(AviFile* avi) {
-    if (_avi_item_t* const list = avi->info_list()) {
+_avi_item_t* find_or_append_info_list(AviTree* tree) {
+    if (_avi_item_t* const list = tree->info_list()) {
         return list;
     }
     _avi_item_t list{};
     list.fourcc = fourcc::list;
     list.list_type = fourcc::info;
-    list.offset = avi->end_of_riff();
-    return avi_insert_item(&avi->root, &list, static_cast<std::uint32_t>(-1));
+    list.offset = tree->end_of_riff();
+    return avi_insert_item(&tree->root, &list, static_cast<std::uint32_t>(-1));
 }
 
 /** False when memory runs out. */
@@ -71,16 +73,8 @@ bool apply_fields(_avi_item_t* list, _file_info_t* info) {
     return applied;
 }
 
-/** Writes the INFO list, measured anew, at its offset. */
-bool write_info_list(AviFile* avi, _avi_item_t* list) {
-    list->size = static_cast<std::uint32_t>(avi_sizeof_item(list));
-    DebugInfo("Writing <info> at 0x%x size 0x%x\n", static_cast<unsigned>(list->offset), list->size);
-    const auto offset = static_cast<std::int64_t>(list->offset);
-    return fio_lseek(&avi->file, offset, SEEK_SET) == offset && avi_store_item(&avi->file, list);
-}
-
-bool store_tags(AviFile* avi, _file_info_t* info) {
-    _avi_item_t* list = find_or_append_info_list(avi);
+bool store_tags(FIOFUNCSTRUCT* file, AviTree* tree, _file_info_t* info) {
+    _avi_item_t* list = find_or_append_info_list(tree);
     if (!list || !apply_fields(list, info)) {
         return false;
     }
@@ -89,31 +83,34 @@ bool store_tags(AviFile* avi, _file_info_t* info) {
         errno = EFBIG;
         return false;
     }
-    if (!avi->is_last(list)) {
-        if (!avi->write_junk_over_info_list()) {
+    if (!tree->is_last(list)) {
+        if (!tree->write_junk_over_info_list(file)) {
             DebugError("avi_store_file_info: Error writing <junk> tag\n");
             return false;
         }
-        list = avi->info_list(); // the insert moved it
-        list->offset = avi->end_of_riff();
+        list = tree->info_list(); // the insert moved it
+        list->offset = tree->end_of_riff();
     }
-    if (!write_info_list(avi, list)) {
+    if (!AviTree::write_info_list(file, list)) {
         DebugError("avi_store_file_info: Error writing <info> tag\n");
         return false;
     }
-    avi->end_here();
-    return avi->write_riff_header();
+    mark_end(file);
+    return tree->write_riff_header(file);
 }
 
 } // namespace
 
 int avi_store_file_info(const char* path, _file_info_t* info) {
-    AviFile avi;
-    if (!avi.open(path, O_RDWR)) {
+    errno = 0;
+    ByteFile file;
+    if (!file.open(path, O_RDWR)) {
         DebugError("avi_store_file_info: Couldn't open file\n");
         return 0;
     }
-    return avi.read_header_for_writing() && store_tags(&avi, info) && avi.close() ? 1 : 0;
+    AviTree tree;
+    return tree.read_for_writing(file.handle()) && store_tags(file.handle(), &tree, info) && file.close() ? 1
+                                                                                                          : 0;
 }
 
 } // namespace velmora

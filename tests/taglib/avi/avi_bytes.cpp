@@ -59,6 +59,13 @@ std::string avi_with_info_last() {
     return riff(124, hdrl() + movi() + idx1() + old_info());
 }
 
+std::string avi_film_with_info_last() {
+    return riff(113586, list(4460, "hdrl", std::string(4456, 'h')) + chunk("JUNK", 26, std::string(26, 'j')) +
+                            chunk("JUNK", 1016, std::string(1016, 'j')) +
+                            list(100004, "movi", std::string(100000, 'f')) +
+                            chunk("idx1", 8000, std::string(8000, 'i')) + old_info());
+}
+
 std::string log_of_avi_without_info() {
     return "now have 1 RIFF headers\n"
            "[0000000c] <list> type hdrl size 0x14\n"

@@ -39,6 +39,10 @@ namespace velmora::test {
 /** 132 bytes: hdrl at 12, movi at 40, idx1 at 72, INFO at 96. */
 [[nodiscard]] std::string avi_with_info_last();
 
+/** 113,594 bytes with the chunks and sizes of an encoder's file: hdrl at 12, JUNK at 4480 and 4514, movi at
+    5538, idx1 at 105550, INFO (old_info) at 113558. */
+[[nodiscard]] std::string avi_film_with_info_last();
+
 /** What reading the header of the three files logs. */
 [[nodiscard]] std::string log_of_avi_without_info();
 [[nodiscard]] std::string log_of_avi_with_info_before_movi();

@@ -75,7 +75,7 @@ protected:
 };
 
 TEST_F(AviBigFile, AStoreCostsTheSameInAFileOf4GiBAsInASmallOne) {
-    make(0, hdrl() + old_info(), 1004, idx1());
+    make(0, hdrl() + old_info(), 100004, idx1());
     const Cost small = store("New");
     // 12 + 28 + 36 + 8 + size + 24: exactly 4 GiB long.
     make(0, hdrl() + old_info(), 0xFFFFFF94, idx1());

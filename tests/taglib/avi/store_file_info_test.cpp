@@ -5,6 +5,7 @@
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
+#include "support/system_call_faults.h"
 #include "taglib/avi/remove_file_info.h"
 
 #include <gtest/gtest.h>
@@ -374,6 +375,22 @@ TEST_F(AviStore, WithoutFlagsAListThatIsNotLastStillMoves) {
     expect_file(riff(
         136, hdrl() + chunk("JUNK", 28, "INFO" + chunk("INAM", 4, z("Old")) + chunk("ISTR", 4, z("Ann"))) +
                  movi() + old_info()));
+}
+
+// Cost
+
+TEST_F(AviStore, ATitleInAFilmAsEncodersWriteItTakesSixteenCalls) {
+    write_file(path_, avi_film_with_info_last());
+    set_title("New");
+    {
+        const StreamCapture log;
+        const SystemCallFaults watch;
+        EXPECT_EQ(1, avi_store_file_info(path_.c_str(), &info_));
+        EXPECT_EQ(16, watch.count());
+        // The list, nothing where a format that shrinks would be cut, and the RIFF header.
+        EXPECT_EQ(3, watch.count(SystemCall::write));
+    }
+    EXPECT_EQ("New", loaded_title(path_));
 }
 
 // Failures

@@ -1,31 +1,30 @@
-#include "avi_file.h"
+#include "tree.h"
 
 #include "../trace.h"
+#include "../write_cursor.h"
 #include "header_reader.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <limits>
-#include <unistd.h>
 
 namespace velmora {
 
-AviFile::~AviFile() {
-    const int error = errno;
+namespace {
+
+bool write_at(FIOFUNCSTRUCT* file, std::uint64_t position, const _avi_item_t& item) {
+    WriteCursor cursor(file, position);
+    return cursor.settle() && avi_store_item(&cursor, &item);
+}
+
+} // namespace
+
+AviTree::~AviTree() {
     avi_free_header(&root);
-    if (file.descriptor >= 0) {
-        fio_close(&file);
-    }
-    errno = error;
 }
 
-bool AviFile::open(const char* path, int flags) {
-    errno = 0;
-    return fio_open(path, flags, 0, &file) == 0;
-}
-
-bool AviFile::read_header() {
-    if (avi_read_header(&file, &root)) {
+bool AviTree::read(FIOFUNCSTRUCT* file) {
+    if (avi_read_header(file, &root)) {
         return true;
     }
     if (errno != avi_error_several_riffs) {
@@ -34,8 +33,8 @@ bool AviFile::read_header() {
     return false;
 }
 
-bool AviFile::read_header_for_writing() {
-    if (!read_header()) {
+bool AviTree::read_for_writing(FIOFUNCSTRUCT* file) {
+    if (!read(file)) {
         return false;
     }
     const _avi_item_t* const info = info_list();
@@ -46,15 +45,15 @@ bool AviFile::read_header_for_writing() {
     return true;
 }
 
-_avi_item_t* AviFile::info_list() const {
+_avi_item_t* AviTree::info_list() const {
     return avi_find_list_item(&root, fourcc::info);
 }
 
-bool AviFile::is_last(const _avi_item_t* item) const {
+bool AviTree::is_last(const _avi_item_t* item) const {
     return avi_get_item_index(&root, item) == root.child_count - 1;
 }
 
-std::uint64_t AviFile::end_of_riff() const {
+std::uint64_t AviTree::end_of_riff() const {
     // Not from the root's size, whose 32 bits do not reach the end of a file beyond 4 GiB.
     std::uint64_t end = 12;
     if (root.child_count > 0) {
@@ -64,7 +63,7 @@ std::uint64_t AviFile::end_of_riff() const {
     return end + (end & 1);
 }
 
-bool AviFile::write_junk_over_info_list() {
+bool AviTree::write_junk_over_info_list(FIOFUNCSTRUCT* file) {
     const _avi_item_t* const info = info_list();
     _avi_item_t junk{};
     junk.fourcc = fourcc::junk;
@@ -75,27 +74,22 @@ bool AviFile::write_junk_over_info_list() {
         return false;
     }
     DebugInfo("Writing <junk> at 0x%x size 0x%x\n", static_cast<unsigned>(junk.offset), junk.size);
-    const auto offset = static_cast<std::int64_t>(junk.offset);
-    return fio_lseek(&file, offset, SEEK_SET) == offset && avi_store_item(&file, &junk);
+    return write_at(file, junk.offset, junk);
 }
 
-bool AviFile::write_riff_header() {
+bool AviTree::write_info_list(FIOFUNCSTRUCT* file, _avi_item_t* list) {
+    list->size = static_cast<std::uint32_t>(avi_sizeof_item(list));
+    DebugInfo("Writing <info> at 0x%x size 0x%x\n", static_cast<unsigned>(list->offset), list->size);
+    return write_at(file, list->offset, *list);
+}
+
+bool AviTree::write_riff_header(FIOFUNCSTRUCT* file) {
     constexpr std::uint64_t largest = std::numeric_limits<std::uint32_t>::max();
     root.size = static_cast<std::uint32_t>(std::min(avi_sizeof_item(&root), largest));
     _avi_item_t header{};
     header.fourcc = root.fourcc;
     header.size = root.size;
-    return fio_lseek(&file, 0, SEEK_SET) == 0 && avi_store_item(&file, &header);
-}
-
-void AviFile::end_here() {
-    [[maybe_unused]] const ssize_t nothing_to_lose = fio_write(&file, "", 0);
-}
-
-bool AviFile::close() {
-    const bool closed = fio_close(&file) == 0;
-    file.descriptor = -1;
-    return closed;
+    return write_at(file, 0, header);
 }
 
 } // namespace velmora
