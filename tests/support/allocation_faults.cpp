@@ -78,7 +78,7 @@ void* allocate(std::size_t size) noexcept {
 
 } // namespace
 
-// The array and sized forms lead to these.
+// Every form for itself: the sanitizers' own array forms do not lead to the plain ones.
 void* operator new(std::size_t size) {
     void* const memory = allocate(size);
     if (!memory) {
@@ -87,11 +87,27 @@ void* operator new(std::size_t size) {
     return memory;
 }
 
+void* operator new[](std::size_t size) {
+    return ::operator new(size);
+}
+
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     return allocate(size);
 }
 
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+    return allocate(size);
+}
+
 void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+
+void operator delete[](void* memory) noexcept {
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t) noexcept {
     std::free(memory);
 }
 
