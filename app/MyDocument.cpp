@@ -2,6 +2,7 @@
 
 #include "browser/VelmoraController.h"
 #include "platform/alert.h"
+#include "platform/file_attributes.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
@@ -9,16 +10,9 @@
 #include "ui_MyDocument.h"
 #include "weblookup/TagWebBrowser.h"
 
-#include <sys/stat.h>
-
 namespace velmora {
 
 namespace {
-
-bool fileExists(const QString& path) {
-    struct stat status {};
-    return ::stat(pathBytes(path).constData(), &status) == 0;
-}
 
 /** Fills ERROR, if there is one to fill, and returns false. */
 bool failToOpen(const QUrl& url, const QString& suggestion, Error* error) {
@@ -71,19 +65,21 @@ bool MyDocument::readFromURL(const std::optional<QUrl>& url, const QString& /*ty
         mediaFile_.reset();
         return true;
     }
-    if (!url->isLocalFile()) {
-        return failToOpen(*url, localised("Velmora can only open local files."), error);
+    const QString obstacle = openFile(*url);
+    return obstacle.isEmpty() || failToOpen(*url, obstacle, error);
+}
+
+QString MyDocument::openFile(const QUrl& url) {
+    if (!url.isLocalFile()) {
+        return localised("Velmora can only open local files.");
     }
-    const QString path = pathFromFileUrl(*url);
-    if (!fileExists(path)) {
-        return failToOpen(*url, localised("The file does not exist."), error);
+    const QString path = pathFromFileUrl(url);
+    if (!fileExists(pathBytes(path))) {
+        return localised("The file does not exist.");
     }
     mediaFile_ = MediaFile::initWithFile(path);
-    if (!mediaFile_) {
-        return failToOpen(*url, localised("Please ensure the file is readable and is a valid media file."),
-                          error);
-    }
-    return true;
+    return mediaFile_ ? QString()
+                      : localised("Please ensure the file is readable and is a valid media file.");
 }
 
 bool MyDocument::saveMediaFile(Error* error) {

@@ -72,6 +72,9 @@ public:
     [[nodiscard]] TagWebBrowser* webBrowser() const { return webBrowser_; }
 
 private:
+    /** Puts the file at URL into the place of the open one. Empty when it is open, else the user's words for what
+       stands in the way; the file that was open is gone then if there is one at URL that can't be read. */
+    [[nodiscard]] QString openFile(const QUrl& url);
     void makeForms();
     void connectCommands();
     void makeRoomForWebPage();

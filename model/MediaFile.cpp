@@ -1,32 +1,22 @@
 #include "MediaFile.h"
 
+#include "detail/record_slots.h"
 #include "detail/tag_module.h"
 #include "detail/text_decoding.h"
 #include "media_type.h"
 
+#include "platform/file_attributes.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
 #include "taglib/file_info.h"
 
 #include <array>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <iterator>
 
 namespace velmora {
 
 namespace {
-
-/** Whether there is a pipe or a device: opening or reading one may wait for ever. */
-bool isPipeOrDevice(const QString& path) {
-    struct stat status {};
-    return ::stat(pathBytes(path).constData(), &status) == 0 && !S_ISREG(status.st_mode) &&
-           !S_ISDIR(status.st_mode);
-}
-
-bool isReadableFile(const QString& path) {
-    return ::access(pathBytes(path).constData(), R_OK) == 0 && !isPipeOrDevice(path);
-}
 
 QString decodedSlot(const char* text) {
     return text ? decodeTagText(QByteArrayView(text)) : QString();
@@ -41,14 +31,8 @@ class StoreRecord {
 public:
     explicit StoreRecord(const MediaFile& file) : coverArt_(file.coverArt()) {
         const QVariantMap& values = file.metadata();
-        const bool isVideo = file.mediaType() == videoMedia;
-        borrow(info_.title, file_info_flag::title, values, isVideo ? "title" : "album");
-        borrow(info_.artist, file_info_flag::artist, values, isVideo ? "cast" : "artist");
-        borrow(info_.desc, file_info_flag::desc, values, isVideo ? "synopsis" : "title");
-        borrow(info_.genre, file_info_flag::genre, values, "genre");
-        if (isVideo) {
-            borrow(info_.director, file_info_flag::director, values, "director");
-            borrow(info_.rating, file_info_flag::rating, values, "rating");
+        for (const RecordSlot& slot : slotsOf(file.mediaType())) {
+            borrow(slot, values.value(QLatin1String(slot.key)));
         }
         info_.year = file.year();
         info_.picture = coverArt_.get();
@@ -61,18 +45,17 @@ public:
     [[nodiscard]] _file_info_t& info() { return info_; }
 
 private:
-    void borrow(char*& slot, std::uint32_t flag, const QVariantMap& values, const char* key) {
-        const QVariant value = values.value(QLatin1String(key));
+    void borrow(const RecordSlot& slot, const QVariant& value) {
         if (!value.isValid()) {
             return;
         }
         QByteArray& bytes = texts_[textCount_++];
         bytes = value.toString().toUtf8();
-        slot = bytes.data();
-        info_.flags |= bytes.isEmpty() ? 0 : flag;
+        info_.*slot.text = bytes.data();
+        info_.flags |= bytes.isEmpty() ? 0 : slot.flag;
     }
 
-    std::array<QByteArray, 6> texts_;
+    std::array<QByteArray, std::size(filmSlots)> texts_;
     std::size_t textCount_ = 0;
     ImageRef coverArt_;
     _file_info_t info_{};
@@ -94,31 +77,28 @@ Error unableToWrite(const QString& path) {
 } // namespace
 
 std::unique_ptr<MediaFile> MediaFile::initWithFile(const QString& path) {
-    if (!isReadableFile(path)) {
+    if (!isReadableFile(pathBytes(path))) {
         return nullptr;
     }
+    const MediaKind kind = mediaKindOfPath(path);
     std::unique_ptr<MediaFile> file(new MediaFile);
-    file->filename_ = taggedFileOfPath(path);
-    file->mediaType_ = mediaTypeOfPath(path);
+    file->filename_ = kind.taggedFile;
+    file->mediaType_ = kind.type;
 
     _file_info_t info{};
-    if (isPipeOrDevice(file->filename_) ||
-        !tagModuleOfPath(path).load(pathBytes(file->filename_).constData(), &info)) {
+    const QByteArray tagged = pathBytes(kind.taggedFile);
+    if (isPipeOrDevice(tagged) || !tagModuleOfExtension(kind.extension).load(tagged.constData(), &info)) {
         appLog(QStringLiteral("failed to load metadata for file ") + file->filename_);
     }
     appLog(QStringLiteral("file info: title='") + shown(info.title) + QStringLiteral("', artist='") +
            shown(info.artist) + QStringLiteral("', desc='") + shown(info.desc) + QStringLiteral("'\n"));
 
-    const bool isVideo = file->mediaType_ == videoMedia;
-    const QString none = QLatin1String("");
-    file->setTitle(decodedSlot(isVideo ? info.title : info.desc));
-    file->setAlbum(isVideo ? none : decodedSlot(info.title));
-    file->setArtist(isVideo ? none : decodedSlot(info.artist));
-    file->setCast(isVideo ? decodedSlot(info.artist) : none);
-    file->setSynopsis(isVideo ? decodedSlot(info.desc) : none);
-    file->setDirector(isVideo ? decodedSlot(info.director) : none);
-    file->setRating(isVideo ? decodedSlot(info.rating) : none);
-    file->setGenre(decodedSlot(info.genre));
+    for (const RecordSlot& slot : slotsOf(kind.type == videoMedia ? audioMedia : videoMedia)) {
+        file->metadata_[QLatin1String(slot.key)] = QLatin1String(""); // the texts of the other kind
+    }
+    for (const RecordSlot& slot : slotsOf(kind.type)) {
+        file->metadata_[QLatin1String(slot.key)] = decodedSlot(info.*slot.text);
+    }
     file->setYear(info.year);
     if (info.picture) {
         file->setCoverArt(ImageRef::share(info.picture));
@@ -141,8 +121,9 @@ bool MediaFile::saveMetadata(Error* error) const {
            QStringLiteral("\n  director=") + shown(info.director) + QStringLiteral("\n rating=") +
            shown(info.rating) + QStringLiteral("\n  year=") + QString::number(info.year) + QLatin1Char('\n'));
     appLog(QStringLiteral("saving tag to file ") + filename_);
-    if (!isPipeOrDevice(filename_) &&
-        tagModuleOfPath(filename_).store(pathBytes(filename_).constData(), &record.info())) {
+    const QByteArray path = pathBytes(filename_);
+    if (!isPipeOrDevice(path) &&
+        tagModuleOfExtension(pathExtension(filename_)).store(path.constData(), &record.info())) {
         return true;
     }
     appLog(QStringLiteral("failed to write tag\n"));

@@ -21,10 +21,7 @@ bool isOneOf(const QString& extension, std::span<const char* const> list) {
     });
 }
 
-} // namespace
-
-MediaType mediaTypeOfPath(const QString& path) {
-    const QString extension = pathExtension(path);
+MediaType typeOfExtension(const QString& extension) {
     if (isOneOf(extension, videoExtensions)) {
         return videoMedia;
     }
@@ -34,11 +31,16 @@ MediaType mediaTypeOfPath(const QString& path) {
     return isOneOf(extension, imageExtensions) ? imageMedia : otherMedia;
 }
 
-QString taggedFileOfPath(const QString& path) {
+} // namespace
+
+MediaKind mediaKindOfPath(const QString& path) {
+    const QString extension = pathExtension(path);
     const bool isDvdFolder =
         lastPathComponent(path).compare(QLatin1String("video_ts.ifo"), Qt::CaseInsensitive) == 0;
-    const bool isDiscImage = pathExtension(path).compare(QLatin1String("iso"), Qt::CaseInsensitive) == 0;
-    return isDvdFolder || isDiscImage ? pathWithoutExtension(path) + QLatin1String(".TAG") : path;
+    const bool isDiscImage = extension.compare(QLatin1String("iso"), Qt::CaseInsensitive) == 0;
+    const bool hasSideFile = isDvdFolder || isDiscImage;
+    return {typeOfExtension(extension), extension,
+            hasSideFile ? pathWithoutExtension(path) + QLatin1String(".TAG") : path};
 }
 
 } // namespace velmora

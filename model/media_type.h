@@ -7,11 +7,16 @@ namespace velmora {
 /** Kinds of media; the numbers are part of the program's interfaces. */
 enum MediaType : int { imageMedia = 0, audioMedia = 1, videoMedia = 2, otherMedia = 3 };
 
-/** The media type of a file, told by its extension without regard to case. */
-[[nodiscard]] MediaType mediaTypeOfPath(const QString& path);
+/** What a file's path says of it. */
+struct MediaKind {
+    MediaType type = otherMedia;
+    QString extension; ///< as it stands in the path, without its dot
+    /** The path of the file that carries the tag: for a DVD folder (video_ts.ifo) or a disc image (iso) the side
+       file with the extension TAG, otherwise the path itself. */
+    QString taggedFile;
+};
 
-/** The file that carries PATH's tag: for a DVD folder (video_ts.ifo) or a disc image (iso) the side file with
-   the extension TAG, otherwise PATH itself. */
-[[nodiscard]] QString taggedFileOfPath(const QString& path);
+/** The kind of the file at PATH, told by its name without regard to case; the file is not looked at. */
+[[nodiscard]] MediaKind mediaKindOfPath(const QString& path);
 
 } // namespace velmora

@@ -1,6 +1,5 @@
 #include "tag_module.h"
 
-#include "platform/file_path.h"
 #include "taglib/asf/load_file_info.h"
 #include "taglib/asf/store_file_info.h"
 #include "taglib/avi/load_file_info.h"
@@ -31,8 +30,7 @@ constexpr std::array moduleTable = {
 
 } // namespace
 
-const TagModule& tagModuleOfPath(const QString& path) {
-    const QString extension = pathExtension(path);
+const TagModule& tagModuleOfExtension(const QString& extension) {
     const auto* row = std::find_if(moduleTable.begin(), moduleTable.end(), [&](const ModuleRow& candidate) {
         return extension.compare(QLatin1String(candidate.extension), Qt::CaseInsensitive) == 0;
     });

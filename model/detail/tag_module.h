@@ -13,8 +13,7 @@ struct TagModule {
     int (*store)(const char* path, _file_info_t* info);
 };
 
-/** The tag module for a file, told by its extension without regard to case; ID3 for all that have no other.
- */
-[[nodiscard]] const TagModule& tagModuleOfPath(const QString& path);
+/** The tag module for files with EXTENSION (without its dot), whatever its case; ID3 for all that have no other. */
+[[nodiscard]] const TagModule& tagModuleOfExtension(const QString& extension);
 
 } // namespace velmora

@@ -9,8 +9,8 @@ namespace {
 
 void expectType(MediaType type, const QStringList& extensions) {
     for (const QString& extension : extensions) {
-        EXPECT_EQ(type, mediaTypeOfPath("/a/x." + extension)) << extension.toStdString();
-        EXPECT_EQ(type, mediaTypeOfPath("/a/x." + extension.toUpper())) << extension.toStdString();
+        EXPECT_EQ(type, mediaKindOfPath("/a/x." + extension).type) << extension.toStdString();
+        EXPECT_EQ(type, mediaKindOfPath("/a/x." + extension.toUpper()).type) << extension.toStdString();
     }
 }
 
@@ -36,23 +36,23 @@ TEST(MediaType, ImageExtensions) {
 
 TEST(MediaType, EverythingElseIsOtherAsfIncluded) {
     expectType(otherMedia, {"asf", "vlv", "mkv", "mp", "mp33", "TAG"});
-    EXPECT_EQ(otherMedia, mediaTypeOfPath("/a/mp3"));
-    EXPECT_EQ(otherMedia, mediaTypeOfPath("/a.mp3/x"));
+    EXPECT_EQ(otherMedia, mediaKindOfPath("/a/mp3").type);
+    EXPECT_EQ(otherMedia, mediaKindOfPath("/a.mp3/x").type);
 }
 
 TEST(TaggedFile, DvdFolderHasASideFileWhateverItsCase) {
-    EXPECT_EQ("/dvd/VIDEO_TS/VIDEO_TS.TAG", taggedFileOfPath("/dvd/VIDEO_TS/VIDEO_TS.IFO"));
-    EXPECT_EQ("/dvd/video_ts.TAG", taggedFileOfPath("/dvd/video_ts.ifo"));
+    EXPECT_EQ("/dvd/VIDEO_TS/VIDEO_TS.TAG", mediaKindOfPath("/dvd/VIDEO_TS/VIDEO_TS.IFO").taggedFile);
+    EXPECT_EQ("/dvd/video_ts.TAG", mediaKindOfPath("/dvd/video_ts.ifo").taggedFile);
 }
 
 TEST(TaggedFile, DiscImageHasASideFile) {
-    EXPECT_EQ("/a/movie.TAG", taggedFileOfPath("/a/movie.iso"));
-    EXPECT_EQ("/a/movie.TAG", taggedFileOfPath("/a/movie.ISO"));
+    EXPECT_EQ("/a/movie.TAG", mediaKindOfPath("/a/movie.iso").taggedFile);
+    EXPECT_EQ("/a/movie.TAG", mediaKindOfPath("/a/movie.ISO").taggedFile);
 }
 
 TEST(TaggedFile, EveryOtherFileCarriesItsOwnTag) {
     for (const char* path : {"/a/VTS_01_0.IFO", "/a/iso", "/a/x.mp3", "/a/x.video_ts.ifo", "/a.iso/x"}) {
-        EXPECT_EQ(path, taggedFileOfPath(path)) << path;
+        EXPECT_EQ(path, mediaKindOfPath(path).taggedFile) << path;
     }
 }
 
