@@ -47,12 +47,8 @@ void readAll(benchmark::State& state, const std::vector<std::string>& files, Tra
     }
 }
 
-void addRead(const std::string& work, const fs::path& folder, const ReadOne& ours, const ReadOne& theirs) {
-    std::vector<std::string> files;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-        files.push_back(entry.path().string());
-    }
-    std::sort(files.begin(), files.end());
+void addRead(const std::string& work, const std::vector<std::string>& files, const ReadOne& ours,
+             const ReadOne& theirs) {
     const auto add = [&](const char* who, TraceSink sink, const ReadOne& read) {
         benchmark::RegisterBenchmark((work + who).c_str(),
                                      [=](benchmark::State& state) { readAll(state, files, sink, read); });
@@ -60,6 +56,33 @@ void addRead(const std::string& work, const fs::path& folder, const ReadOne& our
     add(velmora, TraceSink::nowhere, ours);
     add(closed, TraceSink::closed, ours);
     add(yardstick, TraceSink::nowhere, theirs);
+}
+
+std::vector<std::string> filesOf(const fs::path& folder) {
+    std::vector<std::string> files;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+        files.push_back(entry.path().string());
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+/** Of songs every other one has a cover, from the second on. */
+std::vector<std::string> withoutCovers(const std::vector<std::string>& songs) {
+    std::vector<std::string> files;
+    for (std::size_t i = 0; i < songs.size(); i += 2) {
+        files.push_back(songs[i]);
+    }
+    return files;
+}
+
+/** All songs of FOLDER, and by themselves those without a cover: whether that is a picture is found out by
+    decoding it, which is no matter of tags. */
+void addReadOfSongs(const std::string& work, const fs::path& folder, const ReadOne& ours,
+                    const ReadOne& theirs) {
+    const std::vector<std::string> songs = filesOf(folder);
+    addRead(work, songs, ours, theirs);
+    addRead(work + " without covers", withoutCovers(songs), ours, theirs);
 }
 
 /** Two titles to take turns. */
@@ -217,10 +240,11 @@ ReadOne peerReads(peer::Tags (*read)(const char*)) {
 }
 
 void addAll(const fs::path& folder) {
-    addRead("read leading", folder / "leading", reads(Format::id3), peerReads(peer::readLeadingId3));
-    addRead("read appended", folder / "appended", reads(Format::id3), peerReads(peer::readAppendedId3));
-    addRead("read asf", folder / "asf", reads(Format::asf), peerReads(peer::readAsf));
-    addRead("read avi", folder / "avi", reads(Format::avi), peerReads(peer::readAvi));
+    addReadOfSongs("read leading", folder / "leading", reads(Format::id3), peerReads(peer::readLeadingId3));
+    addReadOfSongs("read appended", folder / "appended", reads(Format::id3),
+                   peerReads(peer::readAppendedId3));
+    addReadOfSongs("read asf", folder / "asf", reads(Format::asf), peerReads(peer::readAsf));
+    addRead("read avi", filesOf(folder / "avi"), reads(Format::avi), peerReads(peer::readAvi));
     // Titles that keep the length of the tag, and so its place at the end of the song.
     constexpr Titles asLong{"Down to the old harbours.", "Up to the house of a boy."};
     constexpr Titles longer{"A walk", "A walk along the river in the evening"};

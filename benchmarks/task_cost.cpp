@@ -1,5 +1,6 @@
 /** What one task costs beside time, in a process of its own.
-    task_cost calls FILE: the system calls of a read of FILE's tag, writes to standard error not counted.
+    task_cost calls read FILE | calls store FILE: the system calls of a read of FILE's tag, or of a store of a
+   title into it, writes to standard error not counted.
     task_cost memory bare | memory read FILE | memory move FILE: the peak of the process's memory in KiB. A
    move shifts everything behind the first 5000 bytes by 1 KiB, up and back.
 
@@ -31,15 +32,21 @@ void mark() {
     ::syscall(SYS_getppid);
 }
 
-[[noreturn]] void runTraced(const char* path) {
+bool run(std::string_view task, const char* path, const char* title) {
     const tasks::Format format = tasks::formatOf(path);
-    // Once before: what the process makes for itself on the first use is not the read's.
-    const bool warm = sendTracesTo(TraceSink::nowhere) && tasks::read(format, path);
+    return task == "store" ? tasks::storeTitle(format, path, title) : tasks::read(format, path);
+}
+
+[[noreturn]] void runTraced(std::string_view task, const char* path) {
+    // Once before: what the process makes for itself on the first use is not the task's. The titles are those
+    // of the store that is timed.
+    const bool warm =
+        sendTracesTo(TraceSink::nowhere) && run(task, path, "A walk along the river in the evening");
     if (!warm || ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0 || ::raise(SIGSTOP) != 0) {
         ::_exit(1);
     }
     mark();
-    const bool good = tasks::read(format, path);
+    const bool good = run(task, path, "A walk");
     mark();
     ::_exit(good ? 0 : 1);
 }
@@ -50,10 +57,10 @@ bool goOn(pid_t child, int& status) {
            WIFSTOPPED(status);
 }
 
-int countCalls(const char* path) {
+int countCalls(std::string_view task, const char* path) {
     const pid_t child = ::fork();
     if (child == 0) {
-        runTraced(path);
+        runTraced(task, path);
     }
     int status = 0;
     if (child < 0 || ::waitpid(child, &status, 0) != child || !WIFSTOPPED(status) ||
@@ -75,7 +82,7 @@ int countCalls(const char* path) {
         }
     }
     if (!WIFEXITED(status) || WEXITSTATUS(status) != 0 || marks != 2) {
-        fail("the read");
+        fail("the task");
     }
     return calls;
 }
@@ -109,12 +116,12 @@ long memoryOf(std::string_view task, const char* path) {
 
 int main(int argc, char** argv) {
     const std::string_view what = argc > 1 ? argv[1] : "";
-    if (what == "calls" && argc == 3) {
-        std::printf("%d\n", countCalls(argv[2]));
+    if (what == "calls" && argc == 4) {
+        std::printf("%d\n", countCalls(argv[2], argv[3]));
     } else if (what == "memory" && argc >= 3) {
         std::printf("%ld\n", memoryOf(argv[2], argc > 3 ? argv[3] : nullptr));
     } else {
-        std::fputs("usage: task_cost calls FILE | memory bare | memory read|move FILE\n", stderr);
+        std::fputs("usage: task_cost calls read|store FILE | memory bare | memory read|move FILE\n", stderr);
         return 2;
     }
     return 0;
