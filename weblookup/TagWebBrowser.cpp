@@ -1,16 +1,42 @@
 #include "TagWebBrowser.h"
 
 #include "FormFill.h"
+#include "platform/localisation.h"
 #include "platform/log.h"
 #include "platform/web/image_fetch.h"
 #include "ui_TagWebBrowser.h"
 
 #include <QPointer>
+#include <QTimer>
+
+#include <ctime>
 
 namespace velmora {
 
+namespace {
+
+/** A cover that comes at once needs no word about it. */
+constexpr std::chrono::milliseconds waitWithoutAWord{500};
+
+/** The processor time that this thread has used. */
+std::chrono::nanoseconds timeAtWork() {
+    std::timespec time{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+QString waitText(const QUrl& url) {
+    return url.host().isEmpty()
+               ? localised("Waiting for the cover …")
+               : localised("Waiting for the cover from %1 …").arg(url.host(QUrl::FullyEncoded));
+}
+
+} // namespace
+
 TagWebBrowser::TagWebBrowser(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::TagWebBrowser>()) {
     ui_->setupUi(this);
+    ui_->box_address->hide();
+    ui_->box_coverWait->hide();
     connectControls();
     awakeFromNib();
 }
@@ -23,6 +49,7 @@ void TagWebBrowser::connectControls() {
     connect(ui_->entry_search, &QLineEdit::returnPressed, this, &TagWebBrowser::search);
     connect(ui_->btn_formFill, &QPushButton::clicked, this, &TagWebBrowser::formFill);
     connect(ui_->btn_searchBack, &QPushButton::clicked, view, &WebView::goBack);
+    connect(view, &WebView::addressChanged, this, &TagWebBrowser::showAddress);
     connect(view, &WebView::didStartProvisionalLoad, this,
             &TagWebBrowser::webViewDidStartProvisionalLoadForFrame);
     connect(view, &WebView::didFinishLoad, this, &TagWebBrowser::webViewDidFinishLoadForFrame);
@@ -68,12 +95,39 @@ void TagWebBrowser::formFill() {
     }
 }
 
+/** The image at URL; no value when the panel or its window went away, or the program quits. */
+std::optional<QImage> TagWebBrowser::fetchCover(const QUrl& url) {
+    const QPointer<TagWebBrowser> self(this);
+    bool cancelled = false;
+    QTimer hesitation;
+    hesitation.setSingleShot(true);
+    connect(&hesitation, &QTimer::timeout, ui_->box_coverWait, &QWidget::show);
+    connect(ui_->btn_cancelCover, &QPushButton::clicked, &hesitation, [&cancelled] { cancelled = true; });
+    ui_->lbl_coverWait->setText(waitText(url));
+    hesitation.start(waitWithoutAWord);
+    const std::optional<QImage> image = fetchImage(url, ui_->webview_search, ui_->btn_cancelCover);
+    if (self) {
+        coversCancelled_ = cancelled;
+        ui_->box_coverWait->hide();
+    }
+    return image;
+}
+
 void TagWebBrowser::fillFromPage() {
     const QPointer<TagWebBrowser> self(this);
     const QPointer<WebView> view = ui_->webview_search;
     bool interrupted = false;
-    const auto fetch = [view, &interrupted](const QUrl& url) {
-        const std::optional<QImage> image = interrupted || !view ? std::nullopt : fetchImage(url, view);
+    coversCancelled_ = false;
+    const auto end = timeAtWork() + coverWorkLimit_;
+    const auto fetch = [this, self, &interrupted, end](const QUrl& url) {
+        if (interrupted || !self) {
+            interrupted = true;
+            return QImage();
+        }
+        if (coversCancelled_ || timeAtWork() >= end) {
+            return QImage();
+        }
+        const std::optional<QImage> image = fetchCover(url);
         interrupted = !image.has_value();
         return image.value_or(QImage());
     };
@@ -90,6 +144,11 @@ void TagWebBrowser::fillFromPage() {
     }
     appLog(QStringLiteral("got FormFillInfo struct\n"));
     emit formFillInfoReady(info);
+}
+
+void TagWebBrowser::showAddress(const QUrl& address) {
+    ui_->entry_address->setAddress(address);
+    ui_->box_address->setVisible(!address.isEmpty());
 }
 
 void TagWebBrowser::updateBackButton(const WebView* view) {

@@ -3,9 +3,13 @@
 #include "platform/web/web_view.h"
 #include "search_address.h"
 
+#include <QImage>
+#include <QUrl>
 #include <QWidget>
 
+#include <chrono>
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class TagWebBrowser;
@@ -34,13 +38,17 @@ public:
     /** Gives the keyboard to the search field. */
     void focusSearchField();
 
+    /** How long a form fill may work, waiting aside, before it asks for one more cover. */
+    void setCoverWorkLimit(std::chrono::milliseconds limit) { coverWorkLimit_ = limit; }
+
 public slots:
     /** Looks the search field's text up on the chosen site; an empty field looks nothing up. */
     void search();
 
     /** Reads the page in the view, as a page of the site that the popup shows now, and tells
        formFillInfoReady what it has. Blocks, handling events, until the page and its picture have arrived;
-       called again meanwhile, it does nothing. The panel and its window may go away during that time, and
+       called again meanwhile, it does nothing. While a picture is waited for, the panel says so, and its Cancel button
+       or Escape end the wait: the form is then filled without a cover. The panel and its window may go away during that time, and
        then nothing is told. */
     void formFill();
 
@@ -63,9 +71,14 @@ private:
     void updateBackButton(const WebView* view);
     void loadFailed();
     void fillFromPage();
+    [[nodiscard]] std::optional<QImage> fetchCover(const QUrl& url);
+    void showAddress(const QUrl& address);
 
     std::unique_ptr<Ui::TagWebBrowser> ui_;
     bool filling_ = false;
+    /** Whether the user wants no cover from this page. */
+    bool coversCancelled_ = false;
+    std::chrono::milliseconds coverWorkLimit_{15000};
 };
 
 } // namespace velmora

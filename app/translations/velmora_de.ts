@@ -288,6 +288,14 @@
         <translation>Die Browserkomponente ist nicht installiert.</translation>
     </message>
     <message>
+        <source>Waiting for the cover …</source>
+        <translation>Warten auf das Titelbild …</translation>
+    </message>
+    <message>
+        <source>Waiting for the cover from %1 …</source>
+        <translation>Warten auf das Titelbild von %1 …</translation>
+    </message>
+    <message>
         <source>Web pages are not shown when the program is run by the system administrator.</source>
         <translation>Webseiten werden nicht gezeigt, wenn der Systemverwalter das Programm ausführt.</translation>
     </message>
@@ -637,6 +645,30 @@
     <message>
         <source>Fill the form from the page shown</source>
         <translation>Das Formular aus der gezeigten Seite ausfüllen</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse:</translation>
+    </message>
+    <message>
+        <source>The address of the page shown</source>
+        <translation>Die Adresse der gezeigten Seite</translation>
+    </message>
+    <message>
+        <source>Address of the page</source>
+        <translation>Adresse der Seite</translation>
+    </message>
+    <message>
+        <source>What the form fill waits for</source>
+        <translation>Worauf das Ausfüllen des Formulars wartet</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Fill the form without the cover (Esc)</source>
+        <translation>Das Formular ohne das Titelbild ausfüllen (Esc)</translation>
     </message>
     <message>
         <source>The page</source>

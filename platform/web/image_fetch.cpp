@@ -4,6 +4,7 @@
 #include "platform/image.h"
 #include "platform/modal_loop.h"
 
+#include <QAbstractButton>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QNetworkAccessManager>
@@ -50,7 +51,7 @@ QNetworkRequest requestWithoutCache(const QUrl& url) {
 
 } // namespace
 
-std::optional<QImage> fetchImage(const QUrl& url, const QObject* context) {
+std::optional<QImage> fetchImage(const QUrl& url, const QObject* context, QAbstractButton* cancel) {
     if (!canFetch(url)) {
         return QImage();
     }
@@ -66,9 +67,12 @@ std::optional<QImage> fetchImage(const QUrl& url, const QObject* context) {
     QObject::connect(reply.get(), &QNetworkReply::finished, &wait, &QEventLoop::quit);
     QObject::connect(reply.get(), &QNetworkReply::downloadProgress, reply.get(), abortWhenTooLarge);
     QObject::connect(context, &QObject::destroyed, &wait, &QEventLoop::quit);
+    if (cancel) {
+        QObject::connect(cancel, &QAbstractButton::clicked, reply.get(), &QNetworkReply::abort);
+    }
     if (!reply->isFinished()) {
         const ModalLoop blocking;
-        const InputBlock noInput;
+        const InputBlock noInput(cancel);
         wait.exec();
     }
     if (!reply->isFinished()) {

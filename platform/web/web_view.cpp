@@ -112,6 +112,10 @@ void WebView::pageLost() {
     endDocumentWait();
 }
 
+void WebView::addressOfPageChanged(const QUrl& address) {
+    emit addressChanged(address);
+}
+
 void WebView::endDocumentWait() {
     if (documentWait_ != nullptr) {
         documentWait_->end(QString());

@@ -61,6 +61,8 @@ signals:
     void didStartProvisionalLoad(velmora::WebView* view, velmora::WebFrame* frame);
     void didFinishLoad(velmora::WebView* view, velmora::WebFrame* frame);
     void didFailLoad(velmora::WebView* view, velmora::WebFrame* frame);
+    /** The page that is shown has ADDRESS; a page that is only asked for has none yet. */
+    void addressChanged(const QUrl& address);
 
 private:
     class MainFrame;
@@ -71,6 +73,7 @@ private:
     void loadFinished(FrameKind kind) override;
     void loadFailed(FrameKind kind) override;
     void pageLost() override;
+    void addressOfPageChanged(const QUrl& address) override;
 
     [[nodiscard]] bool ensureEngine();
     [[nodiscard]] WebFrame* frameOf(FrameKind kind);

@@ -143,6 +143,15 @@ TEST_F(ImageFetch, KeepsAPersonsInputOutWhileItWaits) {
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(ImageFetch, FailsWhenItIsCancelled) {
+    server.serve("/never", Answer{.body = picture(7).left(20), .end = Answer::End::Never});
+    QPushButton cancel;
+    QTimer::singleShot(50, &cancel, &QPushButton::click);
+    const std::optional<QImage> image = fetchImage(server.url("/never"), &context, &cancel);
+    ASSERT_NE(image, std::nullopt);
+    EXPECT_TRUE(image->isNull());
+}
+
 TEST_F(ImageFetch, EndsWithoutAResultWhenTheContextGoesAway) {
     server.serve("/never", Answer{.end = Answer::End::Silent});
     auto* const window = new QWidget;

@@ -84,5 +84,46 @@ TEST_F(InputBlockTest, LetsAQuestionBeAnswered) {
     EXPECT_EQ(clicks, 0);
 }
 
+// The way out
+
+TEST_F(InputBlockTest, LetsTheWayOutBeClickedAndNothingElse) {
+    QPushButton wayOut("Out", &window);
+    layout.addWidget(&wayOut);
+    wayOut.show();
+    QCoreApplication::processEvents();
+    int ways = 0;
+    QObject::connect(&wayOut, &QPushButton::clicked, &window, [&ways] { ++ways; });
+    const InputBlock block(&wayOut);
+    // Through the window, as the mouse's events come.
+    const auto clickOn = [this](const QWidget& widget) {
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
+                          widget.mapTo(&window, widget.rect().center()));
+    };
+    clickOn(button);
+    clickOn(field);
+    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(ways, 0);
+    clickOn(wayOut);
+    EXPECT_EQ(ways, 1);
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(InputBlockTest, EscapeTakesTheWayOut) {
+    QPushButton wayOut;
+    int ways = 0;
+    QObject::connect(&wayOut, &QPushButton::clicked, &window, [&ways] { ++ways; });
+    {
+        const InputBlock block(&wayOut);
+        QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+        EXPECT_EQ(ways, 1);
+        QTest::keyClick(window.windowHandle(), Qt::Key_A);
+        QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+    }
+    EXPECT_EQ(ways, 1);
+    EXPECT_EQ(field.text().toStdString(), "");
+    QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+    EXPECT_EQ(ways, 1);
+}
+
 } // namespace
 } // namespace velmora::test

@@ -2,9 +2,11 @@
 
 #include "platform/busy_indicator.h"
 #include "weblookup/TagWebBrowser.h"
+#include "weblookup/address_line.h"
 #include "weblookup/form_fill_info.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -44,6 +46,11 @@ public:
     QPushButton* btn_search = named<QPushButton>("btn_search");
     QPushButton* btn_searchBack = named<QPushButton>("btn_searchBack");
     QPushButton* btn_formFill = named<QPushButton>("btn_formFill");
+    AddressLine* entry_address = named<AddressLine>("entry_address");
+    QWidget* box_address = named<QWidget>("box_address");
+    QWidget* box_coverWait = named<QWidget>("box_coverWait");
+    QLabel* lbl_coverWait = named<QLabel>("lbl_coverWait");
+    QPushButton* btn_cancelCover = named<QPushButton>("btn_cancelCover");
     BusyIndicator* progress_search = named<BusyIndicator>("progress_search");
 };
 

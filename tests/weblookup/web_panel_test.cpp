@@ -348,6 +348,84 @@ TEST_F(WebPanel, FillsFromAPageOfVeryManyHeadingsAndAVeryLongText) {
                 static_cast<long long>(time.elapsed()));
 }
 
+// A cover that doesn't come
+
+/** A film's page whose covers never come; FETCHES counts how often they were asked for by the form fill. */
+class WebPanelWaiting : public WebPanel {
+protected:
+    WebPanelWaiting() {
+        server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png"});
+        show(QByteArray(titlePage) + "<a name='poster'><img src='/poster.jpg?2'></a>");
+        EXPECT_TRUE(waitUntil([this] { return server.wasAskedFor("/poster.jpg?2"); }));
+        server.serve("/poster.jpg",
+                     Answer{.body = png(9).left(20), .type = "image/png", .end = Answer::End::Never});
+        requestsBefore = server.requests().size();
+    }
+    /** Fills the form, and does END once the window says that it waits. */
+    FormFillInfo fillUntil(const std::function<void()>& end) {
+        QTimer poll;
+        QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+            if (window->box_coverWait->isVisible()) {
+                poll.stop();
+                text = window->lbl_coverWait->text();
+                end();
+            }
+        });
+        poll.start(10);
+        const FormFillInfo info = fill();
+        EXPECT_FALSE(window->box_coverWait->isVisible());
+        return info;
+    }
+    QStringList requestsOfTheFill() const {
+        return server.requests().mid(requestsBefore).filter(QStringLiteral("poster"));
+    }
+    QString text;
+    qsizetype requestsBefore = 0;
+};
+
+TEST_F(WebPanelWaiting, EscapeEndsTheWaitAndFillsTheRest) {
+    const FormFillInfo info = fillUntil([this] { QTest::keyClick(window->windowHandle(), Qt::Key_Escape); });
+    EXPECT_EQ(text, "Waiting for the cover from 127.0.0.1 …");
+    EXPECT_EQ(info.rating, QString("PG-13"));
+    EXPECT_TRUE(info.coverArt.isNull());
+    EXPECT_EQ(requestsOfTheFill(), QStringList({"/poster.jpg"})) << "no other cover is asked for";
+}
+
+TEST_F(WebPanelWaiting, CancelEndsTheWaitAndFillsTheRest) {
+    const FormFillInfo info = fillUntil([this] {
+        const QWidget& cancel = *window->btn_cancelCover;
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
+                          cancel.mapTo(window, cancel.rect().center()));
+    });
+    EXPECT_EQ(info.rating, QString("PG-13"));
+    EXPECT_TRUE(info.coverArt.isNull());
+    EXPECT_EQ(requestsOfTheFill(), QStringList({"/poster.jpg"}));
+}
+
+TEST_F(WebPanelWaiting, NextFillAsksForTheCoverAgain) {
+    fillUntil([this] { QTest::keyClick(window->windowHandle(), Qt::Key_Escape); });
+    server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png"});
+    EXPECT_EQ(fill().coverArt.width(), 9);
+}
+
+TEST_F(WebPanel, AsksForNoMoreCoversWhenItHasWorkedForTooLong) {
+    server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png"});
+    show("<a name='poster'><img src='/none.jpg'></a><a name='poster'><img src='/poster.jpg'></a>");
+    EXPECT_EQ(fill().coverArt.width(), 9);
+    panel->setCoverWorkLimit(std::chrono::milliseconds(0));
+    EXPECT_TRUE(fill().coverArt.isNull());
+}
+
+// The address
+
+TEST_F(WebPanel, ShowsTheAddressOfItsPage) {
+    EXPECT_FALSE(window->box_address->isVisible());
+    show("<p>page</p>");
+    EXPECT_TRUE(window->box_address->isVisible());
+    EXPECT_TRUE(window->entry_address->isReadOnly());
+    EXPECT_EQ(window->entry_address->wholeText(), server.url("/find?q=x").toString());
+}
+
 // The window goes away
 
 TEST_F(WebPanel, WindowCanGoAwayDuringALoad) {

@@ -42,6 +42,9 @@ WebPage::WebPage(WebEngineListener& listener, QWebEngineProfile* profile)
     connect(this, &QWebEnginePage::loadingChanged, this, &WebPage::reportLoading);
     connect(this, &QWebEnginePage::renderProcessTerminated, this, &WebPage::reportLostProcess);
     connect(action(Back), &QAction::enabledChanged, this, &WebPage::reportHistoryChange);
+    // The engine changes it with the document, and not when a load begins.
+    connect(this, &QWebEnginePage::urlChanged, this,
+            [this](const QUrl& address) { listener_.addressOfPageChanged(address); });
     connect(this, &QWebEnginePage::featurePermissionRequested, this, &WebPage::refusePermission);
     connect(this, &QWebEnginePage::selectClientCertificate, this,
             [](QWebEngineClientCertificateSelection selection) { selection.selectNone(); });
