@@ -19,30 +19,35 @@ void write_out(const char* text) {
     write_patiently([text] { return std::fputs(text, stderr) != EOF; });
 }
 
-void write_message(const char* message) {
+void write_message(const char* message, std::size_t length) {
     if (batch_of_this_thread) {
-        batch_of_this_thread->add(message, std::strlen(message));
+        batch_of_this_thread->add(message, length);
     } else {
         write_out(message);
     }
+}
+
+/** Formats any message; returns its length. */
+std::size_t format_any(char (&message)[message_capacity], const char* format, va_list arguments) {
+    if (needs_own_formatting(format)) {
+        format_message(message, format, arguments);
+    } else {
+        // Zeros: a conversion that fails may leave the text without an end.
+        std::memset(message, 0, sizeof message);
+        if (std::vsnprintf(message, sizeof message, format, arguments) < 0) {
+            message[message_capacity - 1] = '\0';
+        }
+    }
+    return std::strlen(message);
 }
 
 } // namespace
 
 void DebugTraceV(const char* format, va_list arguments) {
     const int error = errno;
-    if (needs_own_formatting(format)) {
-        char message[message_capacity];
-        format_message(message, format, arguments);
-        write_message(message);
-    } else {
-        // Zeros: a conversion that fails may leave the text without an end.
-        char message[message_capacity] = {};
-        if (std::vsnprintf(message, sizeof message, format, arguments) < 0) {
-            message[message_capacity - 1] = '\0';
-        }
-        write_message(message);
-    }
+    char message[message_capacity];
+    const std::optional<std::size_t> length = format_plainly(message, format, arguments);
+    write_message(message, length ? *length : format_any(message, format, arguments));
     errno = error;
 }
 

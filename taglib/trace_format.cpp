@@ -277,6 +277,27 @@ bool needs_own_formatting(const char* format) {
     return false;
 }
 
+std::optional<std::size_t> format_plainly(char (&message)[message_capacity], const char* format,
+                                          va_list list) {
+    Arguments arguments;
+    va_copy(arguments.list, list);
+    std::size_t used = 0;
+    bool is_plain = true;
+    while (is_plain && *format && used + 1 < message_capacity) {
+        if (*format != '%') {
+            message[used++] = *format++;
+            continue;
+        }
+        ++format;
+        const Plain plain = plain_conversion(format);
+        is_plain = plain != Plain::none;
+        used += is_plain ? print_plain(message + used, message_capacity - used, plain, arguments) : 0;
+    }
+    message[used] = '\0';
+    va_end(arguments.list);
+    return is_plain ? std::optional(used) : std::nullopt;
+}
+
 void format_message(char (&message)[message_capacity], const char* format, va_list list) {
     Arguments arguments;
     va_copy(arguments.list, list);
@@ -287,13 +308,8 @@ void format_message(char (&message)[message_capacity], const char* format, va_li
             message[used++] = *format++;
             continue;
         }
-        ++format;
-        if (const Plain plain = plain_conversion(format); plain != Plain::none) {
-            used += print_plain(message + used, room, plain, arguments);
-            continue;
-        }
         Conversion conversion;
-        format = read_conversion(format, arguments, conversion);
+        format = read_conversion(format + 1, arguments, conversion);
         const int count =
             conversion.letter ? print_conversion(message + used, room, conversion, arguments) : -1;
         if (count < 0) {

@@ -118,6 +118,7 @@ bool WriteCursor::add_piece(const std::uint8_t* block, std::size_t length) {
         Piece& last = pieces_.values()[piece_count_ - 1];
         if (!last.block && last.position + last.length == position_) {
             last.length += length;
+            ++collected_fields_;
             return true;
         }
     }
@@ -125,6 +126,7 @@ bool WriteCursor::add_piece(const std::uint8_t* block, std::size_t length) {
         return false;
     }
     pieces_.values()[piece_count_++] = {position_, block, used_, length};
+    ++collected_fields_;
     return true;
 }
 
@@ -153,7 +155,8 @@ void WriteCursor::write_pieces() {
             stopped_ = errno;
         }
     }
-    fields_out_ += whole_fields_in(bytes_out_ - before);
+    fields_out_ += stopped_ ? whole_fields_in(bytes_out_ - before) : collected_fields_;
+    collected_fields_ = 0;
     std::fill_n(starts_.values(), (used_ + 7) / 8, std::uint8_t{0});
     used_ = 0;
     piece_count_ = 0;

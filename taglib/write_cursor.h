@@ -123,6 +123,7 @@ private:
     std::size_t used_ = 0;                ///< bytes of the buffer
     Room<Piece, 4> pieces_;
     std::size_t piece_count_ = 0;
+    std::uint64_t collected_fields_ = 0; ///< in the pieces
     std::uint64_t bytes_ = 0;
     std::uint64_t fields_ = 0;
     /* Since the last commit: */

@@ -28,12 +28,13 @@ bool read_bytes(ReadCursor* cursor, std::uint16_t length, AsfOwned<std::uint8_t>
 }
 
 void log_value(const _asf_content_descriptor_t& descriptor) {
+    if (descriptor.type == asf_value_type::unicode) {
+        DebugInfo("  unicode: %S\n", Utf16TraceText(descriptor.value, descriptor.value_length).get());
+        return;
+    }
     const std::uint64_t number = asf_value_as_number(&descriptor);
     const auto low = static_cast<std::uint32_t>(number);
     switch (descriptor.type) {
-    case asf_value_type::unicode:
-        DebugInfo("  unicode: %S\n", Utf16TraceText(descriptor.value, descriptor.value_length).get());
-        break;
     case asf_value_type::bytearray: {
         // As a byte string: up to its first zero byte, never past its end.
         const char* const text = descriptor.value ? reinterpret_cast<const char*>(descriptor.value) : "";

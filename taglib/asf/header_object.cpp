@@ -244,7 +244,6 @@ _asf_header_object_t* asf_read_header_object(ReadCursor* cursor, _asf_header_obj
 }
 
 int asf_store_header_object(FIOFUNCSTRUCT* file, const _asf_header_object_t* header) {
-    const TraceBatch batch;
     AsfObjectWriter writer(file, 0);
     return asf_put_header_object(&writer, *header) && writer.settle() ? 1 : 0;
 }

@@ -233,6 +233,7 @@ void AsfObjectWriter::trace_step(const Step& step, std::int64_t position) {
 }
 
 bool asf_put_header_object(AsfObjectWriter* writer, const _asf_header_object_t& header) {
+    const TraceBatch batch;
     writer->put_header(header);
     for (std::uint32_t i = 0; i < header.child_count; ++i) {
         const _asf_object_t* const child = header.children[i];

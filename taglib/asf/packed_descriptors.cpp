@@ -73,11 +73,11 @@ bool read_packed(ReadCursor* cursor, Block& block) {
         return false;
     }
     const std::uint8_t* bytes = block.read(cursor, 2);
-    if (!bytes || !block.read(cursor, load_le16(bytes))) {
-        return false;
-    }
-    bytes = block.read(cursor, 4);
-    if (!bytes || !block.read(cursor, load_le16(bytes + 2))) {
+    const std::size_t name_length = bytes ? load_le16(bytes) : 0;
+    // The name with the type and the value's length.
+    bytes = bytes ? block.read(cursor, name_length + 4) : nullptr;
+    const std::size_t value_length = bytes ? load_le16(bytes + name_length + 2) : 0;
+    if (!bytes || (value_length > 0 && !block.read(cursor, value_length))) {
         return false;
     }
     asf_log_content_descriptor(position, view_of(block.at(start)));
