@@ -1,6 +1,7 @@
 #include "movie_view.h"
 
 #include "platform/localisation.h"
+#include "platform/symbol.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -22,6 +23,12 @@ constexpr QSize smallestSize(120, 100);
 constexpr QSize largestSign(32, 32);
 constexpr int stepMilliseconds = 1000;
 constexpr int pageMilliseconds = 10000;
+
+// The screen is dark in every palette, also without a picture.
+constexpr QColor screenGround(0x20, 0x22, 0x26);
+constexpr QColor standInSign(0x8A, 0x90, 0x98);
+constexpr int standInMargin = 8;
+constexpr int largestStandIn = 96;
 
 int sliderValue(qint64 milliseconds) {
     return static_cast<int>(std::clamp<qint64>(milliseconds, 0, std::numeric_limits<int>::max()));
@@ -53,18 +60,38 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.fillRect(rect(), Qt::black);
+        painter.fillRect(rect(), view_.movie() ? QColor(Qt::black) : screenGround);
         const QImage frame = view_.movie() ? view_.movie()->currentFrame() : QImage();
-        if (frame.isNull()) {
-            return;
+        if (!frame.isNull()) {
+            drawCentred(painter, frame, frame.size().scaled(size(), Qt::KeepAspectRatio));
+        } else if (view_.movie() && view_.movie()->isOpen() && !view_.movie()->hasVideo()) {
+            drawStandIn(painter);
         }
-        QRect target({}, frame.size().scaled(size(), Qt::KeepAspectRatio));
-        target.moveCenter(rect().center());
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(target, frame);
     }
 
 private:
+    void drawCentred(QPainter& painter, const QImage& image, const QSize& shownSize) const {
+        QRect target({}, shownSize);
+        target.moveCenter(rect().center());
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(target, image);
+    }
+
+    /** What has sound alone shows its cover, or else a note. */
+    void drawStandIn(QPainter& painter) const {
+        painter.fillRect(rect(), screenGround);
+        const int side = qMin(width(), height());
+        if (!view_.cover_.isNull()) {
+            const QSize room = size() - QSize(2 * standInMargin, 2 * standInMargin);
+            drawCentred(painter, view_.cover_, view_.cover_.size().scaled(room, Qt::KeepAspectRatio));
+            return;
+        }
+        const int signSide = qMin(side / 2, largestStandIn);
+        const auto pixels = static_cast<int>(signSide * devicePixelRatioF());
+        drawCentred(painter, drawnSymbol(QStringLiteral("audio-x-generic"), pixels, standInSign).toImage(),
+                    QSize(signSide, signSide));
+    }
+
     const MovieView& view_;
 };
 
@@ -111,6 +138,11 @@ void MovieView::setMovie(Movie* movie) {
         connect(movie_, &QObject::destroyed, this, &MovieView::updateControls);
     }
     updateControls();
+}
+
+void MovieView::setCover(const QImage& cover) {
+    cover_ = cover;
+    screen_->update();
 }
 
 QSize MovieView::sizeHint() const {

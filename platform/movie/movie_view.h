@@ -2,6 +2,7 @@
 
 #include "movie.h"
 
+#include <QImage>
 #include <QPointer>
 #include <QWidget>
 
@@ -22,6 +23,10 @@ public:
     /** The movie shown; null when there is none, or when it has been destroyed. */
     [[nodiscard]] Movie* movie() const { return movie_; }
 
+    /** What is shown in the place of the picture while the movie has sound alone: COVER, or a sign for a null
+       image. */
+    void setCover(const QImage& cover);
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -37,6 +42,7 @@ private:
     void seek(int milliseconds);
 
     QPointer<Movie> movie_;
+    QImage cover_;
     Screen* screen_;
     QToolButton* playButton_;
     QSlider* positionSlider_;

@@ -108,6 +108,35 @@ TEST_F(MovieViewTest, SoundAloneIsPlayedAndPausedToo) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return !movie.isPlaying(); }, patience));
 }
 
+TEST_F(MovieViewTest, SoundAloneShowsItsCover) {
+    QImage cover(300, 300, QImage::Format_RGB32);
+    cover.fill(Qt::red);
+    open(mp3());
+    view.setCover(cover);
+    EXPECT_EQ(share(Qt::red), 0) << "not before there is sound to show it for";
+    view.setMovie(&movie);
+    EXPECT_GT(share(Qt::red), 40);
+    view.setCover(QImage());
+    EXPECT_EQ(share(Qt::red), 0);
+    view.setCover(cover);
+    movie.close();
+    EXPECT_EQ(share(Qt::red), 0);
+}
+
+TEST_F(MovieViewTest, SoundWithoutACoverShowsANote) {
+    open(mp3());
+    view.setMovie(&movie);
+    EXPECT_GT(contrast(view.grab(QRect(10, 10, 380, 220)).toImage()), 3);
+}
+
+TEST_F(MovieViewTest, AFilmShowsItsFramesAndNotItsCover) {
+    QImage cover(300, 300, QImage::Format_RGB32);
+    cover.fill(Qt::cyan);
+    view.setCover(cover);
+    openFilm();
+    EXPECT_EQ(share(Qt::cyan), 0);
+}
+
 TEST_F(MovieViewTest, TheButtonPlaysAndPauses) {
     openFilm();
     QTest::mouseClick(button(), Qt::LeftButton);
