@@ -6,6 +6,7 @@
 #include "platform/document_window.h"
 
 #include <QEventLoop>
+#include <QList>
 
 #include <memory>
 
@@ -77,7 +78,8 @@ private:
     [[nodiscard]] QString openFile(const QUrl& url);
     void makeForms();
     void connectCommands();
-    void makeRoomForWebPage();
+    void setSymbols();
+    void makeRoomForWebPage(bool shown);
 
     ApplicationTermination& termination_;
     std::unique_ptr<MediaFile> mediaFile_;
@@ -88,6 +90,7 @@ private:
     MediaList* list_ = nullptr;
     TagForm* form_ = nullptr;
     TagWebBrowser* webBrowser_ = nullptr;
+    QList<int> sizesWithPage_; ///< how the window was divided when the page was last shown
     std::unique_ptr<VelmoraController> controller_;
 };
 

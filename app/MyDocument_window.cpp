@@ -6,6 +6,7 @@
 #include "browser/media_list.h"
 #include "browser/tag_form.h"
 #include "platform/alt_letters.h"
+#include "platform/symbol.h"
 #include "ui_MyDocument.h"
 #include "weblookup/TagWebBrowser.h"
 
@@ -27,6 +28,7 @@ void MyDocument::makeWindow() {
     setWindow(window_.get());
     controller_ = std::make_unique<VelmoraController>(*list_, *form_, *webBrowser_, *this);
     connectCommands();
+    setSymbols();
     windowControllerDidLoadNib();
     controller_->awakeFromNib();
 }
@@ -39,25 +41,41 @@ void MyDocument::makeForms() {
     ui_->split_upper->addWidget(form_);
     ui_->split_upper->setSizes({400, 600}); // a proportion, whatever the window's width
     ui_->split_main->addWidget(webBrowser_);
-    connect(webBrowser_, &TagWebBrowser::loadStarted, this, &MyDocument::makeRoomForWebPage);
+    connect(webBrowser_, &TagWebBrowser::pageShown, this, &MyDocument::makeRoomForWebPage);
 }
 
 void MyDocument::windowControllerDidLoadNib() {
     termination_.setDelegate(this);
 }
 
-/** The page gets its share of the window once there is a page to see. */
-void MyDocument::makeRoomForWebPage() {
-    disconnect(webBrowser_, &TagWebBrowser::loadStarted, this, nullptr);
-    const int height = ui_->split_main->height();
-    if (webBrowser_->height() < height / 3) {
-        ui_->split_main->setSizes({height / 2, height / 2});
+/** The page gets its share of the window once there is a page to see, and gives it back when there is none.
+ */
+void MyDocument::makeRoomForWebPage(bool shown) {
+    if (!shown) {
+        sizesWithPage_ = ui_->split_main->sizes();
+        return;
     }
+    const int half = ui_->split_main->height() / 2;
+    ui_->split_main->setSizes(sizesWithPage_.isEmpty() ? QList<int>{half, half} : sizesWithPage_);
 }
 
 void MyDocument::showWindow() {
+    window_->fitScreen();
     window_->show();
     list_->focusTable();
+}
+
+void MyDocument::setSymbols() {
+    for (const auto& [action, name] :
+         {std::pair(ui_->action_addFile, "list-add"), std::pair(ui_->action_addFolder, "folder-new"),
+          std::pair(ui_->action_save, "document-save"), std::pair(ui_->action_revert, "document-revert"),
+          std::pair(ui_->action_close, "window-close"), std::pair(ui_->action_quit, "application-exit"),
+          std::pair(ui_->action_find, "edit-find"), std::pair(ui_->action_loadCoverArt, "insert-image"),
+          std::pair(ui_->action_lookUp, "web-browser"), std::pair(ui_->action_sortByName, "sort-by-name"),
+          std::pair(ui_->action_sortBySize, "sort-by-size"),
+          std::pair(ui_->action_sortByDate, "sort-by-date")}) {
+        action->setIcon(symbol(QLatin1String(name)));
+    }
 }
 
 void MyDocument::connectCommands() {

@@ -2,6 +2,7 @@
 #include "VelmoraDocumentController.h"
 
 #include "platform/image.h"
+#include "platform/legible_style.h"
 #include "platform/localisation.h"
 #include "platform/settings.h"
 #include "platform/standard_streams.h"
@@ -15,6 +16,7 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/velmora.png")));
+    velmora::installLegibleStyle();
     velmora::installLocalisation();
     velmora::allowLargeImages();
 

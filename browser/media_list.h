@@ -44,8 +44,12 @@ signals:
     void openFailed(const velmora::Error& error);
 
 private:
+    void setUpHint();
+    void updateHint();
+
     std::unique_ptr<Ui::MediaList> ui_;
     std::unique_ptr<MediaTable> table_;
+    bool searching_ = false;
 };
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 #include "movie_preview.h"
 
 #include "platform/log.h"
+#include "platform/symbol.h"
 #include "ui_movie_preview.h"
 
 #include <QEvent>
@@ -17,8 +18,9 @@ QImage frameForCoverArt(QImage frame) {
     return frame;
 }
 
-MoviePreview::MoviePreview(QWidget* parent) : QGroupBox(parent), ui_(std::make_unique<Ui::MoviePreview>()) {
+MoviePreview::MoviePreview(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::MoviePreview>()) {
     ui_->setupUi(this);
+    ui_->btn_captureFrame->setIcon(symbol(QStringLiteral("camera-photo")));
     ui_->view_preview->installEventFilter(this);
     connect(ui_->btn_captureFrame, &QPushButton::clicked, this, &MoviePreview::captureFrameClicked);
 }
@@ -32,7 +34,7 @@ bool MoviePreview::eventFilter(QObject* watched, QEvent* event) {
         ui_->view_preview->removeEventFilter(this);
         QTimer::singleShot(0, this, &MoviePreview::makeMovie);
     }
-    return QGroupBox::eventFilter(watched, event);
+    return QWidget::eventFilter(watched, event);
 }
 
 void MoviePreview::makeMovie() {
@@ -59,6 +61,10 @@ void MoviePreview::showMovie(const QString& path) {
     appLog(QStringLiteral("attempting to create movie from file '") + path + QStringLiteral("'\n"));
     makeMovie();
     movie_->open(path);
+}
+
+void MoviePreview::setCover(const QImage& cover) {
+    ui_->view_preview->setCover(cover);
 }
 
 bool MoviePreview::holdsMovie() const {

@@ -2,8 +2,8 @@
 
 #include "platform/movie/movie.h"
 
-#include <QGroupBox>
 #include <QImage>
+#include <QWidget>
 
 #include <memory>
 
@@ -21,7 +21,7 @@ inline constexpr float coverArtFrameSide = 160;
 
 /** The form's preview: shows the open file as a movie, a while after the form was filled, or says that it
  * can't. */
-class MoviePreview : public QGroupBox {
+class MoviePreview : public QWidget {
     Q_OBJECT
 public:
     explicit MoviePreview(QWidget* parent = nullptr);
@@ -34,6 +34,10 @@ public:
     /** Opens the file at PATH; the view, the label and the button follow when it is known what the file is.
      */
     void showMovie(const QString& path);
+
+    /** What is shown in the place of the picture of a file that has sound alone: its cover, or a sign for a
+       null image. */
+    void setCover(const QImage& cover);
 
     /** Whether the view holds a movie. */
     [[nodiscard]] bool holdsMovie() const;

@@ -9,6 +9,8 @@
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
+#include "platform/symbol.h"
+#include "platform/wheel_needs_focus.h"
 #include "weblookup/form_fill_info.h"
 
 #include <QLineEdit>
@@ -19,28 +21,6 @@
 
 namespace velmora {
 
-namespace {
-
-/** Combo boxes follow the wheel only while they have the focus, which the wheel does not give them: scrolling
-   past one must not edit the file. */
-class WheelNeedsFocus : public QObject {
-public:
-    using QObject::QObject;
-    void watch(QComboBox& box) {
-        box.setFocusPolicy(Qt::StrongFocus);
-        box.installEventFilter(this);
-    }
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() != QEvent::Wheel || static_cast<QWidget*>(watched)->hasFocus()) {
-            return false;
-        }
-        event->ignore(); // whatever the box lies on may scroll
-        return true;
-    }
-};
-
-} // namespace
-
 TagForm::TagForm(MediaDocument& document, QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::TagForm>()), document_(document), genres_(localisedGenres()) {
     ui_->setupUi(this);
@@ -48,6 +28,7 @@ TagForm::TagForm(MediaDocument& document, QWidget* parent)
     setUpGenre();
     setUpFields();
     connectButtons();
+    setSymbols();
     auto* wheelFilter = new WheelNeedsFocus(this);
     wheelFilter->watch(*ui_->combo_rating);
     wheelFilter->watch(*ui_->combo_genre);
@@ -81,8 +62,13 @@ void TagForm::setUpFields() {
         field->setMaxLength(std::numeric_limits<int>::max());
         connect(field, &QLineEdit::textEdited, this, [this, field] { controlTextDidChange(field); });
     }
+    // Before the first file there is no date to show.
+    ui_->picker_dateTime->setSpecialValueText(QStringLiteral(" "));
+    ui_->picker_dateTime->setDateTime(ui_->picker_dateTime->minimumDateTime());
     connect(ui_->entry_desc, &QPlainTextEdit::textChanged, this, [this] { textDidChange(ui_->entry_desc); });
     connect(ui_->img_coverArt, &CoverArtView::coverArtImageChanged, this, &TagForm::coverArtImageChanged);
+    connect(ui_->img_coverArt, &CoverArtView::imageChanged, this,
+            [this] { ui_->box_preview->setCover(ui_->img_coverArt->image()); });
 }
 
 void TagForm::connectButtons() {
@@ -91,6 +77,14 @@ void TagForm::connectButtons() {
     connect(ui_->btn_removeTag, &QPushButton::clicked, this, &TagForm::removeClicked);
     connect(ui_->btn_loadCoverArt, &QPushButton::clicked, this, &TagForm::loadCoverArtClicked);
     connect(ui_->btn_trimBorder, &QPushButton::clicked, this, &TagForm::trimBorderClicked);
+}
+
+void TagForm::setSymbols() {
+    ui_->btn_loadCoverArt->setIcon(symbol(QStringLiteral("insert-image")));
+    ui_->btn_trimBorder->setIcon(symbol(QStringLiteral("transform-crop")));
+    ui_->btn_removeTag->setIcon(symbol(QStringLiteral("edit-clear")));
+    ui_->btn_revertTag->setIcon(symbol(QStringLiteral("document-revert")));
+    ui_->btn_saveTag->setIcon(symbol(QStringLiteral("document-save")));
 }
 
 MoviePreview& TagForm::preview() {

@@ -88,6 +88,7 @@ private:
     void setUpGenre();
     void setUpFields();
     void connectButtons();
+    void setSymbols();
     void showCaptions(const MediaFile& file);
     void showCoverArt(const MediaFile& file);
     void setGenreText(const QString& text);

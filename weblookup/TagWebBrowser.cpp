@@ -3,7 +3,9 @@
 #include "FormFill.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
+#include "platform/symbol.h"
 #include "platform/web/image_fetch.h"
+#include "platform/wheel_needs_focus.h"
 #include "ui_TagWebBrowser.h"
 
 #include <QPointer>
@@ -38,7 +40,12 @@ TagWebBrowser::TagWebBrowser(QWidget* parent) : QWidget(parent), ui_(std::make_u
     ui_->box_address->hide();
     ui_->box_coverWait->hide();
     connectControls();
+    setSymbols();
     awakeFromNib();
+    (new WheelNeedsFocus(this))->watch(*ui_->combo_search);
+    layout()->setSizeConstraint(QLayout::SetMinAndMaxSize);
+    ui_->lbl_loadFailed->hide();
+    showPage(false);
 }
 
 TagWebBrowser::~TagWebBrowser() = default;
@@ -54,6 +61,18 @@ void TagWebBrowser::connectControls() {
             &TagWebBrowser::webViewDidStartProvisionalLoadForFrame);
     connect(view, &WebView::didFinishLoad, this, &TagWebBrowser::webViewDidFinishLoadForFrame);
     connect(view, &WebView::didFailLoad, this, &TagWebBrowser::webViewDidFailLoadWithError);
+}
+
+void TagWebBrowser::setSymbols() {
+    ui_->btn_search->setIcon(symbol(QStringLiteral("edit-find")));
+    ui_->btn_searchBack->setIcon(symbol(QStringLiteral("go-previous")));
+    ui_->btn_formFill->setIcon(symbol(QStringLiteral("document-import")));
+}
+
+void TagWebBrowser::showPage(bool shown) {
+    ui_->webview_search->setVisible(shown);
+    layout()->activate(); // the panel's limits follow: without a page it is its bar and no higher
+    emit pageShown(shown);
 }
 
 void TagWebBrowser::awakeFromNib() {
@@ -79,6 +98,9 @@ void TagWebBrowser::search() {
     }
     if (const std::optional<QUrl> address =
             searchAddress(text, ui_->combo_search->currentIndex(), searchHosts)) {
+        if (ui_->webview_search->isHidden()) {
+            showPage(true); // the view may have to say that it can show none
+        }
         ui_->webview_search->loadRequest(*address);
     }
 }
@@ -159,27 +181,35 @@ void TagWebBrowser::webViewDidStartProvisionalLoadForFrame(WebView* view, WebFra
     ui_->progress_search->startAnimation();
     ui_->btn_formFill->setEnabled(false);
     updateBackButton(view);
-    emit loadStarted();
+    ui_->lbl_loadFailed->hide();
+    if (ui_->webview_search->isHidden()) {
+        showPage(true);
+    }
 }
 
 void TagWebBrowser::webViewDidFinishLoadForFrame(WebView* view, WebFrame* frame) {
     if (frame == view->mainFrame()) {
         ui_->progress_search->stopAnimation();
         ui_->btn_formFill->setEnabled(true);
+        pageArrived_ = true;
     }
     updateBackButton(view);
 }
 
-void TagWebBrowser::webViewDidFailProvisionalLoadWithError(WebView*, WebFrame*) {
-    loadFailed();
+void TagWebBrowser::webViewDidFailProvisionalLoadWithError(WebView* view, WebFrame* frame) {
+    loadFailed(view, frame);
 }
 
-void TagWebBrowser::webViewDidFailLoadWithError(WebView*, WebFrame*) {
-    loadFailed();
+void TagWebBrowser::webViewDidFailLoadWithError(WebView* view, WebFrame* frame) {
+    loadFailed(view, frame);
 }
 
-void TagWebBrowser::loadFailed() {
+void TagWebBrowser::loadFailed(const WebView* view, const WebFrame* frame) {
     ui_->progress_search->stopAnimation();
+    if (!pageArrived_ && frame == view->mainFrame()) {
+        ui_->lbl_loadFailed->show();
+        showPage(false);
+    }
 }
 
 } // namespace velmora

@@ -63,13 +63,16 @@ public slots:
 signals:
     /** The page has given INFO, which is not null and lives only during the call. */
     void formFillInfoReady(const velmora::FormFillInfo* info);
-    /** A frame, of the page or inside it, starts to load: there is something to see. */
-    void loadStarted();
+    /** The panel takes room for a page, or gives it back: there is none before the first search, nor after a
+       first search that failed. */
+    void pageShown(bool shown);
 
 private:
     void connectControls();
+    void setSymbols();
+    void showPage(bool shown);
     void updateBackButton(const WebView* view);
-    void loadFailed();
+    void loadFailed(const WebView* view, const WebFrame* frame);
     void fillFromPage();
     [[nodiscard]] std::optional<QImage> fetchCover(const QUrl& url);
     void showAddress(const QUrl& address);
@@ -79,6 +82,7 @@ private:
     /** Whether the user wants no cover from this page. */
     bool coversCancelled_ = false;
     std::chrono::milliseconds coverWorkLimit_{15000};
+    bool pageArrived_ = false; ///< there has been a page since the panel was made
 };
 
 } // namespace velmora

@@ -299,6 +299,14 @@
         <source>Web pages are not shown when the program is run by the system administrator.</source>
         <translation>Webseiten werden nicht gezeigt, wenn der Systemverwalter das Programm ausführt.</translation>
     </message>
+    <message>
+        <source>Looking for films and music…</source>
+        <translation>Filme und Musik werden gesucht …</translation>
+    </message>
+    <message>
+        <source>No media files yet. Add files, or a folder to search, with the buttons above.</source>
+        <translation>Noch keine Mediendateien. Fügen Sie mit den Knöpfen oben Dateien oder einen Ordner hinzu, der durchsucht wird.</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>
@@ -564,9 +572,17 @@
         <source>Write the changes into the file</source>
         <translation>Die Änderungen in die Datei schreiben</translation>
     </message>
+    <message>
+        <source>for information only</source>
+        <translation>nur zur Kenntnis</translation>
+    </message>
 </context>
 <context>
     <name>MoviePreview</name>
+    <message>
+        <source>Preview:</source>
+        <translation>Vorschau:</translation>
+    </message>
     <message>
         <source>Preview</source>
         <translation>Vorschau</translation>
@@ -677,6 +693,10 @@
     <message>
         <source>Web page</source>
         <translation>Webseite</translation>
+    </message>
+    <message>
+        <source>The page could not be loaded.</source>
+        <translation>Die Seite konnte nicht geladen werden.</translation>
     </message>
 </context>
 </TS>

@@ -44,7 +44,7 @@ public:
     void setEngineMaker(EngineMaker make) { makeEngine_ = std::move(make); }
 
     /** The page's outermost frame; the same object as long as the view lives. */
-    [[nodiscard]] WebFrame* mainFrame() { return mainFrame_.get(); }
+    [[nodiscard]] WebFrame* mainFrame() const { return mainFrame_.get(); }
     [[nodiscard]] bool canGoBack() const;
     /** Loads the page at URL into the main frame. */
     void loadRequest(const QUrl& url);
