@@ -1,5 +1,6 @@
 #include "media_table_model.h"
 
+#include "model/media_type.h"
 #include "platform/assertion.h"
 #include "platform/localisation.h"
 
@@ -42,6 +43,20 @@ bool isControlOrLineBreak(QChar character) {
 QString onOneLine(QString text) {
     std::replace_if(text.begin(), text.end(), isControlOrLineBreak, QChar(u' '));
     return text;
+}
+
+/** What kind of file one with this NAME is. */
+QString typeName(const QString& name) {
+    switch (mediaKindOfPath(name).type) {
+    case imageMedia:
+        return localised("Picture");
+    case audioMedia:
+        return localised("Song");
+    case videoMedia:
+        return localised("Film");
+    default:
+        return localised("Other file");
+    }
 }
 
 /** TEXT for a place that takes rich text whenever a text looks like it. */
@@ -124,11 +139,24 @@ QVariant MediaTableModel::data(const QModelIndex& index, int role) const {
         const TableColumn shown{isDate ? column.identifier : QStringLiteral("fullpath")};
         return literally(tableViewObjectValueForTableColumn(shown, index.row()).toString());
     }
+    case Qt::AccessibleTextRole:
+        return spokenText(column, index.row());
     case Qt::TextAlignmentRole:
         return alignment(column);
     default:
         return {};
     }
+}
+
+QString MediaTableModel::spokenText(const TableColumn& column, int row) const {
+    const auto text = [&](const TableColumn& of) {
+        return onOneLine(tableViewObjectValueForTableColumn(of, row).toString());
+    };
+    if (column.identifier != u"icon" && column.identifier != u"filename") {
+        return text(column);
+    }
+    const QString name = text({QStringLiteral("filename")});
+    return QStringList{name, typeName(name), text({QStringLiteral("filesize")})}.join(QLatin1String(", "));
 }
 
 QVariant MediaTableModel::headerData(int section, Qt::Orientation orientation, int role) const {

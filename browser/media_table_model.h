@@ -47,6 +47,10 @@ public:
                                         Qt::MatchFlags flags) const override;
 
 private:
+    /** What assistive technologies say of a cell: of the icon's and the name's, the file's name, kind and
+       size, because one of these is where the keyboard is. */
+    [[nodiscard]] QString spokenText(const TableColumn& column, int row) const;
+
     const MediaRows& rows_;
     /** The rows that views were told of. */
     int reportedRows_ = 0;

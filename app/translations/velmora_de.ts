@@ -228,10 +228,6 @@
         <translation>Titelbild</translation>
     </message>
     <message>
-        <source>Drop or paste an image here</source>
-        <translation>Ein Bild hier ablegen oder einfügen</translation>
-    </message>
-    <message>
         <source>Cover art: drop an image here to store it</source>
         <translation>Titelbild: ein Bild zum Speichern hier ablegen</translation>
     </message>
@@ -307,6 +303,78 @@
         <source>No media files yet. Add files, or a folder to search, with the buttons above.</source>
         <translation>Noch keine Mediendateien. Fügen Sie mit den Knöpfen oben Dateien oder einen Ordner hinzu, der durchsucht wird.</translation>
     </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Clear the field</source>
+        <translation>Das Feld leeren</translation>
+    </message>
+    <message>
+        <source>Parts of the window</source>
+        <translation>Teile des Fensters</translation>
+    </message>
+    <message>
+        <source>Divider</source>
+        <translation>Trenner</translation>
+    </message>
+    <message>
+        <source>Gives the parts of the window more or less room</source>
+        <translation>Gibt den Teilen des Fensters mehr oder weniger Platz</translation>
+    </message>
+    <message>
+        <source>No cover art; drop an image here</source>
+        <translation>Kein Titelbild; legen Sie hier ein Bild ab</translation>
+    </message>
+    <message>
+        <source>An image of %@ pixels</source>
+        <translation>Ein Bild mit %@ Pixeln</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Song</source>
+        <translation>Lied</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>Other file</source>
+        <translation>Andere Datei</translation>
+    </message>
+    <message>
+        <source>Alt+J</source>
+        <translation>Alt+R</translation>
+    </message>
+    <message>
+        <source>Alt+Q</source>
+        <translation>Alt+Q</translation>
+    </message>
+    <message>
+        <source>Alt+X</source>
+        <translation>Alt+X</translation>
+    </message>
+    <message>
+        <source>Alt+Z</source>
+        <translation>Alt+Y</translation>
+    </message>
+    <message>
+        <source>Alt+W</source>
+        <translation>Alt+A</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>
@@ -355,8 +423,8 @@
         <translation>Im &amp;Web nachschlagen</translation>
     </message>
     <message>
-        <source>Vie&amp;w</source>
-        <translation>&amp;Ansicht</translation>
+        <source>View</source>
+        <translation>Ansicht</translation>
     </message>
     <message>
         <source>Sort by &amp;Name</source>
@@ -402,10 +470,6 @@
         <translation>Der Ordner, der gerade durchsucht wird</translation>
     </message>
     <message>
-        <source>Search status</source>
-        <translation>Stand der Suche</translation>
-    </message>
-    <message>
         <source>Sto&amp;p</source>
         <translation>Sto&amp;pp</translation>
     </message>
@@ -433,20 +497,12 @@
         <translation>Der Titel des Films oder Lieds</translation>
     </message>
     <message>
-        <source>Title</source>
-        <translation>Titel</translation>
-    </message>
-    <message>
         <source>&amp;Year:</source>
         <translation>&amp;Jahr:</translation>
     </message>
     <message>
         <source>The year of release</source>
         <translation>Das Erscheinungsjahr</translation>
-    </message>
-    <message>
-        <source>Year</source>
-        <translation>Jahr</translation>
     </message>
     <message>
         <source>Artist:</source>
@@ -457,20 +513,12 @@
         <translation>Der Interpret eines Lieds, die Darsteller eines Films</translation>
     </message>
     <message>
-        <source>Artist or cast</source>
-        <translation>Interpret oder Darsteller</translation>
-    </message>
-    <message>
         <source>&amp;Genre:</source>
         <translation>&amp;Genre:</translation>
     </message>
     <message>
         <source>The genre: choose one or type your own</source>
         <translation>Das Genre: wählen Sie eines oder tippen Sie ein eigenes</translation>
-    </message>
-    <message>
-        <source>Genre</source>
-        <translation>Genre</translation>
     </message>
     <message>
         <source>Album:</source>
@@ -481,20 +529,12 @@
         <translation>Das Album eines Lieds, die Regie eines Films</translation>
     </message>
     <message>
-        <source>Album or director</source>
-        <translation>Album oder Regie</translation>
-    </message>
-    <message>
         <source>Rat&amp;ing:</source>
         <translation>&amp;Freigabe:</translation>
     </message>
     <message>
         <source>The parental rating of a film</source>
         <translation>Die Altersfreigabe eines Films</translation>
-    </message>
-    <message>
-        <source>Rating</source>
-        <translation>Freigabe</translation>
     </message>
     <message>
         <source>Sy&amp;nopsis:</source>
@@ -505,10 +545,6 @@
         <translation>Wovon der Film handelt</translation>
     </message>
     <message>
-        <source>Synopsis</source>
-        <translation>Inhalt</translation>
-    </message>
-    <message>
         <source>&amp;Date:</source>
         <translation>Datu&amp;m:</translation>
     </message>
@@ -517,20 +553,12 @@
         <translation>Das Datum, zur Kenntnis: es wird nicht in die Datei geschrieben</translation>
     </message>
     <message>
-        <source>Date</source>
-        <translation>Datum</translation>
-    </message>
-    <message>
         <source>&amp;Cover Art:</source>
         <translation>T&amp;itelbild:</translation>
     </message>
     <message>
         <source>The cover art; drop an image here</source>
         <translation>Das Titelbild; legen Sie ein Bild hier ab</translation>
-    </message>
-    <message>
-        <source>Cover art</source>
-        <translation>Titelbild</translation>
     </message>
     <message>
         <source>&amp;Load…</source>
@@ -596,10 +624,6 @@
         <translation>Für diese Datei gibt es keine Vorschau.</translation>
     </message>
     <message>
-        <source>Preview failed</source>
-        <translation>Keine Vorschau</translation>
-    </message>
-    <message>
         <source>Ta&amp;ke Frame</source>
         <translation>&amp;Einzelbild nehmen</translation>
     </message>
@@ -619,16 +643,8 @@
         <translation>Die Website, auf der gesucht wird</translation>
     </message>
     <message>
-        <source>Site</source>
-        <translation>Website</translation>
-    </message>
-    <message>
         <source>The text to search for</source>
         <translation>Der gesuchte Text</translation>
-    </message>
-    <message>
-        <source>Search text</source>
-        <translation>Suchtext</translation>
     </message>
     <message>
         <source>Searc&amp;h</source>
@@ -697,6 +713,10 @@
     <message>
         <source>The page could not be loaded.</source>
         <translation>Die Seite konnte nicht geladen werden.</translation>
+    </message>
+    <message>
+        <source>Site:</source>
+        <translation>Website:</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "media_table_fixture.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QVBoxLayout>
@@ -33,6 +34,23 @@ TEST_F(MediaTableTest, KeysMoveFromRowToRow) {
     press(Qt::Key_Up);
     EXPECT_EQ((QStringList{"/media/a", "/media/b", "/media/c", "/media/b"}), document_.requests);
     EXPECT_EQ(1, table_->curSelectedRow());
+}
+
+TEST_F(MediaTableTest, ArrowKeysSpeakTheFilesFromTheStart) {
+    add("song.mp3", 102'401);
+    add("film.avi", 500'000);
+    const auto spoken = [this] {
+        QAccessibleInterface* const cell = QAccessible::queryAccessibleInterface(&view_)->focusChild();
+        return cell ? cell->text(QAccessible::Name) : QString();
+    };
+    press(Qt::Key_Down);
+    EXPECT_EQ("song.mp3, Song, 100.0 KB", spoken());
+    press(Qt::Key_Down);
+    EXPECT_EQ("film.avi, Film, 488.3 KB", spoken());
+    press(Qt::Key_Up);
+    EXPECT_EQ("song.mp3, Song, 100.0 KB", spoken());
+    press(Qt::Key_F); // found by its name
+    EXPECT_EQ("film.avi, Film, 488.3 KB", spoken());
 }
 
 TEST_F(MediaTableTest, ClickAsksOnceAlsoWhenItIsRefused) {

@@ -277,6 +277,21 @@ TEST_F(MediaTableModelTest, ToolTipOfADateIsTheWholeDate) {
     EXPECT_EQ(QVariant("<span>/media/a.mp3</span>"), shown(0, u"filesize", Qt::ToolTipRole));
 }
 
+TEST_F(MediaTableModelTest, CellsThatTheKeyboardIsInSpeakNameKindAndSize) {
+    add("song.mp3", 102'401);
+    add("film.avi", 500'000);
+    add("two\nlines.txt");
+    add("cover.jpg");
+    model_.reloadData();
+    for (const char16_t* column : {u"icon", u"filename"}) {
+        EXPECT_EQ(QVariant("song.mp3, Song, 100.0 KB"), shown(0, column, Qt::AccessibleTextRole));
+        EXPECT_EQ(QVariant("film.avi, Film, 488.3 KB"), shown(1, column, Qt::AccessibleTextRole));
+        EXPECT_EQ(QVariant("two lines.txt, Other file, 0.0 B"), shown(2, column, Qt::AccessibleTextRole));
+        EXPECT_EQ(QVariant("cover.jpg, Picture, 0.0 B"), shown(3, column, Qt::AccessibleTextRole));
+    }
+    EXPECT_EQ(QVariant("100.0 KB"), shown(0, u"filesize", Qt::AccessibleTextRole));
+}
+
 TEST_F(MediaTableModelTest, HeadersNameTheirColumns) {
     const auto title = [this](int column) {
         return model_.headerData(column, Qt::Horizontal, Qt::DisplayRole);
