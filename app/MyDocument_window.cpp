@@ -5,6 +5,7 @@
 #include "browser/VelmoraController.h"
 #include "browser/media_list.h"
 #include "browser/tag_form.h"
+#include "platform/accessibility.h"
 #include "platform/alt_letters.h"
 #include "platform/symbol.h"
 #include "ui_MyDocument.h"
@@ -24,6 +25,7 @@ void MyDocument::makeWindow() {
     window_->setObjectName(windowNibName());
     window_->setWindowTitle(displayName());
     keepAltLettersFromTyping(*window_);
+    nameControlsByCaptions(*window_);
     window_->setDelegate(this);
     setWindow(window_.get());
     controller_ = std::make_unique<VelmoraController>(*list_, *form_, *webBrowser_, *this);

@@ -6,6 +6,8 @@
 
 #include "model/MediaFile.h"
 #include "model/media_type.h"
+#include "platform/accessibility.h"
+#include "platform/alt_letters.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
@@ -58,6 +60,9 @@ void TagForm::setUpGenre() {
 }
 
 void TagForm::setUpFields() {
+    // Their captions change with the file, and no letter is in both of each.
+    giveAltLetter(*ui_->entry_artist, localised("Alt+J"));
+    giveAltLetter(*ui_->entry_album, localised("Alt+Q"));
     for (QLineEdit* field : {ui_->entry_title, ui_->entry_artist, ui_->entry_album, ui_->entry_year}) {
         field->setMaxLength(std::numeric_limits<int>::max());
         connect(field, &QLineEdit::textEdited, this, [this, field] { controlTextDidChange(field); });
@@ -171,6 +176,8 @@ void TagForm::showCaptions(const MediaFile& media) {
         ui_->combo_rating->setEnabled(true);
         ui_->combo_rating->setCurrentIndex(ui_->combo_rating->findText(media.rating()));
     }
+    nameByCaption(*ui_->lbl_artist);
+    nameByCaption(*ui_->lbl_album);
 }
 
 void TagForm::showCoverArt(const MediaFile& media) {

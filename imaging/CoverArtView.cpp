@@ -2,6 +2,7 @@
 
 #include "image_data.h"
 
+#include "platform/accessibility.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
 
@@ -47,6 +48,10 @@ void answerWithCopy(QDropEvent& event) {
     event.accept();
 }
 
+QString sizeInPixels(const QImage& image) {
+    return QStringLiteral("%1 x %2").arg(image.width()).arg(image.height());
+}
+
 /** The clipboard's contents; null when it has none. */
 const QMimeData* clipboardData() {
     return QGuiApplication::clipboard()->mimeData();
@@ -55,11 +60,12 @@ const QMimeData* clipboardData() {
 } // namespace
 
 CoverArtView::CoverArtView(QWidget* parent) : QFrame(parent) {
+    setAccessibleRole(*this, QAccessible::Graphic); // before anything that assistive technologies ask about
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
     setAccessibleName(localised("Cover art"));
-    setAccessibleDescription(localised("Drop or paste an image here"));
+    describe();
     setToolTip(localised("Cover art: drop an image here to store it"));
     makeActions();
 }
@@ -72,8 +78,15 @@ void CoverArtView::setImage(const QImage& image) {
     image_ = image;
     scaled_ = QPixmap();
     updateActions();
+    describe();
     update();
     emit imageChanged();
+}
+
+/** Says what there is to see. */
+void CoverArtView::describe() {
+    setAccessibleDescription(image_.isNull() ? localised("No cover art; drop an image here")
+                                             : localised("An image of %@ pixels", sizeInPixels(image_)));
 }
 
 void CoverArtView::changeImage(const QImage& image) {

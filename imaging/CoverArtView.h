@@ -72,6 +72,7 @@ private:
     void concludeDragOperation(const QMimeData& dragged);
 
     void makeActions();
+    void describe();
     void updateActions();
     void drawImage(QPainter& painter);
     void drawPlaceholder(QPainter& painter);

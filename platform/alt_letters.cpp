@@ -1,10 +1,12 @@
 #include "alt_letters.h"
 
+#include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QShortcut>
 
 namespace velmora {
 namespace {
@@ -39,6 +41,18 @@ void keepAltLettersFromTyping(QWidget& window) {
             control->installEventFilter(filter);
         }
     }
+}
+
+void giveAltLetter(QWidget& control, const QString& keys) {
+    const QKeySequence sequence = QKeySequence::fromString(keys);
+    if (auto* const button = qobject_cast<QAbstractButton*>(&control)) {
+        button->setShortcut(sequence);
+    } else {
+        const auto* const shortcut = new QShortcut(sequence, &control);
+        QObject::connect(shortcut, &QShortcut::activated, &control,
+                         [&control] { control.setFocus(Qt::ShortcutFocusReason); });
+    }
+    control.setToolTip(control.toolTip() + QStringLiteral(" (") + sequence.toString() + QLatin1Char(')'));
 }
 
 } // namespace velmora

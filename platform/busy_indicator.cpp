@@ -1,5 +1,6 @@
 #include "busy_indicator.h"
 
+#include <QAccessibleWidget>
 #include <QPainter>
 
 namespace velmora {
@@ -7,9 +8,34 @@ namespace velmora {
 namespace {
 constexpr int dotCount = 8;
 constexpr int stepMilliseconds = 90;
+
+/** An animation that is there while it is seen to turn. */
+class BusyIndicatorInterface : public QAccessibleWidget {
+public:
+    explicit BusyIndicatorInterface(BusyIndicator& indicator)
+        : QAccessibleWidget(&indicator, QAccessible::Animation), indicator_(indicator) {}
+
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.busy = indicator_.isAnimating();
+        state.animated = indicator_.isAnimating();
+        state.invisible = state.invisible || !indicator_.isAnimating();
+        return state;
+    }
+
+private:
+    BusyIndicator& indicator_;
+};
+
+QAccessibleInterface* busyIndicatorInterface(const QString& /*className*/, QObject* object) {
+    auto* const indicator = qobject_cast<BusyIndicator*>(object);
+    return indicator ? new BusyIndicatorInterface(*indicator) : nullptr;
+}
+
 } // namespace
 
 BusyIndicator::BusyIndicator(QWidget* parent) : QWidget(parent) {
+    QAccessible::installFactory(busyIndicatorInterface); // once, however many there are
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     timer_.setInterval(stepMilliseconds);
     connect(&timer_, &QTimer::timeout, this, &BusyIndicator::advance);
@@ -17,12 +43,22 @@ BusyIndicator::BusyIndicator(QWidget* parent) : QWidget(parent) {
 
 void BusyIndicator::startAnimation() {
     timer_.start();
+    tellState();
     update();
 }
 
 void BusyIndicator::stopAnimation() {
     timer_.stop();
+    tellState();
     update();
+}
+
+void BusyIndicator::tellState() {
+    QAccessible::State changed;
+    changed.busy = true;
+    changed.invisible = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 void BusyIndicator::advance() {

@@ -24,6 +24,7 @@ protected:
 
 private:
     void advance();
+    void tellState();
 
     QTimer timer_;
     int step_ = 0;

@@ -1,6 +1,7 @@
 #include "TagWebBrowser.h"
 
 #include "FormFill.h"
+#include "platform/alt_letters.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
 #include "platform/symbol.h"
@@ -37,6 +38,8 @@ QString waitText(const QUrl& url) {
 
 TagWebBrowser::TagWebBrowser(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::TagWebBrowser>()) {
     ui_->setupUi(this);
+    giveAltLetter(*ui_->combo_search, localised("Alt+X"));
+    giveAltLetter(*ui_->btn_formFill, localised("Alt+Z"));
     ui_->box_address->hide();
     ui_->box_coverWait->hide();
     connectControls();

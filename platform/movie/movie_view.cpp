@@ -1,5 +1,7 @@
 #include "movie_view.h"
 
+#include "platform/accessibility.h"
+#include "platform/alt_letters.h"
 #include "platform/localisation.h"
 #include "platform/symbol.h"
 
@@ -99,10 +101,11 @@ MovieView::MovieView(QWidget* parent)
     : QWidget(parent), screen_(new Screen(*this)), playButton_(new QToolButton),
       positionSlider_(new QSlider(Qt::Horizontal)) {
     setAccessibleName(localised("Preview"));
+    setAccessibleRole(*screen_, QAccessible::Graphic);
     screen_->setAccessibleName(localised("Preview picture"));
     screen_->setToolTip(localised("Preview of the selected file"));
-    playButton_->setAccessibleName(localised("Play or pause the preview"));
     playButton_->setToolTip(localised("Play or pause the preview"));
+    giveAltLetter(*playButton_, localised("Alt+W"));
     playButton_->setAutoRaise(true);
     positionSlider_->setAccessibleName(localised("Position in the preview"));
     positionSlider_->setToolTip(localised("Position in the preview"));
@@ -164,6 +167,7 @@ void MovieView::updateControls() {
     const bool playing = movie_ && movie_->isPlaying();
     playButton_->setEnabled(movie_ && movie_->isOpen());
     const QStyle::StandardPixmap sign = playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay;
+    playButton_->setAccessibleName(playing ? localised("Pause") : localised("Play"));
     playButton_->setIcon(coloured(style()->standardIcon(sign), palette()));
     updatePosition();
     screen_->update();

@@ -2,6 +2,7 @@
 
 #include "dom_snapshot.h"
 #include "input_block.h"
+#include "platform/accessibility.h"
 #include "platform/localisation.h"
 #include "platform/modal_loop.h"
 
@@ -47,6 +48,7 @@ public:
 WebView::WebView(QWidget* parent)
     : QWidget(parent), makeEngine_(engineFromModule()), mainFrame_(std::make_unique<MainFrame>(*this)),
       subFrame_(std::make_unique<SubFrame>()) {
+    setAccessibleRole(*this, QAccessible::WebDocument);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     placeholder_ = new QLabel(localised("Search a site to see its pages here"), this);

@@ -37,7 +37,9 @@ def texts_of_layouts(root):
 
 
 def texts_with_letters(root):
-    """The texts of the window's controls and menu titles that have a letter for the Alt key."""
+    """The texts of the window's controls and menu titles that have a letter for the Alt key, and the keys of those
+    controls whose captions have none."""
+    yield from (text for text in sorted(set(texts_of_code(root))) if text[1].startswith("Alt+"))
     for context, layout in layouts(root):
         for widget in layout.iter("widget"):
             for entry in widget.findall("property"):
@@ -47,7 +49,7 @@ def texts_with_letters(root):
 
 
 def letters_given_twice(texts):
-    letters = [text[text.index("&") + 1].lower() for text in texts if "&" in text]
+    letters = [letter.lower() for text in texts for letter in re.findall(r"(?:&|^Alt\+)(.)", text)]
     return sorted({letter for letter in letters if letters.count(letter) > 1})
 
 
