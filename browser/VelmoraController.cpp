@@ -159,8 +159,7 @@ void VelmoraController::loadCoverArtSelected(int returnCode, const QStringList& 
     if (returnCode == openPanelCancelled || paths.size() != 1) {
         return;
     }
-    const QImage image = imageFromFile(paths.first());
-    if (!image.isNull()) {
+    if (const ImageRef image = ImageRef::fromFile(paths.first())) {
         form_.changeCoverArt(image);
     }
 }
@@ -179,8 +178,8 @@ void VelmoraController::grabFrame() {
 }
 
 void VelmoraController::trimBorder() {
-    const QImage cover = form_.coverArt();
-    if (!document_.mediaFile() || cover.isNull()) {
+    const QImage cover = document_.mediaFile() ? form_.coverArt() : QImage();
+    if (cover.isNull()) {
         return;
     }
     if (const auto trimmed = trim_border(cover)) {

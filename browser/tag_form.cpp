@@ -72,8 +72,11 @@ void TagForm::setUpFields() {
     ui_->picker_dateTime->setDateTime(ui_->picker_dateTime->minimumDateTime());
     connect(ui_->entry_desc, &QPlainTextEdit::textChanged, this, [this] { textDidChange(ui_->entry_desc); });
     connect(ui_->img_coverArt, &CoverArtView::coverArtImageChanged, this, &TagForm::coverArtImageChanged);
-    connect(ui_->img_coverArt, &CoverArtView::imageChanged, this,
-            [this] { ui_->box_preview->setCover(ui_->img_coverArt->image()); });
+    connect(ui_->img_coverArt, &CoverArtView::shownImageChanged, this,
+            [this] { ui_->box_preview->setCover(ui_->img_coverArt->shownImage()); });
+    // What nobody sees nobody trims.
+    connect(ui_->img_coverArt, &CoverArtView::tooLargeToShow, this,
+            [this] { ui_->btn_trimBorder->setEnabled(false); });
 }
 
 void TagForm::connectButtons() {
@@ -181,16 +184,13 @@ void TagForm::showCaptions(const MediaFile& media) {
 }
 
 void TagForm::showCoverArt(const MediaFile& media) {
-    QImage image = media.coverArt().toQImage();
-    if (!media.coverArt()) {
-        image = imageFromFile(pathFolder(media.filename()) + QStringLiteral("/folder.jpg"));
-        if (!image.isNull()) {
-            changeCoverArt(image);
-        }
-    } else {
-        ui_->img_coverArt->setImage(image);
+    if (media.coverArt()) {
+        ui_->img_coverArt->setCover(media.coverArt());
+    } else if (const ImageRef folderImage =
+                   ImageRef::fromFile(pathFolder(media.filename()) + QStringLiteral("/folder.jpg"))) {
+        changeCoverArt(folderImage);
     }
-    ui_->btn_trimBorder->setEnabled(!image.isNull());
+    ui_->btn_trimBorder->setEnabled(static_cast<bool>(ui_->img_coverArt->cover()));
 }
 
 void TagForm::fillFields(const FormFillInfo* info) {

@@ -11,6 +11,7 @@ class TagForm;
 
 namespace velmora {
 
+class ImageRef;
 class MediaDocument;
 class MediaFile;
 class MoviePreview;
@@ -52,13 +53,13 @@ public:
     void textDidChange(const QObject* textView);
     /** The rating with this title was chosen, maybe the one that was chosen already. */
     void ratingMenuItemChanged(const QString& title);
-    /** The open file's cover art was changed to IMAGE; a null one changes nothing. */
-    void coverArtImageChanged(const QImage& image);
+    /** The open file's cover art was changed to COVER; none changes nothing. */
+    void coverArtImageChanged(const ImageRef& cover);
 
     /** The cover art shown; null when there is none. */
     [[nodiscard]] QImage coverArt() const;
-    /** Shows IMAGE as the open file's new cover art, which counts as a change. */
-    void changeCoverArt(const QImage& image);
+    /** Shows COVER as the open file's new cover art, which counts as a change. */
+    void changeCoverArt(const ImageRef& cover);
     void allowTrimming();
 
     /** Counts a change of the open file and lets it be saved or reverted. */

@@ -104,12 +104,12 @@ void TagForm::ratingMenuItemChanged(const QString& title) {
     }
 }
 
-void TagForm::coverArtImageChanged(const QImage& image) {
+void TagForm::coverArtImageChanged(const ImageRef& cover) {
     MediaFile* const media = file();
-    if (!media || image.isNull()) {
+    if (!media || !cover) {
         return;
     }
-    media->setCoverArt(ImageRef::fromQImage(image));
+    media->setCoverArt(cover);
     markChange();
 }
 
@@ -117,8 +117,8 @@ QImage TagForm::coverArt() const {
     return ui_->img_coverArt->image();
 }
 
-void TagForm::changeCoverArt(const QImage& image) {
-    ui_->img_coverArt->changeImage(image);
+void TagForm::changeCoverArt(const ImageRef& cover) {
+    ui_->img_coverArt->changeImage(cover);
 }
 
 void TagForm::allowTrimming() {

@@ -20,6 +20,8 @@ namespace {
 
 constexpr QSize preferredSize(180, 180);
 constexpr QSize smallestSize(80, 80);
+/** As large as the view gets on a large screen. */
+constexpr QSize largestShown(1280, 1280);
 constexpr qreal highlightWidth = 4.0;
 constexpr qreal highlightShadow = 0.4;
 constexpr qreal placeholderOpacity = 0.5;
@@ -48,8 +50,8 @@ void answerWithCopy(QDropEvent& event) {
     event.accept();
 }
 
-QString sizeInPixels(const QImage& image) {
-    return QStringLiteral("%1 x %2").arg(image.width()).arg(image.height());
+QString sizeInPixels(const QSize& size) {
+    return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
 }
 
 /** The clipboard's contents; null when it has none. */
@@ -57,9 +59,27 @@ const QMimeData* clipboardData() {
     return QGuiApplication::clipboard()->mimeData();
 }
 
+/** What an empty view says. */
+QString invitation() {
+    return localised("Drop an image here");
+}
+
+/** A large cover goes to the clipboard as it came: its pixels would be waited for. */
+void putOnClipboard(const ImageRef& cover) {
+    const std::optional<EncodedPicture> slow = cover.slowlyDecoded();
+    if (!slow) {
+        QGuiApplication::clipboard()->setImage(cover.toQImage());
+        return;
+    }
+    auto* data = new QMimeData;
+    data->setData(QStringLiteral("image/") + QLatin1String(imageReaderName(slow->header.format)),
+                  slow->bytes);
+    QGuiApplication::clipboard()->setMimeData(data);
+}
+
 } // namespace
 
-CoverArtView::CoverArtView(QWidget* parent) : QFrame(parent) {
+CoverArtView::CoverArtView(QWidget* parent) : QFrame(parent), decode_(this) {
     setAccessibleRole(*this, QAccessible::Graphic); // before anything that assistive technologies ask about
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setFocusPolicy(Qt::StrongFocus);
@@ -68,30 +88,60 @@ CoverArtView::CoverArtView(QWidget* parent) : QFrame(parent) {
     describe();
     setToolTip(localised("Cover art: drop an image here to store it"));
     makeActions();
+    connect(&decode_, &BackgroundDecode::finished, this, &CoverArtView::showDecoded);
+    connect(&decode_, &BackgroundDecode::gaveUp, this, &CoverArtView::giveUpShowing);
+    setCover({});
 }
 
 CoverArtView::~CoverArtView() {
     setAcceptDrops(false);
 }
 
-void CoverArtView::setImage(const QImage& image) {
-    image_ = image;
+void CoverArtView::setCover(const ImageRef& cover) {
+    cover_ = cover;
+    decode_.cancel();
+    const std::optional<EncodedPicture> slow = cover.slowlyDecoded();
+    text_ = slow ? QString() : invitation();
+    shown_ = slow ? QImage() : cover.toQImage();
+    if (slow) {
+        decode_.start(*slow, largestShown);
+    }
     scaled_ = QPixmap();
     updateActions();
     describe();
     update();
     emit imageChanged();
+    emit shownImageChanged();
 }
 
 /** Says what there is to see. */
 void CoverArtView::describe() {
-    setAccessibleDescription(image_.isNull() ? localised("No cover art; drop an image here")
-                                             : localised("An image of %@ pixels", sizeInPixels(image_)));
+    if (!cover_) {
+        setAccessibleDescription(localised("No cover art; drop an image here"));
+        return;
+    }
+    const std::optional<EncodedPicture> slow = cover_.slowlyDecoded();
+    const QSize size = slow ? slow->header.size : shown_.size();
+    setAccessibleDescription(localised("An image of %@ pixels", sizeInPixels(size)));
 }
 
-void CoverArtView::changeImage(const QImage& image) {
-    setImage(image);
-    emit coverArtImageChanged(image);
+void CoverArtView::changeImage(const ImageRef& cover) {
+    setCover(cover);
+    emit coverArtImageChanged(cover);
+}
+
+void CoverArtView::showDecoded(const QImage& pixels) {
+    shown_ = pixels;
+    text_ = invitation();
+    scaled_ = QPixmap();
+    update();
+    emit shownImageChanged();
+}
+
+void CoverArtView::giveUpShowing() {
+    text_ = localised("too large to show");
+    update();
+    emit tooLargeToShow();
 }
 
 void CoverArtView::setFocusRingType(FocusRingType type) {
@@ -125,20 +175,20 @@ void CoverArtView::makeActions() {
 }
 
 void CoverArtView::updateActions() {
-    cutAction_->setEnabled(!image_.isNull());
-    copyAction_->setEnabled(!image_.isNull());
+    cutAction_->setEnabled(static_cast<bool>(cover_));
+    copyAction_->setEnabled(static_cast<bool>(cover_));
 }
 
 void CoverArtView::cut() {
-    if (!image_.isNull()) {
+    if (cover_) {
         copy();
-        setImage(QImage());
+        setCover({});
     }
 }
 
 void CoverArtView::copy() {
-    if (!image_.isNull()) {
-        QGuiApplication::clipboard()->setImage(image_);
+    if (cover_) {
+        putOnClipboard(cover_);
     }
 }
 
@@ -147,8 +197,8 @@ void CoverArtView::paste() {
     if (!offered) {
         return;
     }
-    if (const QImage pasted = imageFromData(*offered); !pasted.isNull()) {
-        setImage(pasted);
+    if (const ImageRef pasted = imageInData(*offered)) {
+        setCover(pasted);
     }
 }
 
@@ -186,11 +236,11 @@ bool CoverArtView::performDragOperation() {
 }
 
 void CoverArtView::concludeDragOperation(const QMimeData& dragged) {
-    if (const QImage dropped = imageFromData(dragged); !dropped.isNull()) {
-        setImage(dropped);
+    if (const ImageRef dropped = imageInData(dragged)) {
+        setCover(dropped);
     }
     setFocusRingType(FocusRingType::None);
-    emit coverArtImageChanged(image_);
+    emit coverArtImageChanged(cover_);
 }
 
 void CoverArtView::dragEnterEvent(QDragEnterEvent* event) {
@@ -224,8 +274,8 @@ void CoverArtView::dropEvent(QDropEvent* event) {
 void CoverArtView::paintEvent(QPaintEvent* event) {
     QFrame::paintEvent(event);
     QPainter painter(this);
-    if (image_.isNull()) {
-        drawPlaceholder(painter);
+    if (shown_.isNull()) {
+        drawText(painter);
     } else {
         drawImage(painter);
     }
@@ -236,14 +286,14 @@ void CoverArtView::paintEvent(QPaintEvent* event) {
 
 void CoverArtView::drawImage(QPainter& painter) {
     const QRectF area = contentsRect();
-    QSizeF shown = image_.deviceIndependentSize();
+    QSizeF shown = shown_.deviceIndependentSize();
     if (shown.width() > area.width() || shown.height() > area.height()) {
         shown.scale(area.size(), Qt::KeepAspectRatio);
     }
     const qreal ratio = devicePixelRatioF();
     const QSize pixels = (shown * ratio).toSize().expandedTo(QSize(1, 1));
     if (scaled_.size() != pixels) {
-        scaled_ = scaledTo(pixels, image_);
+        scaled_ = scaledTo(pixels, shown_);
     }
     scaled_.setDevicePixelRatio(ratio);
     QRectF target(QPointF(), QSizeF(pixels) / ratio);
@@ -251,13 +301,12 @@ void CoverArtView::drawImage(QPainter& painter) {
     painter.drawPixmap(target.topLeft(), scaled_);
 }
 
-void CoverArtView::drawPlaceholder(QPainter& painter) {
+void CoverArtView::drawText(QPainter& painter) {
     // Not the palette's PlaceholderText: dark themes leave it black.
     QColor colour = palette().color(QPalette::WindowText);
     colour.setAlphaF(placeholderOpacity);
     painter.setPen(colour);
-    painter.drawText(contentsRect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
-                     localised("Drop an image here"));
+    painter.drawText(contentsRect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap, text_);
 }
 
 void CoverArtView::drawHighlight(QPainter& painter) {

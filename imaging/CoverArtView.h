@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/background_decode.h"
+
 #include <QFrame>
 #include <QImage>
 #include <QPixmap>
@@ -12,7 +14,8 @@ namespace velmora {
 /** The well that shows the cover art, takes images dropped on it, and cuts, copies and pastes them.
  *
  *  The image's device pixel ratio gives its nominal size. The view shows the image at that size, or smaller
- * where the view is smaller, its proportions kept.
+ * where the view is smaller, its proportions kept. One that is slowly decoded appears a while after it was
+ * set; when that takes too long, the view says that it is too large to show, and has it all the same.
  *
  *  A drop changes the file's cover art, and says so once, whether or not it held an image. Cut and paste
  * change what the view shows and nothing else. */
@@ -28,12 +31,18 @@ public:
     explicit CoverArtView(QWidget* parent = nullptr);
     ~CoverArtView() override;
 
-    /** The image shown; null when there is none. */
-    [[nodiscard]] QImage image() const { return image_; }
-    /** Shows IMAGE; a null one empties the view. */
-    void setImage(const QImage& image);
-    /** Shows IMAGE as the file's new cover art. */
-    void changeImage(const QImage& image);
+    /** The image that the view has; none when it is empty. */
+    [[nodiscard]] ImageRef cover() const { return cover_; }
+    /** Its pixels; null when there is none. All of them, and waited for. */
+    [[nodiscard]] QImage image() const { return cover_.toQImage(); }
+    /** Shows COVER; none empties the view. */
+    void setCover(const ImageRef& cover);
+    /** What the view has to show of its image: all of it, or as much of a large one as it needs; null while there is
+       none, or none yet. */
+    [[nodiscard]] QImage shownImage() const { return shown_; }
+    void setImage(const QImage& image) { setCover(image); }
+    /** Shows COVER as the file's new cover art. */
+    void changeImage(const ImageRef& cover);
 
     [[nodiscard]] FocusRingType focusRingType() const { return focusRingType_; }
     void setFocusRingType(FocusRingType type);
@@ -51,9 +60,13 @@ public slots:
 signals:
     /** The view shows another image, or none, whoever changed it. */
     void imageChanged();
-    /** The file's cover art is to be IMAGE, which the view shows: the one that was dropped, or that
-       changeImage got. After a drop without an image it is the one from before, or null. */
-    void coverArtImageChanged(const QImage& image);
+    /** shownImage is another one, or none. */
+    void shownImageChanged();
+    /** The image could not be decoded in time and is not shown. */
+    void tooLargeToShow();
+    /** The file's cover art is to be COVER, which the view shows: the one that was dropped, or that
+       changeImage got. After a drop without an image it is the one from before, or none. */
+    void coverArtImageChanged(const ImageRef& cover);
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -75,11 +88,18 @@ private:
     void describe();
     void updateActions();
     void drawImage(QPainter& painter);
-    void drawPlaceholder(QPainter& painter);
+    void drawText(QPainter& painter);
     void drawHighlight(QPainter& painter);
 
-    QImage image_;
-    QPixmap scaled_; ///< image_ as it was last drawn
+    void showDecoded(const QImage& pixels);
+    void giveUpShowing();
+
+    ImageRef cover_;
+    QImage
+        shown_; ///< the cover's pixels, or as many as the view needs of a large one; null while it has none
+    QString text_; ///< what the view says while it shows no pixels
+    BackgroundDecode decode_;
+    QPixmap scaled_; ///< shown_ as it was last drawn
     FocusRingType focusRingType_ = FocusRingType::None;
     QAction* cutAction_ = nullptr;
     QAction* copyAction_ = nullptr;

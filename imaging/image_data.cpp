@@ -48,11 +48,21 @@ QStringList imageFormats(const QMimeData& data) {
 
 } // namespace
 
-bool offersImageData(const QMimeData& data) {
+bool offersFiles(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
+    return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
+}
+
+bool offersImageFile(const QMimeData& data) {
+    constexpr qsizetype mostLookedInto = 32; // a drag may be of thousands
+    const QList<QUrl> urls = data.urls().mid(0, mostLookedInto);
+    return std::any_of(urls.begin(), urls.end(),
+                       [](const QUrl& url) { return isPictureFile(pathFromFileUrl(url)); });
+}
+
+bool offersImageData(const QMimeData& data) {
     const QStringList formats = data.formats();
-    return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); }) ||
-           data.hasImage() || std::any_of(formats.begin(), formats.end(), isImageFormat);
+    return offersFiles(data) || data.hasImage() || std::any_of(formats.begin(), formats.end(), isImageFormat);
 }
 
 ImageRef imageInData(const QMimeData& data) {

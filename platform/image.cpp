@@ -54,8 +54,11 @@ Image* imageFromEncoded(const QByteArray& bytes) {
     return image.release();
 }
 
-/** Opens a regular file for reading; FILE stays closed otherwise. */
-void openRegularFile(const char* path, QFile& file) {
+/** Opens the file at PATH for reading if it is a regular one that begins as a picture does; FILE stays closed
+   otherwise. The first bytes decide before the rest is read: a film chosen by mistake is not pulled into
+   memory.
+ */
+void openPictureFile(const char* path, QFile& file) {
     const int descriptor = ::open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     struct stat status {};
     if (descriptor < 0) {
@@ -64,6 +67,8 @@ void openRegularFile(const char* path, QFile& file) {
     if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) ||
         !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         ::close(descriptor);
+    } else if (!pictureFormat(file.peek(pictureSignatureSize))) {
+        file.close();
     }
 }
 
@@ -88,12 +93,8 @@ Image* image_from_bytes(const void* bytes, std::size_t size) {
 
 Image* image_from_file(const char* path) {
     QFile file;
-    openRegularFile(path, file);
-    // The first bytes decide before the rest is read: a film chosen by mistake is not pulled into memory.
-    if (!file.isOpen() || file.size() > largestFile || !pictureFormat(file.peek(pictureSignatureSize))) {
-        return nullptr;
-    }
-    return imageFromEncoded(file.readAll());
+    openPictureFile(path, file);
+    return file.isOpen() && file.size() <= largestFile ? imageFromEncoded(file.readAll()) : nullptr;
 }
 
 std::vector<std::uint8_t> image_to_jpeg(const Image* image) {
@@ -140,6 +141,12 @@ std::optional<EncodedPicture> ImageRef::slowlyDecoded() const {
 
 void allowLargeImages() {
     QImageReader::setAllocationLimit(1024); // in MiB
+}
+
+bool isPictureFile(const QString& path) {
+    QFile file;
+    openPictureFile(pathBytes(path).constData(), file);
+    return file.isOpen();
 }
 
 QImage imageFromFile(const QString& path) {

@@ -22,11 +22,12 @@ struct EncodedPicture {
 class ImageRef {
 public:
     ImageRef() = default;
+    /** An image of these pixels; none for a null QImage. */
+    ImageRef(const QImage& pixels) : ImageRef(fromQImage(pixels)) {}
     /** Takes over the caller's reference. */
     [[nodiscard]] static ImageRef adopt(Image* image);
     /** Adds a reference. */
     [[nodiscard]] static ImageRef share(Image* image);
-    /** An image of these pixels; none for a null QImage. */
     [[nodiscard]] static ImageRef fromQImage(const QImage& pixels);
     /** The image that BYTES hold (see readPictureHeader); none when they hold none. */
     [[nodiscard]] static ImageRef fromBytes(const QByteArray& bytes);
@@ -60,6 +61,9 @@ private:
 /** Lets an image take 1 GiB when it is decoded (16,384 x 16,384 pixels), eight times as much as Qt grants,
    for large scans of covers. For the whole program; to be called once, at its start. */
 void allowLargeImages();
+
+/** Whether the file at PATH begins as a picture does, which need not mean that it is one. */
+[[nodiscard]] bool isPictureFile(const QString& path);
 
 /** The pixels of the image in the file at PATH, or a null QImage. */
 [[nodiscard]] QImage imageFromFile(const QString& path);

@@ -2,6 +2,7 @@
 
 #include "jpeg_recode.h"
 #include "jpeg_stream.h"
+#include "png_decode.h"
 
 #include <QBuffer>
 #include <QImageIOHandler>
@@ -84,13 +85,12 @@ std::optional<PictureHeader> readOtherHeader(const QByteArray& bytes, PictureFor
     if (format == PictureFormat::Gif) {
         header.size = header.size.expandedTo(gifScreen(bytes));
     }
-    if (pixelCount(header.size) > largePicture) {
-        // These decoders hold the picture more than once, as do samples of 16 bits.
-        const bool isSimple = format == PictureFormat::Png || format == PictureFormat::Bmp;
-        const int bits = QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();
-        if (!isSimple || bits > pixelBytes * 8) {
-            return std::nullopt;
-        }
+    header.isDeep = format == PictureFormat::Png && isDeepPng(bytes);
+    // Above that, the decoders of the other formats would take too much: they hold the picture more than
+    // once.
+    const bool isLean = format == PictureFormat::Png || format == PictureFormat::Bmp;
+    if (pixelCount(header.size) > largePicture && !isLean) {
+        return std::nullopt;
     }
     return header;
 }
@@ -100,8 +100,31 @@ bool fitsIntoMemory(const PictureHeader& header) {
     return pixels <= largePicture || header.coefficientBytes <= pixels * pixelBytes + spareMemory;
 }
 
-QImage read(QImageReader& reader) {
+/** The picture at its own size, or smaller where the decoder gains by it, but no smaller than SIZE. */
+QImage readTowards(const QSize& size, const QByteArray& bytes, const PictureHeader& header,
+                   const std::atomic<bool>& cancelled) {
+    // A few hundred bytes of a JPEG can stand for a walk through the whole picture; readers of other formats
+    // want what they ask for.
+    const qint64 pieces = header.format == PictureFormat::Jpeg ? 512 : bytes.size();
+    CancellableSource source(bytes, pieces, cancelled);
+    FormatReader reader(&source, header.format);
+    // Scaling a PNG on the way saves memory and takes twice the time.
+    const bool gains = header.format == PictureFormat::Jpeg || header.format == PictureFormat::WebP ||
+                       pixelCount(header.size) > largePicture;
+    if (gains && size != header.size && reader.supportsOption(QImageIOHandler::ScaledSize)) {
+        reader.setScaledSize(size);
+    }
     return withWholePalette(reader.read());
+}
+
+/** PIXELS at SIZE. Thinned out first: smoothing every pixel of a large picture takes longer than decoding it.
+ */
+QImage thinnedOut(const QImage& pixels, const QSize& size) {
+    constexpr int oversampling = 2;
+    const QSize enough = size * oversampling;
+    const bool isMuchLarger = pixels.width() > enough.width() && pixels.height() > enough.height();
+    return (isMuchLarger ? pixels.scaled(enough) : pixels)
+        .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 } // namespace
@@ -139,6 +162,10 @@ bool hasDecodableData(const QByteArray& bytes, const PictureHeader& header) {
 }
 
 QImage decodePicture(const QByteArray& bytes, const PictureHeader& header) {
+    if (header.isDeep && !isQuicklyDecoded(header)) {
+        const std::atomic<bool> never = false;
+        return decodedInEightBits(bytes, never);
+    }
     QBuffer buffer;
     buffer.setData(bytes);
     if (header.coefficientBytes > spareMemory / 2) {
@@ -149,7 +176,7 @@ QImage decodePicture(const QByteArray& bytes, const PictureHeader& header) {
     }
     buffer.open(QIODevice::ReadOnly);
     FormatReader reader(&buffer, header.format);
-    return read(reader);
+    return withWholePalette(reader.read());
 }
 
 QImage decodePictureToFit(const QByteArray& bytes, const PictureHeader& header, const QSize& box,
@@ -157,24 +184,12 @@ QImage decodePictureToFit(const QByteArray& bytes, const PictureHeader& header, 
     const bool isLarger = header.size.width() > box.width() || header.size.height() > box.height();
     const QSize fitting =
         isLarger ? header.size.scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)) : header.size;
-    // A few hundred bytes of a JPEG can stand for a walk through the whole picture; readers of other formats
-    // want what they ask for.
-    const qint64 pieces = header.format == PictureFormat::Jpeg ? 512 : bytes.size();
-    CancellableSource source(bytes, pieces, cancelled);
-    FormatReader reader(&source, header.format);
-    if (isLarger && reader.supportsOption(QImageIOHandler::ScaledSize)) {
-        reader.setScaledSize(fitting);
+    const QImage pixels =
+        header.isDeep ? decodedInEightBits(bytes, cancelled) : readTowards(fitting, bytes, header, cancelled);
+    if (cancelled.load(std::memory_order_relaxed)) {
+        return {};
     }
-    const QImage pixels = read(reader);
-    if (cancelled.load(std::memory_order_relaxed) || pixels.isNull() || pixels.size() == fitting) {
-        return cancelled.load(std::memory_order_relaxed) ? QImage() : pixels;
-    }
-    // Thinned out first: smoothing every pixel of a large picture takes longer than decoding it.
-    constexpr int oversampling = 2;
-    const QSize enough = fitting * oversampling;
-    const bool isMuchLarger = pixels.width() > enough.width() && pixels.height() > enough.height();
-    return (isMuchLarger ? pixels.scaled(enough) : pixels)
-        .scaled(fitting, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return pixels.isNull() || pixels.size() == fitting ? pixels : thinnedOut(pixels, fitting);
 }
 
 QImage withWholePalette(QImage pixels) {

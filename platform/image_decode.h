@@ -19,6 +19,8 @@ struct PictureHeader {
     int passes = 1;
     /** What a decoder keeps of the whole picture besides its pixels, in bytes. */
     qint64 coefficientBytes = 0;
+    /** A PNG with samples of 16 bits. */
+    bool isDeep = false;
 };
 
 /** The one gate that every picture passes, wherever it comes from: what BYTES say of themselves, without

@@ -232,6 +232,10 @@
         <translation>Titelbild: ein Bild zum Speichern hier ablegen</translation>
     </message>
     <message>
+        <source>too large to show</source>
+        <translation>zu groß zum Anzeigen</translation>
+    </message>
+    <message>
         <source>Drop an image here</source>
         <translation>Bild hier ablegen</translation>
     </message>

@@ -3,6 +3,7 @@
 #include "window_fixture.h"
 
 #include "imaging/CoverArtView.h"
+#include "model/MediaFile.h"
 #include "support/bytes.h"
 
 #include <QBuffer>
@@ -12,6 +13,8 @@
 
 namespace velmora {
 namespace {
+
+using test::waitUntil;
 
 class CoverArtTest : public test::WindowTest {
 protected:
@@ -91,6 +94,42 @@ TEST_F(CoverArtTest, ACoverThatCannotBeDecodedLeavesItsPlaceToTheAlbumsImage) {
     openFile("a.mp3", cover(headerOnly(QSize(300, 200))) + frame("PRIV", album));
     EXPECT_EQ(QSize(30, 40), well().image().size());
     EXPECT_FALSE(document().isDocumentEdited());
+}
+
+TEST_F(CoverArtTest, ALargeCoverIsThereAtOnceAndShownLater) {
+    openFile("a.mp3", cover(encoded(plain(QSize(3000, 2000)))));
+    EXPECT_TRUE(file().coverArt());
+    EXPECT_TRUE(enabled("btn_trimBorder"));
+    EXPECT_FALSE(document().isDocumentEdited());
+    EXPECT_TRUE(waitUntil([this] {
+        const QImage shown = well().grab().toImage();
+        return shown.pixelColor(shown.rect().center()).green() > 100;
+    }));
+}
+
+TEST_F(CoverArtTest, ACoverThatIsTooLargeToShowCannotBeTrimmedAndIsStored) {
+    well().findChild<BackgroundDecode*>()->setPatience(std::chrono::milliseconds(0));
+    const QString path = openFile("a.mp3", cover(encoded(plain(QSize(3000, 2000)), "png")));
+    EXPECT_TRUE(waitUntil([this] { return !enabled("btn_trimBorder"); }));
+    type("entry_title", "Noon");
+    button("btn_saveTag").click();
+    EXPECT_FALSE(document().isDocumentEdited());
+    EXPECT_EQ(QSize(3000, 2000), MediaFile::initWithFile(path)->coverArt().toQImage().size());
+}
+
+TEST_F(CoverArtTest, ALargeFolderImageIsAChangeAtOnceAndStored) {
+    test::write_file(folder_ / "folder.jpg", encoded(plain(QSize(3000, 2000))));
+    const QString path = openFile("a.mp3");
+    EXPECT_TRUE(document().isDocumentEdited());
+    EXPECT_TRUE(enabled("btn_saveTag"));
+    EXPECT_TRUE(enabled("btn_trimBorder"));
+    button("btn_saveTag").click();
+    EXPECT_EQ(QSize(3000, 2000), MediaFile::initWithFile(path)->coverArt().toQImage().size());
+}
+
+TEST_F(CoverArtTest, AWindowMayCloseWhileALargeCoverIsDecoded) {
+    openFile("a.mp3", cover(encoded(plain(QSize(6000, 5000)))));
+    document_.reset();
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "cover_art_fixture.h"
-#include "drag_session.h"
 #include "support/contrast.h"
+#include "support/drag_session.h"
 
 #include <QSignalSpy>
 #include <QUrl>

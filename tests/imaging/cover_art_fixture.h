@@ -33,8 +33,8 @@ protected:
         layout->addWidget(view);
         window.resize(220, 200);
         window.show();
-        QObject::connect(view, &CoverArtView::coverArtImageChanged, view, [this](const QImage& image) {
-            receiver.calls.push_back({image, view->image(), view->focusRingType()});
+        QObject::connect(view, &CoverArtView::coverArtImageChanged, view, [this](const ImageRef& cover) {
+            receiver.calls.push_back({cover.toQImage(), view->image(), view->focusRingType()});
         });
         log.emplace(stderr);
     }

@@ -1,5 +1,5 @@
 #include "cover_art_fixture.h"
-#include "drag_session.h"
+#include "support/drag_session.h"
 
 #include "support/bytes.h"
 #include "support/scratch_folder.h"

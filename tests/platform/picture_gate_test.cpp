@@ -2,6 +2,7 @@
 
 #include "platform/image.h"
 #include "platform/jpeg_stream.h"
+#include "platform/png_decode.h"
 
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
@@ -10,6 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <climits>
+#include <cstring>
 #include <sys/stat.h>
 
 namespace velmora {
@@ -262,6 +266,60 @@ TEST(PictureData, AFileThatIsCutKeepsWhatItHas) {
     }
     const QByteArray whole = encoded(halves, "jpeg");
     EXPECT_TRUE(isPicture(whole.left(whole.size() - 100)));
+}
+
+// Samples of 16 bits
+
+QImage deep(const QSize& size, QImage::Format format) {
+    QImage image(size, format);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            image.setPixelColor(x, y,
+                                QColor::fromRgba64(static_cast<ushort>(x * 601), static_cast<ushort>(y * 907),
+                                                   40000, static_cast<ushort>(65535 - x * 13)));
+        }
+    }
+    return image;
+}
+
+TEST(DeepPngs, AreReadInEightBitsASample) {
+    const std::atomic<bool> never = false;
+    for (const QImage::Format format : {QImage::Format_RGBA64, QImage::Format_RGBX64}) {
+        const QByteArray png = encoded(deep(QSize(70, 50), format), "png");
+        ASSERT_TRUE(isDeepPng(png));
+        const QImage pixels = decodedInEightBits(png, never);
+        const bool hasAlpha = format == QImage::Format_RGBA64;
+        EXPECT_EQ(hasAlpha ? QImage::Format_ARGB32 : QImage::Format_RGB32, pixels.format());
+        const QImage expected = QImage::fromData(png).convertToFormat(pixels.format());
+        ASSERT_EQ(expected.size(), pixels.size());
+        for (int y = 0; y < expected.height(); ++y) {
+            for (int x = 0; x < expected.width(); ++x) {
+                const QColor a = expected.pixelColor(x, y);
+                const QColor b = pixels.pixelColor(x, y);
+                ASSERT_LE(std::max({qAbs(a.red() - b.red()), qAbs(a.green() - b.green()),
+                                    qAbs(a.blue() - b.blue()), qAbs(a.alpha() - b.alpha())}),
+                          1)
+                    << x << ' ' << y;
+            }
+        }
+    }
+    EXPECT_FALSE(isDeepPng(encoded(plain(8, 8), "png")));
+    EXPECT_FALSE(isDeepPng(encoded(plain(8, 8).convertToFormat(QImage::Format_Grayscale16), "png")));
+}
+
+TEST(DeepPngs, CutAnywhereGiveNone) {
+    const std::atomic<bool> never = false;
+    const QByteArray png = encoded(deep(QSize(20, 20), QImage::Format_RGBA64), "png");
+    const qsizetype data = png.indexOf("IDAT");
+    for (qsizetype length = 26; length < data + 8; ++length) {
+        EXPECT_TRUE(decodedInEightBits(png.left(length), never).isNull()) << length;
+    }
+}
+
+TEST(DeepPngs, ThatNobodyWantsAnyMoreGiveNone) {
+    const std::atomic<bool> cancelled = true;
+    EXPECT_TRUE(
+        decodedInEightBits(encoded(deep(QSize(9, 9), QImage::Format_RGBA64), "png"), cancelled).isNull());
 }
 
 } // namespace
