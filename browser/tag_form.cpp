@@ -1,5 +1,6 @@
 #include "tag_form.h"
 
+#include "image_file_drops.h"
 #include "media_document.h"
 #include "pick_lists.h"
 #include "ui_tag_form.h"
@@ -34,6 +35,7 @@ TagForm::TagForm(MediaDocument& document, QWidget* parent)
     auto* wheelFilter = new WheelNeedsFocus(this);
     wheelFilter->watch(*ui_->combo_rating);
     wheelFilter->watch(*ui_->combo_genre);
+    new ImageFileDrops(*this, *ui_->img_coverArt);
 }
 
 TagForm::~TagForm() = default;

@@ -5,9 +5,11 @@
 #include "imaging/CoverArtView.h"
 #include "model/MediaFile.h"
 #include "support/bytes.h"
+#include "support/drag_session.h"
 
 #include <QBuffer>
 #include <QImage>
+#include <QUrl>
 
 #include <sys/stat.h>
 
@@ -130,6 +132,81 @@ TEST_F(CoverArtTest, ALargeFolderImageIsAChangeAtOnceAndStored) {
 TEST_F(CoverArtTest, AWindowMayCloseWhileALargeCoverIsDecoded) {
     openFile("a.mp3", cover(encoded(plain(QSize(6000, 5000)))));
     document_.reset();
+}
+
+// Dropping files
+
+/** Dragging and dropping files beside the cover well. */
+class FileDropTest : public CoverArtTest {
+protected:
+    FileDropTest() {
+        openFile();
+        test::write_file(folder_ / "c.png", encoded(plain(QSize(12, 10)), "png"));
+        test::write_file(folder_ / "notes.txt", "1984");
+    }
+
+    /** A drag of the file NAME as a file manager makes it: its address is there as text, too. */
+    void drag(const std::string& name) {
+        const QUrl url = QUrl::fromLocalFile(path(name));
+        data_.setUrls({url});
+        data_.setText(url.toString());
+    }
+
+    static constexpr const char* fields[] = {"entry_title", "entry_artist",    "entry_album",
+                                             "entry_year",  "entry_desc",      "combo_genre",
+                                             "lbl_title",   "picker_dateTime", "box_form"};
+    QMimeData data_;
+};
+
+TEST_F(FileDropTest, AnImageFileDroppedAnywhereOnTheFormGoesToTheWell) {
+    drag("c.png");
+    for (const char* const field : fields) {
+        well().setImage({});
+        test::DragSession session(widget(field), data_);
+        ASSERT_TRUE(session.enter()) << field;
+        EXPECT_EQ(CoverArtView::FocusRingType::Default, well().focusRingType()) << field;
+        EXPECT_TRUE(session.move()) << field;
+        EXPECT_TRUE(session.drop()) << field;
+        EXPECT_EQ(Qt::CopyAction, session.action()) << field;
+        EXPECT_EQ(QSize(12, 10), well().image().size()) << field;
+        EXPECT_EQ(CoverArtView::FocusRingType::None, well().focusRingType()) << field;
+    }
+    EXPECT_TRUE(file().coverArt());
+    EXPECT_EQ("Z", entry("entry_title").text());
+    EXPECT_EQ("", entry("entry_year").text());
+    EXPECT_EQ("", widget<QPlainTextEdit>("entry_desc").toPlainText());
+}
+
+TEST_F(FileDropTest, AnotherFileIsNotTakenForItsAddress) {
+    drag("notes.txt");
+    for (const char* const field : fields) {
+        test::DragSession session(widget(field), data_);
+        EXPECT_FALSE(session.enter()) << field;
+        EXPECT_FALSE(session.move()) << field;
+        EXPECT_FALSE(session.drop()) << field;
+        EXPECT_EQ(CoverArtView::FocusRingType::None, well().focusRingType()) << field;
+    }
+    EXPECT_EQ("Z", entry("entry_title").text());
+    EXPECT_EQ("", entry("entry_year").text());
+    EXPECT_FALSE(document().isDocumentEdited());
+}
+
+TEST_F(FileDropTest, ADragThatLeavesTheFormLeavesNoFrameBehind) {
+    drag("c.png");
+    test::DragSession session(entry("entry_title"), data_);
+    ASSERT_TRUE(session.enter());
+    session.leave();
+    EXPECT_EQ(CoverArtView::FocusRingType::None, well().focusRingType());
+    EXPECT_FALSE(document().isDocumentEdited());
+}
+
+TEST_F(FileDropTest, TextIsStillDroppedAsText) {
+    data_.setText("Noon");
+    test::DragSession session(entry("entry_artist"), data_);
+    EXPECT_TRUE(session.enter());
+    EXPECT_TRUE(session.move());
+    EXPECT_TRUE(session.drop());
+    EXPECT_EQ("Noon", entry("entry_artist").text());
 }
 
 } // namespace
