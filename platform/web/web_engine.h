@@ -4,6 +4,7 @@
 #include <QUrl>
 #include <QtPlugin>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -42,11 +43,14 @@ public:
 
     /** The widget that shows the page; owned by the engine. */
     [[nodiscard]] virtual QWidget* widget() = 0;
-    /** Loads the page at URL. A page whose scripts never rest is left all the same, after a few seconds; so
-       it is by goBack. */
+    /** Loads the page at URL. A page whose scripts never rest is left all the same, after the time of
+       setLeaveTimeLimit; so it is by goBack. */
     virtual void load(const QUrl& url) = 0;
     [[nodiscard]] virtual bool canGoBack() const = 0;
     virtual void goBack() = 0;
+
+    /** How long a page whose scripts never rest may hold up a load or goBack that follows. 5 seconds when it is not set. */
+    virtual void setLeaveTimeLimit(std::chrono::milliseconds limit) = 0;
 
     using SnapshotTaker = std::function<void(const QString&)>;
     /** Has the text of the page's document (as readDomSnapshot reads it) given to TAKE, now or later; the

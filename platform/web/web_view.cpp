@@ -66,6 +66,7 @@ WebView::~WebView() {
 bool WebView::ensureEngine() {
     if (engine_ == nullptr) {
         engine_ = makeEngine_(*this, this);
+        setLeaveTimeLimit(leaveTimeLimit_);
         if (engine_ != nullptr && engine_->widget() != nullptr) {
             delete placeholder_;
             layout()->addWidget(engine_->widget());
@@ -73,6 +74,13 @@ bool WebView::ensureEngine() {
         }
     }
     return engine_ != nullptr;
+}
+
+void WebView::setLeaveTimeLimit(std::chrono::milliseconds limit) {
+    leaveTimeLimit_ = limit;
+    if (engine_ != nullptr) {
+        engine_->setLeaveTimeLimit(limit);
+    }
 }
 
 bool WebView::canGoBack() const {

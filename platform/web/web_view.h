@@ -53,6 +53,9 @@ public:
      * time. */
     void setDocumentTimeLimit(std::chrono::milliseconds limit) { documentTimeLimit_ = limit; }
 
+    /** How long a page whose scripts never rest may hold up the load, or the way back, by which it is left. */
+    void setLeaveTimeLimit(std::chrono::milliseconds limit);
+
 public slots:
     void goBack();
 
@@ -86,6 +89,7 @@ private:
     std::unique_ptr<WebFrame> subFrame_;
     std::shared_ptr<DocumentWait> documentWait_;
     std::chrono::milliseconds documentTimeLimit_{15000};
+    std::chrono::milliseconds leaveTimeLimit_{5000};
     std::unique_ptr<WebEngine> engine_;
 };
 

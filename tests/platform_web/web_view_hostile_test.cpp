@@ -124,6 +124,7 @@ TEST_F(WebViewHostile, FrameThatAsksToStayIsLeft) {
 
 TEST_F(WebViewHostile, PageThatIsBusyWithBeingLeftIsLeft) {
     server.serve("/a", "<title>A</title>");
+    view->setLeaveTimeLimit(std::chrono::milliseconds(1500));
     for (const char* const event : {"beforeunload", "pagehide", "unload"}) {
         showAndClick(QByteArray("addEventListener('") + event +
                      "', () => { history.replaceState({}, '', '#left'); for (;;) {} });");

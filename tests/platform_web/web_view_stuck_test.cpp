@@ -15,6 +15,8 @@ protected:
         server.serve("/busy", "<title>busy</title><script>setTimeout(() => { for (;;) {} }, 200)</script>");
     }
 
+    static constexpr std::chrono::milliseconds shortLimit{1000};
+
     /** Loads the busy page and gives its script the time to begin. */
     void getStuck() {
         load("/busy");
@@ -24,14 +26,16 @@ protected:
     bool finished() {
         return waitUntil([this] { return events.contains("finish main"); });
     }
-    /** Has the page asked for its document, for LIMIT. */
+    /** Has the page asked for its document, for LIMIT. No leave that follows is owed to its time limit. */
     void askInVain(std::chrono::milliseconds limit) {
+        view->setLeaveTimeLimit(std::chrono::minutes(1));
         view->setDocumentTimeLimit(limit);
         EXPECT_EQ(document(), nullptr);
         view->setDocumentTimeLimit(std::chrono::seconds(20));
     }
 };
 
+// With the limit that the program has.
 TEST_F(WebViewStuck, IsLeftByALoad) {
     load("/a");
     getStuck();
@@ -41,9 +45,10 @@ TEST_F(WebViewStuck, IsLeftByALoad) {
 }
 
 TEST_F(WebViewStuck, IsLeftByTheLastOfSeveralLoads) {
+    view->setLeaveTimeLimit(shortLimit);
     getStuck();
     view->loadRequest(server.url("/a"));
-    waitFor(1000);
+    waitFor(400);
     view->loadRequest(server.url("/b"));
     ASSERT_TRUE(finished());
     waitFor(500);
@@ -53,6 +58,7 @@ TEST_F(WebViewStuck, IsLeftByTheLastOfSeveralLoads) {
 TEST_F(WebViewStuck, IsLeftByGoingBackOnePage) {
     load("/a");
     load("/b");
+    view->setLeaveTimeLimit(shortLimit);
     getStuck();
     view->goBack();
     ASSERT_TRUE(finished());
@@ -89,7 +95,8 @@ TEST_F(WebViewStuck, IsLeftAtOnceByGoingBackWhenItHasNotGivenItsDocument) {
 class WebViewSlow : public WebViewTest {
 protected:
     void loadSlowly() {
-        server.serve("/slow", Answer{.body = "<title>slow</title>", .delayMilliseconds = 7000});
+        view->setLeaveTimeLimit(std::chrono::milliseconds(2000));
+        server.serve("/slow", Answer{.body = "<title>slow</title>", .delayMilliseconds = 3000});
         load("/slow");
         EXPECT_EQ(events, QStringList({"start main", "finish main"}));
         EXPECT_EQ(server.requests().count("/slow"), 1);

@@ -37,6 +37,7 @@ public:
     void load(const QUrl& url) override { state_.loaded.append(url); }
     bool canGoBack() const override { return state_.canGoBack; }
     void goBack() override { ++state_.wentBack; }
+    void setLeaveTimeLimit(std::chrono::milliseconds) override {}
     void takeSnapshot(SnapshotTaker take) override {
         ++state_.snapshotsAsked;
         if (state_.snapshot) {

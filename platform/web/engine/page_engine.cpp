@@ -38,8 +38,7 @@ void forbidLocalAccess(QWebEngineSettings& settings) {
     settings.setAttribute(QWebEngineSettings::NavigateOnDropEnabled, false);
 }
 
-/** A busy page has five looks, a second each, to answer something simple. */
-constexpr std::chrono::seconds lookInterval{1};
+/** A busy page has five looks to answer something simple. */
 constexpr int patienceInLooks = 5;
 
 } // namespace
@@ -92,6 +91,10 @@ void PageEngine::goBack() {
     navigate([this] { page_->triggerAction(QWebEnginePage::Back); });
 }
 
+void PageEngine::setLeaveTimeLimit(std::chrono::milliseconds limit) {
+    lookInterval_ = limit / patienceInLooks;
+}
+
 void PageEngine::navigate(std::function<void()> navigation) {
     navigation_ = std::move(navigation);
     if (ending_) {
@@ -116,7 +119,7 @@ void PageEngine::watchProcess() {
     leave_ = std::make_shared<Leave>();
     if (watched_ > 0 && !page_->isLost()) {
         askProcess();
-        watch_.start(lookInterval);
+        watch_.start(lookInterval_);
     }
 }
 

@@ -26,6 +26,7 @@ public:
     void load(const QUrl& url) override;
     bool canGoBack() const override;
     void goBack() override;
+    void setLeaveTimeLimit(std::chrono::milliseconds limit) override;
     void takeSnapshot(SnapshotTaker take) override;
 
 private:
@@ -53,6 +54,7 @@ private:
     /** The process of the page that is being left. */
     qint64 watched_ = 0;
     QTimer watch_;
+    std::chrono::milliseconds lookInterval_{1000};
     /** What is known of the leaving that is under way. */
     struct Leave {
         /** For how many looks the process owes an answer; -1 for none. */
