@@ -22,10 +22,6 @@ namespace {
  */
 constexpr std::chrono::milliseconds openDelay(150);
 
-/** A file that the player neither opens nor rejects in this time (one that ends before its first frame, say)
- * has failed. */
-constexpr std::chrono::seconds decisionDeadline(10);
-
 /** An open regular file. Pipes and devices, which could block for ever, are not opened. */
 class RegularFile {
 public:
@@ -80,7 +76,7 @@ public:
             fail();
             return;
         }
-        deadline_.start(decisionDeadline);
+        deadline_.start(movie_.decisionTimeLimit_);
         player_.setSource(address_);
     }
 

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QTimer>
 
+#include <chrono>
+
 namespace velmora {
 
 /** A media file opened as a movie, stopped at its first frame until somebody plays it.
@@ -20,6 +22,10 @@ public:
      * shown. */
     explicit Movie(QObject* parent = nullptr);
     ~Movie() override;
+
+    /** A file that is neither opened nor rejected in this time (one that ends before its first frame, say) has failed. Holds
+       for the files that are opened from then on. */
+    void setDecisionTimeLimit(std::chrono::milliseconds limit) { decisionTimeLimit_ = limit; }
 
     /** Opens the file at PATH in place of the current one, also when it is the same. */
     void open(const QString& path);
@@ -61,6 +67,7 @@ private:
 
     QString path_;
     QTimer delay_;
+    std::chrono::milliseconds decisionTimeLimit_{10000};
     Player* player_ = nullptr;
 };
 
