@@ -1,13 +1,20 @@
 # A virtual display with the program on it, for scripts that work it with mouse and keyboard. Sourced, after build= is
-# set to the build folder. Gives: work (a folder that goes at the end), HOME inside it, start_program, wait_for_log,
-# screenshot, quit_program.
+# set to the build folder; with accessible=yes, controls can be found by their names. Gives: work (a folder that goes at the end), HOME inside it, start_program, wait_for_log,
+# screenshot, point_at, quit_program.
 
 if [ -z "${VELMORA_DISPLAY_READY:-}" ]; then
-  export VELMORA_DISPLAY_READY=1
-  exec xvfb-run -a -s '-screen 0 1600x900x24 -nolisten tcp' "$0" "$@"
+  export VELMORA_DISPLAY_READY=1 VELMORA_WORK
+  VELMORA_WORK=$(mktemp -d)
+  bus=()
+  if [ -n "${accessible:-}" ]; then
+    # A message bus of its own, whose helpers leave nothing outside the folder.
+    export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 GSETTINGS_BACKEND=memory
+    bus=(env HOME="$VELMORA_WORK" XDG_RUNTIME_DIR="$VELMORA_WORK" dbus-run-session --)
+  fi
+  exec xvfb-run -a -s '-screen 0 1600x900x24 -nolisten tcp' "${bus[@]}" "$0" "$@"
 fi
 
-work=$(mktemp -d)
+work=$VELMORA_WORK
 program=
 helpers=()
 finish() {
@@ -45,6 +52,16 @@ start_program() {
   xdotool windowmove "$window" 0 0 windowsize "$window" 1270 880 windowfocus --sync "$window"
   sleep 1
 }
+
+# Moves the mouse to the middle of the control with one of these accessible names.
+point_at() {
+  local middle
+  middle=$(find_control "$@")
+  xdotool mousemove $middle
+}
+
+# Gives "X Y", the middle of the control with one of these accessible names.
+find_control() { "$(dirname "${BASH_SOURCE[0]}")/find-control" "$@"; }
 
 # Leaves a picture of the display in a file.
 screenshot() {
