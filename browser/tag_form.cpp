@@ -232,7 +232,7 @@ void TagForm::fillFields(const FormFillInfo* info) {
     if (info->cast) {
         ui_->entry_artist->setText(nsarray_to_nsstring(*info->cast, QStringLiteral("\n")));
     }
-    if (!info->coverArt.isNull()) {
+    if (info->coverArt) {
         appLog(QStringLiteral("got cover art\n"));
         allowTrimming();
         changeCoverArt(info->coverArt);

@@ -130,6 +130,13 @@ ImageRef ImageRef::fromFile(const QString& path) {
     return ImageRef(image_from_file(pathBytes(path).constData()));
 }
 
+QSize ImageRef::size() const {
+    if (!image_) {
+        return {0, 0};
+    }
+    return image_->pixels.isNull() ? image_->header.size : image_->pixels.size();
+}
+
 QImage ImageRef::toQImage() const {
     return image_ ? image_->decoded() : QImage();
 }

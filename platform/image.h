@@ -43,6 +43,9 @@ public:
     ~ImageRef() { image_release(image_); }
 
     explicit operator bool() const { return image_ != nullptr; }
+    [[nodiscard]] bool isNull() const { return image_ == nullptr; }
+    /** Width and height in pixels, known without decoding; empty for none. */
+    [[nodiscard]] QSize size() const;
     /** The object itself, still owned by this reference. */
     [[nodiscard]] Image* get() const { return image_; }
 

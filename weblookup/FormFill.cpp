@@ -15,7 +15,8 @@ ImageFetch withoutLocalFiles(const QString& address, ImageFetch fetch) {
     if (QUrl(address).isLocalFile()) {
         return fetch;
     }
-    return [fetch = std::move(fetch)](const QUrl& url) { return url.isLocalFile() ? QImage() : fetch(url); };
+    return
+        [fetch = std::move(fetch)](const QUrl& url) { return url.isLocalFile() ? ImageRef() : fetch(url); };
 }
 
 /** What a field of one line shows. Laying a text out can take the square of its length, so that the

@@ -121,7 +121,7 @@ void TagWebBrowser::formFill() {
 }
 
 /** The image at URL; no value when the panel or its window went away, or the program quits. */
-std::optional<QImage> TagWebBrowser::fetchCover(const QUrl& url) {
+std::optional<ImageRef> TagWebBrowser::fetchCover(const QUrl& url) {
     const QPointer<TagWebBrowser> self(this);
     bool cancelled = false;
     QTimer hesitation;
@@ -130,7 +130,7 @@ std::optional<QImage> TagWebBrowser::fetchCover(const QUrl& url) {
     connect(ui_->btn_cancelCover, &QPushButton::clicked, &hesitation, [&cancelled] { cancelled = true; });
     ui_->lbl_coverWait->setText(waitText(url));
     hesitation.start(waitWithoutAWord);
-    const std::optional<QImage> image = fetchImage(url, ui_->webview_search, ui_->btn_cancelCover);
+    const std::optional<ImageRef> image = fetchImage(url, ui_->webview_search, ui_->btn_cancelCover);
     if (self) {
         coversCancelled_ = cancelled;
         ui_->box_coverWait->hide();
@@ -147,14 +147,14 @@ void TagWebBrowser::fillFromPage() {
     const auto fetch = [this, self, &interrupted, end](const QUrl& url) {
         if (interrupted || !self) {
             interrupted = true;
-            return QImage();
+            return ImageRef();
         }
         if (coversCancelled_ || timeAtWork() >= end) {
-            return QImage();
+            return ImageRef();
         }
-        const std::optional<QImage> image = fetchCover(url);
+        const std::optional<ImageRef> image = fetchCover(url);
         interrupted = !image.has_value();
-        return image.value_or(QImage());
+        return image.value_or(ImageRef());
     };
 
     const std::unique_ptr<FormFill> fill =

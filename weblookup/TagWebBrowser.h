@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/image.h"
 #include "platform/web/web_view.h"
 #include "search_address.h"
 
-#include <QImage>
 #include <QUrl>
 #include <QWidget>
 
@@ -74,7 +74,7 @@ private:
     void updateBackButton(const WebView* view);
     void loadFailed(const WebView* view, const WebFrame* frame);
     void fillFromPage();
-    [[nodiscard]] std::optional<QImage> fetchCover(const QUrl& url);
+    [[nodiscard]] std::optional<ImageRef> fetchCover(const QUrl& url);
     void showAddress(const QUrl& address);
 
     std::unique_ptr<Ui::TagWebBrowser> ui_;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QImage>
+#include "platform/image.h"
+
 #include <QString>
 #include <QUrl>
 
@@ -9,8 +10,8 @@
 
 namespace velmora {
 
-/** Gives the image at an address, blocking; the null image when there is none to be had. */
-using ImageFetch = std::function<QImage(const QUrl&)>;
+/** Gives the image at an address, blocking; none when there is none to be had. */
+using ImageFetch = std::function<ImageRef(const QUrl&)>;
 
 /** The URL that ADDRESS, an image's source, makes; no value when it makes none. */
 [[nodiscard]] std::optional<QUrl> imageUrl(const QString& address);

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/image.h"
+
 #include <QDate>
-#include <QImage>
 #include <QString>
 #include <QStringList>
 
@@ -26,8 +27,8 @@ struct FormFillInfo {
     std::optional<QStringList> genres;
     /** Parental rating. */
     std::optional<QString> rating;
-    /** Poster or product image; the null image when there is none. */
-    QImage coverArt;
+    /** Poster or product image; none when there is none. */
+    ImageRef coverArt;
     /** A plain calendar date, of no time zone. */
     std::optional<QDate> releaseDate;
 };

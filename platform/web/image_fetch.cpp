@@ -1,7 +1,6 @@
 #include "image_fetch.h"
 
 #include "input_block.h"
-#include "platform/image.h"
 #include "platform/modal_loop.h"
 
 #include <QAbstractButton>
@@ -51,9 +50,9 @@ QNetworkRequest requestWithoutCache(const QUrl& url) {
 
 } // namespace
 
-std::optional<QImage> fetchImage(const QUrl& url, const QObject* context, QAbstractButton* cancel) {
+std::optional<ImageRef> fetchImage(const QUrl& url, const QObject* context, QAbstractButton* cancel) {
     if (!canFetch(url)) {
-        return QImage();
+        return ImageRef();
     }
     QNetworkAccessManager network;
     const std::unique_ptr<QNetworkReply> reply(network.get(requestWithoutCache(url)));
@@ -79,7 +78,7 @@ std::optional<QImage> fetchImage(const QUrl& url, const QObject* context, QAbstr
         reply->abort();
         return std::nullopt;
     }
-    return cameWhole(*reply) ? ImageRef::fromBytes(reply->readAll()).toQImage() : QImage();
+    return cameWhole(*reply) ? ImageRef::fromBytes(reply->readAll()) : ImageRef();
 }
 
 } // namespace velmora

@@ -23,8 +23,9 @@ protected:
         info.year = "2005";
         info.genres = QStringList{"Drama", "Crime"};
         info.rating = "PG-13";
-        info.coverArt = QImage(12, 10, QImage::Format_RGB32);
-        info.coverArt.fill(Qt::blue);
+        QImage cover(12, 10, QImage::Format_RGB32);
+        cover.fill(Qt::blue);
+        info.coverArt = cover;
         info.releaseDate = QDate(2005, 5, 12);
         return info;
     }

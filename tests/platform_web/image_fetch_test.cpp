@@ -35,8 +35,8 @@ protected:
 
     /** The width of the picture at PATH; 0 for none. */
     int fetchedWidth(const QString& path) {
-        const std::optional<QImage> image = fetchImage(server.url(path), &context);
-        return image ? image->width() : -1;
+        const std::optional<ImageRef> image = fetchImage(server.url(path), &context);
+        return image ? image->size().width() : -1;
     }
 };
 
@@ -73,7 +73,7 @@ TEST_F(ImageFetch, OfAConnectionThatBreaksIsNoneEvenWhenAPictureCame) {
 TEST_F(ImageFetch, OfAServerThatIsNotThereIsNone) {
     const QUrl url = server.url("/x");
     server.close();
-    const std::optional<QImage> image = fetchImage(url, &context);
+    const std::optional<ImageRef> image = fetchImage(url, &context);
     ASSERT_TRUE(image.has_value());
     EXPECT_TRUE(image->isNull());
 }
@@ -93,7 +93,7 @@ TEST_F(ImageFetch, AsksTheServerEveryTime) {
 
 TEST_F(ImageFetch, ReadsDataAddresses) {
     const QUrl url("data:image/png;base64," + QString::fromLatin1(picture(6).toBase64()));
-    EXPECT_EQ(fetchImage(url, &context)->width(), 6);
+    EXPECT_EQ(fetchImage(url, &context)->size().width(), 6);
 }
 
 TEST_F(ImageFetch, ReadsFiles) {
@@ -103,22 +103,22 @@ TEST_F(ImageFetch, ReadsFiles) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(picture(5));
     file.close();
-    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(path), &context)->width(), 5);
-    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(path + "x"), &context)->width(), 0);
+    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(path), &context)->size().width(), 5);
+    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(path + "x"), &context)->size().width(), 0);
 }
 
 TEST_F(ImageFetch, DoesNotWaitForAPipeOrADevice) {
     const ScratchFolder folder;
     const std::string path = folder / "pipe";
     ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
-    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(QString::fromStdString(path)), &context)->width(), 0);
-    EXPECT_EQ(fetchImage(QUrl("file:///dev/zero"), &context)->width(), 0);
+    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(QString::fromStdString(path)), &context)->size().width(), 0);
+    EXPECT_EQ(fetchImage(QUrl("file:///dev/zero"), &context)->size().width(), 0);
 }
 
 TEST_F(ImageFetch, KnowsNoOtherSchemes) {
     for (const char* const address :
          {"ftp://127.0.0.1/x", "javascript:1", "qrc:/x", "x.png", "//127.0.0.1/x"}) {
-        EXPECT_EQ(fetchImage(QUrl(address), &context)->width(), 0) << address;
+        EXPECT_EQ(fetchImage(QUrl(address), &context)->size().width(), 0) << address;
     }
 }
 
@@ -147,7 +147,7 @@ TEST_F(ImageFetch, FailsWhenItIsCancelled) {
     server.serve("/never", Answer{.body = picture(7).left(20), .end = Answer::End::Never});
     QPushButton cancel;
     QTimer::singleShot(50, &cancel, &QPushButton::click);
-    const std::optional<QImage> image = fetchImage(server.url("/never"), &context, &cancel);
+    const std::optional<ImageRef> image = fetchImage(server.url("/never"), &context, &cancel);
     ASSERT_NE(image, std::nullopt);
     EXPECT_TRUE(image->isNull());
 }

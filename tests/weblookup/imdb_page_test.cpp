@@ -405,7 +405,8 @@ Dom poster(const Doms& children) {
 
 TEST(ImdbPoster, IsFetchedFromItsResolvedAddress) {
     FetchScript script{{{"http://x/1.jpg", FetchScript::picture(1)}}, {}};
-    EXPECT_EQ(read({element("P", {poster({img("http://x/1.jpg")})})}, script.fetch()).coverArt.width(), 1);
+    EXPECT_EQ(read({element("P", {poster({img("http://x/1.jpg")})})}, script.fetch()).coverArt.size().width(),
+              1);
     EXPECT_EQ(script.asked, QStringList({"http://x/1.jpg"}));
 }
 
@@ -427,7 +428,8 @@ TEST(ImdbPoster, FailedFetchGoesOnToTheNextImageAndSuccessLeavesTheAnchor) {
     FetchScript script{{{"http://x/2", FetchScript::picture(2)}}, {}};
     EXPECT_EQ(
         read({poster({img("http://x/1"), text(" "), img("http://x/2"), img("http://x/3")})}, script.fetch())
-            .coverArt.width(),
+            .coverArt.size()
+            .width(),
         2);
     EXPECT_EQ(script.asked, QStringList({"http://x/1", "http://x/2"}));
 }
@@ -435,8 +437,10 @@ TEST(ImdbPoster, FailedFetchGoesOnToTheNextImageAndSuccessLeavesTheAnchor) {
 TEST(ImdbPoster, EveryAnchorIsTriedAndTheLastPictureStays) {
     FetchScript script{{{"http://x/1", FetchScript::picture(1)}, {"http://x/2", FetchScript::picture(2)}},
                        {}};
-    EXPECT_EQ(
-        read({poster({img("http://x/1")}), poster({img("http://x/2")})}, script.fetch()).coverArt.width(), 2);
+    EXPECT_EQ(read({poster({img("http://x/1")}), poster({img("http://x/2")})}, script.fetch())
+                  .coverArt.size()
+                  .width(),
+              2);
     EXPECT_EQ(script.asked, QStringList({"http://x/1", "http://x/2"}));
 }
 
@@ -449,14 +453,15 @@ TEST(ImdbPoster, LaterFailureDropsAnEarlierPicture) {
 TEST(ImdbPoster, AddressThatMakesNoUrlIsNoFetchAndKeepsTheEarlierPicture) {
     FetchScript script{{{"http://x/1", FetchScript::picture(1)}}, {}};
     EXPECT_EQ(read({poster({img("http://x/1")}), poster({img("http://[bad/"), img("")})}, script.fetch())
-                  .coverArt.width(),
+                  .coverArt.size()
+                  .width(),
               1);
     EXPECT_EQ(script.asked, QStringList({"http://x/1"}));
 }
 
 TEST(ImdbPoster, AddressThatMakesNoUrlGoesOnToTheNextImage) {
     FetchScript script{{{"http://x/2", FetchScript::picture(2)}}, {}};
-    EXPECT_EQ(read({poster({img(""), img("http://x/2")})}, script.fetch()).coverArt.width(), 2);
+    EXPECT_EQ(read({poster({img(""), img("http://x/2")})}, script.fetch()).coverArt.size().width(), 2);
 }
 
 TEST(ImdbPage, ReadsAllOfATitlePage) {
@@ -476,7 +481,7 @@ TEST(ImdbPage, ReadsAllOfATitlePage) {
     EXPECT_EQ(info.year, QString("2005"));
     EXPECT_EQ(info.genres, QStringList({"Drama"}));
     EXPECT_EQ(info.rating, QString("PG"));
-    EXPECT_EQ(info.coverArt.width(), 9);
+    EXPECT_EQ(info.coverArt.size().width(), 9);
     EXPECT_EQ(info.releaseDate, QDate(2005, 5, 12));
 }
 

@@ -305,7 +305,7 @@ TEST(StoreCover, IsFetchedInItsLargeSizeAfterTheLogLine) {
         logAtFetch = log.text();
         return script.fetch()(url);
     };
-    EXPECT_EQ(read({cover("http://x/a._AA240_.jpg")}, fetch).coverArt.width(), 5);
+    EXPECT_EQ(read({cover("http://x/a._AA240_.jpg")}, fetch).coverArt.size().width(), 5);
     EXPECT_EQ(logAtFetch, "getting cover art from http://x/a._SS500_.jpg\n");
 }
 
@@ -329,7 +329,8 @@ TEST(StoreCover, StopsAtTheFirstPicture) {
         {{"http://x/2_SS500_", FetchScript::picture(2)}, {"http://x/3_SS500_", FetchScript::picture(3)}}, {}};
     EXPECT_EQ(read({cover("http://x/1_AA240_"), cover("http://x/2_AA240_"), cover("http://x/3_AA240_")},
                    script.fetch())
-                  .coverArt.width(),
+                  .coverArt.size()
+                  .width(),
               2);
     EXPECT_EQ(script.asked, QStringList({"http://x/1_SS500_", "http://x/2_SS500_"}));
 }
@@ -337,8 +338,10 @@ TEST(StoreCover, StopsAtTheFirstPicture) {
 TEST(StoreCover, AddressThatMakesNoUrlIsLoggedAndNotFetched) {
     FetchScript script{{{"http://x/2_SS500_", FetchScript::picture(2)}}, {}};
     StreamCapture log;
-    EXPECT_EQ(
-        read({cover("http://[bad/_AA240_"), cover("http://x/2_AA240_")}, script.fetch()).coverArt.width(), 2);
+    EXPECT_EQ(read({cover("http://[bad/_AA240_"), cover("http://x/2_AA240_")}, script.fetch())
+                  .coverArt.size()
+                  .width(),
+              2);
     EXPECT_EQ(log.text(),
               "getting cover art from http://[bad/_SS500_\ngetting cover art from http://x/2_SS500_\n");
 }

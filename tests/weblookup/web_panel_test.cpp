@@ -124,7 +124,7 @@ TEST_F(WebPanel, LooksUpFollowsALinkGoesBackAndFillsTheForm) {
     EXPECT_EQ(info.year, QString("2005"));
     EXPECT_EQ(info.genres, QStringList({"Drama", "Thriller"}));
     EXPECT_EQ(info.rating, QString("PG-13"));
-    EXPECT_EQ(info.coverArt.width(), 9);
+    EXPECT_EQ(info.coverArt.size().width(), 9);
     EXPECT_EQ(info.releaseDate, QDate(2005, 5, 12));
 
     window->btn_searchBack->click();
@@ -150,7 +150,7 @@ TEST_F(WebPanel, FillsTheFormFromAProductPage) {
     EXPECT_EQ(info.year, QString("2005"));
     EXPECT_EQ(info.releaseDate, QDate(2005, 5, 3));
     EXPECT_EQ(info.description, QString("First line.\nSecond line.\n"));
-    EXPECT_EQ(info.coverArt.width(), 11);
+    EXPECT_EQ(info.coverArt.size().width(), 11);
     EXPECT_EQ(info.genres, std::nullopt);
 }
 
@@ -171,7 +171,7 @@ TEST_F(WebPanel, FillsNothingFromAPageOfAnotherStructure) {
 TEST_F(WebPanel, WaitsForASlowPoster) {
     server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png", .delayMilliseconds = 600});
     show(titlePage);
-    EXPECT_EQ(fill().coverArt.width(), 9);
+    EXPECT_EQ(fill().coverArt.size().width(), 9);
 }
 
 TEST_F(WebPanel, FillsTheRestWhenThePosterFails) {
@@ -186,7 +186,7 @@ TEST_F(WebPanel, PosterWithoutAnAddressIsPassedOver) {
     server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png"});
     show("<a name='poster'><img src=''><img src=' '><img src='/poster.jpg'></a>"
          "<a name='poster'><img src=''><img></a>");
-    EXPECT_EQ(fill().coverArt.width(), 9);
+    EXPECT_EQ(fill().coverArt.size().width(), 9);
     EXPECT_EQ(server.requests().count("/find?q=x"), 1) << "the page itself is no picture";
 }
 
@@ -405,13 +405,13 @@ TEST_F(WebPanelWaiting, CancelEndsTheWaitAndFillsTheRest) {
 TEST_F(WebPanelWaiting, NextFillAsksForTheCoverAgain) {
     fillUntil([this] { QTest::keyClick(window->windowHandle(), Qt::Key_Escape); });
     server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png"});
-    EXPECT_EQ(fill().coverArt.width(), 9);
+    EXPECT_EQ(fill().coverArt.size().width(), 9);
 }
 
 TEST_F(WebPanel, AsksForNoMoreCoversWhenItHasWorkedForTooLong) {
     server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png"});
     show("<a name='poster'><img src='/none.jpg'></a><a name='poster'><img src='/poster.jpg'></a>");
-    EXPECT_EQ(fill().coverArt.width(), 9);
+    EXPECT_EQ(fill().coverArt.size().width(), 9);
     panel->setCoverWorkLimit(std::chrono::milliseconds(0));
     EXPECT_TRUE(fill().coverArt.isNull());
 }
