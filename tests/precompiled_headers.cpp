@@ -1,4 +1,5 @@
-// A program that exists for the headers that are precompiled for it, and by which the test programs are compiled too.
+// A program that exists for the headers that are precompiled for it; the test programs are compiled with them,
+// too.
 
 int main() {
     return 0;

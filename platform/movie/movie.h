@@ -23,8 +23,8 @@ public:
     explicit Movie(QObject* parent = nullptr);
     ~Movie() override;
 
-    /** A file that is neither opened nor rejected in this time (one that ends before its first frame, say) has failed. Holds
-       for the files that are opened from then on. */
+    /** A file that is neither opened nor rejected in this time (one that ends before its first frame, say)
+       has failed. 10 seconds when it is not set. Holds for the files that are opened from then on. */
     void setDecisionTimeLimit(std::chrono::milliseconds limit) { decisionTimeLimit_ = limit; }
 
     /** Opens the file at PATH in place of the current one, also when it is the same. */

@@ -49,7 +49,8 @@ public:
     [[nodiscard]] virtual bool canGoBack() const = 0;
     virtual void goBack() = 0;
 
-    /** How long a page whose scripts never rest may hold up a load or goBack that follows. 5 seconds when it is not set. */
+    /** How long a page whose scripts never rest may hold up a load or goBack that follows. 5 seconds when it
+       is not set. */
     virtual void setLeaveTimeLimit(std::chrono::milliseconds limit) = 0;
 
     using SnapshotTaker = std::function<void(const QString&)>;

@@ -53,7 +53,8 @@ public:
      * time. */
     void setDocumentTimeLimit(std::chrono::milliseconds limit) { documentTimeLimit_ = limit; }
 
-    /** How long a page whose scripts never rest may hold up the load, or the way back, by which it is left. */
+    /** How long a page whose scripts never rest may hold up the load, or the way back, by which it is left. 5
+       seconds when it is not set. */
     void setLeaveTimeLimit(std::chrono::milliseconds limit);
 
 public slots:
