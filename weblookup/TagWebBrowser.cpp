@@ -70,6 +70,7 @@ void TagWebBrowser::setSymbols() {
     ui_->btn_search->setIcon(symbol(QStringLiteral("edit-find")));
     ui_->btn_searchBack->setIcon(symbol(QStringLiteral("go-previous")));
     ui_->btn_formFill->setIcon(symbol(QStringLiteral("document-import")));
+    ui_->btn_cancelCover->setIcon(symbol(QStringLiteral("process-stop")));
 }
 
 void TagWebBrowser::showPage(bool shown) {

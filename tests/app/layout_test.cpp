@@ -216,7 +216,9 @@ TEST_P(SmallWindowTest, EveryButtonIsReachedByTabAndSeenThen) {
         scrollAllTo(key == Qt::Key_Tab);
         const QSet<const QWidget*> reached = tabRound(key);
         for (const auto* button : document().window()->findChildren<QPushButton*>()) {
-            EXPECT_TRUE(reached.contains(button)) << button->objectName().toStdString();
+            // One is there only while a cover is waited for.
+            EXPECT_TRUE(reached.contains(button) || button->objectName() == u"btn_cancelCover")
+                << button->objectName().toStdString();
         }
         EXPECT_GE(reached.size(), 18);
     }
