@@ -8,7 +8,7 @@ namespace velmora {
    context "Velmora"). Without a translation the English text stands. */
 [[nodiscard]] QString localised(const char* englishText);
 
-/** The same with "%@" replaced by ARGUMENT, whatever the argument contains. */
+/** The wording of ENGLISH_TEXT, as above, with its "%@" replaced by ARGUMENT, whatever the argument contains. */
 [[nodiscard]] QString localised(const char* englishText, const QString& argument);
 
 /** Loads the table of the person's language, if there is one, for the application's lifetime. */

@@ -37,9 +37,9 @@ struct _asf_content_description_t : _asf_object_t {
 /** Frees the strings and the record. Null is allowed. */
 void asf_free_content_description(_asf_content_description_t* cd);
 
-/** 34 plus the five lengths. */
+/** The size on disk in bytes, 34 plus the five lengths, which also goes to the log. */
 [[nodiscard]] std::uint32_t asf_get_content_description_size(const _asf_content_description_t* cd);
-/** The same, without a trace. */
+/** 34 plus the five lengths, in bytes and without a line in the log. */
 [[nodiscard]] std::uint32_t asf_content_description_bytes(const _asf_content_description_t* cd);
 
 /** Reads the object at the current position into CD (whose old contents are not freed), or into a new

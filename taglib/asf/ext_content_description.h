@@ -32,9 +32,9 @@ struct _asf_ext_content_description_t : _asf_object_t {
 /** Frees the descriptors, the array and the record. Null is allowed. */
 void asf_free_ext_content_description(_asf_ext_content_description_t* ecd);
 
-/** 26 plus the descriptors' bytes. */
+/** The size on disk in bytes, 26 plus the descriptors' bytes, which also goes to the log. */
 [[nodiscard]] std::uint32_t asf_get_ext_content_description_size(const _asf_ext_content_description_t* ecd);
-/** The same, without a trace. */
+/** 26 plus the descriptors' bytes, without a line in the log. */
 [[nodiscard]] std::uint32_t asf_ext_content_description_bytes(const _asf_ext_content_description_t* ecd);
 
 /** Reads the object at the current position into ECD (whose old contents are not freed), or into a new

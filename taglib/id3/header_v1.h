@@ -26,7 +26,8 @@ static_assert(sizeof(_id3_header_v1_t) == 128);
    block, which stays as it is. */
 [[nodiscard]] std::int64_t id3_load_header_v1(FIOFUNCSTRUCT* file, _id3_header_v1_t* header);
 
-/** The same without the block's contents. */
+/** The file offset at which an ID3v1 block can be read, or -1, logged: what id3_load_header_v1 returns, for who does not
+   want the block. */
 [[nodiscard]] std::int64_t id3_is_present_v1(FIOFUNCSTRUCT* file);
 
 } // namespace velmora

@@ -9,8 +9,9 @@ namespace velmora {
    when there is no appended tag; 0, logged, when the file can't be opened for writing. */
 int id3_remove_file_info(const char* path);
 
-/** The same for an open file, which is never deleted. Returns 1, also when there is no footer; 0, logged,
-   when the footer can't be read or does not lead to a header. */
+/** Goes to the tag appended to the open FILE and writes nothing there; the file keeps its length and is not
+   deleted. Returns 1, also when there is no footer; 0, logged, when the footer can't be read or does not lead to
+   a header. */
 int id3_remove_descriptor_v2(FIOFUNCSTRUCT* file);
 
 } // namespace velmora

@@ -22,8 +22,8 @@ void image_release(Image* image);
    decoded later. */
 [[nodiscard]] Image* image_from_bytes(const void* bytes, std::size_t size);
 
-/** The same for a file's contents; PATH is in the file system's encoding. Null when the file can't be read or
-   is no image. */
+/** An image made from the encoded bytes of a file, with one reference that belongs to the caller. PATH is in
+   the file system's encoding. Null when the file can't be read or is no image. */
 [[nodiscard]] Image* image_from_file(const char* path);
 
 /** IMAGE as a JPEG stream: compression factor 0.2 (quality 20 of 100), progressive, transparency flattened
