@@ -3,6 +3,8 @@
 
 #include <QMouseEvent>
 
+#include <vector>
+
 namespace velmora {
 namespace {
 
@@ -93,6 +95,32 @@ TEST_F(MediaTableColumnsTest, AWidthThatAPersonSetStays) {
     widen(300);
     EXPECT_EQ(before + 40, width(sizeColumn));
     EXPECT_EQ(date, width(createdColumn));
+}
+
+TEST_F(MediaTableColumnsTest, DatesAreDrawnWithoutAnEllipsis) {
+    QStringList dates;
+    for (const char16_t digit : u"0123456789") {
+        dates += QStringLiteral("11/22/26 06:52:3") + QChar(digit ? digit : u'0');
+        dates += QString(QStringLiteral("##/##/## ##:##:##")).replace(u'#', QChar(digit ? digit : u'0'));
+    }
+    for (const QString& date : dates) {
+        add("a", 0, date);
+    }
+    widen(700);
+    const auto drawn = [this](int row, int column, int width) {
+        const QRect cell = view_.visualRect(view_.model()->index(row, column));
+        return view_.viewport()->grab(QRect(cell.topLeft(), QSize(width, cell.height()))).toImage();
+    };
+    const int dateWidth = width(createdColumn);
+    std::vector<QImage> whole;
+    for (int row = 0; row < dates.size(); ++row) {
+        whole.push_back(drawn(row, createdColumn, dateWidth));
+    }
+    view_.setColumnWidth(createdColumn, 2 * dateWidth);
+    runLoop();
+    for (int row = 0; row < dates.size(); ++row) {
+        EXPECT_EQ(drawn(row, createdColumn, dateWidth), whole[row]) << dates[row].toStdString();
+    }
 }
 
 TEST_F(MediaTableColumnsTest, DatesOfTheLocaleAreShownWhole) {
