@@ -32,7 +32,7 @@ struct TagItem {
     /** Which tag, and which item of it, such as "ID3v2 TIT2" or "INFO INAM". Items may share it. */
     std::string name;
     /** Its bytes, header included, as far as they have to go over unchanged: without what its place decides
-       (a size of padding, an offset that is mended). */
+       (a size of padding, an offset that is mended). A size that the rest of the bytes tells may be left out. */
     std::vector<std::uint8_t> bytes;
     /** The field that it is a place of; nothing for all others. */
     std::optional<Field> field;
@@ -67,7 +67,16 @@ public:
        Refusal where something is wrong. */
     virtual void check_against(const TaggedFile& original) const { static_cast<void>(original); }
 
-    /** The file with EDITS in it. Only what they ask for is touched. */
+    /** EDITS and what a save has to do besides, such as to set what a tag says that is folded into another.
+       That counts as asked for. */
+    [[nodiscard]] virtual TagEdits completed(const TagEdits& edits) const { return edits; }
+    /** What the file says with EDITS in it. For formats in which a place that was hidden by another shows when
+       that goes. */
+    [[nodiscard]] virtual TagValues values_with(const TagEdits& edits) const {
+        return edits.applied_to(values());
+    }
+
+    /** The file with EDITS, which are completed, in it. Only what they ask for is touched. */
     [[nodiscard]] virtual Rewrite with(const TagEdits& edits) const = 0;
     /** The file without any tag. */
     [[nodiscard]] virtual Rewrite without_tags() const = 0;
