@@ -77,7 +77,7 @@ std::vector<std::string> withoutCovers(const std::vector<std::string>& songs) {
 }
 
 /** All songs of FOLDER, and by themselves those without a cover: whether that is a picture is found out by
-    decoding it, which is no matter of tags. */
+    reading its tables, which is no matter of tags. */
 void addReadOfSongs(const std::string& work, const fs::path& folder, const ReadOne& ours,
                     const ReadOne& theirs) {
     const std::vector<std::string> songs = filesOf(folder);

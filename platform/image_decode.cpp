@@ -153,6 +153,9 @@ bool hasDecodableData(const QByteArray& bytes, const PictureHeader& header) {
     if (!isQuicklyDecoded(header)) {
         return jpegBeginsWell(bytes);
     }
+    if (const std::optional<QByteArray> emptied = emptiedJpeg(bytes)) {
+        return isDecodedWhole(*emptied);
+    }
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);

@@ -34,7 +34,8 @@ struct PictureHeader {
 [[nodiscard]] bool isQuicklyDecoded(const PictureHeader& header);
 
 /** Whether the data behind the header can be decoded at all, found out at little cost: a quickly decoded JPEG
-   at an eighth of its size, a larger one as to its top. Other formats are not looked into. */
+   without its coded data (see emptiedJpeg), or at an eighth of its size where it has restart intervals; a
+   larger one as to its top. Other formats are not looked into. */
 [[nodiscard]] bool hasDecodableData(const QByteArray& bytes, const PictureHeader& header);
 
 /** All pixels of the picture, safe to hand on (see withWholePalette); a null image when the data is damaged.

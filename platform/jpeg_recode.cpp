@@ -118,6 +118,23 @@ bool recode(Work& work, const unsigned char* bytes, unsigned long size, bool pro
     return true;
 }
 
+bool decodesWhole(Work& work, const unsigned char* bytes, unsigned long size) {
+    if (setjmp(work.error.place) != 0) {
+        return false;
+    }
+    jpeg_create_decompress(&work.source);
+    jpeg_mem_src(&work.source, bytes, size);
+    jpeg_read_header(&work.source, TRUE);
+    work.source.scale_denom = 8; // a pixel of a block of one pixel
+    jpeg_start_decompress(&work.source);
+    const int components = work.source.output_components;
+    std::array<JSAMPLE, MAX_COMPONENTS> pixel;
+    JSAMPROW row = pixel.data();
+    jpeg_read_scanlines(&work.source, &row, 1);
+    jpeg_finish_decompress(&work.source);
+    return components == 1 || components == 3 || components == 4;
+}
+
 bool beginsWell(Work& work, const unsigned char* bytes, unsigned long size) {
     if (setjmp(work.error.place) != 0) {
         return false;
@@ -144,6 +161,12 @@ QByteArray recodedJpeg(const QByteArray& jpeg, JpegPasses passes) {
     const bool done = recode(*work, reinterpret_cast<const unsigned char*>(jpeg.constData()),
                              static_cast<unsigned long>(jpeg.size()), passes == JpegPasses::Progressive);
     return done ? work->output.bytes : QByteArray();
+}
+
+bool isDecodedWhole(const QByteArray& jpeg) {
+    const auto work = std::make_unique<Work>();
+    return decodesWhole(*work, reinterpret_cast<const unsigned char*>(jpeg.constData()),
+                        static_cast<unsigned long>(jpeg.size()));
 }
 
 bool jpegBeginsWell(const QByteArray& jpeg) {

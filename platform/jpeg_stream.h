@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QSize>
 
@@ -25,5 +26,11 @@ struct JpegStream {
 /** Whether the number of passes is one that a decoder can be asked to make: at most 64 above 1 megapixel, and
    a thousand megapixels in all passes together below. */
 [[nodiscard]] bool isReasonablePassCount(const JpegStream& stream);
+
+/** The stream BYTES with nothing in it: one pixel large, without coded data and without the segments that say
+   nothing of the picture. A decoder gives up over markers, tables and headers, never over coded data, so it
+   fails with the result exactly where it fails with BYTES, but need not decode anything to find out. Nothing
+   for a stream with restart intervals: which of the markers inside its data count depends on its size. */
+[[nodiscard]] std::optional<QByteArray> emptiedJpeg(QByteArrayView bytes);
 
 } // namespace velmora
