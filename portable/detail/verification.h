@@ -1,0 +1,24 @@
+#pragma once
+
+#include "progress.h"
+#include "tagged_file.h"
+
+namespace velmora::portable {
+
+/** A file and what it was taken apart into. */
+struct OpenTags {
+    FIOFUNCSTRUCT* file;
+    const TaggedFile& tags;
+};
+
+/** Throws the Refusal `would_lose` unless AFTER is BEFORE with EDITS, which are completed, in it: the values that
+    were asked for, every other item of every tag as the bytes that it was, and the same media. */
+void verify_edits(const OpenTags& before, const OpenTags& after, const TagEdits& edits, Progress& progress);
+
+/** Throws the Refusal `would_lose` unless AFTER has the media of BEFORE and no values. */
+void verify_removal(const OpenTags& before, const OpenTags& after, Progress& progress);
+
+/** Bytes that either compares. */
+[[nodiscard]] std::uint64_t verified_bytes(const TaggedFile& tags);
+
+} // namespace velmora::portable
