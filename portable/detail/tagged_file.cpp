@@ -1,13 +1,14 @@
 #include "tagged_file.h"
 
 #include "../reason.h"
+#include "formats.h"
 
 namespace velmora::portable {
 
 std::unique_ptr<TaggedFile> open_tagged_file(FIOFUNCSTRUCT* file, std::uint64_t size, const MediaKind& kind) {
-    static_cast<void>(file);
-    static_cast<void>(size);
     switch (kind.container) {
+    case Container::asf:
+        return open_asf(file, size, kind.media);
     default:
         throw Refusal({ReasonCode::unsupported, 0, "no format"});
     }

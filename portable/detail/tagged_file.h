@@ -2,8 +2,8 @@
 
 #include "taglib/fio.h"
 
-#include "../media_kind.h"
-#include "../tag_values.h"
+#include "portable/media_kind.h"
+#include "portable/tag_values.h"
 
 #include <cstdint>
 #include <functional>

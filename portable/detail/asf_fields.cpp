@@ -1,0 +1,98 @@
+#include "asf_fields.h"
+
+#include "date_text.h"
+#include "save_edits.h"
+#include "text.h"
+
+#include <array>
+
+namespace velmora::portable {
+
+namespace {
+
+constexpr std::uint8_t front_cover = 3;
+constexpr std::uint8_t other_picture = 0;
+
+constexpr AsfListKind description = AsfListKind::content_description;
+constexpr AsfListKind extended = AsfListKind::extended_content_description;
+
+constexpr std::array<AsfFieldNames, field_count> fieldNames = {{
+    {"Title", nullptr, description},
+    {"Author", nullptr, description},
+    {"WM/AlbumTitle", "AlbumTitle", extended},
+    {"WM/Director", nullptr, extended},
+    {"Description", nullptr, description},
+    {"WM/Genre", "Genre", extended},
+    {"WM/ParentalRating", nullptr, extended},
+    {"WM/Year", "Year", extended},
+    {"WM/Picture", nullptr, extended},
+}};
+
+std::string text_under(const AsfLists& lists, const char* name) {
+    std::vector<std::string> values;
+    for (const AsfPlace& place : asf_places(lists, name)) {
+        values.push_back(place.in(lists).text());
+    }
+    return joined(values);
+}
+
+} // namespace
+
+const AsfFieldNames& asf_field_names(Field field) {
+    return fieldNames[static_cast<std::size_t>(field)];
+}
+
+std::vector<AsfPlace> asf_places(const AsfLists& lists, const char* name) {
+    std::vector<AsfPlace> places;
+    for (std::size_t list = 0; list < lists.size(); ++list) {
+        const std::vector<AsfAttribute>& attributes = lists[list].attributes;
+        for (std::size_t i = 0; i < attributes.size(); ++i) {
+            if (attributes[i].stream == 0 && attributes[i].name == name) {
+                places.push_back({list, i});
+            }
+        }
+    }
+    return places;
+}
+
+std::vector<AsfPlace> asf_cover_places(const AsfLists& lists) {
+    std::vector<AsfPlace> covers;
+    std::vector<AsfPlace> others;
+    for (const AsfPlace& place : asf_places(lists, asf_field_names(Field::cover).name)) {
+        const auto picture = read_asf_picture(place.in(lists).value());
+        if (!picture) {
+            continue;
+        }
+        if (picture->type == front_cover) {
+            covers.push_back(place);
+        } else if (picture->type == other_picture && others.empty()) {
+            others.push_back(place);
+        }
+    }
+    return covers.empty() ? others : covers;
+}
+
+std::string asf_field_text(const AsfLists& lists, Field field) {
+    const AsfFieldNames& names = asf_field_names(field);
+    std::string text = text_under(lists, names.name);
+    return text.empty() && names.older_name != nullptr ? text_under(lists, names.older_name) : text;
+}
+
+TagValues asf_values(const AsfLists& lists, Media media) {
+    TagValues values;
+    for (std::size_t i = 0; i < text_field_count; ++i) {
+        const auto field = static_cast<Field>(i);
+        std::string text = has_field(media, field) ? asf_field_text(lists, field) : std::string();
+        if (!text.empty()) {
+            values.text(field) = std::move(text);
+        }
+    }
+    values.year = year_of(asf_field_text(lists, Field::year));
+    const std::vector<AsfPlace> covers = asf_cover_places(lists);
+    if (!covers.empty()) {
+        values.cover = read_asf_picture(covers.front().in(lists).value())->cover;
+    }
+    return values;
+}
+
+} // namespace velmora::portable

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "asf_attributes.h"
+#include "asf_picture.h"
+
+#include <optional>
+#include <vector>
+
+/** The fields of a tag in the attributes of an ASF file. An attribute of one stream says nothing of the file and is no
+   place of a field. */
+namespace velmora::portable {
+
+/** Where an attribute is: which list, and which attribute of it. */
+struct AsfPlace {
+    std::size_t list;
+    std::size_t attribute;
+
+    [[nodiscard]] const AsfAttribute& in(const AsfLists& lists) const {
+        return lists[list].attributes[attribute];
+    }
+    friend bool operator==(const AsfPlace&, const AsfPlace&) = default;
+};
+
+/** The names under which a field stands. */
+struct AsfFieldNames {
+    const char* name;       ///< the one that other programs read
+    const char* older_name; ///< what counts where the first has no value, and is never added; null for none
+    AsfListKind home;       ///< where a new one goes
+};
+
+[[nodiscard]] const AsfFieldNames& asf_field_names(Field field);
+
+/** The attributes of LISTS that are called NAME and speak of the whole file. */
+[[nodiscard]] std::vector<AsfPlace> asf_places(const AsfLists& lists, const char* name);
+
+/** The pictures of LISTS that are the cover: all of type 3, or where there is none the first of type 0. */
+[[nodiscard]] std::vector<AsfPlace> asf_cover_places(const AsfLists& lists);
+
+/** The values of FIELD's attributes as one text; empty for none. */
+[[nodiscard]] std::string asf_field_text(const AsfLists& lists, Field field);
+
+/** What LISTS say of the fields that files of MEDIA have. */
+[[nodiscard]] TagValues asf_values(const AsfLists& lists, Media media);
+
+} // namespace velmora::portable
