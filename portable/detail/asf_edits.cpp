@@ -98,8 +98,8 @@ void set_text(AsfLists& lists, Field field, const TextFor& text_for) {
         const std::string text = text_for({});
         add(lists, names.home, names.name, asf_type_unicode, asf_text(names.name, text));
     }
-    if (names.older_name != nullptr) {
-        set_places(lists, names.older_name, text_for);
+    for (const char* const name : names.other_names) {
+        set_places(lists, name, text_for);
     }
 }
 
@@ -112,8 +112,8 @@ void remove_all(AsfLists& lists, const std::vector<AsfPlace>& places) {
 void remove_text(AsfLists& lists, Field field) {
     const AsfFieldNames& names = asf_field_names(field);
     remove_all(lists, asf_places(lists, names.name));
-    if (names.older_name != nullptr) {
-        remove_all(lists, asf_places(lists, names.older_name));
+    for (const char* const name : names.other_names) {
+        remove_all(lists, asf_places(lists, name));
     }
 }
 

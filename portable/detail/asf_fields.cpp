@@ -4,6 +4,7 @@
 #include "save_edits.h"
 #include "text.h"
 
+#include <algorithm>
 #include <array>
 
 namespace velmora::portable {
@@ -16,17 +17,26 @@ constexpr std::uint8_t other_picture = 0;
 constexpr AsfListKind description = AsfListKind::content_description;
 constexpr AsfListKind extended = AsfListKind::extended_content_description;
 
+constexpr std::array otherAlbums = {"AlbumTitle"};
+constexpr std::array otherDirectors = {"Director"};
+constexpr std::array otherGenres = {"Genre"};
+constexpr std::array otherYears = {"Year", "Date"};
+
 constexpr std::array<AsfFieldNames, field_count> fieldNames = {{
-    {"Title", nullptr, description},
-    {"Author", nullptr, description},
-    {"WM/AlbumTitle", "AlbumTitle", extended},
-    {"WM/Director", nullptr, extended},
-    {"Description", nullptr, description},
-    {"WM/Genre", "Genre", extended},
-    {"WM/ParentalRating", nullptr, extended},
-    {"WM/Year", "Year", extended},
-    {"WM/Picture", nullptr, extended},
+    {"Title", description, {}},
+    {"Author", description, {}},
+    {"WM/AlbumTitle", extended, otherAlbums},
+    {"WM/Director", extended, otherDirectors},
+    {"Description", description, {}},
+    {"WM/Genre", extended, otherGenres},
+    {"WM/ParentalRating", extended, {}},
+    {"WM/Year", extended, otherYears},
+    {"WM/Picture", extended, {}},
 }};
+
+char in_small_letters(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
 
 std::string text_under(const AsfLists& lists, const char* name) {
     std::vector<std::string> values;
@@ -42,12 +52,18 @@ const AsfFieldNames& asf_field_names(Field field) {
     return fieldNames[static_cast<std::size_t>(field)];
 }
 
+bool is_asf_name(std::string_view name, std::string_view other) {
+    return std::equal(name.begin(), name.end(), other.begin(), other.end(), [](char left, char right) {
+        return in_small_letters(left) == in_small_letters(right);
+    });
+}
+
 std::vector<AsfPlace> asf_places(const AsfLists& lists, const char* name) {
     std::vector<AsfPlace> places;
     for (std::size_t list = 0; list < lists.size(); ++list) {
         const std::vector<AsfAttribute>& attributes = lists[list].attributes;
         for (std::size_t i = 0; i < attributes.size(); ++i) {
-            if (attributes[i].stream == 0 && attributes[i].name == name) {
+            if (attributes[i].stream == 0 && is_asf_name(attributes[i].name, name)) {
                 places.push_back({list, i});
             }
         }
@@ -75,7 +91,10 @@ std::vector<AsfPlace> asf_cover_places(const AsfLists& lists) {
 std::string asf_field_text(const AsfLists& lists, Field field) {
     const AsfFieldNames& names = asf_field_names(field);
     std::string text = text_under(lists, names.name);
-    return text.empty() && names.older_name != nullptr ? text_under(lists, names.older_name) : text;
+    for (const char* const name : names.other_names) {
+        text = text.empty() ? text_under(lists, name) : text;
+    }
+    return text;
 }
 
 TagValues asf_values(const AsfLists& lists, Media media) {

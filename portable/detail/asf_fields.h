@@ -3,7 +3,9 @@
 #include "asf_attributes.h"
 #include "asf_picture.h"
 
-#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
 #include <vector>
 
 /** The fields of a tag in the attributes of an ASF file. An attribute of one stream says nothing of the file and is no
@@ -23,14 +25,18 @@ struct AsfPlace {
 
 /** The names under which a field stands. */
 struct AsfFieldNames {
-    const char* name;       ///< the one that other programs read
-    const char* older_name; ///< what counts where the first has no value, and is never added; null for none
-    AsfListKind home;       ///< where a new one goes
+    const char* name; ///< the one that other programs read
+    AsfListKind home; ///< where a new one goes
+    std::span<const char* const>
+        other_names; ///< what counts, in this order, where that has no value, and is never added
 };
 
 [[nodiscard]] const AsfFieldNames& asf_field_names(Field field);
 
-/** The attributes of LISTS that are called NAME and speak of the whole file. */
+/** Whether NAME is OTHER, in any case: there are writers that use small letters. */
+[[nodiscard]] bool is_asf_name(std::string_view name, std::string_view other);
+
+/** The attributes of LISTS that are called NAME, in any case, and speak of the whole file. */
 [[nodiscard]] std::vector<AsfPlace> asf_places(const AsfLists& lists, const char* name);
 
 /** The pictures of LISTS that are the cover: all of type 3, or where there is none the first of type 0. */

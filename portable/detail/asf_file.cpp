@@ -46,8 +46,9 @@ std::optional<Field> field_of(const std::string& name) {
     for (std::size_t i = 0; i < field_count; ++i) {
         const auto field = static_cast<Field>(i);
         const AsfFieldNames& names = asf_field_names(field);
-        const bool older = names.older_name != nullptr && name == names.older_name;
-        if (field != Field::cover && (older || name == names.name)) {
+        const bool other = std::any_of(names.other_names.begin(), names.other_names.end(),
+                                       [&](const char* candidate) { return is_asf_name(name, candidate); });
+        if (field != Field::cover && (other || is_asf_name(name, names.name))) {
             return field;
         }
     }

@@ -101,6 +101,19 @@ TEST(AsfEdit, UpdatesAnOlderNameWhereItExists) {
     EXPECT_EQ(to_hex(asf_file({})), to_hex(asf_with(old, remove_text(Field::genre))));
 }
 
+TEST(AsfEdit, UpdatesNamesInSmallLettersThatOtherProgramsRead) {
+    const auto file = [](std::string_view title, std::string_view year, const std::string& added) {
+        return asf_file({content_description(title, "", "", "", ""),
+                         object(ecd_guid, u16(added.empty() ? 2 : 3) + text_descriptor("title", title) +
+                                              text_descriptor("date", year) + added)});
+    };
+    TagEdits edits = set_text(Field::title, "Evening");
+    edits.year = Edit<int>::set(1995);
+
+    EXPECT_EQ(to_hex(file("Evening", "1995", text_descriptor("WM/Year", "1995"))),
+              to_hex(asf_with(file("Harbour", "1994", ""), edits)));
+}
+
 TEST(AsfEdit, KeepsMonthAndDayWhileTheYearStays) {
     const auto file = [](std::string_view date) {
         return asf_file({ext_content_description({text_descriptor("WM/Year", date)})});

@@ -68,6 +68,14 @@ TEST(AsfValues, OfAnOlderNameCountWhereTheNewerHasNone) {
                   .text(Field::genre));
 }
 
+TEST(AsfValues, AreFoundUnderNamesInSmallLetters) {
+    const TagValues values = test::asf_values(asf_file(
+        {ext_content_description({text_descriptor("title", "Harbour"), text_descriptor("date", "1994")})}));
+
+    EXPECT_EQ("Harbour", values.text(Field::title));
+    EXPECT_EQ(1994, values.year);
+}
+
 TEST(AsfValues, OfOneStreamAreNotThoseOfTheFile) {
     const TagValues values = test::asf_values(asf_file(
         {header_extension({metadata({metadata_record(0, 1, "Title", 0, wide_z("Left channel"))})})}));
