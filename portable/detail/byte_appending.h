@@ -43,5 +43,9 @@ inline void append_be16(Bytes& bytes, std::uint16_t value) {
 inline void append_be32(Bytes& bytes, std::uint32_t value) {
     append_number(bytes, value, store_be32);
 }
+inline void append_be64(Bytes& bytes, std::uint64_t value) {
+    append_be32(bytes, static_cast<std::uint32_t>(value >> 32));
+    append_be32(bytes, static_cast<std::uint32_t>(value));
+}
 
 } // namespace velmora::portable

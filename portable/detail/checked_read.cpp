@@ -26,4 +26,11 @@ std::vector<std::uint8_t> read_bytes(ReadCursor& cursor, std::uint64_t length, c
     return bytes;
 }
 
+std::vector<std::uint8_t> read_range(ReadCursor cursor, Range range, const std::string& what) {
+    if (!cursor.seek(range.begin)) {
+        check_read(ReadStatus::ended, what);
+    }
+    return read_bytes(cursor, range.size(), what);
+}
+
 } // namespace velmora::portable

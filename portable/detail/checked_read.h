@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tagged_file.h"
+
 #include "taglib/read_cursor.h"
 
 #include <cstdint>
@@ -17,5 +19,8 @@ void check_read(ReadStatus status, const std::string& what);
    allocated. */
 [[nodiscard]] std::vector<std::uint8_t> read_bytes(ReadCursor& cursor, std::uint64_t length,
                                                    const std::string& what);
+
+/** The bytes of RANGE, which CURSOR may go to and which are part of WHAT, under the same rule. */
+[[nodiscard]] std::vector<std::uint8_t> read_range(ReadCursor cursor, Range range, const std::string& what);
 
 } // namespace velmora::portable

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "portable/detail/tagged_file.h"
+
+#include <string>
+#include <string_view>
+
+/** Files taken apart and put together again in memory, for tests of a format by itself. */
+namespace velmora::test {
+
+/** The bytes of RANGES in FILE, one behind the other. */
+[[nodiscard]] std::string bytes_of(std::string_view file, const std::vector<portable::Range>& ranges);
+
+/** What BYTES, a file named with EXTENSION, say. Throws a Refusal. */
+[[nodiscard]] portable::TagValues values_in(std::string_view bytes, std::string_view extension);
+
+/** BYTES, a file named with EXTENSION, with EDITS in it. Fails the test unless the new file says what was asked for,
+   has every other item, and the same media, where its offsets find them. Throws a Refusal. */
+[[nodiscard]] std::string edited(std::string_view bytes, std::string_view extension,
+                                 const portable::TagEdits& edits);
+
+/** BYTES without any tag, under the same conditions. */
+[[nodiscard]] std::string without_tags(std::string_view bytes, std::string_view extension);
+
+/** The sentence of the refusal that ACTION throws; empty when it throws none. */
+[[nodiscard]] std::string refusal_of(const std::function<void()>& action);
+
+} // namespace velmora::test
