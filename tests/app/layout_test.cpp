@@ -100,6 +100,16 @@ TEST_F(LayoutTest, FirstSearchThatFailsGivesTheRoomBackAndSaysSo) {
     EXPECT_GE(panelHeight(), widget<QSplitter>("split_main").height() / 3);
 }
 
+TEST_F(LayoutTest, FirstSearchThatFailsGivesTheRoomBackUnderItsAddressToo) {
+    const int before = panelHeight();
+    startLoad();
+    emit page().addressChanged(QUrl(QStringLiteral("http://www.example.org/find?q=Harbour")));
+    emit page().didFailLoad(&page(), page().mainFrame());
+    test::settle();
+    EXPECT_TRUE(widget<QWidget>("entry_address").isVisible());
+    EXPECT_LE(panelHeight(), 4 * before);
+}
+
 TEST_F(LayoutTest, PageThatWasThereKeepsItsRoomWhenTheNextOneFails) {
     startLoad();
     emit page().didFinishLoad(&page(), page().mainFrame());
