@@ -16,4 +16,7 @@ namespace velmora::portable {
 [[nodiscard]] std::unique_ptr<TaggedFile> open_ogg(FIOFUNCSTRUCT* file, std::uint64_t size, Media media);
 [[nodiscard]] std::unique_ptr<TaggedFile> open_aiff(FIOFUNCSTRUCT* file, std::uint64_t size, Media media);
 
+/** For the kinds that have no tag that others read, and for side files. */
+[[nodiscard]] std::unique_ptr<TaggedFile> open_own_tag(FIOFUNCSTRUCT* file, std::uint64_t size, Media media);
+
 } // namespace velmora::portable

@@ -11,6 +11,11 @@ std::unique_ptr<TaggedFile> open_tagged_file(FIOFUNCSTRUCT* file, std::uint64_t 
         return open_asf(file, size, kind.media);
     case Container::mp4:
         return open_mp4(file, size, kind.media);
+    case Container::mpeg_audio:
+        return open_mpeg_audio(file, size, kind.media);
+    case Container::side_file:
+    case Container::tagless:
+        return open_own_tag(file, size, kind.media);
     default:
         throw Refusal({ReasonCode::unsupported, 0, "no format"});
     }
