@@ -1,6 +1,7 @@
 #include "mp4_items.h"
 
 #include "mac_roman.h"
+#include "picture_mime.h"
 #include "refusals.h"
 #include "save_edits.h"
 #include "text.h"
@@ -68,18 +69,16 @@ constexpr std::array places = {
 /* Numbers of the kinds of values in `data`. */
 constexpr std::uint32_t value_utf8 = 1;
 constexpr std::uint32_t value_utf16 = 2;
-constexpr std::uint32_t value_implicit = 0;
 
 struct PictureKind {
     std::uint32_t number;
     std::string_view mime;
-    std::string_view begins_with;
 };
 constexpr std::array picture_kinds = {
-    PictureKind{13, "image/jpeg", "\xFF\xD8"},
-    PictureKind{14, "image/png", "\x89PNG"},
-    PictureKind{27, "image/bmp", "BM"},
-    PictureKind{12, "image/gif", "GIF8"},
+    PictureKind{13, "image/jpeg"},
+    PictureKind{14, "image/png"},
+    PictureKind{27, "image/bmp"},
+    PictureKind{12, "image/gif"},
 };
 
 /** A box inside an item. */
@@ -324,14 +323,11 @@ std::optional<Cover> mp4_cover(const Mp4Item& item) {
         if (!value || value->bytes.empty()) {
             continue;
         }
-        const std::string_view begin(reinterpret_cast<const char*>(value->bytes.data()), value->bytes.size());
         const auto* const kind =
-            std::find_if(picture_kinds.begin(), picture_kinds.end(), [&](const PictureKind& candidate) {
-                return value->kind == value_implicit ? begin.starts_with(candidate.begins_with)
-                                                     : candidate.number == value->kind;
-            });
+            std::find_if(picture_kinds.begin(), picture_kinds.end(),
+                         [&](const PictureKind& candidate) { return candidate.number == value->kind; });
         return Cover{{value->bytes.begin(), value->bytes.end()},
-                     kind == picture_kinds.end() ? std::string() : std::string(kind->mime)};
+                     kind == picture_kinds.end() ? picture_mime(value->bytes) : std::string(kind->mime)};
     }
     return std::nullopt;
 }

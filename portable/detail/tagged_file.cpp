@@ -9,6 +9,8 @@ std::unique_ptr<TaggedFile> open_tagged_file(FIOFUNCSTRUCT* file, std::uint64_t 
     switch (kind.container) {
     case Container::asf:
         return open_asf(file, size, kind.media);
+    case Container::avi:
+        return open_avi(file, size, kind.media);
     case Container::mp4:
         return open_mp4(file, size, kind.media);
     case Container::mpeg_audio:

@@ -82,7 +82,7 @@ TEST(Mp4Read, DamagedUtf8ShowsTheReplacementCharacter) {
 }
 
 TEST(Mp4Read, TheKindOfACoverWithoutOneIsToldByItsBytes) {
-    const TagValues values = values_in(file_with(item_list(item("covr", "\x89PNG\r\n", 0))), "m4a");
+    const TagValues values = values_in(file_with(item_list(item("covr", "\x89PNG\r\n\x1A\n", 0))), "m4a");
     EXPECT_EQ("image/png", values.cover->mime);
 }
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/** Chunks of RIFF files for tests, written out. */
+namespace velmora::test {
+
+/** A number of 32 bits, the low byte first. */
+[[nodiscard]] std::string le32(unsigned long value);
+
+/** FOURCC, size, DATA, and a pad byte where their number is odd. */
+[[nodiscard]] std::string chunk(std::string_view fourcc, std::string_view data);
+
+/** A list of TYPE. */
+[[nodiscard]] std::string list(std::string_view type, std::string_view chunks);
+
+/** A RIFF file of FORM. */
+[[nodiscard]] std::string riff(std::string_view form, std::string_view chunks);
+
+/** An item of an INFO list: TEXT and its zero. */
+[[nodiscard]] std::string info(std::string_view fourcc, std::string_view text);
+
+} // namespace velmora::test
