@@ -66,7 +66,14 @@ std::optional<MediaKind> media_kind(std::string_view path) {
     const auto* row = std::find_if(kindTable.begin(), kindTable.end(), [&](const KindRow& candidate) {
         return candidate.extension == extension;
     });
-    return row == kindTable.end() ? std::nullopt : std::optional(row->kind);
+    if (row == kindTable.end()) {
+        return std::nullopt;
+    }
+    // Of a DVD's information files only the one that stands for the disc has its tag beside it.
+    std::string stem(name.substr(0, dot));
+    std::transform(stem.begin(), stem.end(), stem.begin(), in_lower_case);
+    const bool part_of_dvd = extension == "ifo" && stem != "video_ts";
+    return part_of_dvd ? MediaKind{row->kind.media, Container::tagless} : row->kind;
 }
 
 } // namespace velmora::portable

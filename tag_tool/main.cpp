@@ -2,7 +2,7 @@
 #include "command_line.h"
 #include "file_walk.h"
 #include "interruption.h"
-#include "picture_header.h"
+#include "portable/picture_header.h"
 #include "printing.h"
 #include "show_files.h"
 
@@ -31,7 +31,7 @@ bool read_cover(Request& request) {
     cover.bytes.resize(file ? largest_cover : 0);
     errno = file ? 0 : errno;
     cover.bytes.resize(file ? std::fread(cover.bytes.data(), 1, cover.bytes.size(), file.get()) : 0);
-    const auto header = picture_header(cover.bytes);
+    const auto header = portable::picture_header(cover.bytes);
     if (!header || cover.bytes.size() == largest_cover) {
         print_failure(request.cover_path,
                       errno != 0 ? std::strerror(errno) : "not a picture that can be a cover");

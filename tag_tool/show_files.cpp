@@ -1,7 +1,7 @@
 #include "show_files.h"
 
 #include "interruption.h"
-#include "picture_header.h"
+#include "portable/picture_header.h"
 #include "portable/portable_tags.h"
 #include "printing.h"
 #include "progress_bar.h"
@@ -81,7 +81,7 @@ std::string hexadecimal(const std::string& bytes) {
 Json json_of(const Cover& cover) {
     Json object = {
         {"mime", cover.mime}, {"bytes", cover.bytes.size()}, {"width", nullptr}, {"height", nullptr}};
-    if (const auto header = picture_header(cover.bytes)) {
+    if (const auto header = portable::picture_header(cover.bytes)) {
         object["width"] = header->width;
         object["height"] = header->height;
     }

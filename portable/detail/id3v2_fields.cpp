@@ -1,5 +1,6 @@
 #include "id3v2_fields.h"
 
+#include "cover_choice.h"
 #include "date_text.h"
 #include "id3v2_text.h"
 #include "text.h"
@@ -13,8 +14,6 @@ namespace {
 
 constexpr const char* director_description = "DIRECTOR";
 constexpr const char* rating_description = "CONTENTRATING";
-constexpr std::uint8_t front_cover = 3;
-constexpr std::uint8_t other_picture = 0;
 
 /** The identifiers of what the fields are kept in. */
 enum class FrameKind { title, artist, album, genre, comment, user_text, picture, date, year, day, time };
@@ -53,28 +52,19 @@ Bytes content_of(const Id3v2Tag& tag, const Id3v2Frame& frame) {
 }
 
 /** The type of the picture in FRAME; nothing where there is none. */
-std::optional<std::uint8_t> picture_type(const Id3v2Tag& tag, const Id3v2Frame& frame) {
+std::optional<std::uint32_t> type_of_picture(const Id3v2Tag& tag, const Id3v2Frame& frame) {
     const AttachedPicture picture = attached_picture(content_of(tag, frame), tag.version());
-    return picture.bytes.empty() ? std::nullopt : std::optional(picture.type);
+    return picture.bytes.empty() ? std::nullopt : std::optional<std::uint32_t>(picture.type);
 }
 
-/** The frames of TAG that are the cover: all of type 3, or the first of type 0. Ends of the search are seldom far:
-    only pictures are unpacked. */
+/** The frames of TAG that are the cover. */
 std::vector<std::size_t> cover_frames(const Id3v2Tag& tag) {
-    std::vector<std::size_t> covers;
-    std::optional<std::size_t> other;
-    for (std::size_t i = 0; i < tag.frames().size(); ++i) {
-        if (kind_of(tag.frames()[i]) != FrameKind::picture) {
-            continue;
-        }
-        const std::optional<std::uint8_t> type = picture_type(tag, tag.frames()[i]);
-        if (type == front_cover) {
-            covers.push_back(i);
-        } else if (type == other_picture && !other) {
-            other = i;
-        }
+    std::vector<std::optional<std::uint32_t>> types;
+    types.reserve(tag.frames().size());
+    for (const Id3v2Frame& frame : tag.frames()) {
+        types.push_back(kind_of(frame) == FrameKind::picture ? type_of_picture(tag, frame) : std::nullopt);
     }
-    return covers.empty() && other ? std::vector{*other} : covers;
+    return cover_places(types);
 }
 
 /** The field that a user-defined text of films is. */
@@ -277,8 +267,11 @@ void apply_cover(Id3v2Tag& tag, const Edit<Cover>& edit) {
     if (!covers.empty()) {
         picture = attached_picture(content_of(tag, tag.frames()[covers.front()]), tag.version());
     }
+    if (picture.type == picture_type::front_cover && Cover{picture.bytes, picture.mime} == *edit.value()) {
+        return;
+    }
     picture.mime = edit.value()->mime;
-    picture.type = front_cover;
+    picture.type = picture_type::front_cover;
     picture.bytes = edit.value()->bytes;
     Id3v2Frame frame =
         tag.frame(id_of(FrameKind::picture, tag.version()), picture_content(picture, tag.version()));
@@ -355,7 +348,7 @@ void id3v2_apply(Id3v2Tag& tag, const TagEdits& edits, Media media) {
     } else if (edits.year.deletes()) {
         replace_frames(tag, Field::year, media, std::nullopt);
     }
-    if (edits.cover.deletes() || (edits.cover.sets() && edits.cover.value() != old.cover)) {
+    if (!edits.cover.leaves_alone()) {
         apply_cover(tag, edits.cover);
     }
 }

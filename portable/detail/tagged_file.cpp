@@ -13,6 +13,10 @@ std::unique_ptr<TaggedFile> open_tagged_file(FIOFUNCSTRUCT* file, std::uint64_t 
         return open_avi(file, size, kind.media);
     case Container::mp4:
         return open_mp4(file, size, kind.media);
+    case Container::flac:
+        return open_flac(file, size, kind.media);
+    case Container::ogg:
+        return open_ogg(file, size, kind.media);
     case Container::mpeg_audio:
         return open_mpeg_audio(file, size, kind.media);
     case Container::side_file:

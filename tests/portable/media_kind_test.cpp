@@ -11,6 +11,11 @@ TEST(MediaKind, IsToldByTheExtensionInAnyCase) {
     EXPECT_EQ((MediaKind{Media::video, Container::side_file}), media_kind("VIDEO_TS.IFO"));
 }
 
+TEST(MediaKind, OnlyTheFileThatStandsForADvdHasItsTagBesideIt) {
+    EXPECT_EQ((MediaKind{Media::video, Container::side_file}), media_kind("/dvd/video_ts.ifo"));
+    EXPECT_EQ((MediaKind{Media::video, Container::tagless}), media_kind("/dvd/VTS_01_0.IFO"));
+}
+
 TEST(MediaKind, TakesTheLastExtensionOfTheNameAlone) {
     EXPECT_EQ((MediaKind{Media::audio, Container::flac}), media_kind("a.mp3.flac"));
     EXPECT_EQ(std::nullopt, media_kind("folder.mp3/name"));

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace velmora::tag_tool {
+namespace velmora::portable {
 
 namespace {
 
@@ -41,13 +41,24 @@ std::optional<PictureHeader> jpeg_header(ByteView bytes) {
         if (marker == 0xFF) {
             ++position;
         } else if (is_frame_header(marker)) {
+            constexpr std::uint32_t components = 9; // where their number is
+            const std::uint32_t count =
+                position + components < bytes.size() ? bytes[position + components] : 0;
             return PictureHeader{"image/jpeg", big_endian(bytes, position + 7, 2),
-                                 big_endian(bytes, position + 5, 2)};
+                                 big_endian(bytes, position + 5, 2), bytes[position + 4] * count};
         } else {
             position += 2 + big_endian(bytes, position + 2, 2);
         }
     }
     return std::nullopt;
+}
+
+PictureHeader png_header(ByteView bytes) {
+    // By the type of its colours: grey, -, red green blue, from a palette, grey and opacity, -, all four.
+    constexpr std::uint32_t samples[] = {1, 0, 3, 1, 2, 0, 4};
+    const std::uint32_t colours = bytes[25];
+    const std::uint32_t depth = colours < std::size(samples) ? bytes[24] * samples[colours] : 0;
+    return {"image/png", big_endian(bytes, 16, 4), big_endian(bytes, 20, 4), depth};
 }
 
 std::optional<PictureHeader> webp_header(ByteView bytes) {
@@ -72,8 +83,8 @@ std::optional<PictureHeader> picture_header(std::span<const std::uint8_t> bytes)
     if (has(bytes, 0, "\xFF\xD8\xFF")) {
         return jpeg_header(bytes);
     }
-    if (has(bytes, 0, "\x89PNG\r\n\x1A\n") && bytes.size() >= 24) {
-        return PictureHeader{"image/png", big_endian(bytes, 16, 4), big_endian(bytes, 20, 4)};
+    if (has(bytes, 0, "\x89PNG\r\n\x1A\n") && bytes.size() >= 26) {
+        return png_header(bytes);
     }
     if ((has(bytes, 0, "GIF87a") || has(bytes, 0, "GIF89a")) && bytes.size() >= 10) {
         return PictureHeader{"image/gif", little_endian(bytes, 6, 2), little_endian(bytes, 8, 2)};
@@ -87,4 +98,4 @@ std::optional<PictureHeader> picture_header(std::span<const std::uint8_t> bytes)
     return std::nullopt;
 }
 
-} // namespace velmora::tag_tool
+} // namespace velmora::portable
