@@ -55,6 +55,7 @@ void MyDocument::windowControllerDidLoadNib() {
 void MyDocument::makeRoomForWebPage(bool shown) {
     if (!shown) {
         sizesWithPage_ = ui_->split_main->sizes();
+        ui_->split_main->setSizes({ui_->split_main->height(), 0}); // no less than the panel's bars
         return;
     }
     const int half = ui_->split_main->height() / 2;

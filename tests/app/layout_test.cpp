@@ -103,11 +103,15 @@ TEST_F(LayoutTest, FirstSearchThatFailsGivesTheRoomBackAndSaysSo) {
 TEST_F(LayoutTest, FirstSearchThatFailsGivesTheRoomBackUnderItsAddressToo) {
     const int before = panelHeight();
     startLoad();
-    emit page().addressChanged(QUrl(QStringLiteral("http://www.example.org/find?q=Harbour")));
     emit page().didFailLoad(&page(), page().mainFrame());
+    test::settle();
+    emit page().addressChanged(QUrl(QStringLiteral("http://www.example.org/find?q=Harbour")));
     test::settle();
     EXPECT_TRUE(widget<QWidget>("entry_address").isVisible());
     EXPECT_LE(panelHeight(), 4 * before);
+    const QSplitter& split = widget<QSplitter>("split_main");
+    EXPECT_EQ(split.height(), split.widget(1)->geometry().bottom() + 1);
+    EXPECT_EQ(split.widget(1)->y() - split.handleWidth(), split.widget(0)->height());
 }
 
 TEST_F(LayoutTest, PageThatWasThereKeepsItsRoomWhenTheNextOneFails) {
