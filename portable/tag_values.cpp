@@ -15,6 +15,17 @@ bool TagEdits::asks_for(Field field) const {
     }
 }
 
+bool TagEdits::sets(Field field) const {
+    switch (field) {
+    case Field::year:
+        return year.sets();
+    case Field::cover:
+        return cover.sets();
+    default:
+        return text(field).sets();
+    }
+}
+
 bool TagEdits::empty() const {
     return year.leaves_alone() && cover.leaves_alone() &&
            std::all_of(texts.begin(), texts.end(), [](const auto& edit) { return edit.leaves_alone(); });

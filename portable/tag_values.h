@@ -86,7 +86,9 @@ struct TagEdits {
     }
     /** Whether FIELD is set or deleted. */
     [[nodiscard]] bool asks_for(Field field) const;
-    /** Whether no field is. */
+    /** Whether FIELD is set, and not deleted. */
+    [[nodiscard]] bool sets(Field field) const;
+    /** Whether no field is set or deleted. */
     [[nodiscard]] bool empty() const;
     /** What a file that had OLD has afterwards. */
     [[nodiscard]] TagValues applied_to(const TagValues& old) const;

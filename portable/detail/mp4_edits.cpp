@@ -93,17 +93,6 @@ Bytes Change::item_box(Kind kind, const Mp4Item* item, const std::string& name, 
     return mp4_text_box(kind, item, name, text_for(kind, item, name, field, edits));
 }
 
-bool is_set(const TagEdits& edits, Field field) {
-    switch (field) {
-    case Field::year:
-        return edits.year.sets();
-    case Field::cover:
-        return edits.cover.sets();
-    default:
-        return edits.text(field).sets();
-    }
-}
-
 void Change::put(const TagEdits& edits) {
     bool is_first = true;
     for (const Mp4ItemList& list : layout_.lists) {
@@ -129,7 +118,7 @@ void Change::put_field(const Mp4ItemList& list, Field field, const TagEdits& edi
     std::vector<std::string> names; // that get the value
     const bool exists = std::any_of(list.items.begin(), list.items.end(),
                                     [&](const Mp4Item& item) { return item.field == field; });
-    if (is_set(edits, field) && (exists || is_first)) {
+    if (edits.sets(field) && (exists || is_first)) {
         if (list.kind == Kind::items) {
             names = mp4_names(field);
         } else {
@@ -180,7 +169,7 @@ void Change::make_list(const TagEdits& edits) {
     Bytes items;
     for (std::size_t i = 0; i < field_count; ++i) {
         const auto field = static_cast<Field>(i);
-        if (!is_set(edits, field)) {
+        if (!edits.sets(field)) {
             continue;
         }
         for (const std::string& name : mp4_names(field)) {

@@ -4,6 +4,7 @@
 #include "id3v1_tag.h"
 #include "id3v2_fields.h"
 #include "in_place_tag.h"
+#include "several_tags.h"
 
 #include "../reason.h"
 #include "save_edits.h"
@@ -170,16 +171,6 @@ std::vector<std::string> MpegAudioFile::tags() const {
     return names;
 }
 
-/** VALUES, and what MORE has besides. */
-TagValues filled(TagValues values, const TagValues& more) {
-    for (std::size_t i = 0; i < text_field_count; ++i) {
-        values.texts[i] = values.texts[i] ? values.texts[i] : more.texts[i];
-    }
-    values.year = values.year ? values.year : more.year;
-    values.cover = values.cover ? std::move(values.cover) : more.cover;
-    return values;
-}
-
 TagValues MpegAudioFile::values() const {
     TagValues values = appended_ ? appended_->values(media_) : TagValues();
     if (front_) {
@@ -218,26 +209,6 @@ std::vector<TagItem> MpegAudioFile::items() const {
 
 std::vector<Range> MpegAudioFile::payload() const {
     return {media_range_, lyrics_};
-}
-
-/** Sets what VALUES have and EDITS leave alone. */
-void set_missing(TagEdits& edits, const TagValues& values) {
-    for (std::size_t i = 0; i < text_field_count; ++i) {
-        if (edits.texts[i].leaves_alone() && values.texts[i]) {
-            edits.texts[i] = Edit<std::string>::set(*values.texts[i]);
-        }
-    }
-    if (edits.year.leaves_alone() && values.year) {
-        edits.year = Edit<int>::set(*values.year);
-    }
-    if (edits.cover.leaves_alone() && values.cover) {
-        edits.cover = Edit<Cover>::set(*values.cover);
-    }
-}
-
-bool sets_anything(const TagEdits& edits) {
-    return edits.year.sets() || edits.cover.sets() ||
-           std::any_of(edits.texts.begin(), edits.texts.end(), [](const auto& edit) { return edit.sets(); });
 }
 
 TagEdits MpegAudioFile::completed(const TagEdits& edits) const {

@@ -47,17 +47,6 @@ std::string text_in(const Bytes& data) {
     return valid == text ? valid : utf8_from_latin1(std::span(data).first(text.size()));
 }
 
-bool sets(const TagEdits& edits, Field field) {
-    switch (field) {
-    case Field::year:
-        return edits.year.sets();
-    case Field::cover:
-        return edits.cover.sets();
-    default:
-        return edits.text(field).sets();
-    }
-}
-
 } // namespace
 
 void RiffInfo::read(const ReadCursor& cursor, const Chunk& chunk) {
@@ -145,7 +134,7 @@ Bytes RiffInfo::with(const TagEdits& edits) const {
     append_le32(list, fourcc::info);
     std::vector<std::uint32_t> put; // the codes that have their new value
     const auto put_value = [&](std::uint32_t fourcc, Field field) {
-        if (sets(edits, field) && std::find(put.begin(), put.end(), fourcc) == put.end()) {
+        if (edits.sets(field) && std::find(put.begin(), put.end(), fourcc) == put.end()) {
             append(list, make_chunk(fourcc, data_for(fourcc, field, edits), std::endian::little));
             put.push_back(fourcc);
         }

@@ -39,6 +39,9 @@ TEST(TagEdits, TellWhichFieldsTheyAskFor) {
     EXPECT_TRUE(edits.asks_for(Field::cover));
     EXPECT_FALSE(edits.asks_for(Field::title));
     EXPECT_FALSE(edits.asks_for(Field::year));
+    EXPECT_TRUE(edits.sets(Field::cover));
+    EXPECT_FALSE(edits.sets(Field::rating));
+    EXPECT_FALSE(edits.sets(Field::year));
     EXPECT_FALSE(edits.empty());
 }
 
