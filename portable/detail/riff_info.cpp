@@ -39,15 +39,14 @@ std::span<const InfoCode> codes_of(Media media) {
                                  : std::span<const InfoCode>(film_codes);
 }
 
-/** The text of an item: nothing in the file says in what it is written, and what is no UTF-8 is most often Latin-1. */
-std::string text_in(const Bytes& data) {
+} // namespace
+
+std::string info_text(std::span<const std::uint8_t> data) {
     const std::string_view all(reinterpret_cast<const char*>(data.data()), data.size());
     const std::string_view text = all.substr(0, all.find('\0'));
-    const std::string valid = valid_utf8(text);
-    return valid == text ? valid : utf8_from_latin1(std::span(data).first(text.size()));
+    std::string valid = valid_utf8(text);
+    return valid == text ? valid : utf8_from_latin1(data.first(text.size()));
 }
-
-} // namespace
 
 void RiffInfo::read(const ReadCursor& cursor, const Chunk& chunk) {
     ReadCursor list = cursor;
@@ -78,7 +77,7 @@ std::string RiffInfo::text_of(std::uint32_t fourcc) const {
     std::vector<std::string> values;
     for (const InfoItem& item : items_) {
         if (item.fourcc == fourcc) {
-            values.push_back(text_in(item.data));
+            values.push_back(info_text(item.data));
         }
     }
     return joined(values);

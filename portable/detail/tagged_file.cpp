@@ -7,6 +7,8 @@ namespace velmora::portable {
 
 std::unique_ptr<TaggedFile> open_tagged_file(FIOFUNCSTRUCT* file, std::uint64_t size, const MediaKind& kind) {
     switch (kind.container) {
+    case Container::aiff:
+        return open_aiff(file, size, kind.media);
     case Container::asf:
         return open_asf(file, size, kind.media);
     case Container::avi:
@@ -22,6 +24,8 @@ std::unique_ptr<TaggedFile> open_tagged_file(FIOFUNCSTRUCT* file, std::uint64_t 
     case Container::side_file:
     case Container::tagless:
         return open_own_tag(file, size, kind.media);
+    case Container::wav:
+        return open_wav(file, size, kind.media);
     default:
         throw Refusal({ReasonCode::unsupported, 0, "no format"});
     }

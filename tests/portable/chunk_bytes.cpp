@@ -14,6 +14,12 @@ std::string chunk(std::string_view fourcc, std::string_view data) {
     return std::string(fourcc) + le32(data.size()) + std::string(data) + std::string(data.size() & 1, '\0');
 }
 
+std::string aiff_chunk(std::string_view fourcc, std::string_view data) {
+    const std::string size = le32(data.size());
+    return std::string(fourcc) + std::string(size.rbegin(), size.rend()) + std::string(data) +
+           std::string(data.size() & 1, '\0');
+}
+
 std::string list(std::string_view type, std::string_view chunks) {
     return chunk("LIST", std::string(type) + std::string(chunks));
 }

@@ -18,6 +18,9 @@ namespace velmora::test {
 /** A RIFF file of FORM. */
 [[nodiscard]] std::string riff(std::string_view form, std::string_view chunks);
 
+/** The chunk of an AIFF file, whose sizes have the high byte first. */
+[[nodiscard]] std::string aiff_chunk(std::string_view fourcc, std::string_view data);
+
 /** An item of an INFO list: TEXT and its zero. */
 [[nodiscard]] std::string info(std::string_view fourcc, std::string_view text);
 
