@@ -68,6 +68,8 @@ Id3v2Tag::Id3v2Tag(ByteView bytes) : old_size_(bytes.size()) {
     if (version() < 4 && (header_.flags & tag_flag::unsynchronised) != 0) {
         synchronised = without_unsynchronisation(content);
         content = synchronised;
+        // It is not written so again: readers are about that do not undo it as the frames' sizes mean it.
+        header_.flags &= static_cast<std::uint8_t>(~tag_flag::unsynchronised);
     }
     read_frames(content.subspan(read_extended_header(content)));
 }
@@ -186,9 +188,6 @@ Bytes Id3v2Tag::content_bytes(std::size_t padding) const {
     append_extended_header(content, padding);
     for (const Id3v2Frame& frame : frames_) {
         append_frame(content, frame);
-    }
-    if (version() < 4 && (header_.flags & tag_flag::unsynchronised) != 0) {
-        content = with_unsynchronisation(content);
     }
     content.resize(content.size() + padding);
     return content;

@@ -37,6 +37,8 @@ struct Id3v2Frame {
     std::string id;          ///< four characters, in version 2.2 three
     std::uint16_t flags = 0; ///< as they lie in the file, big endian; 2.2 has none
     Bytes body;
+
+    friend bool operator==(const Id3v2Frame&, const Id3v2Frame&) = default;
 };
 
 /** A tag in memory. */

@@ -326,10 +326,7 @@ void InPlaceTag::store(FIOFUNCSTRUCT* file, std::uint64_t position) const {
 }
 
 bool operator==(const InPlaceTag& left, const InPlaceTag& right) {
-    return std::equal(left.frames_.begin(), left.frames_.end(), right.frames_.begin(), right.frames_.end(),
-                      [](const Id3v2Frame& one, const Id3v2Frame& other) {
-                          return one.id == other.id && one.flags == other.flags && one.body == other.body;
-                      });
+    return left.frames_ == right.frames_;
 }
 
 } // namespace velmora::portable

@@ -285,7 +285,9 @@ Rewrite MpegAudioFile::with(const TagEdits& edits) const {
     refuse_strange_tags();
     const Id3v2Tag front = new_front(edits);
     Rewrite rewrite;
-    if (!front.frames().empty()) {
+    if (front_ && front.frames() == front_->frames()) {
+        rewrite.segments.emplace_back(Range{0, media_range_.begin});
+    } else if (!front.frames().empty()) {
         rewrite.segments.emplace_back(front.bytes());
     }
     rewrite.segments.emplace_back(media_range_);
