@@ -41,7 +41,11 @@ ReadStatus ReadWindow::read(std::uint64_t position, void* bytes, std::size_t len
                             std::size_t* count) {
     auto* const target = static_cast<std::uint8_t*>(bytes);
     std::size_t got = take(position, target, length);
-    if (got < length && length - got < capacity && fill(position + got, ahead_end, length - got)) {
+    if (got == length) {
+        *count = got;
+        return ReadStatus::whole;
+    }
+    if (length - got < capacity && fill(position + got, ahead_end, length - got)) {
         got += take(position + got, target + got, length - got);
     }
     ReadStatus status = ReadStatus::whole;
@@ -101,7 +105,7 @@ void ReadWindow::forget() {
 
 /** Copies what the window holds of the LENGTH bytes at POSITION, from their beginning on; returns how many
     these are. */
-std::size_t ReadWindow::take(std::uint64_t position, std::uint8_t* bytes, std::size_t length) const {
+inline std::size_t ReadWindow::take(std::uint64_t position, std::uint8_t* bytes, std::size_t length) const {
     if (length == 0 || position < start_ || position - start_ >= filled_) {
         return 0;
     }

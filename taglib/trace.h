@@ -7,6 +7,9 @@
 /** The tag library's own log, on standard error. */
 namespace velmora {
 
+/** Bytes of a finished message with its terminator. */
+inline constexpr std::size_t message_capacity = 512;
+
 /** Formats as vsnprintf does, with two conversions of its own: "I64", as in "%I64x" and "%I64d", is the
    length of a 64-bit value, and "%S" takes a `const void*` to zero-terminated UTF-16LE text (unaligned is
    fine, null prints nothing), shown as UTF-8 whatever the locale. The finished text is cut to 511 bytes and
@@ -31,14 +34,20 @@ public:
     TraceBatch(const TraceBatch&) = delete;
     TraceBatch& operator=(const TraceBatch&) = delete;
 
-    /** Takes LENGTH bytes of TEXT, at most 4,096: for DebugTraceV. */
-    void add(const char* text, std::size_t length);
+    /* For DebugTraceV and its like. */
+
+    /** Where the next message is to be put, with room for message_capacity bytes. */
+    [[nodiscard]] char* next() { return text_.data() + length_; }
+    /** Takes the LENGTH bytes of the message that was put there. */
+    void take(std::size_t length);
 
 private:
+    static constexpr std::size_t most_gathered = 4096;
+
     void write();
 
     std::size_t length_ = 0;
-    std::array<char, 4096 + 1> text_; ///< with room for its terminator
+    std::array<char, most_gathered + message_capacity> text_;
 };
 
 } // namespace velmora

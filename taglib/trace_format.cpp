@@ -3,6 +3,7 @@
 #include "byte_order.h"
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cstdint>
 #include <cstdio>
@@ -39,11 +40,6 @@ struct Conversion {
             add(*digit);
         }
     }
-};
-
-/** A va_list that can be handed on by reference on every ABI. */
-struct Arguments {
-    va_list list;
 };
 
 bool is_one_of(char c, const char* set) {
@@ -85,7 +81,7 @@ const char* read_length(const char* at, Conversion& conversion) {
 }
 
 /** Reads the conversion at AT, behind its "%", and returns what follows it. */
-const char* read_conversion(const char* at, Arguments& arguments, Conversion& conversion) {
+const char* read_conversion(const char* at, FormatArguments& arguments, Conversion& conversion) {
     conversion.add('%');
     for (; is_one_of(*at, "-+ #0123456789.*"); ++at) {
         if (*at == '*') {
@@ -189,40 +185,30 @@ std::size_t put_text(char* to, std::size_t room, const char* text, std::size_t l
     return length;
 }
 
-/** As much of NUMBER's digits as ROOM holds beside a terminator. */
-template <typename Number>
-std::size_t put_number(char* to, std::size_t room, Number number, int base) {
-    char digits[24];
-    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, number, base);
-    return put_text(to, room, digits, static_cast<std::size_t>(end.ptr - digits));
-}
-
 /** Prints the argument of a conversion that plain_conversion takes; returns the bytes that fit into ROOM. */
-std::size_t print_plain(char* to, std::size_t room, Plain plain, Arguments& arguments) {
+std::size_t print_plain(char* to, std::size_t room, Plain plain, FormatArguments& arguments) {
     va_list& list = arguments.list;
     switch (plain) {
     case Plain::hex:
-        return put_number(to, room, va_arg(list, unsigned), 16);
+        return put_hex(to, room, va_arg(list, unsigned));
     case Plain::decimal:
-        return put_number(to, room, va_arg(list, int), 10);
+        return put_decimal(to, room, va_arg(list, int));
     case Plain::hex64:
-        return put_number(to, room, va_arg(list, unsigned long long), 16);
+        return put_hex(to, room, va_arg(list, unsigned long long));
     case Plain::decimal64:
-        return put_number(to, room, va_arg(list, long long), 10);
+        return put_decimal(to, room, va_arg(list, long long));
     case Plain::text: {
         const char* const text = va_arg(list, const char*);
         return text ? put_text(to, room, text, ::strnlen(text, room)) : put_text(to, room, "(null)", 6);
     }
-    default: {
-        char text[message_capacity + 4];
-        return put_text(to, room, text, utf8_from_utf16le(va_arg(list, const void*), text));
-    }
+    default:
+        return put_utf16le(to, room, va_arg(list, const void*));
     }
 }
 
 // NOLINTBEGIN(bugprone-branch-clone): the branches take arguments of different types
 /** Prints one conversion with its argument; the result is snprintf's. */
-int print_conversion(char* to, std::size_t room, const Conversion& conversion, Arguments& arguments) {
+int print_conversion(char* to, std::size_t room, const Conversion& conversion, FormatArguments& arguments) {
     using Size = Conversion::Size;
     va_list& list = arguments.list;
     const char* const text = conversion.text;
@@ -260,6 +246,30 @@ int print_conversion(char* to, std::size_t room, const Conversion& conversion, A
 
 } // namespace
 
+std::size_t put_decimal(char* to, std::size_t room, std::int64_t number) {
+    char digits[24];
+    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, number);
+    return put_text(to, room, digits, static_cast<std::size_t>(end.ptr - digits));
+}
+
+std::size_t put_hex(char* to, std::size_t room, std::uint64_t number) {
+    const auto count = std::max<std::size_t>(1, (static_cast<std::size_t>(std::bit_width(number)) + 3) / 4);
+    const std::size_t fitting = std::min(count, room - 1);
+    number >>= 4 * (count - fitting);
+    for (std::size_t i = fitting; i > 0; number >>= 4) {
+        to[--i] = "0123456789abcdef"[number & 0xF];
+    }
+    return fitting;
+}
+
+std::size_t put_utf16le(char* to, std::size_t room, const void* utf16) {
+    if (!utf16 || load_le16(utf16) == 0) {
+        return 0;
+    }
+    char text[message_capacity + 4];
+    return put_text(to, room, text, utf8_from_utf16le(utf16, text));
+}
+
 bool needs_own_formatting(const char* format) {
     for (const char* at = std::strchr(format, '%'); at; at = std::strchr(at, '%')) {
         ++at;
@@ -277,29 +287,28 @@ bool needs_own_formatting(const char* format) {
     return false;
 }
 
-std::optional<std::size_t> format_plainly(char (&message)[message_capacity], const char* format,
-                                          va_list list) {
-    Arguments arguments;
-    va_copy(arguments.list, list);
-    std::size_t used = 0;
+bool format_plainly(char* message, const char* format, FormatArguments& arguments, std::size_t* length) {
+    char* to = message;
+    char* const last = message + message_capacity - 1; // where the terminator stands at the latest
     bool is_plain = true;
-    while (is_plain && *format && used + 1 < message_capacity) {
-        if (*format != '%') {
-            message[used++] = *format++;
-            continue;
+    while (is_plain && *format && to != last) {
+        for (; *format && *format != '%' && to != last; ++to) {
+            *to = *format++;
         }
-        ++format;
-        const Plain plain = plain_conversion(format);
-        is_plain = plain != Plain::none;
-        used += is_plain ? print_plain(message + used, message_capacity - used, plain, arguments) : 0;
+        if (*format == '%' && to != last) {
+            ++format;
+            const Plain plain = plain_conversion(format);
+            is_plain = plain != Plain::none;
+            to += is_plain ? print_plain(to, static_cast<std::size_t>(last + 1 - to), plain, arguments) : 0;
+        }
     }
-    message[used] = '\0';
-    va_end(arguments.list);
-    return is_plain ? std::optional(used) : std::nullopt;
+    *to = '\0';
+    *length = static_cast<std::size_t>(to - message);
+    return is_plain;
 }
 
-void format_message(char (&message)[message_capacity], const char* format, va_list list) {
-    Arguments arguments;
+void format_message(char* message, const char* format, va_list list) {
+    FormatArguments arguments;
     va_copy(arguments.list, list);
     std::size_t used = 0;
     while (*format && used + 1 < message_capacity) {

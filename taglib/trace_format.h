@@ -1,20 +1,33 @@
 #pragma once
 
+#include "trace.h"
+
 #include <cstdarg>
 #include <cstddef>
-#include <optional>
+#include <cstdint>
 
 /** The trace's own reading of a format, for the conversions that the C library lacks or reads otherwise. */
 namespace velmora {
 
-/** Bytes of a finished message with its terminator. */
-inline constexpr std::size_t message_capacity = 512;
+/** A va_list that can be handed on by reference on every ABI. */
+struct FormatArguments {
+    va_list list;
+};
 
-/** Formats a message whose conversions, up to where the message is full, are all among %x, %d, %s, %S, %I64x and
-    %I64d, without flags: what nearly every one is, and many times as fast as the general way. Returns the
-    message's length; nothing for any other format. */
-[[nodiscard]] std::optional<std::size_t> format_plainly(char (&message)[message_capacity], const char* format,
-                                                        va_list arguments);
+/* Each puts into TO as much of its text as ROOM bytes hold beside a terminator, which it leaves out, and returns
+   how many bytes these are. */
+[[nodiscard]] std::size_t put_decimal(char* to, std::size_t room, std::int64_t number);
+[[nodiscard]] std::size_t put_hex(char* to, std::size_t room, std::uint64_t number);
+/** Of UTF-16LE text up to its first zero unit, as UTF-8; null is no text. */
+[[nodiscard]] std::size_t put_utf16le(char* to, std::size_t room, const void* utf16);
+
+/* The functions below put a message, and its terminator, into MESSAGE, which has message_capacity bytes. */
+
+/** For a message whose conversions, up to where it is full, are all among %x, %d, %s, %S, %I64x and %I64d,
+   without flags: what nearly every one is, and many times as fast as the general way. Uses ARGUMENTS up and
+   sets LENGTH to the message's. False for any other format; MESSAGE then holds what precedes the conversion. */
+[[nodiscard]] bool format_plainly(char* message, const char* format, FormatArguments& arguments,
+                                  std::size_t* length);
 
 /** Whether FORMAT has an "I64" or "%S" conversion; all others are vsnprintf's. */
 [[nodiscard]] bool needs_own_formatting(const char* format);
@@ -22,6 +35,6 @@ inline constexpr std::size_t message_capacity = 512;
 /** vsnprintf with "I64" and "%S" (see trace.h), cut to the message's capacity and always terminated. Ends at
    the first conversion that is not known or that fails, with what precedes it in the message. Flags, width
    and precision are those of printf; for "%S" they count bytes of UTF-8. */
-void format_message(char (&message)[message_capacity], const char* format, va_list arguments);
+void format_message(char* message, const char* format, va_list arguments);
 
 } // namespace velmora

@@ -12,9 +12,6 @@ namespace velmora {
 
 template <typename Value, std::size_t Count>
 bool WriteCursor::Room<Value, Count>::grow(std::size_t count) {
-    if (count <= count_) {
-        return true;
-    }
     const int error = errno;
     const std::size_t room = std::max(count, 2 * count_);
     auto* const moved = static_cast<Value*>(std::realloc(grown_.get(), room * sizeof(Value)));
@@ -27,6 +24,7 @@ bool WriteCursor::Room<Value, Count>::grow(std::size_t count) {
     }
     [[maybe_unused]] Value* const freed_by_realloc = grown_.release();
     grown_.reset(moved);
+    values_ = moved;
     std::fill(moved + count_, moved + room, Value{});
     count_ = room;
     return true;
@@ -94,8 +92,8 @@ bool WriteCursor::commit() {
 
 /** Room for a field of LENGTH bytes at the buffer's end, or null where there is none even in an empty buffer,
     or no use for it. */
-std::uint8_t* WriteCursor::add_to_buffer(std::size_t length) {
-    if (!reserve_buffer(length) || !add_piece(nullptr, length)) {
+inline std::uint8_t* WriteCursor::add_to_buffer(std::size_t length) {
+    if (!reserve_buffer(length) || (!add_to_last_piece(length) && !add_piece(nullptr, length))) {
         write_pieces();
         if (length > std::min(buffer_.count(), 8 * starts_.count()) || !add_piece(nullptr, length)) {
             return nullptr;
@@ -107,22 +105,25 @@ std::uint8_t* WriteCursor::add_to_buffer(std::size_t length) {
     return room;
 }
 
-bool WriteCursor::reserve_buffer(std::size_t length) {
-    return buffer_.grow(used_ + length) && starts_.grow((used_ + length + 7) / 8);
+inline bool WriteCursor::reserve_buffer(std::size_t length) {
+    return buffer_.reserve(used_ + length) && starts_.reserve((used_ + length + 7) / 8);
 }
 
-/** Enters LENGTH bytes at the position: those of BLOCK, or the next ones of the buffer. False when there is
-   no memory for it. */
-bool WriteCursor::add_piece(const std::uint8_t* block, std::size_t length) {
-    if (!block && piece_count_ > 0) {
-        Piece& last = pieces_.values()[piece_count_ - 1];
-        if (!last.block && last.position + last.length == position_) {
-            last.length += length;
-            ++collected_fields_;
-            return true;
-        }
+/** Enters the next LENGTH bytes of the buffer as more of the last piece. False where they don't follow it. */
+inline bool WriteCursor::add_to_last_piece(std::size_t length) {
+    Piece* const last = piece_count_ > 0 ? pieces_.values() + piece_count_ - 1 : nullptr;
+    if (!last || last->block || last->position + last->length != position_) {
+        return false;
     }
-    if (!pieces_.grow(piece_count_ + 1)) {
+    last->length += length;
+    ++collected_fields_;
+    return true;
+}
+
+/** Enters LENGTH bytes at the position as a piece: those of BLOCK, or the next ones of the buffer. False when
+   there is no memory for it. */
+bool WriteCursor::add_piece(const std::uint8_t* block, std::size_t length) {
+    if (!pieces_.reserve(piece_count_ + 1)) {
         return false;
     }
     pieces_.values()[piece_count_++] = {position_, block, used_, length};
@@ -137,7 +138,7 @@ void WriteCursor::add_block(const std::uint8_t* block, std::size_t length) {
     }
 }
 
-void WriteCursor::count_field(std::size_t length) {
+inline void WriteCursor::count_field(std::size_t length) {
     rest_ = nullptr;
     position_ += length;
     bytes_ += length;

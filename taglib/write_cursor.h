@@ -88,16 +88,23 @@ private:
     template <typename Value, std::size_t Count>
     class Room {
     public:
-        [[nodiscard]] Value* values() { return grown_ ? grown_.get() : here_.data(); }
-        [[nodiscard]] const Value* values() const { return grown_ ? grown_.get() : here_.data(); }
+        Room() = default;
+        Room(const Room&) = delete;
+        Room& operator=(const Room&) = delete;
+
+        [[nodiscard]] Value* values() { return values_; }
+        [[nodiscard]] const Value* values() const { return values_; }
         [[nodiscard]] std::size_t count() const { return count_; }
-        /** Makes room for at least COUNT values and keeps those that are there. False when there is none;
+        /** Sees to room for at least COUNT values and keeps those that are there. False when there is none;
             errno stays. */
-        [[nodiscard]] bool grow(std::size_t count);
+        [[nodiscard]] bool reserve(std::size_t count) { return count <= count_ || grow(count); }
 
     private:
+        [[nodiscard]] bool grow(std::size_t count);
+
         std::array<Value, Count> here_{};
         std::unique_ptr<Value, Free> grown_;
+        Value* values_ = here_.data();
         std::size_t count_ = Count;
     };
 
@@ -105,6 +112,7 @@ private:
     void put_number(Value value, Store store);
     [[nodiscard]] std::uint8_t* add_to_buffer(std::size_t length);
     [[nodiscard]] bool reserve_buffer(std::size_t length);
+    [[nodiscard]] bool add_to_last_piece(std::size_t length);
     [[nodiscard]] bool add_piece(const std::uint8_t* block, std::size_t length);
     void add_block(const std::uint8_t* block, std::size_t length);
     void count_field(std::size_t length);

@@ -2,6 +2,7 @@
 
 #include "../byte_order.h"
 #include "../trace.h"
+#include "../trace_line.h"
 #include "cursor_readers.h"
 #include "descriptor_value.h"
 #include "object_writer.h"
@@ -9,6 +10,7 @@
 #include "utf16.h"
 
 #include <array>
+#include <cstring>
 
 namespace velmora {
 
@@ -29,29 +31,36 @@ bool read_bytes(ReadCursor* cursor, std::uint16_t length, AsfOwned<std::uint8_t>
 
 void log_value(const _asf_content_descriptor_t& descriptor) {
     if (descriptor.type == asf_value_type::unicode) {
-        DebugInfo("  unicode: %S\n", Utf16TraceText(descriptor.value, descriptor.value_length).get());
+        const Utf16TraceText value(descriptor.value, descriptor.value_length);
+        TraceLine().text("  unicode: ").utf16le(value.get()).text("\n");
         return;
     }
     const std::uint64_t number = asf_value_as_number(&descriptor);
     const auto low = static_cast<std::uint32_t>(number);
+    const auto signed_low = static_cast<std::int32_t>(low);
     switch (descriptor.type) {
     case asf_value_type::bytearray: {
         // As a byte string: up to its first zero byte, never past its end.
         const char* const text = descriptor.value ? reinterpret_cast<const char*>(descriptor.value) : "";
-        DebugInfo("  bytearray: %.*s\n", static_cast<int>(descriptor.value_length), text);
+        TraceLine().text("  bytearray: ").text({text, ::strnlen(text, descriptor.value_length)}).text("\n");
         break;
     }
     case asf_value_type::boolean:
-        DebugInfo("  bool: %d\n", static_cast<int>(low));
+        TraceLine().text("  bool: ").decimal(signed_low).text("\n");
         break;
     case asf_value_type::dword:
-        DebugInfo("  dword: 0x%x (%d)\n", low, static_cast<int>(low));
+        TraceLine().text("  dword: 0x").hex(low).text(" (").decimal(signed_low).text(")\n");
         break;
     case asf_value_type::qword:
-        DebugInfo("  qword: 0x%I64x (%I64d)\n", number, number);
+        TraceLine()
+            .text("  qword: 0x")
+            .hex(number)
+            .text(" (")
+            .decimal(static_cast<std::int64_t>(number))
+            .text(")\n");
         break;
     case asf_value_type::word:
-        DebugInfo("  word: 0x%x (%d)\n", low, static_cast<int>(low));
+        TraceLine().text("  word: 0x").hex(low).text(" (").decimal(signed_low).text(")\n");
         break;
     default:
         DebugError("  unknown type %d length %d\n", descriptor.type, descriptor.value_length);
@@ -82,7 +91,12 @@ void asf_log_content_descriptor(std::int64_t position, const _asf_content_descri
 }
 
 void asf_log_content_descriptor_name(std::int64_t position, const void* name, std::uint16_t length) {
-    DebugInfo("[%I64x] %S\n", position, Utf16TraceText(name, length).get());
+    TraceLine()
+        .text("[")
+        .hex(static_cast<std::uint64_t>(position))
+        .text("] ")
+        .utf16le(Utf16TraceText(name, length).get())
+        .text("\n");
 }
 
 _asf_content_descriptor_t* asf_read_content_descriptor(FIOFUNCSTRUCT* file,

@@ -6,8 +6,11 @@ namespace velmora {
 
 bool asf_read_zero_padded(ReadCursor* cursor, void* bytes, std::size_t length) {
     const std::uint64_t behind = cursor->position() + length;
-    return length <= cursor->left() && cursor->read(bytes, length) != ReadStatus::failed &&
-           cursor->seek(behind);
+    if (length > cursor->left()) {
+        return false;
+    }
+    const ReadStatus status = cursor->read(bytes, length);
+    return status == ReadStatus::whole || (status == ReadStatus::ended && cursor->seek(behind));
 }
 
 std::int64_t asf_position_behind(std::int64_t start, std::uint64_t size) {

@@ -54,16 +54,19 @@ private:
     std::size_t capacity_ = 0;
 };
 
-/** The descriptor at AT, whose name and value stay where they are. */
-_asf_content_descriptor_t view_of(const std::uint8_t* at) {
-    _asf_content_descriptor_t view{};
-    view.name_length = load_le16(at);
-    const std::uint8_t* const behind_name = at + 2 + view.name_length;
-    view.type = load_le16(behind_name);
-    view.value_length = load_le16(behind_name + 2);
-    view.name = view.name_length > 0 ? const_cast<std::uint8_t*>(at + 2) : nullptr;
-    view.value = view.value_length > 0 ? const_cast<std::uint8_t*>(behind_name + 4) : nullptr;
-    return view;
+/** Makes VIEW the descriptor at AT, whose name and value stay where they are. Returns what lies behind it. */
+const std::uint8_t* look_at(const std::uint8_t* at, _asf_content_descriptor_t* view) {
+    const std::uint16_t name_length = load_le16(at);
+    const std::uint8_t* const name = at + 2;
+    const std::uint8_t* const behind_name = name + name_length;
+    const std::uint16_t value_length = load_le16(behind_name + 2);
+    const std::uint8_t* const value = behind_name + 4;
+    view->name_length = name_length;
+    view->name = name_length > 0 ? const_cast<std::uint8_t*>(name) : nullptr;
+    view->type = load_le16(behind_name);
+    view->value_length = value_length;
+    view->value = value_length > 0 ? const_cast<std::uint8_t*>(value) : nullptr;
+    return value + value_length;
 }
 
 bool read_packed(ReadCursor* cursor, Block& block) {
@@ -80,7 +83,9 @@ bool read_packed(ReadCursor* cursor, Block& block) {
     if (!bytes || (value_length > 0 && !block.read(cursor, value_length))) {
         return false;
     }
-    asf_log_content_descriptor(position, view_of(block.at(start)));
+    _asf_content_descriptor_t read;
+    look_at(block.at(start), &read);
+    asf_log_content_descriptor(position, read);
     return true;
 }
 
@@ -115,8 +120,7 @@ bool AsfPackedWalk::next() {
         return false;
     }
     --left_;
-    descriptor_ = view_of(at_);
-    at_ += asf_content_descriptor_bytes(&descriptor_);
+    at_ = look_at(at_, &descriptor_);
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "support/bytes.h"
 #include "support/stream_capture.h"
 #include "taglib/trace.h"
+#include "taglib/trace_line.h"
 
 #include <gtest/gtest.h>
 
@@ -316,6 +317,71 @@ TEST(TraceBatch, KeepsErrnoWhenItsWriteFails) {
         DebugInfo("text\n");
         errno = 5;
     }
+    const int error = errno;
+    ::dup2(saved, STDERR_FILENO);
+    std::clearerr(stderr);
+    ::close(full);
+    ::close(saved);
+    EXPECT_EQ(5, error);
+}
+
+/** One zero-terminated text in UTF-16LE: "e", U+00E9, U+20AC, U+1F600. */
+const std::uint8_t wide[] = {'e', 0, 0xE9, 0, 0xAC, 0x20, 0x3D, 0xD8, 0x00, 0xDE, 0, 0};
+
+TEST(TraceLine, IsWrittenWholeWhenItsObjectGoes) {
+    const Writes writes;
+    {
+        TraceLine line;
+        line.text("[").hex(0x1A2B).text("] ").utf16le(wide).text(" (").decimal(-7).text(")\n");
+        EXPECT_EQ(std::vector<std::string>{}, writes.taken());
+    }
+    EXPECT_EQ(std::vector<std::string>{"[1a2b] e\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80 (-7)\n"},
+              writes.taken());
+}
+
+TEST(TraceLine, ShowsTheLeastAndTheMostOfItsNumbers) {
+    const Writes writes;
+    TraceLine().hex(0).text(" ").decimal(0);
+    TraceLine().hex(UINT64_MAX).text(" ").decimal(INT64_MIN).text(" ").decimal(INT64_MAX);
+    TraceLine().text("[").utf16le(nullptr).text("]");
+    EXPECT_EQ(
+        (std::vector<std::string>{"0 0", "ffffffffffffffff -9223372036854775808 9223372036854775807", "[]"}),
+        writes.taken());
+}
+
+TEST(TraceLine, IsCutTo511BytesWhereverThatIs) {
+    const std::string filling(509, 'x');
+    const Writes writes;
+    TraceLine().text(filling).text("123");
+    TraceLine().text(filling).hex(0xABC);
+    TraceLine().text(filling).decimal(-12);
+    TraceLine().text(filling).utf16le(wide).text("!");
+    TraceLine().text(filling + "12").hex(1).decimal(1).utf16le(wide).text("!");
+    EXPECT_EQ((std::vector<std::string>{filling + "12", filling + "ab", filling + "-1", filling + "e\xC3",
+                                        filling + "12"}),
+              writes.taken());
+}
+
+TEST(TraceLine, TakesItsTurnInABatch) {
+    const Writes writes;
+    {
+        const TraceBatch batch;
+        for (int i = 0; i < 8; ++i) {
+            TraceLine().text(std::string(511, 'x'));
+        }
+        DebugInfo("12345678");
+        TraceLine().text("9");
+        DebugInfo("%5d", 10);
+    }
+    EXPECT_EQ((std::vector<std::string>{std::string(8 * 511, 'x') + "12345678", "9   10"}), writes.taken());
+}
+
+TEST(TraceLine, KeepsErrnoWhenItCantBeWritten) {
+    const int saved = ::dup(STDERR_FILENO);
+    const int full = ::open("/dev/full", O_WRONLY | O_CLOEXEC);
+    ::dup2(full, STDERR_FILENO);
+    errno = 5;
+    TraceLine().text("text\n");
     const int error = errno;
     ::dup2(saved, STDERR_FILENO);
     std::clearerr(stderr);
