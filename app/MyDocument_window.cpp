@@ -1,6 +1,7 @@
 // The document's window: made from its layout, its parts put into their places, its commands connected.
 
 #include "MyDocument.h"
+#include "file_drops.h"
 
 #include "browser/VelmoraController.h"
 #include "browser/media_list.h"
@@ -30,6 +31,7 @@ void MyDocument::makeWindow() {
     setWindow(window_.get());
     controller_ = std::make_unique<VelmoraController>(*list_, *form_, *webBrowser_, *this);
     connectCommands();
+    connect(new FileDrops(*window_), &FileDrops::dropped, controller_.get(), &VelmoraController::addPaths);
     setSymbols();
     windowControllerDidLoadNib();
     controller_->awakeFromNib();

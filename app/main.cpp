@@ -1,6 +1,8 @@
 #include "MyDocument.h"
 #include "VelmoraDocumentController.h"
+#include "command_line.h"
 
+#include "browser/VelmoraController.h"
 #include "platform/image.h"
 #include "platform/legible_style.h"
 #include "platform/localisation.h"
@@ -10,9 +12,40 @@
 #include <QApplication>
 #include <QIcon>
 
+#include <cstdio>
+#include <filesystem>
+
+namespace {
+
+using velmora::CommandLine;
+
+/** Answers what needs no window, nor a system of windows. Gives the program's exit code. */
+int answer(const CommandLine& line) {
+    switch (line.task) {
+    case CommandLine::Task::printHelp:
+        return std::puts(qPrintable(velmora::commandLineHelp())) < 0 ? 1 : 0;
+    case CommandLine::Task::printVersion:
+        return std::puts("Velmora " VELMORA_VERSION) < 0 ? 1 : 0;
+    default:
+        std::fprintf(stderr, "%s\n", qPrintable(velmora::unknownOptionMessage(line.unknownOption)));
+        return 2;
+    }
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
     velmora::ensureStandardStreams();
     velmora::keepNoSettings();
+    std::error_code noFolder;
+    const std::string folder = std::filesystem::current_path(noFolder).string();
+    const CommandLine line =
+        velmora::commandLine(QList<QByteArray>(argv + 1, argv + argc), QByteArray::fromStdString(folder));
+    if (line.task != CommandLine::Task::run) {
+        const QCoreApplication application(argc, argv);
+        velmora::installLocalisation();
+        return answer(line);
+    }
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/velmora.png")));
@@ -25,5 +58,6 @@ int main(int argc, char** argv) {
     velmora::MyDocument document(termination);
     document.makeWindow();
     document.showWindow();
+    document.controller()->openPaths(line.paths);
     return QApplication::exec();
 }

@@ -8,6 +8,7 @@
 #include "imaging/trim_border.h"
 #include "model/MediaFile.h"
 #include "platform/alert.h"
+#include "platform/file_attributes.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
@@ -91,6 +92,26 @@ void VelmoraController::fillUI() {
 
 bool VelmoraController::addMediaFile(const QString& path) {
     return table().addMediaFile(path);
+}
+
+void VelmoraController::addPaths(const QStringList& paths) {
+    QStringList folders;
+    for (const QString& path : paths) {
+        const std::optional<FileAttributes> attributes = fileAttributes(pathBytes(path));
+        if (attributes && attributes->isDirectory) {
+            folders += path;
+        } else if (!addMediaFile(path)) {
+            appLog(QStringLiteral("can't add %1\n").arg(path));
+        }
+    }
+    search_.queueFolders(folders);
+}
+
+void VelmoraController::openPaths(const QStringList& paths) {
+    addPaths(paths);
+    if (paths.size() == 1) {
+        table().selectFile(paths.first());
+    }
 }
 
 void VelmoraController::saveTag() {

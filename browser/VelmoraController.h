@@ -56,6 +56,12 @@ public:
        can't be read. */
     bool addMediaFile(const QString& path);
 
+    /** Lists the files among PATHS and searches the folders, in their order. What is neither, or can't be read,
+       is said on the log and left out. */
+    void addPaths(const QStringList& paths);
+    /** Adds PATHS; where they are a single file, it is selected, too, and so opened. */
+    void openPaths(const QStringList& paths);
+
     void clearUI();
     void fillUI();
 

@@ -88,6 +88,16 @@ void MediaTable::reloadData() {
     model_.reloadData();
 }
 
+void MediaTable::selectFile(const QString& path) {
+    for (std::size_t row = mediaFiles_.count(); row-- > 0;) {
+        if (mediaFiles_.at(row)->fullpath == path) {
+            const int column = MediaTableModel::columnIndex(u"filename");
+            view_.setCurrentIndex(model_.index(static_cast<int>(row), column));
+            return;
+        }
+    }
+}
+
 void MediaTable::tableViewDidClickTableColumn(int column) {
     TableColumn sortColumn = MediaTableModel::columns().at(column);
     if (sortColumn.identifier == u"icon") {

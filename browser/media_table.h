@@ -46,6 +46,10 @@ public:
     void addColdataSorted(ColdataPointer row);
     void reloadData();
 
+    /** Selects the row of the file at PATH, the last where there are several, and so opens it. Nothing where
+       there is none. */
+    void selectFile(const QString& path);
+
     /** Sorts by the column of that index in MediaTableModel::columns, or turns the direction when it is the
        sort column; the icon column stands for the file name's. */
     void tableViewDidClickTableColumn(int column);

@@ -379,6 +379,34 @@
         <source>Alt+W</source>
         <translation>Alt+A</translation>
     </message>
+    <message>
+        <source>Usage: velmora [FILE|FOLDER]...</source>
+        <translation>Aufruf: velmora [DATEI|ORDNER]...</translation>
+    </message>
+    <message>
+        <source>Edits titles, artists, covers and more of films and music.</source>
+        <translation>Bearbeitet Titel, Künstler, Titelbilder und mehr von Filmen und Musik.</translation>
+    </message>
+    <message>
+        <source>  FILE       is listed; a single one is opened</source>
+        <translation>  DATEI      wird aufgelistet; eine einzelne wird geöffnet</translation>
+    </message>
+    <message>
+        <source>  FOLDER     is searched for films and music</source>
+        <translation>  ORDNER     wird nach Filmen und Musik durchsucht</translation>
+    </message>
+    <message>
+        <source>  --help     prints this and ends</source>
+        <translation>  --help     gibt dies aus und endet</translation>
+    </message>
+    <message>
+        <source>  --version  prints the version and ends</source>
+        <translation>  --version  gibt die Version aus und endet</translation>
+    </message>
+    <message>
+        <source>velmora: unknown option %@; --help tells the others</source>
+        <translation>velmora: unbekannte Option %@; --help nennt die anderen</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>
