@@ -2,6 +2,7 @@
 
 #include "../byte_order.h"
 #include "../trace.h"
+#include "../trace_line.h"
 #include "cursor_readers.h"
 #include "descriptor_value.h"
 #include "guids.h"
@@ -104,7 +105,7 @@ bool read_body(ReadCursor* cursor, std::uint64_t start, AsfDescriptorForm form,
     }
     const std::uint16_t count = load_le16(count_bytes.data());
     asf_log_ext_content_description(static_cast<std::int64_t>(start), *ecd);
-    DebugInfo("  NumEntries = %d\n", count);
+    TraceLine().text("  NumEntries = ").decimal(count).text("\n");
     ReadCursor fields(cursor->window(), start + fixed_size,
                       std::min(static_cast<std::uint64_t>(next), *file_end));
     const bool whole = form == AsfDescriptorForm::packed ? asf_read_packed_descriptors(&fields, ecd, count)
@@ -115,8 +116,8 @@ bool read_body(ReadCursor* cursor, std::uint64_t start, AsfDescriptorForm form,
 } // namespace
 
 void asf_log_ext_content_description(std::int64_t position, const _asf_ext_content_description_t& ecd) {
-    DebugInfo("[%I64x] ExtendedContentDescription\n", position);
-    DebugInfo("  Size = 0x%I64x\n", ecd.size);
+    TraceLine().text("[").hex(static_cast<std::uint64_t>(position)).text("] ExtendedContentDescription\n");
+    TraceLine().text("  Size = 0x").hex(ecd.size).text("\n");
 }
 
 _asf_ext_content_description_t* asf_init_ext_content_description() {
@@ -144,7 +145,7 @@ std::uint32_t asf_ext_content_description_bytes(const _asf_ext_content_descripti
 
 std::uint32_t asf_get_ext_content_description_size(const _asf_ext_content_description_t* ecd) {
     const std::uint32_t size = asf_ext_content_description_bytes(ecd);
-    DebugInfo("asf_get_ext_content_description_size: %x bytes\n", size);
+    TraceLine().text("asf_get_ext_content_description_size: ").hex(size).text(" bytes\n");
     return size;
 }
 

@@ -1,7 +1,7 @@
 #include "object.h"
 
 #include "../byte_order.h"
-#include "../trace.h"
+#include "../trace_line.h"
 #include "cursor_readers.h"
 #include "object_writer.h"
 
@@ -22,13 +22,19 @@ auto free_unless(const _asf_object_t* given) {
 } // namespace
 
 void asf_log_object(std::int64_t position, const _asf_object_t& object) {
-    DebugInfo("[%I64x] %s (0x%x bytes)\n", position, GUIDNAME(object.guid),
-              static_cast<unsigned>(object.size));
+    TraceLine()
+        .text("[")
+        .hex(static_cast<std::uint64_t>(position))
+        .text("] ")
+        .text(GUIDNAME(object.guid))
+        .text(" (0x")
+        .hex(static_cast<std::uint32_t>(object.size))
+        .text(" bytes)\n");
 }
 
 void asf_log_padding_object(std::int64_t position, const _asf_object_t& object) {
-    DebugInfo("[%I64x] PaddingObject\n", position);
-    DebugInfo("  Size = 0x%I64x\n", object.size);
+    TraceLine().text("[").hex(static_cast<std::uint64_t>(position)).text("] PaddingObject\n");
+    TraceLine().text("  Size = 0x").hex(object.size).text("\n");
 }
 
 _asf_object_t* asf_init_object() {
