@@ -1,6 +1,6 @@
 #include "image_files.h"
 
-#include "image_calls.h"
+#include "detail/image_calls.h"
 #include "path.h"
 
 #include <cerrno>

@@ -1,7 +1,7 @@
 #include "trace.h"
 
-#include "trace_format.h"
-#include "trace_line.h"
+#include "detail/trace_format.h"
+#include "detail/trace_line.h"
 
 #include "log_seam/patient_write.h"
 

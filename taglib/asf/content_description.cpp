@@ -2,11 +2,11 @@
 
 #include "../byte_order.h"
 #include "../trace.h"
-#include "cursor_readers.h"
+#include "detail/cursor_readers.h"
+#include "detail/object_writer.h"
+#include "detail/owned.h"
+#include "detail/utf16.h"
 #include "guids.h"
-#include "object_writer.h"
-#include "owned.h"
-#include "utf16.h"
 
 #include <array>
 

@@ -1,13 +1,13 @@
 #include "content_descriptor.h"
 
 #include "../byte_order.h"
+#include "../detail/trace_line.h"
 #include "../trace.h"
-#include "../trace_line.h"
-#include "cursor_readers.h"
 #include "descriptor_value.h"
-#include "object_writer.h"
-#include "owned.h"
-#include "utf16.h"
+#include "detail/cursor_readers.h"
+#include "detail/object_writer.h"
+#include "detail/owned.h"
+#include "detail/utf16.h"
 
 #include <array>
 #include <cstring>

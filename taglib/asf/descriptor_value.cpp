@@ -1,8 +1,8 @@
 #include "descriptor_value.h"
 
 #include "../byte_order.h"
-#include "owned.h"
-#include "utf16.h"
+#include "detail/owned.h"
+#include "detail/utf16.h"
 
 #include <algorithm>
 #include <cstdio>

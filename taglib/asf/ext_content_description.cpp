@@ -1,15 +1,15 @@
 #include "ext_content_description.h"
 
 #include "../byte_order.h"
+#include "../detail/trace_line.h"
 #include "../trace.h"
-#include "../trace_line.h"
-#include "cursor_readers.h"
 #include "descriptor_value.h"
+#include "detail/cursor_readers.h"
+#include "detail/object_writer.h"
+#include "detail/owned.h"
+#include "detail/packed_descriptors.h"
+#include "detail/utf16.h"
 #include "guids.h"
-#include "object_writer.h"
-#include "owned.h"
-#include "packed_descriptors.h"
-#include "utf16.h"
 
 #include <algorithm>
 #include <array>

@@ -3,11 +3,11 @@
 #include "../byte_order.h"
 #include "../trace.h"
 #include "content_description.h"
-#include "cursor_readers.h"
+#include "detail/cursor_readers.h"
+#include "detail/object_writer.h"
+#include "detail/owned.h"
 #include "ext_content_description.h"
 #include "guids.h"
-#include "object_writer.h"
-#include "owned.h"
 
 #include <algorithm>
 #include <array>

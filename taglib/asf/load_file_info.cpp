@@ -4,12 +4,12 @@
 #include "../trace.h"
 #include "content_description.h"
 #include "descriptor_value.h"
+#include "detail/owned_header.h"
+#include "detail/tag_fields.h"
+#include "detail/utf16.h"
 #include "ext_content_description.h"
 #include "guids.h"
-#include "owned_header.h"
 #include "picture.h"
-#include "tag_fields.h"
-#include "utf16.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,10 +1,10 @@
 #include "move_file.h"
 
-#include "../move_pieces.h"
+#include "../detail/move_pieces.h"
 #include "../trace.h"
 #include "../write_cursor.h"
-#include "cursor_readers.h"
-#include "owned.h"
+#include "detail/cursor_readers.h"
+#include "detail/owned.h"
 
 #include <algorithm>
 #include <unistd.h>

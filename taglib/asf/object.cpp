@@ -1,9 +1,9 @@
 #include "object.h"
 
 #include "../byte_order.h"
-#include "../trace_line.h"
-#include "cursor_readers.h"
-#include "object_writer.h"
+#include "../detail/trace_line.h"
+#include "detail/cursor_readers.h"
+#include "detail/object_writer.h"
 
 #include <algorithm>
 #include <array>

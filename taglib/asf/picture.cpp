@@ -1,11 +1,11 @@
 #include "picture.h"
 
 #include "../byte_order.h"
-#include "../image_calls.h"
+#include "../detail/image_calls.h"
 #include "../trace.h"
 #include "descriptor_value.h"
-#include "owned.h"
-#include "utf16.h"
+#include "detail/owned.h"
+#include "detail/utf16.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,14 +1,14 @@
 #include "store_file_info.h"
 
 #include "../trace.h"
-#include "apply_file_info.h"
 #include "content_description.h"
+#include "detail/apply_file_info.h"
+#include "detail/object_writer.h"
+#include "detail/owned.h"
+#include "detail/owned_header.h"
 #include "ext_content_description.h"
 #include "guids.h"
 #include "move_file.h"
-#include "object_writer.h"
-#include "owned.h"
-#include "owned_header.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -3,7 +3,7 @@
 #include "../byte_order.h"
 #include "../read_cursor.h"
 #include "../trace.h"
-#include "item_memory.h"
+#include "detail/item_memory.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "item.h"
 
 #include "../trace.h"
-#include "item_memory.h"
+#include "detail/item_memory.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "item_data.h"
 
-#include "item_memory.h"
+#include "detail/item_memory.h"
 
 #include <algorithm>
 #include <cstring>

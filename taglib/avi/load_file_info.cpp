@@ -2,10 +2,10 @@
 
 #include "../byte_file.h"
 #include "../trace.h"
+#include "detail/tag_fields.h"
+#include "detail/tree.h"
 #include "item_data.h"
 #include "picture.h"
-#include "tag_fields.h"
-#include "tree.h"
 
 #include <array>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #include "move_file.h"
 
-#include "../move_pieces.h"
+#include "../detail/move_pieces.h"
 #include "../read_cursor.h"
 #include "../trace.h"
 #include "../write_cursor.h"

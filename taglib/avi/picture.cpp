@@ -1,8 +1,8 @@
 #include "picture.h"
 
-#include "../image_calls.h"
+#include "../detail/image_calls.h"
+#include "detail/item_memory.h"
 #include "item_data.h"
-#include "item_memory.h"
 
 namespace velmora {
 

@@ -3,7 +3,7 @@
 #include "../byte_file.h"
 #include "../trace.h"
 #include "../write_cursor.h"
-#include "tree.h"
+#include "detail/tree.h"
 
 #include <cerrno>
 #include <fcntl.h>

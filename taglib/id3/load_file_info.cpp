@@ -2,11 +2,11 @@
 
 #include "../byte_file.h"
 #include "../trace.h"
+#include "detail/tag_fields.h"
 #include "genres.h"
 #include "header_v1.h"
 #include "picture.h"
 #include "reader.h"
-#include "tag_fields.h"
 #include "text.h"
 #include "time_text.h"
 

@@ -1,6 +1,6 @@
 #include "picture.h"
 
-#include "../image_calls.h"
+#include "../detail/image_calls.h"
 #include "../path.h"
 #include "../trace.h"
 #include "text.h"

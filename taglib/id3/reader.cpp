@@ -3,7 +3,7 @@
 #include "../byte_order.h"
 #include "../read_cursor.h"
 #include "../trace.h"
-#include "tag_search.h"
+#include "detail/tag_search.h"
 #include "text.h"
 
 #include <cstdlib>

@@ -3,9 +3,9 @@
 #include "../byte_file.h"
 #include "../trace.h"
 #include "../write_cursor.h"
+#include "detail/tag_search.h"
 #include "header_v1.h"
 #include "reader.h"
-#include "tag_search.h"
 
 #include <fcntl.h>
 #include <limits>

@@ -4,9 +4,9 @@
 #include "../path.h"
 #include "../trace.h"
 #include "../write_cursor.h"
+#include "detail/store_fields.h"
 #include "header_v1.h"
 #include "reader.h"
-#include "store_fields.h"
 #include "tag_header.h"
 #include "writer.h"
 

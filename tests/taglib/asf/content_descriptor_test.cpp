@@ -4,7 +4,7 @@
 #include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/stream_capture.h"
-#include "taglib/asf/cursor_readers.h"
+#include "taglib/asf/detail/cursor_readers.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "support/bytes.h"
 #include "support/stream_capture.h"
 #include "taglib/asf/guids.h"
-#include "taglib/asf/owned.h"
+#include "taglib/asf/detail/owned.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "taglib/asf/utf16.h"
+#include "taglib/asf/detail/utf16.h"
 
 #include "support/bytes.h"
 #include "support/stream_capture.h"

@@ -1,4 +1,4 @@
-#include "taglib/id3/store_fields.h"
+#include "taglib/id3/detail/store_fields.h"
 
 #include "fake_image/fake_image.h"
 #include "id3_bytes.h"

@@ -1,9 +1,9 @@
 #include "store_fields.h"
 
-#include "picture.h"
+#include "../picture.h"
+#include "../text.h"
+#include "../time_text.h"
 #include "tag_fields.h"
-#include "text.h"
-#include "time_text.h"
 
 #include <cstdio>
 

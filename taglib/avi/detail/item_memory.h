@@ -1,6 +1,6 @@
 #pragma once
 
-#include "item.h"
+#include "taglib/avi/item.h"
 
 /** Where an item's children and data bytes lie. A file may consist of millions of chunks without contents,
    and what is kept of it must stay in proportion: small blocks lie side by side in slabs, and what a block is

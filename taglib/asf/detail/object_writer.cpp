@@ -1,8 +1,8 @@
 #include "object_writer.h"
 
-#include "../trace.h"
+#include "../../trace.h"
+#include "../guids.h"
 #include "cursor_readers.h"
-#include "guids.h"
 #include "packed_descriptors.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../read_cursor.h"
-#include "tag_header.h"
+#include "taglib/id3/tag_header.h"
+#include "taglib/read_cursor.h"
 
 namespace velmora {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../file_info.h"
-#include "content_description.h"
-#include "content_descriptor.h"
+#include "taglib/asf/content_description.h"
+#include "taglib/asf/content_descriptor.h"
+#include "taglib/file_info.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #include "tag_search.h"
 
-#include "../trace.h"
-#include "text.h"
+#include "../../trace.h"
+#include "../text.h"
 
 namespace velmora {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "../write_cursor.h"
-#include "content_description.h"
-#include "ext_content_description.h"
-#include "header_object.h"
+#include "taglib/asf/content_description.h"
+#include "taglib/asf/ext_content_description.h"
+#include "taglib/asf/header_object.h"
+#include "taglib/write_cursor.h"
 
 #include <array>
 #include <cstdint>

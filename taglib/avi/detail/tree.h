@@ -1,6 +1,6 @@
 #pragma once
 
-#include "item.h"
+#include "taglib/avi/item.h"
 
 namespace velmora {
 

@@ -1,7 +1,7 @@
 #include "apply_file_info.h"
 
-#include "descriptor_value.h"
-#include "picture.h"
+#include "../descriptor_value.h"
+#include "../picture.h"
 #include "tag_fields.h"
 
 #include <algorithm>

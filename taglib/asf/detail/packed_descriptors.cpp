@@ -1,6 +1,6 @@
 #include "packed_descriptors.h"
 
-#include "../byte_order.h"
+#include "../../byte_order.h"
 #include "cursor_readers.h"
 #include "owned.h"
 

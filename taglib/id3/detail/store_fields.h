@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../file_info.h"
-#include "descriptor.h"
+#include "taglib/file_info.h"
+#include "taglib/id3/descriptor.h"
 
 namespace velmora {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../byte_file.h"
 #include "cursor_readers.h"
-#include "header_object.h"
+#include "taglib/asf/header_object.h"
+#include "taglib/byte_file.h"
 
 namespace velmora {
 

@@ -1,8 +1,8 @@
 #include "tree.h"
 
-#include "../trace.h"
-#include "../write_cursor.h"
-#include "header_reader.h"
+#include "../../trace.h"
+#include "../../write_cursor.h"
+#include "../header_reader.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "trace.h"
+#include "taglib/trace.h"
 
 #include <cstdarg>
 #include <cstddef>

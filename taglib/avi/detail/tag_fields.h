@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../file_info.h"
-#include "fourcc.h"
+#include "taglib/avi/fourcc.h"
+#include "taglib/file_info.h"
 
 #include <array>
 

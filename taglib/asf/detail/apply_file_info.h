@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../file_info.h"
-#include "content_description.h"
-#include "ext_content_description.h"
+#include "taglib/asf/content_description.h"
+#include "taglib/asf/ext_content_description.h"
+#include "taglib/file_info.h"
 
 namespace velmora {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "trace.h"
+#include "taglib/trace.h"
 #include "trace_format.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../read_cursor.h"
-#include "ext_content_description.h"
+#include "taglib/asf/ext_content_description.h"
+#include "taglib/read_cursor.h"
 
 /** Descriptors as they lie in a file, one behind the other in one block: a file may hold millions of empty
     ones, each of which would take ten times its size as a record. */
