@@ -109,13 +109,14 @@ WRAP(char*, nullptr, realpath, (const char* path, char* buffer), (path, buffer))
 extern "C" int __wrap_fsync(int) {
     return watched("fsync", 0, -1, [](std::size_t) { return 0; });
 }
+extern "C" int __wrap_sync_file_range(int, off64_t, off64_t, unsigned) {
+    return watched("sync_file_range", 0, -1, [](std::size_t) { return 0; });
+}
 WRAP(int, -1, linkat, (int from_folder, const char* from, int to_folder, const char* to, int flags),
      (from_folder, from, to_folder, to, flags))
 WRAP(int, -1, unlinkat, (int folder, const char* name, int flags), (folder, name, flags))
 WRAP(int, -1, renameat2, (int from_folder, const char* from, int to_folder, const char* to, unsigned flags),
      (from_folder, from, to_folder, to, flags))
-WRAP(int, -1, sync_file_range, (int file, off64_t offset, off64_t size, unsigned flags),
-     (file, offset, size, flags))
 WRAP(int, -1, fchmod, (int file, mode_t mode), (file, mode))
 WRAP(int, -1, fchown, (int file, uid_t owner, gid_t group), (file, owner, group))
 WRAP(ssize_t, -1, flistxattr, (int file, char* names, size_t size), (file, names, size))

@@ -53,7 +53,7 @@ TagEdits new_values(bool with_cover = true) {
 std::string mp3(bool tagged) {
     const std::string tag = hex("49443303 0000 0000001E 54495432 00000006 0000 00") + "Title" +
                             hex("58595A57 00000004 0000 01020304");
-    return (tagged ? tag : std::string()) + hex("FFFB9064") + pattern(30000);
+    return (tagged ? tag : std::string()) + hex("FFFB9064") + pattern(4000);
 }
 
 std::string appended_tag() {
@@ -62,7 +62,7 @@ std::string appended_tag() {
 }
 
 std::string flac() {
-    return "fLaC" + hex("00000022") + pattern(34) + hex("81000040") + std::string(64, '\0') + pattern(20000);
+    return "fLaC" + hex("00000022") + pattern(34) + hex("81000040") + std::string(64, '\0') + pattern(3000);
 }
 
 std::string ogg() {
@@ -87,7 +87,7 @@ std::string ogg() {
 
 std::string mp4(bool media_behind) {
     const std::string type = box("ftyp", "isom");
-    const std::string media = box("mdat", pattern(20000));
+    const std::string media = box("mdat", pattern(3000));
     const auto movie = [](std::size_t offset) {
         return box("moov", track(be32(offset)) + item_list(item("\xA9nam", "Old") + item("xxxx", "kept")));
     };
@@ -98,16 +98,16 @@ std::string mp4(bool media_behind) {
 std::string wav() {
     return riff("WAVE", chunk("fmt ", "0123456789abcdef") +
                             list("INFO", info("INAM", "Old") + info("ISFT", "kept")) +
-                            chunk("data", pattern(20000)));
+                            chunk("data", pattern(3000)));
 }
 
 std::string aiff() {
     return aiff_chunk("FORM",
-                      "AIFF" + aiff_chunk("COMM", "123456789012345678") + aiff_chunk("SSND", pattern(20000)));
+                      "AIFF" + aiff_chunk("COMM", "123456789012345678") + aiff_chunk("SSND", pattern(3000)));
 }
 
 std::string avi() {
-    return riff("AVI ", list("hdrl", chunk("avih", "header")) + list("movi", chunk("00dc", pattern(20000))) +
+    return riff("AVI ", list("hdrl", chunk("avih", "header")) + list("movi", chunk("00dc", pattern(3000))) +
                             chunk("idx1", "0123456789abcdef") + list("INFO", info("INAM", "Old")));
 }
 
