@@ -21,7 +21,7 @@ const char* const moduleName = "velmora_web_engine";
 
 /** Where the module may be, seen from the program: beside it, where an installation puts it, and where a
    build leaves it for the program and for its tests. */
-const char* const moduleFolders[] = {".", "../lib/velmora", "../platform/web/engine",
+const char* const moduleFolders[] = {".", "../lib/velmora/modules", "../platform/web/engine",
                                      "../../platform/web/engine"};
 
 /** The engine reads the shared context's format while it starts and crashes without one. It draws in
