@@ -1,3 +1,4 @@
+#include "aiff_texts.h"
 #include "checked_read.h"
 #include "chunk.h"
 #include "formats.h"
@@ -6,7 +7,6 @@
 #include "riff_info.h"
 #include "several_tags.h"
 #include "splices.h"
-#include "text.h"
 
 #include <algorithm>
 
@@ -35,17 +35,6 @@ constexpr Form aiff_form{make_fourcc("FORM"), {make_fourcc("AIFF"), make_fourcc(
                          std::endian::big,    make_fourcc("SSND"),
                          make_fourcc("ID3 "), "no AIFF file"};
 
-/* Texts of AIFF itself, which are read last and updated where they exist. */
-struct TextChunk {
-    std::uint32_t fourcc;
-    Field field;
-};
-constexpr std::array text_chunks = {
-    TextChunk{make_fourcc("NAME"), Field::title},
-    TextChunk{make_fourcc("AUTH"), Field::artist},
-    TextChunk{make_fourcc("ANNO"), Field::synopsis},
-};
-
 bool holds_id3(std::uint32_t fourcc) {
     return fourcc == make_fourcc("id3 ") || fourcc == make_fourcc("ID3 ");
 }
@@ -55,14 +44,6 @@ struct Id3Chunk {
     Chunk chunk;
     Id3v2Tag tag;
     bool more_behind; ///< bytes of the chunk that are no part of the tag
-};
-
-/** A text of AIFF. */
-struct Text {
-    Chunk chunk;
-    Field field;
-    std::string text;
-    Bytes bytes;
 };
 
 /** A WAV or AIFF file: chunks in any order, none of which says where another lies. */
@@ -89,7 +70,6 @@ private:
     void read_chunks();
     void read_chunk(const Chunk& chunk);
     void read_id3(const Chunk& chunk);
-    [[nodiscard]] TagValues values_of_texts() const;
     [[nodiscard]] bool is_tag(const Chunk& chunk) const;
     [[nodiscard]] Range whole(const Chunk& chunk) const;
     [[nodiscard]] Bytes tag_chunk(std::uint32_t fourcc, const Id3v2Tag& tag) const;
@@ -108,7 +88,7 @@ private:
     std::uint64_t end_of_form_ = 0; ///< as its header says
     std::vector<Id3Chunk> id3_;
     RiffInfo info_;
-    std::vector<Text> texts_;
+    AiffTexts texts_;
 };
 
 void ChunkAudioFile::read_form_header() {
@@ -148,13 +128,7 @@ void ChunkAudioFile::read_chunk(const Chunk& chunk) {
     } else if (chunk.is_list(fourcc::info) && form_.order == std::endian::little) {
         info_.read(cursor(), chunk);
     } else if (form_.order == std::endian::big) {
-        for (const TextChunk& text : text_chunks) {
-            if (text.fourcc == chunk.fourcc) {
-                Bytes bytes = read_range(cursor(), chunk.data(), "a text");
-                std::string shown = info_text(bytes);
-                texts_.push_back({chunk, text.field, std::move(shown), std::move(bytes)});
-            }
-        }
+        texts_.read(cursor(), chunk);
     }
 }
 
@@ -187,22 +161,12 @@ std::vector<std::string> ChunkAudioFile::tags() const {
     return tags;
 }
 
-TagValues ChunkAudioFile::values_of_texts() const {
-    TagValues values;
-    for (const Text& text : texts_) {
-        if (!text.text.empty() && !values.text(text.field)) {
-            values.text(text.field) = text.text;
-        }
-    }
-    return values;
-}
-
 TagValues ChunkAudioFile::values() const {
     TagValues values;
     for (const Id3Chunk& id3 : id3_) {
         values = filled(std::move(values), id3v2_values(id3.tag, media_));
     }
-    return filled(filled(std::move(values), info_.values()), values_of_texts());
+    return filled(filled(std::move(values), info_.values()), texts_.values());
 }
 
 /** A new ID3v2 tag says all that the others do: programs look no further once there is one. */
@@ -234,16 +198,14 @@ std::vector<TagItem> ChunkAudioFile::items() const {
     }
     const std::vector<TagItem> info = info_.items();
     items.insert(items.end(), info.begin(), info.end());
-    for (const Text& text : texts_) {
-        items.push_back({"AIFF " + fourcc_name(text.chunk.fourcc), text.bytes, text.field});
-    }
+    const std::vector<TagItem> texts = texts_.items();
+    items.insert(items.end(), texts.begin(), texts.end());
     return items;
 }
 
 bool ChunkAudioFile::is_tag(const Chunk& chunk) const {
-    const auto is_text = [&](const Text& text) { return text.chunk.whole == chunk.whole; };
     return holds_id3(chunk.fourcc) || (chunk.is_list(fourcc::info) && form_.order == std::endian::little) ||
-           std::any_of(texts_.begin(), texts_.end(), is_text);
+           (form_.order == std::endian::big && AiffTexts::field_of(chunk.fourcc));
 }
 
 /** CHUNK with its pad byte, if it has one. */
@@ -295,20 +257,9 @@ void ChunkAudioFile::put_info(Splices& splices, const TagEdits& edits) const {
     }
 }
 
-/** The first of each kind gets the value, further ones go. */
 void ChunkAudioFile::put_texts(Splices& splices, const TagEdits& edits) const {
-    std::vector<Field> put;
-    for (const Text& text : texts_) {
-        if (!edits.asks_for(text.field)) {
-            continue;
-        }
-        Bytes bytes;
-        if (edits.sets(text.field) && std::find(put.begin(), put.end(), text.field) == put.end()) {
-            append(bytes, *edits.text(text.field).value());
-            bytes = make_chunk(text.chunk.fourcc, bytes, form_.order);
-            put.push_back(text.field);
-        }
-        splices.replace(whole(text.chunk), std::move(bytes));
+    for (const AiffTexts::Change& change : texts_.with(edits)) {
+        splices.replace(whole(change.chunk), change.bytes);
     }
 }
 

@@ -1,16 +1,9 @@
 #pragma once
 
-#include "mp4_layout.h"
-#include "splices.h"
+#include "mp4_box_change.h"
 
 /** What edits change in the boxes of an MP4 or QuickTime file. */
 namespace velmora::portable {
-
-struct Mp4Change {
-    Splices splices;
-    /** Boxes that were touched, or used up: nothing of the media may be in them. */
-    std::vector<Range> gone;
-};
 
 /** EDITS put into the lists of LAYOUT: where a field exists, and always into the first list of `items`, which is made
    where a value needs it. Boxes that are free take up the difference where they can, so that the media stay where

@@ -1,6 +1,6 @@
 #include "mp4_items.h"
 
-#include "mac_roman.h"
+#include "mp4_values.h"
 #include "picture_mime.h"
 #include "refusals.h"
 #include "save_edits.h"
@@ -66,10 +66,6 @@ constexpr std::array places = {
     Place{Kind::user_data, "©day", Field::year},
 };
 
-/* Numbers of the kinds of values in `data`. */
-constexpr std::uint32_t value_utf8 = 1;
-constexpr std::uint32_t value_utf16 = 2;
-
 struct PictureKind {
     std::uint32_t number;
     std::string_view mime;
@@ -81,56 +77,7 @@ constexpr std::array picture_kinds = {
     PictureKind{12, "image/gif"},
 };
 
-/** A box inside an item. */
-struct Child {
-    std::uint32_t type;
-    std::span<const std::uint8_t> bytes; ///< header included
-    [[nodiscard]] std::span<const std::uint8_t> content() const { return bytes.subspan(8); }
-};
-
-/** The boxes inside the item whose box is BYTES; what does not fit is none. */
-std::vector<Child> children_of(std::span<const std::uint8_t> bytes) {
-    std::vector<Child> children;
-    ReadWindow window(bytes);
-    ReadCursor cursor(window);
-    if (!next_box(cursor) || !cursor.seek(0)) {
-        return children;
-    }
-    const std::uint64_t header = load_be32(bytes.data()) == 1 ? 16 : 8;
-    if (!cursor.skip(header)) {
-        return children;
-    }
-    while (const std::optional<Box> box = next_box(cursor)) {
-        if (box->header_size == 8) {
-            children.push_back({box->type, bytes.subspan(box->whole.begin, box->whole.size())});
-        }
-    }
-    return children;
-}
-
-/** A value as `data` holds it. */
-struct Value {
-    std::uint32_t kind;
-    std::uint32_t locale;
-    std::span<const std::uint8_t> bytes;
-};
-
-std::optional<Value> value_in(const Child& child) {
-    const std::span<const std::uint8_t> content = child.content();
-    if (child.type != box_type("data") || content.size() < 8) {
-        return std::nullopt;
-    }
-    return Value{load_be32(content.data()) & 0xFFFFFF, load_be32(content.data() + 4), content.subspan(8)};
-}
-
-std::string text_of(const Value& value) {
-    if (value.kind == value_utf16) {
-        return utf8_from_utf16(value.bytes, std::endian::big);
-    }
-    return valid_utf8({reinterpret_cast<const char*>(value.bytes.data()), value.bytes.size()});
-}
-
-std::string genre_of(const Value& value) {
+std::string genre_of(const Mp4Value& value) {
     if (value.bytes.size() < 2) {
         return {};
     }
@@ -138,57 +85,8 @@ std::string genre_of(const Value& value) {
     return TagLib::ID3v1::genre(number - 1).to8Bit(true);
 }
 
-/* A text in user data: its length, its language, its letters. */
-constexpr std::size_t user_text_header = 4;
-constexpr std::uint16_t first_iso_language = 0x400; ///< those before are numbers of Macintosh languages
-constexpr std::uint16_t undetermined_language = 0x55C4;
-
-struct UserText {
-    std::uint16_t language;
-    std::span<const std::uint8_t> letters;
-};
-
-/** The first text of the item whose box is BYTES; the others say the same in other languages. */
-std::optional<UserText> user_text_in(std::span<const std::uint8_t> bytes) {
-    if (bytes.size() < 8 + user_text_header) {
-        return std::nullopt;
-    }
-    const std::size_t length = load_be16(bytes.data() + 8);
-    const std::span<const std::uint8_t> rest = bytes.subspan(8 + user_text_header);
-    return UserText{load_be16(bytes.data() + 10), rest.first(std::min(length, rest.size()))};
-}
-
-std::string text_of(const UserText& text) {
-    if (text.language < first_iso_language) {
-        return utf8_from_mac_roman(text.letters);
-    }
-    const bool marked = text.letters.size() >= 2 && (load_be16(text.letters.data()) == 0xFEFF ||
-                                                     load_be16(text.letters.data()) == 0xFFFE);
-    if (marked) {
-        return utf8_from_utf16(text.letters, std::endian::big);
-    }
-    return valid_utf8({reinterpret_cast<const char*>(text.letters.data()), text.letters.size()});
-}
-
-Bytes user_text_box(const Mp4Item& item, std::string_view text) {
-    if (text.size() > 0xFFFF) {
-        refuse_too_large("a text of more than 65535 bytes in the QuickTime user data");
-    }
-    const std::optional<UserText> old = user_text_in(item.bytes);
-    Bytes content;
-    append_be16(content, static_cast<std::uint16_t>(text.size()));
-    append_be16(content, old && old->language >= first_iso_language ? old->language : undetermined_language);
-    append(content, text);
-    return make_box(item.box.type, content);
-}
-
-/** A `data` box. */
-Bytes value_box(std::uint32_t kind, std::uint32_t locale, std::span<const std::uint8_t> value) {
-    Bytes content;
-    append_be32(content, kind);
-    append_be32(content, locale);
-    append(content, value);
-    return make_box(box_type("data"), content);
+std::span<const std::uint8_t> bytes_of(std::string_view text) {
+    return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
 /** `mean` or `name`: version and flags, and a text. */
@@ -217,34 +115,42 @@ Bytes boxes_of_free_name(std::string_view name) {
     return boxes;
 }
 
-/** The item with FIRST in place of its first value; null ITEM: a new one of NAME. */
-Bytes box_with_value(const Mp4Item* item, std::string_view name, std::uint32_t kind,
-                     std::span<const std::uint8_t> value, bool keeps_other_values) {
+/** The item of NAME with VALUE in it. */
+Bytes new_box(std::string_view name, const Mp4Value& value) {
+    Bytes content = name.starts_with(free_item) ? boxes_of_free_name(name) : Bytes();
+    append(content, value.box());
+    return make_box(type_of_name(name), content);
+}
+
+/** ITEM with VALUE in place of its first one; OTHERS: further ones stay. */
+Bytes changed_box(const Mp4Item& item, Mp4Value value, bool others) {
     Bytes content;
-    std::uint32_t type = type_of_name(name);
-    std::uint32_t locale = 0;
-    if (!item) {
-        if (name.starts_with(free_item)) {
-            content = boxes_of_free_name(name);
-        }
-        append(content, value_box(kind, locale, value));
-        return make_box(type, content);
-    }
-    type = item->box.type;
     bool put = false;
-    for (const Child& child : children_of(item->bytes)) {
-        const std::optional<Value> old = value_in(child);
-        if (child.type == box_type("data") && !put) {
-            append(content, value_box(kind, old ? old->locale : 0, value));
+    for (const Mp4Child& child : mp4_children(item.bytes)) {
+        const bool is_value = child.type == box_type("data");
+        if (is_value && !put) {
+            const std::optional<Mp4Value> old = mp4_value(child);
+            value.locale = old ? old->locale : 0;
+            append(content, value.box());
             put = true;
-        } else if (child.type != box_type("data") || keeps_other_values) {
+        } else if (!is_value || others) {
             append(content, child.bytes);
         }
     }
     if (!put) {
-        append(content, value_box(kind, locale, value));
+        append(content, value.box());
     }
-    return make_box(type, content);
+    return make_box(item.box.type, content);
+}
+
+std::span<const std::uint8_t> content_of(const Mp4Item& item) {
+    return std::span(item.bytes).subspan(item.box.header_size);
+}
+
+Bytes user_text_box(const Mp4Item& item, std::string_view text) {
+    const std::optional<UserText> old = user_text(content_of(item));
+    const std::uint16_t language = old && old->is_unicode() ? old->language : UserText::undetermined;
+    return make_box(item.box.type, UserText{language, bytes_of(text)}.content());
 }
 
 bool same_letters(std::string_view left, std::string_view right) {
@@ -293,7 +199,7 @@ std::string mp4_item_name(std::span<const std::uint8_t> bytes) {
     if (name != free_item) {
         return name;
     }
-    for (const Child& child : children_of(bytes)) {
+    for (const Mp4Child& child : mp4_children(bytes)) {
         if ((child.type == box_type("mean") || child.type == box_type("name")) &&
             child.content().size() >= 4) {
             const std::span<const std::uint8_t> text = child.content().subspan(4);
@@ -305,21 +211,21 @@ std::string mp4_item_name(std::span<const std::uint8_t> bytes) {
 
 std::string mp4_text(Kind kind, const Mp4Item& item) {
     if (kind == Kind::user_data) {
-        const std::optional<UserText> text = user_text_in(item.bytes);
-        return text ? text_of(*text) : std::string();
+        const std::optional<UserText> text = user_text(content_of(item));
+        return text ? text->text() : std::string();
     }
     std::vector<std::string> values;
-    for (const Child& child : children_of(item.bytes)) {
-        if (const std::optional<Value> value = value_in(child)) {
-            values.push_back(item.name == "gnre" ? genre_of(*value) : text_of(*value));
+    for (const Mp4Child& child : mp4_children(item.bytes)) {
+        if (const std::optional<Mp4Value> value = mp4_value(child)) {
+            values.push_back(item.name == "gnre" ? genre_of(*value) : value->text());
         }
     }
     return joined(values);
 }
 
 std::optional<Cover> mp4_cover(const Mp4Item& item) {
-    for (const Child& child : children_of(item.bytes)) {
-        const std::optional<Value> value = value_in(child);
+    for (const Mp4Child& child : mp4_children(item.bytes)) {
+        const std::optional<Mp4Value> value = mp4_value(child);
         if (!value || value->bytes.empty()) {
             continue;
         }
@@ -336,8 +242,8 @@ Bytes mp4_text_box(Kind kind, const Mp4Item* item, std::string_view name, std::s
     if (kind == Kind::user_data) {
         return user_text_box(*item, text);
     }
-    const auto* const letters = reinterpret_cast<const std::uint8_t*>(text.data());
-    return box_with_value(item, name, value_utf8, {letters, text.size()}, false);
+    const Mp4Value value{Mp4Value::utf8, 0, bytes_of(text)};
+    return item ? changed_box(*item, value, false) : new_box(name, value);
 }
 
 Bytes mp4_cover_box(const Mp4Item* item, std::string_view name, const Cover& cover) {
@@ -347,7 +253,8 @@ Bytes mp4_cover_box(const Mp4Item* item, std::string_view name, const Cover& cov
     if (kind == picture_kinds.end()) {
         refuse_unsupported("a cover that is no JPEG, PNG, BMP or GIF picture");
     }
-    return box_with_value(item, name, kind->number, cover.bytes, true);
+    const Mp4Value value{kind->number, 0, cover.bytes};
+    return item ? changed_box(*item, value, true) : new_box(name, value);
 }
 
 } // namespace velmora::portable

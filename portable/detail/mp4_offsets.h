@@ -1,21 +1,10 @@
 #pragma once
 
-#include "mp4_layout.h"
-#include "offset_table.h"
+#include "mp4_offset_search.h"
 #include "splices.h"
 
 /** Offsets in an MP4 or QuickTime file that count from its beginning, which have to follow the media when these move. */
 namespace velmora::portable {
-
-struct OffsetTables {
-    std::vector<OffsetTable> tables; ///< in the order of the file
-    /** Why nothing in this file may move: something that holds offsets which are not known well enough. Empty where
-       it may. */
-    std::string immovable;
-};
-
-/** All of `stco`, `co64`, `saio`, `tfhd`, `sidx` and `tfra`. Throws a Refusal where one does not fit into its box. */
-[[nodiscard]] OffsetTables find_offsets(const ReadCursor& file, const Mp4Layout& layout);
 
 /** Throws a Refusal where an offset points into one of GONE, bytes that are not media and may be made anew, or, when
    SPLICES move it, where it lies outside of the file or does not fit into its field afterwards. */

@@ -5,29 +5,31 @@
 namespace velmora::portable {
 
 void Splices::replace(Range old, Bytes bytes) {
-    const auto comes_later = [&](const Splice& other) {
-        return other.old.begin != old.begin ? other.old.begin > old.begin : other.old.end > old.end;
+    const auto comes_first = [&](const Splice& other) {
+        return other.old.begin != old.begin ? other.old.begin < old.begin : other.old.end <= old.end;
     };
-    const auto place = std::find_if(splices_.begin(), splices_.end(), comes_later);
-    splices_.insert(place, {old, std::move(bytes)});
+    // Most are put in the order of the file, so the place is looked for from the end.
+    const auto behind = std::find_if(splices_.rbegin(), splices_.rend(), comes_first);
+    auto place = splices_.insert(behind.base(), {old, std::move(bytes), 0});
+    std::int64_t growth = place == splices_.begin() ? 0 : std::prev(place)->growth_to_here;
+    for (; place != splices_.end(); ++place) {
+        growth +=
+            static_cast<std::int64_t>(place->bytes.size()) - static_cast<std::int64_t>(place->old.size());
+        place->growth_to_here = growth;
+    }
 }
 
 std::int64_t Splices::growth() const {
-    std::int64_t growth = 0;
-    for (const Splice& splice : splices_) {
-        growth += splice.growth();
-    }
-    return growth;
+    return splices_.empty() ? 0 : splices_.back().growth_to_here;
 }
 
 std::uint64_t Splices::moved(std::uint64_t position) const {
-    std::uint64_t moved = position;
-    for (const Splice& splice : splices_) {
-        if (splice.old.end <= position) {
-            moved += static_cast<std::uint64_t>(splice.growth());
-        }
-    }
-    return moved;
+    const auto behind =
+        std::upper_bound(splices_.begin(), splices_.end(), position,
+                         [](std::uint64_t value, const Splice& splice) { return value < splice.old.end; });
+    return behind == splices_.begin()
+               ? position
+               : position + static_cast<std::uint64_t>(std::prev(behind)->growth_to_here);
 }
 
 std::vector<Segment> Splices::segments(std::uint64_t size) const {

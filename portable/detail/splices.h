@@ -25,10 +25,7 @@ private:
     struct Splice {
         Range old;
         Bytes bytes;
-
-        [[nodiscard]] std::int64_t growth() const {
-            return static_cast<std::int64_t>(bytes.size()) - static_cast<std::int64_t>(old.size());
-        }
+        std::int64_t growth_to_here; ///< of this one and all in front of it
     };
 
     std::vector<Splice> splices_; ///< in the order of the file
