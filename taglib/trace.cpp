@@ -14,6 +14,7 @@ namespace velmora {
 namespace {
 
 thread_local TraceBatch* batch_of_this_thread = nullptr;
+thread_local int mutes_of_this_thread = 0;
 
 /** A pipe takes such texts, of up to 4,096 bytes, whole or not at all, so that a second call repeats nothing. */
 void write_out(const char* text) {
@@ -65,6 +66,9 @@ void write_message(char* message, std::size_t length) {
 }
 
 void DebugTraceV(const char* format, va_list arguments) {
+    if (mutes_of_this_thread > 0) {
+        return;
+    }
     const int error = errno;
     FormatArguments copy;
     va_copy(copy.list, arguments);
@@ -94,6 +98,14 @@ void DebugError(const char* format, ...) {
     va_start(arguments, format);
     DebugTraceV(format, arguments);
     va_end(arguments);
+}
+
+TraceMute::TraceMute() {
+    ++mutes_of_this_thread;
+}
+
+TraceMute::~TraceMute() {
+    --mutes_of_this_thread;
 }
 
 TraceBatch::TraceBatch() {

@@ -23,6 +23,15 @@ void DebugInfo(const char* format, ...);
    line end. */
 void DebugError(const char* format, ...);
 
+/** While an object lives, its thread's messages are lost: for what reads a file again and has nothing to tell. */
+class TraceMute {
+public:
+    TraceMute();
+    ~TraceMute();
+    TraceMute(const TraceMute&) = delete;
+    TraceMute& operator=(const TraceMute&) = delete;
+};
+
 /** While an object lives, its thread's messages are gathered and written in pieces of up to 4,096 bytes, in
     their order; the last piece when the object ends. For loops that trace every small thing of a file, where
     a write for each line would take longer than all else. What is called meanwhile writes nothing of its own

@@ -56,6 +56,20 @@ TEST(Trace, IsTheSameFromAllThreeFunctions) {
     EXPECT_EQ("info: 1\nerror: 2\nlist: 3\n", transcript.text());
 }
 
+TEST(TraceMute, LosesWhatItsThreadSaysWhileItLives) {
+    StreamCapture transcript;
+    {
+        const TraceMute mute;
+        DebugInfo("%s\n", "lost");
+        {
+            const TraceMute another;
+        }
+        DebugError("lost, too\n");
+    }
+    DebugInfo("kept\n");
+    EXPECT_EQ("kept\n", transcript.text());
+}
+
 TEST(Trace, GoesToStandardErrorAlone) {
     StreamCapture out(stdout);
     StreamCapture error(stderr);
