@@ -17,6 +17,7 @@ struct Image {
     std::atomic<int> references = 1;
     QByteArray bytes; ///< encoded form, when the image was made from one and is not kept as pixels
     PictureHeader header;
+    QByteArray original; ///< encoded form, whether or not it is kept as pixels
     mutable QImage pixels;
 
     QImage decoded() const {
@@ -43,6 +44,7 @@ Image* imageFromEncoded(const QByteArray& bytes) {
     }
     auto image = std::make_unique<Image>();
     image->header = *header;
+    image->original = bytes;
     if (header->format == PictureFormat::Jpeg || !isQuicklyDecoded(*header)) {
         image->bytes = bytes;
     } else {
@@ -139,6 +141,10 @@ QSize ImageRef::size() const {
 
 QImage ImageRef::toQImage() const {
     return image_ ? image_->decoded() : QImage();
+}
+
+QByteArray ImageRef::encodedBytes() const {
+    return image_ ? image_->original : QByteArray();
 }
 
 std::optional<EncodedPicture> ImageRef::slowlyDecoded() const {

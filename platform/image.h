@@ -52,6 +52,8 @@ public:
     /** The pixels; a null QImage when there is no image or its data turns out to be damaged. The device pixel
        ratio carries the nominal size. May take seconds when slowlyDecoded() has a value. */
     [[nodiscard]] QImage toQImage() const;
+    /** The bytes that the image came as; empty for one that was made of pixels. */
+    [[nodiscard]] QByteArray encodedBytes() const;
     /** The encoded form of an image that is so large that its pixels are better not waited for; nothing for
        others. */
     [[nodiscard]] std::optional<EncodedPicture> slowlyDecoded() const;

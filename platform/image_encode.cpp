@@ -16,6 +16,7 @@ namespace velmora {
 namespace {
 
 constexpr int jpegQuality = 20; // compression factor 0.2
+constexpr int fineJpegQuality = 90;
 /** Above this many pixels it matters that a progressive encoder keeps the whole picture a second time. */
 constexpr qint64 largePicture = 10'000'000;
 constexpr int bandRows = 64;
@@ -54,12 +55,12 @@ QImage withoutTransparency(QImage pixels) {
     return isOurs ? flattenedInPlace(std::move(pixels)) : flattened(std::move(pixels));
 }
 
-QByteArray written(const QImage& pixels, bool progressive) {
+QByteArray written(const QImage& pixels, bool progressive, int quality) {
     QByteArray jpeg;
     QBuffer buffer(&jpeg);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, "jpeg");
-    writer.setQuality(jpegQuality);
+    writer.setQuality(quality);
     writer.setProgressiveScanWrite(progressive);
     return writer.write(pixels) ? jpeg : QByteArray();
 }
@@ -70,11 +71,15 @@ QByteArray encodedAsJpeg(QImage pixels) {
     const bool isLarge = pixelCount(pixels.size()) > largePicture;
     QImage opaque = withoutTransparency(withWholePalette(std::move(pixels)));
     if (!isLarge) {
-        return written(opaque, true);
+        return written(opaque, true, jpegQuality);
     }
-    const QByteArray onePass = written(opaque, false);
+    const QByteArray onePass = written(opaque, false, jpegQuality);
     opaque = QImage();
     return onePass.isEmpty() ? onePass : recodedJpeg(onePass, JpegPasses::Progressive);
+}
+
+QByteArray encodedAsFineJpeg(QImage pixels) {
+    return written(withoutTransparency(withWholePalette(std::move(pixels))), false, fineJpegQuality);
 }
 
 } // namespace velmora
