@@ -82,6 +82,7 @@ std::unique_ptr<MediaFile> MediaFile::initWithFile(const QString& path) {
     }
     const MediaKind kind = mediaKindOfPath(path);
     std::unique_ptr<MediaFile> file(new MediaFile);
+    file->path_ = path;
     file->filename_ = kind.taggedFile;
     file->mediaType_ = kind.type;
 
@@ -105,6 +106,7 @@ std::unique_ptr<MediaFile> MediaFile::initWithFile(const QString& path) {
     }
     id3_free_file_info(&info);
     file->fillEmptyValues();
+    file->settleChanges();
     return file;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/portable_save.h"
 #include "platform/error.h"
 #include "platform/image.h"
 
@@ -9,11 +10,13 @@
 #include <QVariant>
 #include <QVariantMap>
 
+#include <functional>
 #include <memory>
 
 namespace velmora {
 
-/** One media file: its path, its media type, and its metadata, edited in place and written back on request.
+/** One media file: its path, its media type, and its metadata, edited here and written back on request: in place, or
+   with portable tags, which are those that other programs read.
    Used by one thread at a time. */
 class MediaFile {
 public:
@@ -24,6 +27,27 @@ public:
     /** Writes the values into the file. Returns false on failure, with ERROR (may be null) filled for an
        alert; the values here stay as they are either way. */
     bool saveMetadata(Error* error) const;
+
+    /** The same with portable tags. OBSTACLE becomes empty, or says why they can't be read, and then all values are
+       empty. */
+    [[nodiscard]] static std::unique_ptr<MediaFile> initWithPortableTags(const QString& path,
+                                                                         QString* obstacle);
+
+    /** A save of the values that are other than those which the file was opened with, or that were settled, into its
+       portable tags; what became empty is deleted. BREAK_LINKS: also where the file has further hard links. */
+    [[nodiscard]] PortableSave portableSave(bool breakLinks) const;
+    /** Takes the values for those that the file was opened with. */
+    void settleChanges() { opened_ = metadata_; }
+    /** Whether the file is of a kind that portable tags can be saved in. */
+    [[nodiscard]] bool canHavePortableTags() const;
+    /** Finds out, on any thread, whether the file's portable tags have a value that is missing or cut off here. Empty
+       for kinds of files in which other programs read no tag. */
+    [[nodiscard]] std::function<bool()> otherProgramsSeeMore() const;
+
+    /** Whether the tag that is read in place says what the values here say. Reads the file and logs nothing. */
+    [[nodiscard]] bool isReadBackAsSaved() const;
+    /** After a failed save in place: why, as one sentence of the user's language without a full stop. */
+    [[nodiscard]] QString whyNotSaved() const;
 
     /** The path of the file that carries the tag: PATH as given, or its side file for DVD folders and disc
      * images. */
@@ -76,9 +100,11 @@ private:
     void fillEmptyValues();
     [[nodiscard]] QString text(const QString& key) const { return metadata_.value(key).toString(); }
 
+    QString path_; ///< as given
     QString filename_;
     int mediaType_ = 3;
     QVariantMap metadata_;
+    QVariantMap opened_; ///< the metadata as it was opened or last settled
 };
 
 } // namespace velmora
