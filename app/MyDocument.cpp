@@ -77,7 +77,10 @@ QString MyDocument::openFile(const QUrl& url) {
     if (!fileExists(pathBytes(path))) {
         return localised("The file does not exist.");
     }
-    mediaFile_ = MediaFile::initWithFile(path);
+    portableObstacle_.clear();
+    mediaFile_ = portableTags_ ? MediaFile::initWithPortableTags(path, &portableObstacle_)
+                               : MediaFile::initWithFile(path);
+    openUrl_ = url;
     return mediaFile_ ? QString()
                       : localised("Please ensure the file is readable and is a valid media file.");
 }
@@ -86,6 +89,15 @@ bool MyDocument::saveMediaFile(Error* error) {
     if (!mediaFile_) {
         return false;
     }
+    if (portableTags_) {
+        return savePortably(false);
+    }
+    const bool saved = saveInPlace(error);
+    emit saveEnded({saved, std::nullopt});
+    return saved;
+}
+
+bool MyDocument::saveInPlace(Error* error) {
     if (mediaFile_->saveMetadata(error)) {
         return true;
     }
@@ -126,7 +138,9 @@ bool MyDocument::handleDirtySave() {
     case Alert::secondButtonReturn:
         return false;
     case Alert::firstButtonReturn:
-        saveDocument();
+        if (!saveMediaFile(nullptr) && portableTags_) {
+            return false; // nothing of what the user did is lost, and the notice says why
+        }
         [[fallthrough]];
     case Alert::thirdButtonReturn:
         mediaFile_.reset();
@@ -144,6 +158,10 @@ void MyDocument::needsSaveAlertDone(int returnCode) {
 }
 
 bool MyDocument::windowShouldClose() {
+    if (saveRun_.isRunning()) {
+        saveRun_.cancel();
+        return false;
+    }
     return readFromURL(std::nullopt, QString(), nullptr);
 }
 
@@ -158,6 +176,10 @@ bool MyDocument::applicationShouldTerminateAfterLastWindowClosed() {
 
 ApplicationDelegate::TerminateReply MyDocument::applicationShouldTerminate() {
     appLog(QStringLiteral("in ast\n"));
+    if (saveRun_.isRunning()) {
+        saveRun_.cancel();
+        return TerminateReply::Cancel;
+    }
     const bool now = !mediaFile_ || !isDocumentEdited() || handleDirtySave();
     return now ? TerminateReply::Now : TerminateReply::Cancel;
 }

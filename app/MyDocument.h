@@ -1,6 +1,7 @@
 #pragma once
 
 #include "browser/media_document.h"
+#include "browser/portable_save_run.h"
 #include "model/MediaFile.h"
 #include "platform/application.h"
 #include "platform/document_window.h"
@@ -51,8 +52,15 @@ public:
 
     bool readFromURL(const std::optional<QUrl>& url, const QString& type, Error* error) override;
     bool saveMediaFile(Error* error) override;
-    /** The menu's save command. The document still counts as edited afterwards: only the editor's own button
-       clears that. */
+    [[nodiscard]] bool portableTags() const override { return portableTags_; }
+    bool setPortableTags(bool portable) override;
+    [[nodiscard]] QString portableObstacle() const override { return portableObstacle_; }
+    bool savePortably(bool breakLinks) override;
+    /** The menu's switch. What the user switches off is not remembered any more. */
+    void switchPortableTags(bool portable);
+
+    /** The menu's save command. Saved in place, the document still counts as edited afterwards: only the editor's own
+       button clears that. */
     void saveDocument();
 
     /** Asks what to do with the changes of the open file, and does it. False when the person cancelled, and
@@ -76,6 +84,8 @@ private:
     /** Puts the file at URL into the place of the open one. Empty when it is open, else the user's words for what
        stands in the way; the file that was open is gone then if there is one at URL that can't be read. */
     [[nodiscard]] QString openFile(const QUrl& url);
+    /** Saves, and tells everybody how that ended. */
+    [[nodiscard]] bool saveInPlace(Error* error);
     void makeForms();
     void connectCommands();
     void setSymbols();
@@ -83,6 +93,10 @@ private:
 
     ApplicationTermination& termination_;
     std::unique_ptr<MediaFile> mediaFile_;
+    std::optional<QUrl> openUrl_; ///< where the open file is
+    bool portableTags_ = false;
+    QString portableObstacle_;
+    PortableSaveRun saveRun_;
     QEventLoop* questionLoop_ = nullptr; ///< runs while the question is on the screen
     std::unique_ptr<Ui::MyDocument> ui_;
     std::unique_ptr<DocumentWindow> window_;

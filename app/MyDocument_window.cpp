@@ -8,6 +8,7 @@
 #include "browser/tag_form.h"
 #include "platform/accessibility.h"
 #include "platform/alt_letters.h"
+#include "platform/settings.h"
 #include "platform/symbol.h"
 #include "ui_MyDocument.h"
 #include "weblookup/TagWebBrowser.h"
@@ -29,6 +30,7 @@ void MyDocument::makeWindow() {
     nameControlsByCaptions(*window_);
     window_->setDelegate(this);
     setWindow(window_.get());
+    portableTags_ = remembersPortableTags();
     controller_ = std::make_unique<VelmoraController>(*list_, *form_, *webBrowser_, *this);
     connectCommands();
     connect(new FileDrops(*window_), &FileDrops::dropped, controller_.get(), &VelmoraController::addPaths);
@@ -74,9 +76,10 @@ void MyDocument::setSymbols() {
     for (const auto& [action, name] :
          {std::pair(ui_->action_addFile, "list-add"), std::pair(ui_->action_addFolder, "folder-new"),
           std::pair(ui_->action_save, "document-save"), std::pair(ui_->action_revert, "document-revert"),
-          std::pair(ui_->action_close, "window-close"), std::pair(ui_->action_quit, "application-exit"),
-          std::pair(ui_->action_find, "edit-find"), std::pair(ui_->action_loadCoverArt, "insert-image"),
-          std::pair(ui_->action_lookUp, "web-browser"), std::pair(ui_->action_sortByName, "sort-by-name"),
+          std::pair(ui_->action_portableTags, "tag"), std::pair(ui_->action_close, "window-close"),
+          std::pair(ui_->action_quit, "application-exit"), std::pair(ui_->action_find, "edit-find"),
+          std::pair(ui_->action_loadCoverArt, "insert-image"), std::pair(ui_->action_lookUp, "web-browser"),
+          std::pair(ui_->action_sortByName, "sort-by-name"),
           std::pair(ui_->action_sortBySize, "sort-by-size"),
           std::pair(ui_->action_sortByDate, "sort-by-date")}) {
         action->setIcon(symbol(QLatin1String(name)));
@@ -87,6 +90,9 @@ void MyDocument::connectCommands() {
     connect(ui_->action_addFile, &QAction::triggered, controller_.get(), &VelmoraController::addFile);
     connect(ui_->action_addFolder, &QAction::triggered, controller_.get(), &VelmoraController::addFolder);
     connect(ui_->action_save, &QAction::triggered, this, &MyDocument::saveDocument);
+    ui_->action_portableTags->setChecked(portableTags_);
+    connect(ui_->action_portableTags, &QAction::triggered, this, &MyDocument::switchPortableTags);
+    connect(this, &MyDocument::portableTagsChanged, ui_->action_portableTags, &QAction::setChecked);
     connect(ui_->action_revert, &QAction::triggered, form_, &TagForm::clickRevert);
     connect(ui_->action_loadCoverArt, &QAction::triggered, controller_.get(),
             &VelmoraController::loadCoverArt);

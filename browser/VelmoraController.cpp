@@ -20,10 +20,11 @@ namespace velmora {
 
 VelmoraController::VelmoraController(MediaList& list, TagForm& form, TagWebBrowser& browser,
                                      MediaDocument& document, QObject* parent)
-    : QObject(parent), list_(list), form_(form), document_(document) {
+    : QObject(parent), list_(list), form_(form), document_(document), notices_(document, form.notice()) {
     connectSearch();
     connectList();
     connectForm();
+    connectPortableTags();
     connect(&form_, &TagForm::searchTextChanged, &browser, &TagWebBrowser::setSearchField);
     connect(&browser, &TagWebBrowser::formFillInfoReady, this, &VelmoraController::fillFields);
 }
@@ -53,6 +54,24 @@ void VelmoraController::connectForm() {
     connect(&form_.preview(), &MoviePreview::captureFrameClicked, this, &VelmoraController::grabFrame);
 }
 
+void VelmoraController::connectPortableTags() {
+    connect(&document_, &MediaDocument::saveEnded, this, &VelmoraController::saveEnded);
+    connect(&document_, &MediaDocument::openedAgain, this, &VelmoraController::showFileAgain);
+}
+
+/** A save with portable tags settles the changes, whichever command began it. */
+void VelmoraController::saveEnded(const SaveEnd& end) {
+    if (end.portable && end.saved) {
+        form_.disableSaveAndRevert();
+        document_.updateChangeCount(Document::ChangeType::Cleared);
+    }
+}
+
+void VelmoraController::showFileAgain() {
+    clearUI();
+    fillUI();
+}
+
 MediaTable& VelmoraController::table() {
     return list_.table();
 }
@@ -63,6 +82,9 @@ void VelmoraController::showOpenError(const Error& error) {
 
 void VelmoraController::fillFields(const FormFillInfo* info) {
     form_.fillFields(info);
+    if (document_.portableTags()) {
+        form_.storeFilledFields();
+    }
 }
 
 void VelmoraController::awakeFromNib() {
@@ -75,6 +97,7 @@ void VelmoraController::awakeFromNib() {
 }
 
 void VelmoraController::clearUI() {
+    notices_.fileClosed();
     form_.clearFields();
     form_.preview().removeMovie();
     form_.clearCoverArt();
@@ -87,6 +110,7 @@ void VelmoraController::fillUI() {
         form_.showFile(*file);
         form_.preview().showMovie(file->filename());
         form_.enableFileButtons();
+        notices_.fileOpened();
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "media_search.h"
+#include "portable_notices.h"
 
 #include "platform/error.h"
 
@@ -76,12 +77,16 @@ private:
     void connectSearch();
     void connectList();
     void connectForm();
+    void connectPortableTags();
+    void saveEnded(const SaveEnd& end);
+    void showFileAgain();
     void showOpenError(const Error& error);
 
     MediaList& list_;
     TagForm& form_;
     MediaDocument& document_;
     MediaSearch search_;
+    PortableNotices notices_;
 };
 
 } // namespace velmora

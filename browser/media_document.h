@@ -1,5 +1,6 @@
 #pragma once
 
+#include "browser/save_end.h"
 #include "platform/document.h"
 
 namespace velmora {
@@ -19,6 +20,29 @@ public:
     /** Writes the open file's metadata into the file. False, with ERROR (may be null) filled, when that
        failed; false also when no file is open. The change count stays as it is. */
     virtual bool saveMediaFile(Error* error) = 0;
+
+    /** Whether files are opened and saved with portable tags, those that other programs read, and not in place. */
+    [[nodiscard]] virtual bool portableTags() const { return false; }
+    /** Switches that, and opens the open file again; changes of it are asked about first. False, with nothing
+       switched, when the user cancelled. */
+    virtual bool setPortableTags(bool portable) { return !portable; }
+    /** Why the open file's portable tags could not be read, as one sentence without a full stop; empty when they
+       could, or nobody tried. */
+    [[nodiscard]] virtual QString portableObstacle() const { return {}; }
+    /** Writes the open file's changes into its portable tags, however files are opened, and settles them. False when
+       they were not written, or no file is open. BREAK_LINKS: see MediaFile::portableSave. */
+    virtual bool savePortably(bool breakLinks) {
+        static_cast<void>(breakLinks);
+        return false;
+    }
+
+signals:
+    /** An attempt to save the open file has ended. */
+    void saveEnded(const velmora::SaveEnd& end);
+    /** Files are opened and saved with portable tags from now on, or in place; also when that was refused. */
+    void portableTagsChanged(bool portable);
+    /** The open file was opened again. */
+    void openedAgain();
 };
 
 } // namespace velmora

@@ -2,6 +2,7 @@
 
 #include "image_file_drops.h"
 #include "media_document.h"
+#include "notice_bar.h"
 #include "pick_lists.h"
 #include "ui_tag_form.h"
 
@@ -101,6 +102,10 @@ MoviePreview& TagForm::preview() {
     return *ui_->box_preview;
 }
 
+NoticeBar& TagForm::notice() {
+    return *ui_->bar_notice;
+}
+
 MediaFile* TagForm::file() const {
     return document_.mediaFile();
 }
@@ -125,6 +130,7 @@ void TagForm::setSynopsisText(const QString& text) {
 }
 
 void TagForm::clearFields() {
+    filled_.clear();
     const QString none;
     ui_->entry_title->setText(none);
     ui_->entry_artist->setText(none);
@@ -188,9 +194,11 @@ void TagForm::showCaptions(const MediaFile& media) {
 void TagForm::showCoverArt(const MediaFile& media) {
     if (media.coverArt()) {
         ui_->img_coverArt->setCover(media.coverArt());
-    } else if (const ImageRef folderImage =
-                   ImageRef::fromFile(pathFolder(media.filename()) + QStringLiteral("/folder.jpg"))) {
-        changeCoverArt(folderImage);
+    } else if (!document_.portableTags()) {
+        if (const ImageRef folderImage =
+                ImageRef::fromFile(pathFolder(media.filename()) + QStringLiteral("/folder.jpg"))) {
+            changeCoverArt(folderImage);
+        }
     }
     ui_->btn_trimBorder->setEnabled(static_cast<bool>(ui_->img_coverArt->cover()));
 }
@@ -203,17 +211,21 @@ void TagForm::fillFields(const FormFillInfo* info) {
     if (info->title) {
         appLog(QStringLiteral("title=") + *info->title + QLatin1Char('\n'));
         ui_->entry_title->setText(*info->title);
+        filled_ += ui_->entry_title;
     }
     if (info->directors) {
         ui_->entry_album->setText(nsarray_to_nsstring(*info->directors, comma));
+        filled_ += ui_->entry_album;
     }
     if (info->description) {
         appLog(QStringLiteral("description=") + *info->description + QLatin1Char('\n'));
         setSynopsisText(*info->description);
+        filled_ += ui_->entry_desc;
     }
     if (info->year) {
         appLog(QStringLiteral("year=") + *info->year + QLatin1Char('\n'));
         ui_->entry_year->setText(*info->year);
+        filled_ += ui_->entry_year;
     }
     if (info->rating) {
         appLog(QStringLiteral("rating=") + *info->rating + QLatin1Char('\n'));
@@ -228,9 +240,11 @@ void TagForm::fillFields(const FormFillInfo* info) {
     }
     if (info->genres) {
         setGenreText(nsarray_to_nsstring(*info->genres, comma));
+        filled_ += ui_->combo_genre;
     }
     if (info->cast) {
         ui_->entry_artist->setText(nsarray_to_nsstring(*info->cast, QStringLiteral("\n")));
+        filled_ += ui_->entry_artist;
     }
     if (info->coverArt) {
         appLog(QStringLiteral("got cover art\n"));

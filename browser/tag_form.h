@@ -15,6 +15,7 @@ class ImageRef;
 class MediaDocument;
 class MediaFile;
 class MoviePreview;
+class NoticeBar;
 struct FormFillInfo;
 
 /** The tag editor form: what it shows for the open file, and which control edits which of the file's values.
@@ -31,6 +32,8 @@ public:
     ~TagForm() override;
 
     [[nodiscard]] MoviePreview& preview();
+    /** The line above the form. */
+    [[nodiscard]] NoticeBar& notice();
 
     // Emptying the form: the fields, the cover art, the buttons. The captions, whether the rating can be
     // chosen, and the date stay as they are.
@@ -39,13 +42,17 @@ public:
     void disableButtons();
 
     /** Shows the open file in a form that was cleared before. A file without cover art takes the image
-       "folder.jpg" of its folder, which counts as a change. */
+       "folder.jpg" of its folder, which counts as a change; with portable tags it shows what it has. */
     void showFile(const MediaFile& media);
     /** Lets the open file's tag be removed and its cover art be loaded. */
     void enableFileButtons();
     /** Shows the result of a web lookup. Only the rating and the cover art reach the open file; the other
        fields do when the person next types in them. Null changes nothing. */
     void fillFields(const FormFillInfo* info);
+
+    /** Brings the fields that a web lookup filled, and nobody has typed in since, into the open file: for saves that
+       write all that the form shows. */
+    void storeFilledFields();
 
     /** CONTROL, a text field or the genre box, was edited by the person. */
     void controlTextDidChange(const QObject* control);
@@ -99,6 +106,7 @@ private:
     std::unique_ptr<Ui::TagForm> ui_;
     MediaDocument& document_;
     QStringList genres_;
+    QList<QWidget*> filled_; ///< controls that a web lookup filled, and whose text is not in the open file
 };
 
 /** The elements of LIST with SEPARATOR between them; empty for an empty list. */

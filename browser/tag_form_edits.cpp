@@ -7,6 +7,8 @@
 #include "model/media_type.h"
 #include "platform/log.h"
 
+#include <utility>
+
 namespace velmora {
 
 namespace {
@@ -47,7 +49,24 @@ QString withLineFeeds(QString text) {
 
 } // namespace
 
+void TagForm::storeFilledFields() {
+    const QList<QWidget*> filled = std::exchange(filled_, {});
+    for (QWidget* control : filled) {
+        if (control == ui_->entry_desc) {
+            textDidChange(control);
+            continue;
+        }
+        if (control == ui_->entry_artist) {
+            // One line for a person, as the form shows them; a tag's readers know commas.
+            ui_->entry_artist->setText(
+                ui_->entry_artist->text().replace(QLatin1Char('\n'), QStringLiteral(", ")));
+        }
+        controlTextDidChange(control);
+    }
+}
+
 void TagForm::controlTextDidChange(const QObject* control) {
+    filled_.removeIf([&](const QWidget* filled) { return filled == control; });
     appLog(QStringLiteral("in controlTextDidEndEditing:\n"));
     MediaFile* const media = file();
     if (!media) {
@@ -85,6 +104,7 @@ void TagForm::textDidChange(const QObject* textView) {
         return;
     }
     if (textView == ui_->entry_desc) {
+        filled_.removeAll(ui_->entry_desc);
         appLog(QStringLiteral("description changed\n"));
         // The raw text, as the plain one has ordinary blanks for no-break spaces. An input method's
         // composition is reported too, but is no part of it.

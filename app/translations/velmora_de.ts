@@ -407,6 +407,142 @@
         <source>velmora: unknown option %@; --help tells the others</source>
         <translation>velmora: unbekannte Option %@; --help nennt die anderen</translation>
     </message>
+    <message>
+        <source>Files of this kind carry no tag</source>
+        <translation>Dateien dieser Art tragen kein Tag</translation>
+    </message>
+    <message>
+        <source>Files of this kind have no such field</source>
+        <translation>Dateien dieser Art haben dieses Feld nicht</translation>
+    </message>
+    <message>
+        <source>The file is damaged</source>
+        <translation>Die Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The file is of a sort that can&#x27;t be saved safely</source>
+        <translation>Dateien dieser Sorte lassen sich nicht sicher speichern</translation>
+    </message>
+    <message>
+        <source>Something is too large for this kind of file</source>
+        <translation>Etwas ist für diese Art von Datei zu groß</translation>
+    </message>
+    <message>
+        <source>It is no ordinary file</source>
+        <translation>Es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>The file is write-protected</source>
+        <translation>Die Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>The file has further hard links, which would keep the old contents</source>
+        <translation>Die Datei hat weitere harte Links, die den alten Inhalt behielten</translation>
+    </message>
+    <message>
+        <source>Another program changed the file meanwhile</source>
+        <translation>Ein anderes Programm hat die Datei inzwischen geändert</translation>
+    </message>
+    <message>
+        <source>No space is left for the new file</source>
+        <translation>Für die neue Datei ist kein Platz mehr</translation>
+    </message>
+    <message>
+        <source>The new file would have lost something</source>
+        <translation>Die neue Datei hätte etwas verloren</translation>
+    </message>
+    <message>
+        <source>The system could not confirm that the folder is on the disk</source>
+        <translation>Das System konnte nicht bestätigen, dass der Ordner gesichert ist</translation>
+    </message>
+    <message>
+        <source>The save was cancelled</source>
+        <translation>Das Speichern wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>Its tag can&#x27;t be changed in place</source>
+        <translation>Ihr Tag lässt sich nicht an Ort und Stelle ändern</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close this notice</source>
+        <translation>Diesen Hinweis schließen</translation>
+    </message>
+    <message>
+        <source>Saving &quot;%@&quot;…</source>
+        <translation>„%@“ wird gespeichert …</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Leave the file as it was</source>
+        <translation>Die Datei lassen, wie sie war</translation>
+    </message>
+    <message>
+        <source>The portable tags of &quot;%@&quot; can&#x27;t be read.</source>
+        <translation>Die portablen Tags von „%@“ lassen sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>Other programs see more in this file</source>
+        <translation>Andere Programme sehen mehr in dieser Datei</translation>
+    </message>
+    <message>
+        <source>Show It</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Switch to the tags that other programs read</source>
+        <translation>Zu den Tags wechseln, die andere Programme lesen</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Immer</translation>
+    </message>
+    <message>
+        <source>Switch to these tags, now and at each start</source>
+        <translation>Zu diesen Tags wechseln, jetzt und bei jedem Start</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; was not saved.</source>
+        <translation>„%@“ wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; was saved, but not all of it can be read back.</source>
+        <translation>„%@“ wurde gespeichert, aber nicht alles lässt sich wieder lesen.</translation>
+    </message>
+    <message>
+        <source>Save With Portable Tags</source>
+        <translation>Mit portablen Tags speichern</translation>
+    </message>
+    <message>
+        <source>Write the changes into the tags that other programs read, and replace the file in one step</source>
+        <translation>Die Änderungen in die Tags schreiben, die andere Programme lesen, und die Datei in einem Schritt ersetzen</translation>
+    </message>
+    <message>
+        <source>Save so, and do so from now on, also after the next start</source>
+        <translation>So speichern, auch künftig und nach dem nächsten Start</translation>
+    </message>
+    <message>
+        <source>Saved. Other programs see it: %@</source>
+        <translation>Gespeichert. Andere Programme sehen es: %@</translation>
+    </message>
+    <message>
+        <source>Saved. Other programs read no tag in files of this kind: %@</source>
+        <translation>Gespeichert. In Dateien dieser Art lesen andere Programme kein Tag: %@</translation>
+    </message>
+    <message>
+        <source>Replace Anyway</source>
+        <translation>Trotzdem ersetzen</translation>
+    </message>
+    <message>
+        <source>The other links keep the old contents</source>
+        <translation>Die anderen Links behalten den alten Inhalt</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>
@@ -469,6 +605,14 @@
     <message>
         <source>Sort by &amp;Date</source>
         <translation>Nach &amp;Datum sortieren</translation>
+    </message>
+    <message>
+        <source>&amp;Portable Tags</source>
+        <translation>&amp;Portable Tags</translation>
+    </message>
+    <message>
+        <source>Open and save with the tags that other programs read</source>
+        <translation>Mit den Tags öffnen und speichern, die andere Programme lesen</translation>
     </message>
 </context>
 <context>

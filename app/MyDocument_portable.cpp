@@ -1,0 +1,57 @@
+// The document's files with the tags that other programs read.
+
+#include "MyDocument.h"
+
+#include "browser/VelmoraController.h"
+#include "browser/tag_form.h"
+#include "platform/file_path.h"
+#include "platform/settings.h"
+
+namespace velmora {
+
+bool MyDocument::savePortably(bool breakLinks) {
+    if (!mediaFile_ || saveRun_.isRunning()) {
+        return false;
+    }
+    if (form_) {
+        form_->storeFilledFields();
+    }
+    const PortableSaveResult result = saveRun_.run(
+        mediaFile_->portableSave(breakLinks), lastPathComponent(mediaFile_->filename()), windowForSheet());
+    const bool saved = result.isSaved();
+    if (saved) {
+        mediaFile_->settleChanges();
+        updateChangeCount(ChangeType::Cleared);
+    }
+    emit saveEnded({saved, result});
+    return saved;
+}
+
+bool MyDocument::setPortableTags(bool portable) {
+    if (portable == portableTags_) {
+        return true;
+    }
+    const std::optional<QUrl> url = mediaFile_ ? openUrl_ : std::nullopt;
+    const bool asks = mediaFile_ && isDocumentEdited();
+    // A question that goes away without an answer leaves the file open, and nothing may be lost by that.
+    if (asks && (!handleDirtySave() || mediaFile_)) {
+        emit portableTagsChanged(portableTags_);
+        return false;
+    }
+    portableTags_ = portable;
+    emit portableTagsChanged(portable);
+    if (url) {
+        updateChangeCount(ChangeType::Cleared);
+        static_cast<void>(openFile(*url));
+        emit openedAgain();
+    }
+    return true;
+}
+
+void MyDocument::switchPortableTags(bool portable) {
+    if (setPortableTags(portable) && !portable) {
+        rememberPortableTags(false);
+    }
+}
+
+} // namespace velmora

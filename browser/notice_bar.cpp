@@ -1,0 +1,150 @@
+#include "notice_bar.h"
+
+#include "platform/accessibility.h"
+#include "platform/elided_label.h"
+#include "platform/localisation.h"
+#include "platform/symbol.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStyle>
+
+namespace velmora {
+
+namespace {
+
+constexpr int mostActions = 2;
+
+QLabel* newSign(Notice::Kind kind, QWidget& bar) {
+    const QStyle::StandardPixmap sign =
+        kind == Notice::Kind::Warning ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
+    const int side = bar.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &bar);
+    auto* const label = new QLabel;
+    label->setPixmap(bar.style()->standardIcon(sign, nullptr, &bar).pixmap(side, side));
+    return label;
+}
+
+QLabel* newText(const QString& text) {
+    auto* const label = new ElidedLabel;
+    label->setObjectName(QStringLiteral("lbl_notice"));
+    label->setText(text);
+    label->setToolTip(text);
+    return label;
+}
+
+} // namespace
+
+NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent) {
+    setFrameShape(QFrame::StyledPanel);
+    setAccessibleRole(*this, QAccessible::AlertMessage);
+    auto* const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    timer_.setSingleShot(true);
+    connect(&timer_, &QTimer::timeout, this, &NoticeBar::clear);
+    const auto* const key = new QShortcut(QKeySequence(Qt::Key_F6), this);
+    connect(key, &QShortcut::activated, this, [this] { first_->setFocus(Qt::ShortcutFocusReason); });
+    hide();
+}
+
+void NoticeBar::show(const Notice& notice) {
+    const bool hadKeyboard = hasKeyboard();
+    clear();
+    makeRow(notice);
+    setAccessibleName(notice.text);
+    if (notice.shown.count() > 0) {
+        timer_.start(notice.shown);
+    }
+    QFrame::show();
+    if (hadKeyboard) {
+        first_->setFocus();
+    }
+    announce();
+}
+
+void NoticeBar::makeRow(const Notice& notice) {
+    row_ = new QWidget(this);
+    auto* const layout = new QHBoxLayout(row_);
+    layout->setContentsMargins(6, 3, 3, 3);
+    layout->setSpacing(6);
+    layout->addWidget(newSign(notice.kind, *this));
+    layout->addWidget(newText(notice.text), 1);
+    const QStringList names = {QStringLiteral("btn_noticeFirst"), QStringLiteral("btn_noticeSecond")};
+    QList<QPushButton*> buttons;
+    for (int i = 0; i < notice.actions.size() && i < mostActions; ++i) {
+        buttons += addButton(names[i], notice.actions[i]);
+    }
+    auto* const close =
+        addButton(QStringLiteral("btn_noticeClose"),
+                  {{}, localised("Close this notice"), QStringLiteral("window-close"), [this] { clear(); }});
+    close->setAccessibleName(localised("Close"));
+    close->setFlat(true);
+    buttons += close;
+    first_ = buttons.first();
+    QWidget* previous = controlInFront();
+    for (QPushButton* button : buttons) {
+        layout->addWidget(button);
+        setTabOrder(previous, button);
+        previous = button;
+    }
+    this->layout()->addWidget(row_);
+}
+
+/** The control after which the keyboard comes to the bar: an order can be made of controls alone. */
+QWidget* NoticeBar::controlInFront() {
+    QWidget* control = previousInFocusChain();
+    while (control != this && !(control->focusPolicy() & Qt::TabFocus)) {
+        control = control->previousInFocusChain();
+    }
+    return control;
+}
+
+QPushButton* NoticeBar::addButton(const QString& name, const Notice::Action& action) {
+    auto* const button = new QPushButton(row_);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    button->setText(action.caption);
+    button->setToolTip(action.toolTip);
+    button->setIcon(symbol(action.symbol));
+    connect(button, &QPushButton::clicked, this, action.act);
+    return button;
+}
+
+void NoticeBar::announce() {
+    QAccessibleEvent event(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+bool NoticeBar::hasKeyboard() const {
+    return row_ != nullptr && row_->isAncestorOf(QApplication::focusWidget());
+}
+
+void NoticeBar::clear() {
+    timer_.stop();
+    if (!row_) {
+        return;
+    }
+    if (hasKeyboard()) {
+        focusNextChild();
+    }
+    hide();
+    // Not at once: a button in it may be what clears it.
+    row_->hide();
+    row_->deleteLater();
+    row_ = nullptr;
+    first_ = nullptr;
+}
+
+void NoticeBar::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        clear();
+        return;
+    }
+    QFrame::keyPressEvent(event);
+}
+
+} // namespace velmora

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QFrame>
+#include <QList>
+#include <QString>
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+
+class QPushButton;
+
+namespace velmora {
+
+/** Something that the user is told without being asked. */
+struct Notice {
+    enum class Kind { Information, Warning };
+    struct Action {
+        QString caption;
+        QString toolTip;
+        QString symbol; ///< a name of platform/symbol.h
+        std::function<void()> act;
+    };
+
+    Kind kind = Kind::Information;
+    QString text;                       ///< one line, plain
+    QList<Action> actions;              ///< two at most
+    std::chrono::milliseconds shown{0}; ///< how long; 0: until it is closed or another takes its place
+};
+
+/** A line above the form that says what happened and offers what can be done about it. It takes neither the keyboard nor
+   the mouse from anybody; F6 goes to its first button, and Escape in it closes it. Unseen at first. */
+class NoticeBar : public QFrame {
+    Q_OBJECT
+public:
+    explicit NoticeBar(QWidget* parent = nullptr);
+
+    /** Shows NOTICE in place of the one that is there, and tells assistive technologies of it. */
+    void show(const Notice& notice);
+    /** Nothing is to be told any more. */
+    void clear();
+
+    [[nodiscard]] bool holdsNotice() const { return row_ != nullptr; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void makeRow(const Notice& notice);
+    QPushButton* addButton(const QString& name, const Notice::Action& action);
+    [[nodiscard]] QWidget* controlInFront();
+    void announce();
+    [[nodiscard]] bool hasKeyboard() const;
+
+    QWidget* row_ = nullptr; ///< the notice that is shown; there is nothing in the bar without one
+    QPushButton* first_ = nullptr;
+    QTimer timer_;
+};
+
+} // namespace velmora

@@ -1,0 +1,170 @@
+#include "portable_notices.h"
+
+#include "media_document.h"
+#include "notice_bar.h"
+
+#include "model/MediaFile.h"
+#include "platform/file_path.h"
+#include "platform/localisation.h"
+#include "platform/settings.h"
+
+namespace velmora {
+
+namespace {
+
+constexpr std::chrono::seconds savedIsShown{6};
+
+QString asSentence(const QString& text) {
+    return text + QLatin1Char('.');
+}
+
+QString together(const QString& first, const QString& second) {
+    return first + QLatin1Char(' ') + second;
+}
+
+} // namespace
+
+PortableNotices::PortableNotices(MediaDocument& document, NoticeBar& bar, QObject* parent)
+    : QObject(parent), document_(document), bar_(bar) {
+    thread_.setMaxThreadCount(1);
+    connect(&document_, &MediaDocument::saveEnded, this, &PortableNotices::saveEnded);
+}
+
+PortableNotices::~PortableNotices() {
+    thread_.clear();
+    thread_.waitForDone();
+}
+
+QString PortableNotices::fileName() const {
+    const MediaFile* const file = document_.mediaFile();
+    return file ? lastPathComponent(file->filename()) : QString();
+}
+
+void PortableNotices::fileClosed() {
+    ++opened_;
+    thread_.clear();
+    bar_.clear();
+}
+
+void PortableNotices::fileOpened() {
+    fileClosed();
+    const QString obstacle = document_.portableObstacle();
+    if (!obstacle.isEmpty()) {
+        bar_.show({Notice::Kind::Warning,
+                   together(localised("The portable tags of \"%@\" can't be read.", fileName()),
+                            asSentence(obstacle)),
+                   {},
+                   {}});
+    } else if (!document_.portableTags()) {
+        lookForMore();
+    }
+}
+
+/** Beside the main thread: a file may lie on a slow disk, and nobody waits for this. */
+void PortableNotices::lookForMore() {
+    const MediaFile* const file = document_.mediaFile();
+    const auto seeMore = file ? file->otherProgramsSeeMore() : nullptr;
+    if (!seeMore) {
+        return;
+    }
+    thread_.start([this, seeMore, which = opened_] {
+        if (!seeMore()) {
+            return;
+        }
+        const auto tell = [this, which] {
+            if (which == opened_ && !bar_.holdsNotice()) {
+                bar_.show({Notice::Kind::Information,
+                           localised("Other programs see more in this file"),
+                           {{localised("Show It"), localised("Switch to the tags that other programs read"),
+                             QStringLiteral("tag"), [this] { document_.setPortableTags(true); }},
+                            {localised("Always"), localised("Switch to these tags, now and at each start"),
+                             QStringLiteral("view-pin"), [this] { showAlways(); }}},
+                           {}});
+            }
+        };
+        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+    });
+}
+
+void PortableNotices::saveEnded(const SaveEnd& end) {
+    ++opened_; // what the file said before is no news any more
+    if (!document_.mediaFile()) {
+        return;
+    }
+    if (end.portable) {
+        end.saved ? savedPortably(*end.portable) : failedPortably(*end.portable);
+    } else if (end.saved) {
+        savedInPlace();
+    } else {
+        offerSave(together(localised("\"%@\" was not saved.", fileName()),
+                           asSentence(document_.mediaFile()->whyNotSaved())));
+    }
+}
+
+void PortableNotices::savedInPlace() {
+    if (document_.mediaFile()->isReadBackAsSaved()) {
+        bar_.clear();
+    } else {
+        offerSave(localised("\"%@\" was saved, but not all of it can be read back.", fileName()));
+    }
+}
+
+void PortableNotices::offerSave(const QString& text) {
+    Notice notice{Notice::Kind::Warning, text, {}, {}};
+    if (document_.mediaFile()->canHavePortableTags()) {
+        notice.actions = {{localised("Save With Portable Tags"),
+                           localised("Write the changes into the tags that other programs read, and replace "
+                                     "the file in one step"),
+                           QStringLiteral("document-save"), [this] { document_.savePortably(false); }},
+                          {localised("Always"),
+                           localised("Save so, and do so from now on, also after the next start"),
+                           QStringLiteral("view-pin"), [this] { saveAlways(); }}};
+    }
+    bar_.show(notice);
+}
+
+void PortableNotices::savedPortably(const PortableSaveResult& result) {
+    const QString text =
+        result.othersReadIt
+            ? localised("Saved. Other programs see it: %@", fileName())
+            : localised("Saved. Other programs read no tag in files of this kind: %@", fileName());
+    if (result.warning.isEmpty()) {
+        bar_.show({Notice::Kind::Information, text, {}, savedIsShown});
+    } else {
+        bar_.show({Notice::Kind::Warning, together(text, asSentence(result.warning)), {}, {}});
+    }
+}
+
+void PortableNotices::failedPortably(const PortableSaveResult& result) {
+    Notice notice{Notice::Kind::Warning,
+                  together(localised("\"%@\" was not saved.", fileName()), asSentence(result.reason)),
+                  {},
+                  {}};
+    if (result.end == PortableSaveResult::End::MoreLinks) {
+        notice.actions = {{localised("Replace Anyway"), localised("The other links keep the old contents"),
+                           QStringLiteral("document-save"), [this] { document_.savePortably(true); }}};
+    }
+    bar_.show(notice);
+}
+
+void PortableNotices::saveAlways() {
+    if (!document_.savePortably(false)) {
+        return; // the reason is shown
+    }
+    const QString name = fileName();
+    rememberPortableTags(true);
+    if (document_.setPortableTags(true)) {
+        bar_.show({Notice::Kind::Information,
+                   localised("Saved. Other programs see it: %@", name),
+                   {},
+                   savedIsShown});
+    }
+}
+
+void PortableNotices::showAlways() {
+    if (document_.setPortableTags(true)) {
+        rememberPortableTags(true);
+    }
+}
+
+} // namespace velmora

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "save_end.h"
+
+#include <QObject>
+#include <QThreadPool>
+
+namespace velmora {
+
+class MediaDocument;
+class NoticeBar;
+struct Notice;
+
+/** Tells the user, in the line above the form, where tags in place and the tags that other programs read part ways: after
+   a save, and when a file opens. It changes nothing by itself; what its buttons do the document does. */
+class PortableNotices : public QObject {
+    Q_OBJECT
+public:
+    /** DOCUMENT and BAR outlive the object. */
+    PortableNotices(MediaDocument& document, NoticeBar& bar, QObject* parent = nullptr);
+    /** Waits until the file that is looked at, if any, is closed. */
+    ~PortableNotices() override;
+
+    /** The document has opened a file, and the form shows it. */
+    void fileOpened();
+    /** The form shows no file any more. */
+    void fileClosed();
+    /** A save of the document has ended. */
+    void saveEnded(const SaveEnd& end);
+
+private:
+    void lookForMore();
+    void savedInPlace();
+    void savedPortably(const PortableSaveResult& result);
+    void failedPortably(const PortableSaveResult& result);
+    /** Offers to save with portable tags, now and always, where TEXT says why. */
+    void offerSave(const QString& text);
+    void saveAlways();
+    void showAlways();
+    [[nodiscard]] QString fileName() const;
+
+    MediaDocument& document_;
+    NoticeBar& bar_;
+    QThreadPool thread_;
+    int opened_ = 0; ///< counts the files, so that what is found out of one is not told of another
+};
+
+} // namespace velmora
