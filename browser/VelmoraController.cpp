@@ -16,7 +16,36 @@
 #include "weblookup/TagWebBrowser.h"
 #include "weblookup/form_fill_info.h"
 
+#include <QStandardPaths>
+
 namespace velmora {
+namespace {
+
+/** Whether PATH is a folder that a desktop gives to one kind of media: one that it has switched off is the home
+   folder. */
+bool isMediaFolder(const QString& path, const QString& home) {
+    const std::optional<FileAttributes> attributes = fileAttributes(pathBytes(path));
+    return attributes && attributes->isDirectory && path != home && path != home + u'/';
+}
+
+/** The folders that a start searches: three by their names, and the desktop's own where they are others. */
+QStringList startFolders() {
+    const QByteArray home = homeFolder();
+    QStringList folders;
+    for (const char* name : {"Movies", "Music", "Pictures"}) {
+        folders += pathFromBytes(joinedPath(home, name));
+    }
+    for (const auto location :
+         {QStandardPaths::MoviesLocation, QStandardPaths::MusicLocation, QStandardPaths::PicturesLocation}) {
+        const QString folder = QStandardPaths::writableLocation(location);
+        if (!folders.contains(folder) && isMediaFolder(folder, pathFromBytes(home))) {
+            folders += folder;
+        }
+    }
+    return folders;
+}
+
+} // namespace
 
 VelmoraController::VelmoraController(MediaList& list, TagForm& form, TagWebBrowser& browser,
                                      MediaDocument& document, QObject* parent)
@@ -88,12 +117,7 @@ void VelmoraController::fillFields(const FormFillInfo* info) {
 }
 
 void VelmoraController::awakeFromNib() {
-    const QByteArray home = homeFolder();
-    QStringList folders;
-    for (const char* name : {"Movies", "Music", "Pictures"}) {
-        folders += pathFromBytes(joinedPath(home, name));
-    }
-    search_.queueFolders(folders);
+    search_.queueFolders(startFolders());
 }
 
 void VelmoraController::clearUI() {

@@ -25,7 +25,8 @@ public:
     VelmoraController(MediaList& list, TagForm& form, TagWebBrowser& browser, MediaDocument& document,
                       QObject* parent = nullptr);
 
-    /** The window is loaded: queues the home folder's Movies, Music and Pictures and starts the search. */
+    /** The window is loaded: queues the home folder's Movies, Music and Pictures, then the desktop's own folders
+       of videos, music and pictures where they are others, and starts the search. */
     void awakeFromNib();
 
     /** Writes the open file's values into the file. A failure is logged, and everything stays as it is. */

@@ -180,6 +180,34 @@ TEST(WindowStart, HomeFolderIsTakenByteForByte) {
     }
 }
 
+TEST(WindowStart, SearchesTheDesktopsOwnFoldersBehindTheThreeWhereTheyAreOthers) {
+    const test::ScratchFolder home;
+    qputenv("HOME", QByteArray::fromStdString(home.path()));
+    qunsetenv("XDG_CONFIG_HOME");
+    for (const char* name : {"Music", "Filme", "Bilder", ".config"}) {
+        ASSERT_TRUE(QDir(QString::fromStdString(home.path())).mkpath(name));
+    }
+    // A folder that is switched off is the home folder; the pictures' is not there.
+    test::write_file(home / ".config/user-dirs.dirs", "XDG_VIDEOS_DIR=\"$HOME/Filme\"\n"
+                                                      "XDG_MUSIC_DIR=\"$HOME/\"\n"
+                                                      "XDG_PICTURES_DIR=\"$HOME/Fotos\"\n");
+    test::write_file(home / "beside.mp3", test::pattern(102401));
+    test::write_file(home / "Music/song.mp3", test::pattern(102401));
+    test::write_file(home / "Filme/film.avi", test::pattern(102401));
+    test::write_file(home / "Bilder/picture.png", test::pattern(102401));
+    const test::StreamCapture log;
+    ApplicationTermination termination;
+    MyDocument document(termination);
+    document.makeWindow();
+    EXPECT_TRUE(test::waitUntil([&] { return !document.controller()->search().isSearchRunning(); }));
+    const auto& model = document.controller()->table().model();
+    QStringList names;
+    for (int row = 0; row < model.numberOfRowsInTableView(); ++row) {
+        names += model.index(row, MediaTableModel::columnIndex(u"filename")).data().toString();
+    }
+    EXPECT_EQ((QStringList{"song.mp3", "film.avi"}), names);
+}
+
 TEST(WindowStart, SearchesMoviesMusicAndPicturesOfTheHomeFolderInThisOrder) {
     const test::ScratchFolder home;
     qputenv("HOME", QByteArray::fromStdString(home.path()));
@@ -199,7 +227,8 @@ TEST(WindowStart, SearchesMoviesMusicAndPicturesOfTheHomeFolderInThisOrder) {
     for (int row = 0; row < model.numberOfRowsInTableView(); ++row) {
         names += model.index(row, MediaTableModel::columnIndex(u"filename")).data().toString();
     }
-    EXPECT_EQ((QStringList{"Movies.mp3", "Music.mp3", "Pictures.mp3"}), names);
+    // Videos is where desktops keep films unless they say otherwise.
+    EXPECT_EQ((QStringList{"Movies.mp3", "Music.mp3", "Pictures.mp3", "Videos.mp3"}), names);
     EXPECT_EQ("Search Done.", document.window()->findChild<QLabel*>("lbl_scanStatus")->text());
     EXPECT_FALSE(document.window()->findChild<QWidget*>("btn_stop")->isEnabled());
     EXPECT_EQ("***** GOT SEARCH DONE MESSAGE *****\n", out.text());
