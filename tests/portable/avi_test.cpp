@@ -159,6 +159,13 @@ TEST(AviTags, FilesOfManyShapesAreReadOrRefused) {
     }
 }
 
+TEST(AviTags, MediaThatMovedAreFound) {
+    EXPECT_EQ("",
+              test::refusal_of([] { test::check_moved(film(junk(8), ""), film(junk(8), junk(4)), "avi"); }));
+    EXPECT_EQ("the new file would have lost something (where the media are)",
+              test::refusal_of([] { test::check_moved(film(junk(8), ""), film(junk(10), ""), "avi"); }));
+}
+
 /** A film in two RIFF chunks. */
 std::string long_film(const std::string& in_front, const std::string& behind = "") {
     return film(in_front, behind) + riff("AVIX", media);

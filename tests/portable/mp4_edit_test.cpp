@@ -329,5 +329,38 @@ TEST(Mp4Edit, RemovalTakesEveryTag) {
     EXPECT_EQ(to_hex(expected), to_hex(test::without_tags(old, "mov")));
 }
 
+TEST(Mp4Edit, AMetaBoxWithoutAListGetsOne) {
+    const std::string handler = box("hdlr", be32(0) + be32(0) + "mdir" + std::string(13, '\0'));
+    const auto with = [&](const std::string& in_meta) {
+        return file_type + media + box("moov", box("udta", box("meta", be32(0) + handler + in_meta)));
+    };
+    EXPECT_EQ(to_hex(with(box("ilst", item("\xA9nam", "Title")))),
+              to_hex(edited(with(""), "mp4", set(Field::title, "Title"))));
+}
+
+TEST(Mp4Edit, AListOfKeysInUserDataStaysBehindTheNewList) {
+    const std::string handler = box("hdlr", be32(0) + be32(0) + "mdta" + std::string(13, '\0'));
+    const std::string keys = box("meta", handler + box("keys", be32(0) + be32(1) + box("mdta", "mood")) +
+                                             box("ilst", item(be32(1), "calm")));
+    const std::string list = item_list(item("\xA9nam", "Title")).substr(8);
+    const std::string expected = file_type + media + box("moov", box("udta", list + keys));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(file_type + media + box("moov", box("udta", keys)), "mov",
+                                              set(Field::title, "Title"))));
+}
+
+TEST(Mp4Edit, AnOffsetThatDidNotFollowIsFound) {
+    const std::size_t place = file_type.size() + 8 + track(be32(0)).size() + 8;
+    const std::string list = item_list(item("\xA9nam", "Title"));
+    const std::string old = file_type + box("moov", track(be32(place))) + media;
+    const auto made = [&](std::size_t offset) {
+        return file_type + box("moov", track(be32(offset)) + list) + media;
+    };
+    EXPECT_EQ("", test::refusal_of([&] { test::check_moved(old, made(place + list.size()), "mp4"); }));
+    for (const std::size_t wrong : {place, place + list.size() + 1, place + list.size() - 1}) {
+        EXPECT_EQ("the new file would have lost something (where the media are)",
+                  test::refusal_of([&] { test::check_moved(old, made(wrong), "mp4"); }));
+    }
+}
+
 } // namespace
 } // namespace velmora

@@ -111,6 +111,12 @@ std::string without_tags(std::string_view bytes, std::string_view extension) {
     return made;
 }
 
+void check_moved(std::string_view old, std::string_view made, std::string_view extension) {
+    Opened old_file(old, extension);
+    Opened new_file(made, extension);
+    new_file.taken_apart()->check_against(*old_file.taken_apart());
+}
+
 std::string refusal_of(const std::function<void()>& action) {
     try {
         action();

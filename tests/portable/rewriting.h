@@ -22,6 +22,9 @@ namespace velmora::test {
 /** BYTES without any tag, under the same conditions. */
 [[nodiscard]] std::string without_tags(std::string_view bytes, std::string_view extension);
 
+/** Checks MADE, as what OLD became, by the format's own check of what moved. Throws a Refusal. */
+void check_moved(std::string_view old, std::string_view made, std::string_view extension);
+
 /** The sentence of the refusal that ACTION throws; empty when it throws none. */
 [[nodiscard]] std::string refusal_of(const std::function<void()>& action);
 
