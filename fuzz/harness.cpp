@@ -45,11 +45,6 @@ const std::string& folder() {
     return made.path();
 }
 
-const std::string& media_path() {
-    static const std::string path = folder() + "/media";
-    return path;
-}
-
 int lowest_free_descriptor() {
     const int descriptor = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
     ::close(descriptor);
@@ -91,7 +86,8 @@ std::string Input::text() {
     return taken.c_str();
 }
 
-MediaFile::MediaFile(std::string_view bytes) {
+MediaFile::MediaFile(std::string_view bytes, std::string_view extension)
+    : path_(folder() + "/media" + (extension.empty() ? "" : ".") + std::string(extension)) {
     const int file = ::open(path(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
     const bool written =
         bytes.empty() || ::write(file, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
@@ -101,10 +97,6 @@ MediaFile::MediaFile(std::string_view bytes) {
 
 MediaFile::~MediaFile() {
     ::unlink(path());
-}
-
-const char* MediaFile::path() const {
-    return media_path().c_str();
 }
 
 std::uint64_t MediaFile::size() const {
@@ -129,7 +121,7 @@ std::string MediaFile::bytes() const {
 bool MediaFile::has_neighbours() const {
     const std::filesystem::directory_iterator entries(folder());
     return std::any_of(begin(entries), end(entries),
-                       [](const auto& entry) { return entry.path() != media_path(); });
+                       [this](const auto& entry) { return entry.path() != path_; });
 }
 
 DescriptorCheck::DescriptorCheck() : lowest_free_(lowest_free_descriptor()) {}

@@ -32,22 +32,25 @@ private:
     std::string_view rest_;
 };
 
-/** The file that a target works on: always the same path, in a folder of the process's own, in memory where
-    there is such a file system. */
+/** The file that a target works on: always the same path but for its extension, in a folder of the process's own, in memory
+    where there is such a file system. */
 class MediaFile {
 public:
-    explicit MediaFile(std::string_view bytes);
+    explicit MediaFile(std::string_view bytes, std::string_view extension = {});
     ~MediaFile();
     MediaFile(const MediaFile&) = delete;
     MediaFile& operator=(const MediaFile&) = delete;
 
-    [[nodiscard]] const char* path() const;
+    [[nodiscard]] const char* path() const { return path_.c_str(); }
     /** 0 when the file is gone. */
     [[nodiscard]] std::uint64_t size() const;
     /** The whole contents; nothing when the file is gone. */
     [[nodiscard]] std::string bytes() const;
     /** Whether the folder holds anything else. */
     [[nodiscard]] bool has_neighbours() const;
+
+private:
+    std::string path_;
 };
 
 /** Requires that as many descriptors are open at its end as at its beginning. */

@@ -212,5 +212,106 @@ def dom_seeds():
         b'[1,1,"#text","Film (2001)"],[0,2,"A",null,1,"",["name","poster"],"poster"],[3,5,"IMG",null,1,"",["id","x"],"","http://h/p"]]}')
 
 
-for seeds in (id3_seeds, asf_seeds, avi_seeds, bitmap_seeds, dom_seeds):
+PORTABLE_KINDS = ("mp3", "flac", "m4a", "mp4", "wav", "wma", "wmv", "avi", "ogg", "opus", "aiff", "mpg")
+
+
+def be32(value):
+    return struct.pack(">I", value)
+
+
+def box(name, *contents):
+    data = b"".join(contents)
+    return be32(8 + len(data)) + name + data
+
+
+def aiff_chunk(name, data):
+    return name + be32(len(data)) + data + bytes(len(data) & 1)
+
+
+def vorbis_comments(*texts):
+    pack = lambda text: struct.pack("<I", len(text)) + text
+    return pack(b"v") + struct.pack("<I", len(texts)) + b"".join(map(pack, texts))
+
+
+def flac_picture(kind, data):
+    return be32(kind) + be32(9) + b"image/png" + be32(1) + b"d" + bytes(16) + be32(len(data)) + data
+
+
+def ogg_checksum(page):
+    value = 0
+    for byte in page:
+        value ^= byte << 24
+        for _ in range(8):
+            value = (value << 1 ^ (0x04C11DB7 if value & 0x80000000 else 0)) & 0xFFFFFFFF
+    return value
+
+
+def ogg_page(flags, sequence, *packets):
+    sizes = b"".join(bytes([255] * (len(p) // 255) + [len(p) % 255]) for p in packets)
+    page = lambda sum_: (b"OggS\0" + bytes([flags]) + bytes(8) + struct.pack("<III", 7, sequence, sum_) + bytes([len(sizes)]) + sizes
+                         + b"".join(packets))
+    return page(ogg_checksum(page(0)))
+
+
+def portable_files():
+    media = b"\xff\xfb\x90\x64" + bytes(range(100))
+    song = lambda version: b"".join(frame(name, body, version) for name, body in [
+        (b"TIT2", b"\1\xff\xfeS\0\0\0T\0"), (b"TPE1", b"\0Ann"), (b"TALB", b"\0Album"), (b"TCON", b"\0(17)(4)x"),
+        (b"COMM", b"\0eng\0note"), (b"TYER" if version == 3 else b"TDRC", b"\0001999-05"), (b"TXXX", b"\0DIRECTOR\0Dee"),
+        (b"APIC", b"\0image/png\0\3\0picture"), (b"APIC", b"\0image/png\0\0\0other"), (b"PRIV", b"o\0\xff\xe0\xff")])
+    short = lambda name, body: name + be32(len(body))[1:] + body
+    old = short(b"TT2", b"\0Song") + short(b"PIC", b"\0PNG\3\0picture") + short(b"TYE", b"\0001999")
+    v1 = b"TAG" + b"Song".ljust(30) + b"Ann".ljust(30, b"\0") + bytes(30) + b"1999" + bytes(30) + b"\x11"
+    item = lambda key, value: struct.pack("<II", len(value), 0) + key + b"\0" + value
+    items = item(b"Title", b"Song") + item(b"Cover Art (Front)", b"x.png\0picture")
+    ends = lambda flags: b"APETAGEX" + struct.pack("<IIII", 2000, len(items) + 32, 2, flags) + bytes(8)
+    ape = ends(0xA0000000) + items + ends(0x80000000)
+    yield "mp3", "bare", media
+    yield "mp3", "v3", id3(song(3), 3, padding=20) + media
+    yield "mp3", "v4", id3(song(4), 4) + media
+    yield "mp3", "v2", id3(old, 2) + media
+    yield "mp3", "behind", id3(song(4)) + media + ape + v1
+    yield "mp3", "appended", id3(song(3), 3) + media + id3(song(4), 4, appended=True)
+    yield "mpg", "own", media + id3(song(4), 4, appended=True)
+    comments = vorbis_comments(b"TITLE=Song", b"ARTIST=Ann", b"ARTIST=Bo", b"DATE=1999-05", b"OTHER=x")
+    block = lambda kind, data, last=0: bytes([kind | last]) + be32(len(data))[1:] + data
+    yield "flac", "whole", (b"fLaC" + block(0, bytes(34)) + block(4, comments) + block(6, flac_picture(3, b"picture"))
+                            + block(1, bytes(50), 0x80) + media)
+    yield "flac", "strange", id3(song(3), 3) + b"fLaC" + block(0, bytes(34), 0x80) + media + v1
+    yield "opus", "whole", (ogg_page(2, 0, b"OpusHead") + ogg_page(0, 1, b"OpusTags" + comments) + ogg_page(0, 2, media)
+                            + ogg_page(4, 3, media))
+    yield "ogg", "whole", (ogg_page(2, 0, b"\x01vorbis") + ogg_page(0, 1, b"\x03vorbis" + comments + b"\1", b"\x05vorbis" + bytes(50))
+                           + ogg_page(4, 2, media))
+    value = lambda name, data, kind=1: box(name, box(b"data", be32(kind), bytes(4), data))
+    ilst = box(b"ilst", value(b"\xa9nam", b"Song"), value(b"\xa9day", b"1999-05-01"), value(b"covr", b"\x89PNGpicture", 14),
+               value(b"gnre", b"\0\x12", 0), box(b"----", box(b"mean", bytes(4), b"com.apple.iTunes"), box(b"name", bytes(4), b"DIRECTOR"),
+                                                box(b"data", be32(1), bytes(4), b"Dee")))
+    handler = box(b"hdlr", bytes(8), b"mdirappl", bytes(9))
+    moov = lambda offset: box(b"moov", box(b"trak", box(b"mdia", box(b"minf", box(b"stbl", box(b"stco", bytes(4), be32(1), be32(offset)))))),
+                              box(b"udta", box(b"meta", bytes(4), handler, ilst), box(b"\xa9nam", b"\0\4\0\0Song")))
+    ftyp, mdat = box(b"ftyp", b"isom"), box(b"mdat", media)
+    yield "mp4", "behind", ftyp + moov(len(ftyp) + len(moov(0)) + 8) + mdat
+    yield "m4a", "front", ftyp + mdat + box(b"free", bytes(8)) + moov(len(ftyp) + 8)
+    info = chunk(b"LIST", b"INFO" + chunk(b"INAM", b"Song\0") + chunk(b"ICRD", b"1999\0") + chunk(b"IPIC", b"\x89PNGpicture"))
+    yield "wav", "whole", chunk(b"RIFF", b"WAVE" + chunk(b"fmt ", bytes(16)) + info + chunk(b"data", media) + chunk(b"id3 ", id3(song(4))))
+    yield "avi", "whole", avi_file(chunk(b"LIST", b"hdrl" + chunk(b"avih", bytes(56))), chunk(b"LIST", b"movi" + chunk(b"00dc", media)),
+                                   chunk(b"idx1", bytes(16)), info)
+    yield "aiff", "whole", aiff_chunk(b"FORM", b"AIFF" + aiff_chunk(b"COMM", bytes(18)) + aiff_chunk(b"SSND", media)
+                                      + aiff_chunk(b"ID3 ", id3(song(3), 3)))
+    for path in sorted((CORPUS / "asf_load").iterdir()):
+        yield "wma", "asf-" + path.name, path.read_bytes()
+
+
+def portable_seeds():
+    for kind, name, data in portable_files():
+        number = bytes([PORTABLE_KINDS.index(kind)])
+        put("portable_read", kind + "-" + name, number + data)
+        # Fields that are set, fields that are deleted, and their texts.
+        put("portable_set", kind + "-" + name + "-all", number + b"\x83\1\0\0" + counted(b"New title") + counted(b"Bo")
+            + counted(b"\x89PNG\r\n\x1a\npicture") + data)
+        put("portable_set", kind + "-" + name + "-clear", number + b"\0\0\xff\1" + data)
+        put("portable_set", kind + "-" + name + "-year", number + b"\x80\0\1\0" + struct.pack("<H", 2001) + data)
+
+
+for seeds in (id3_seeds, asf_seeds, avi_seeds, bitmap_seeds, dom_seeds, portable_seeds):
     seeds()
