@@ -134,7 +134,7 @@ _asf_object_t* ChildReader::parse(const _asf_object_t& child, bool last) {
 }
 
 /** A content description's strings may run past its declared size, into bytes that later children claim
-    again. All of them together can't be longer than the file, but for the last one. */
+   again. All of them together can't be longer than the file, but for the last one. */
 _asf_object_t* ChildReader::read_content_description(bool leads_on) {
     if (!leads_on || strings_ > *file_end_) {
         return nullptr;
@@ -192,6 +192,14 @@ int asf_insert_object(_asf_header_object_t* header, _asf_object_t* object) {
     header->children[header->child_count++] = object;
     header->size += object->size + asf_object_header_size;
     return 1;
+}
+
+_asf_object_t* asf_append_object(_asf_header_object_t* header, _asf_object_t* object) {
+    if (object && !asf_insert_object(header, object)) {
+        free_child(object);
+        return nullptr;
+    }
+    return object;
 }
 
 _asf_object_t* asf_find_object(const _asf_header_object_t* header, const GUID& guid) {

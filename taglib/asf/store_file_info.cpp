@@ -4,7 +4,6 @@
 #include "content_description.h"
 #include "detail/apply_file_info.h"
 #include "detail/object_writer.h"
-#include "detail/owned.h"
 #include "detail/owned_header.h"
 #include "ext_content_description.h"
 #include "guids.h"
@@ -13,6 +12,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <limits>
+#include <memory>
 #include <unistd.h>
 
 namespace velmora {
@@ -31,20 +31,15 @@ using LooseExtContentDescription = std::unique_ptr<_asf_ext_content_description_
 
 /** The first Content Description, appended when there is none; null when that fails. */
 _asf_content_description_t* find_or_append_cd(AsfHeader& header) {
-    auto* cd = header.find<_asf_content_description_t>(ASF_ContentDescription);
-    if (!cd) {
-        cd = asf_init_content_description();
-        if (cd && !asf_insert_object(header.record(), cd)) {
-            asf_free_content_description(cd);
-            cd = nullptr;
-        }
-    }
-    return cd;
+    auto* const cd = header.find<_asf_content_description_t>(ASF_ContentDescription);
+    return cd ? cd
+              : static_cast<_asf_content_description_t*>(
+                    asf_append_object(header.record(), asf_init_content_description()));
 }
 
 /** The first Extended Content Description. For a header that has none an empty one is made, which takes the
-    edits but stays outside the header (LOOSE owns it): what the header gets is its Content Description CD
-    once more. */
+   edits but stays outside the header (LOOSE owns it): what the header gets is its Content Description CD
+   once more. */
 _asf_ext_content_description_t* find_or_make_ecd(AsfHeader& header, _asf_content_description_t* cd,
                                                  LooseExtContentDescription& loose) {
     auto* const ecd = header.find<_asf_ext_content_description_t>(ASF_ExtendedContentDescription);
@@ -66,22 +61,21 @@ void log_padding_size(std::uint64_t size) {
 }
 
 [[nodiscard]] bool append_padding(_asf_header_object_t* header) {
-    AsfOwned<_asf_object_t> padding(asf_init_object());
+    _asf_object_t* const padding = asf_init_object();
     if (!padding) {
         return false;
     }
     padding->guid = ASF_PaddingObject;
     padding->size = new_padding_size;
-    if (!asf_insert_object(header, padding.get())) {
+    if (!asf_append_object(header, padding)) {
         return false;
     }
-    (void)padding.release();
     log_padding_size(new_padding_size);
     return true;
 }
 
 /** Lets the last PADDING (null for none) take up DIFF, the header's growth, where it can. False when memory
-    is exhausted. */
+   is exhausted. */
 [[nodiscard]] bool adjust_padding(_asf_header_object_t* header, _asf_object_t* padding, std::int64_t diff) {
     if (!padding) {
         if (diff > 0) {
