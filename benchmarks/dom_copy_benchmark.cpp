@@ -1,7 +1,7 @@
 /** What it costs to copy a page's document out of the web engine and to fill a form from it: 20,000 nodes, a
    film with 4,000 actors.
 
-    Beside it the least that such a copy can be: the same page, in the same engine, hands out its HTML as one
+   Beside it the least that such a copy can be: the same page, in the same engine, hands out its HTML as one
    text, which nobody reads. Prints both medians in milliseconds, by the clock, because half of the work is
    done in another process. The two take turns. Ends with 1 when the engine or the page fails. Start it with
    the offscreen platform on a machine without a display. */

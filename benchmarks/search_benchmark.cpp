@@ -1,6 +1,6 @@
 /** What a search of a large library costs: 100,000 files of more than 100 KiB in 1,000 folders.
 
-    Prints each cost in milliseconds, by the clock and of processor time (all threads, user and system), as a
+   Prints each cost in milliseconds, by the clock and of processor time (all threads, user and system), as a
    multiple of what it is measured against, and as ok or TOO SLOW. A listing works in two threads at once, so
    the clock is what it is judged by; processor time is there for a machine that has other things to do. The
    measures take turns; each cost is the median. Ends with 1 when anything is too slow. Start it with the
@@ -41,7 +41,7 @@ constexpr int filesPerFolder = 100;
 constexpr int fileCount = folderCount * filesPerFolder;
 constexpr off_t fileSize = 200'000;
 
-/** Names in no order, as a person's are. */
+/** Names in no order, as a user's are. */
 std::string fileName(unsigned number) {
     const unsigned scattered = number * 2654435761U;
     return "a recording of some evening " + std::to_string(scattered) + ".mp3";
@@ -189,7 +189,7 @@ struct Listing {
 };
 
 /** Lists the whole library in a shown window. SORTCOLUMN is an index into the table's columns, -1 for no
- * order. */
+   order. */
 Listing runListing(const std::string& root, int sortColumn) {
     NoDocument document;
     QTableView view;

@@ -1,9 +1,9 @@
 /** Reading and storing tags, beside TagLib, and moving data, beside a plain loop.
-    tag_benchmark FOLDER [options of Google Benchmark]: FOLDER is what make_library.py made; its files "store"
-    and "large" are written to.
+   tag_benchmark FOLDER [options of Google Benchmark]: FOLDER is what make_library.py made; its files "store"
+   and "large" are written to.
 
-    Names are WORK/WHO. A read is one pass over all files of a folder; a store changes one file's title to and
-    fro. WHO is velmora, closed (the same with standard error closed), or the yardstick. */
+   Names are WORK/WHO. A read is one pass over all files of a folder; a store changes one file's title to and
+   fro. WHO is velmora, closed (the same with standard error closed), or the yardstick. */
 
 #include "taglib_peer.h"
 #include "trace_sink.h"
@@ -77,7 +77,7 @@ std::vector<std::string> withoutCovers(const std::vector<std::string>& songs) {
 }
 
 /** All songs of FOLDER, and by themselves those without a cover: whether that is a picture is found out by
-    reading its tables, which is no matter of tags. */
+   reading its tables, which is no matter of tags. */
 void addReadOfSongs(const std::string& work, const fs::path& folder, const ReadOne& ours,
                     const ReadOne& theirs) {
     const std::vector<std::string> songs = filesOf(folder);
@@ -166,7 +166,7 @@ constexpr long long moveTo = moveFrom + 1024;
 constexpr long long movedSize = 1024 * mebibyte;
 
 /** The fewest reads and writes that move SIZE bytes in steps of 1 MiB: upwards from the back, downwards from
-    the front. */
+   the front. */
 bool shift(const char* path, long long from, long long to, long long size) {
     const int file = ::open(path, O_RDWR | O_CLOEXEC);
     std::vector<char> buffer(mebibyte);

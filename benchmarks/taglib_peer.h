@@ -28,7 +28,7 @@ struct Tags {
 [[nodiscard]] bool storeAsf(const char* path, const char* title);
 [[nodiscard]] bool storeAvi(const char* path, const char* title);
 /** As storeAvi, but finds the list as a first attempt would: by reading every list in whole, the film itself
- * too. */
+   too. */
 [[nodiscard]] bool storeAviReadingWholeLists(const char* path, const char* title);
 
 } // namespace peer

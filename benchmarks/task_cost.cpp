@@ -1,10 +1,10 @@
 /** What one task costs beside time, in a process of its own.
-    task_cost calls read FILE | calls store FILE: the system calls of a read of FILE's tag, or of a store of a
+   task_cost calls read FILE | calls store FILE: the system calls of a read of FILE's tag, or of a store of a
    title into it, writes to standard error not counted.
-    task_cost memory bare | memory read FILE | memory move FILE: the peak of the process's memory in KiB. A
+   task_cost memory bare | memory read FILE | memory move FILE: the peak of the process's memory in KiB. A
    move shifts everything behind the first 5000 bytes by 1 KiB, up and back.
 
-    Prints one number. */
+   Prints one number. */
 
 #include "trace_sink.h"
 #include "velmora_tasks.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-/** Small helpers for argument lists and owned strings. */
+/** Small helpers for argument lists and owned strings. Nothing in the program calls them. */
 namespace velmora {
 
 /** Replaces the string that SLOT owns (malloc family) by a copy of TEXT, or by null when TEXT is null or

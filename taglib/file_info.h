@@ -23,10 +23,10 @@ inline constexpr std::uint32_t tag_present = 0x8000;
 
 /** A file's metadata on its way between the media file model and a tag module.
 
-    Loaded: every string is a malloc'ed copy and both objects are owned references; id3_free_file_info
+   Loaded: every string is a malloc'ed copy and both objects are owned references; id3_free_file_info
    releases them. Built for storing: everything is borrowed and the record is never freed.
 
-    The three text slots are generic on purpose. Audio: title is the album, desc the song's title. Video:
+   The three text slots are generic on purpose. Audio: title is the album, desc the song's title. Video:
    artist is the cast, desc the synopsis. */
 struct _file_info_t {
     std::uint32_t flags; ///< file_info_flag bits: the valid fields when storing

@@ -23,6 +23,8 @@ void timet_to_filetime(std::int32_t seconds, FILETIME* time);
 /** 0 for every time up to and including 1970-01-01 00:00:00 UTC; later seconds are cut to 32 bits. */
 [[nodiscard]] std::int32_t filetime_to_timet(FILETIME time);
 
+/* Nothing in the program calls what follows. */
+
 /** Reads "%d-%d-%dT:%d:%d:%d+%d:%d" (local time, zone optional) the ordinary way. Returns seconds since 1970,
    or 0 when fewer than six values are there, the year is below 1900, the month below 1 or no calendar has the
    time. The ID3 frames have rules of their own and do not use this pair. */

@@ -25,10 +25,12 @@ int fio_close(FIOFUNCSTRUCT* file);
 std::int64_t fio_lseek(FIOFUNCSTRUCT* file, std::int64_t offset, int whence);
 /** The current position. */
 [[nodiscard]] std::int64_t fio_ltell(FIOFUNCSTRUCT* file);
+/** Nothing in the program calls it. */
 [[nodiscard]] int fio_stat(const char* path, struct stat* status);
 
 /* Typed readers: one read of the value's width into a zeroed value. What a short read leaves out stays zero,
-   and nothing reports it. The name gives the byte order on disk. */
+   and nothing reports it. The name gives the byte order on disk. Nothing in the program calls them: it reads
+   through ReadCursor. */
 [[nodiscard]] std::uint8_t fio_get_byte(FIOFUNCSTRUCT* file);
 [[nodiscard]] std::uint16_t fio_get_le16(FIOFUNCSTRUCT* file);
 [[nodiscard]] std::uint16_t fio_get_be16(FIOFUNCSTRUCT* file);
@@ -38,7 +40,8 @@ std::int64_t fio_lseek(FIOFUNCSTRUCT* file, std::int64_t offset, int whence);
 [[nodiscard]] std::uint64_t fio_get_le64(FIOFUNCSTRUCT* file);
 
 /* Typed writers: one write of the value's width; the result is that of write(2). There is no 24-bit and no
-   big-endian 64-bit writer: no format that is written here needs one. */
+   big-endian 64-bit writer: no format that is written here needs one. Nothing in the program calls them: it
+   writes through WriteCursor. */
 [[nodiscard]] ssize_t fio_put_byte(FIOFUNCSTRUCT* file, std::uint8_t value);
 [[nodiscard]] ssize_t fio_put_le16(FIOFUNCSTRUCT* file, std::uint16_t value);
 [[nodiscard]] ssize_t fio_put_be16(FIOFUNCSTRUCT* file, std::uint16_t value);

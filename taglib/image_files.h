@@ -2,6 +2,7 @@
 
 #include "image_seam/image.h"
 
+/* Nothing in the program calls these functions. */
 namespace velmora {
 
 /** An image from a file of any format that the platform reads, owned by the caller, or null. */

@@ -5,18 +5,18 @@
 namespace velmora {
 
 /** A place in a ReadWindow from which its bytes are read in order. Copying a cursor is cheap and makes a
-    second place in the same window; all of them read the same bytes.
+   second place in the same window; all of them read the same bytes.
 
-    Invariant: begin() <= position() <= end(). No read, seek or slice gets past end(), so a slice can't
+   Invariant: begin() <= position() <= end(). No read, seek or slice gets past end(), so a slice can't
    outgrow the cursor that it was cut from. Positions are absolute: those of the file, in 64 bits.
 
-    A read of LENGTH bytes advances by those that came. Where fewer came, the rest of the target is zero and
-    the status says why: with `ended` what is missing lies behind end() or the file, with `failed` the medium
-    did not give it. */
+   A read of LENGTH bytes advances by those that came. Where fewer came, the rest of the target is zero and
+   the status says why: with `ended` what is missing lies behind end() or the file, with `failed` the medium
+   did not give it. */
 class ReadCursor {
 public:
     /** Over all of WINDOW, which must outlive the cursor and its slices. For a file end() is no_end: it does
-        not cost a call to find out where the file itself ends. */
+       not cost a call to find out where the file itself ends. */
     explicit ReadCursor(ReadWindow& window) : ReadCursor(window, window.begin(), window.end()) {}
     /** Over WINDOW from BEGIN up to END (BEGIN where END is less). Reads run ahead up to END. */
     ReadCursor(ReadWindow& window, std::uint64_t begin, std::uint64_t end)
@@ -32,7 +32,7 @@ public:
     [[nodiscard]] std::uint64_t left() const { return end_ - position_; }
 
     /** Where reads stop running ahead: at first end() of the cursor that the slices were cut from. For those
-        who know that what follows is none of their business. */
+       who know that what follows is none of their business. */
     void set_ahead_end(std::uint64_t position) { ahead_end_ = position; }
 
     /** Goes to POSITION. False, and nothing is moved, when that is not within begin() and end(). */
@@ -41,7 +41,7 @@ public:
     [[nodiscard]] bool skip(std::uint64_t length);
 
     /** A cursor over the next LENGTH bytes, or over those that are left when these are fewer. This one stays
-        where it is. */
+       where it is. */
     [[nodiscard]] ReadCursor slice(std::uint64_t length) const;
 
     /** Reads a block of LENGTH bytes into BYTES. */

@@ -59,7 +59,7 @@ ReadStatus ReadWindow::read(std::uint64_t position, void* bytes, std::size_t len
 }
 
 /** Reads what is missing behind the first *GOT bytes of a field past the window. Where that comes short, the
-    field is read by itself, and *GOT and the status are what becomes of that. */
+   field is read by itself, and *GOT and the status are what becomes of that. */
 ReadStatus ReadWindow::read_rest(std::uint64_t position, std::uint8_t* bytes, std::size_t length,
                                  std::size_t* got) {
     const int error = errno;
@@ -104,7 +104,7 @@ void ReadWindow::forget() {
 }
 
 /** Copies what the window holds of the LENGTH bytes at POSITION, from their beginning on; returns how many
-    these are. */
+   these are. */
 inline std::size_t ReadWindow::take(std::uint64_t position, std::uint8_t* bytes, std::size_t length) const {
     if (length == 0 || position < start_ || position - start_ >= filled_) {
         return 0;
@@ -116,7 +116,7 @@ inline std::size_t ReadWindow::take(std::uint64_t position, std::uint8_t* bytes,
 }
 
 /** Reads the window anew from POSITION on, where more than MORE_THAN bytes may be read. False when nothing
-    came; errno is then as it was. */
+   came; errno is then as it was. */
 bool ReadWindow::fill(std::uint64_t position, std::uint64_t end, std::size_t more_than) {
     end = std::min(end, size_.value_or(no_end));
     if (!file_ || !reads_ahead_ || position >= end || end - position <= more_than) {

@@ -18,18 +18,18 @@ enum class [[nodiscard]] ReadStatus{
 };
 
 /** The bytes of a file, or of a block of memory, by their positions. One window serves any number of
-    ReadCursors, which are how it is read.
+   ReadCursors, which are how it is read.
 
-    Invariant: the window holds the file's bytes from start_ to start_ + filled_, just as they were read, and
-    nothing else; whatever it does not hold costs a read of the file. A block of memory is a window that holds
-    everything there is.
+   Invariant: the window holds the file's bytes from start_ to start_ + filled_, just as they were read, and
+   nothing else; whatever it does not hold costs a read of the file. A block of memory is a window that holds
+   everything there is.
 
-    A read takes more than was asked for where it may run ahead, so that the fields behind it cost no call of
-    their own. That is never seen: where such a larger read fails, or brings too little, what was asked for is
-    read by itself, and that read decides; after a failure nothing is read ahead any more. So a file whose
-    blocks can't be read is read field by field, errno included.
+   A read takes more than was asked for where it may run ahead, so that the fields behind it cost no call of
+   their own. That is never seen: where such a larger read fails, or brings too little, what was asked for is
+   read by itself, and that read decides; after a failure nothing is read ahead any more. So a file whose
+   blocks can't be read is read field by field, errno included.
 
-    Nobody else may move in the file between reads, nor write to it (see forget()). One thread at a time. */
+   Nobody else may move in the file between reads, nor write to it (see forget()). One thread at a time. */
 class ReadWindow {
 public:
     /** Bytes that the window holds. Reads of as many or more go past it. */
@@ -40,7 +40,7 @@ public:
     /** Over FILE, which stays the caller's and must stay open. POSITION: where it is, when that is known. */
     explicit ReadWindow(FIOFUNCSTRUCT* file, std::optional<std::uint64_t> position = std::nullopt);
     /** Over BYTES, which stay the caller's. They count from ORIGIN on, as where they were read from a file at
-        that position. */
+       that position. */
     explicit ReadWindow(std::span<const std::uint8_t> bytes, std::uint64_t origin = 0);
     ReadWindow(const ReadWindow&) = delete;
     ReadWindow& operator=(const ReadWindow&) = delete;
@@ -50,16 +50,16 @@ public:
     [[nodiscard]] std::uint64_t end() const { return file_ ? no_end : start_ + filled_; }
 
     /** Where the bytes end, or nothing when the system does not tell. A file is asked once, and then stands
-        IN_FRONT bytes in front of its end (at the end when it is shorter), where the next read is expected.
-        For later calls, and for memory, IN_FRONT means nothing. */
+       IN_FRONT bytes in front of its end (at the end when it is shorter), where the next read is expected.
+       For later calls, and for memory, IN_FRONT means nothing. */
     [[nodiscard]] std::optional<std::uint64_t> size(std::uint64_t in_front = 0);
 
     /** Takes the bytes from POSITION on into the window, up to its capacity and to END, in one read. Where
-        that can't be done nothing is said: reads of them will tell. */
+       that can't be done nothing is said: reads of them will tell. */
     void look_ahead(std::uint64_t position, std::uint64_t end = no_end);
 
     /** Reads LENGTH bytes at POSITION into BYTES, of which those that did not come are zeroed, and sets COUNT
-        to those that did. May read ahead as far as AHEAD_END. */
+       to those that did. May read ahead as far as AHEAD_END. */
     ReadStatus read(std::uint64_t position, void* bytes, std::size_t length, std::uint64_t ahead_end,
                     std::size_t* count);
 
@@ -67,11 +67,11 @@ public:
     [[nodiscard]] bool failed() const { return failed_; }
 
     /** Moves the file itself to POSITION, for callers that go on by its own position. False, with errno from
-        lseek(2), when it does not get there. Memory has no position: true. */
+       lseek(2), when it does not get there. Memory has no position: true. */
     [[nodiscard]] bool settle(std::uint64_t position);
 
     /** Empties the window, and forgets the file's position and size: for a file that was written to or moved
-        in by others. Memory stays as it is. */
+       in by others. Memory stays as it is. */
     void forget();
 
 private:

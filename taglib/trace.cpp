@@ -16,7 +16,8 @@ namespace {
 thread_local TraceBatch* batch_of_this_thread = nullptr;
 thread_local int mutes_of_this_thread = 0;
 
-/** A pipe takes such texts, of up to 4,096 bytes, whole or not at all, so that a second call repeats nothing. */
+/** A pipe takes such texts, of up to 4,096 bytes, whole or not at all, so that a second call repeats nothing.
+   */
 void write_out(const char* text) {
     write_patiently([text] { return std::fputs(text, stderr) != EOF; });
 }
@@ -35,8 +36,8 @@ std::size_t format_any(char* message, const char* format, va_list arguments) {
     return std::strlen(message);
 }
 
-/** Writes a message that can be formatted plainly, and leaves errno alone. False for any other, of which nothing
-   is written. */
+/** Writes a message that can be formatted plainly, and leaves errno alone. False for any other, of which
+   nothing is written. */
 bool trace_plainly(const char* format, FormatArguments& arguments) {
     char own[message_capacity];
     char* const message = place_for_message(own);

@@ -33,9 +33,9 @@ public:
 };
 
 /** While an object lives, its thread's messages are gathered and written in pieces of up to 4,096 bytes, in
-    their order; the last piece when the object ends. For loops that trace every small thing of a file, where
-    a write for each line would take longer than all else. What is called meanwhile writes nothing of its own
-    to standard error. Inside another batch an object does nothing. */
+   their order; the last piece when the object ends. For loops that trace every small thing of a file, where
+   a write for each line would take longer than all else. What is called meanwhile writes nothing of its own
+   to standard error. Inside another batch an object does nothing. */
 class TraceBatch {
 public:
     TraceBatch();

@@ -3,7 +3,8 @@
 #include <cstddef>
 
 /** Conversion between the platform's wide characters (iconv's "WCHAR_T", four bytes each) and UTF-8. The two
-   converters share a process-wide handle each, so they are used on one thread only. */
+   converters share a process-wide handle each, so they are used on one thread only. Nothing in the program
+   calls them. */
 namespace velmora {
 
 /** Wide characters to UTF-8. The source is measured as a byte string: only what stands before its first zero

@@ -91,7 +91,7 @@ bool WriteCursor::commit() {
 }
 
 /** Room for a field of LENGTH bytes at the buffer's end, or null where there is none even in an empty buffer,
-    or no use for it. */
+   or no use for it. */
 inline std::uint8_t* WriteCursor::add_to_buffer(std::size_t length) {
     if (!reserve_buffer(length) || (!add_to_last_piece(length) && !add_piece(nullptr, length))) {
         write_pieces();

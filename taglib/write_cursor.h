@@ -13,16 +13,16 @@ namespace velmora {
 
 /** Collects fields and blocks for a file, and writes them with one checked commit().
 
-    Invariant: until commit() the file is untouched, and what it will write is known in full: bytes() bytes in
-    fields() fields, in the order in which they were put. Only where no memory is left to collect in, what was
-    put so far goes to the file at once; commit() tells of it all the same. A field is what one put gave;
-    putting nothing is no field. Adjacent ones are written together, with one call of the system where none is
-    larger than largest_copy, so order decides what a kill leaves behind only from one commit to the next.
+   Invariant: until commit() the file is untouched, and what it will write is known in full: bytes() bytes in
+   fields() fields, in the order in which they were put. Only where no memory is left to collect in, what was
+   put so far goes to the file at once; commit() tells of it all the same. A field is what one put gave;
+   putting nothing is no field. Adjacent ones are written together, with one call of the system where none is
+   larger than largest_copy, so order decides what a kill leaves behind only from one commit to the next.
 
-    Where a write stops short, everything in front of the stop is in the file and nothing behind it is: what
-    one write for each field would have left. bytes_written() and fields_written() tell where that is.
+   Where a write stops short, everything in front of the stop is in the file and nothing behind it is: what
+   one write for each field would have left. bytes_written() and fields_written() tell where that is.
 
-    The file is moved, and may not be moved by others between commits. One thread at a time. */
+   The file is moved, and may not be moved by others between commits. One thread at a time. */
 class WriteCursor {
 public:
     /** Larger blocks are not copied: they must stay as they are until the commit. */
@@ -53,22 +53,22 @@ public:
     [[nodiscard]] std::uint64_t fields() const { return fields_; }
 
     /** Writes what was put, and is empty again, at its position. False when not everything was written: errno
-        is that of the failed call, or as it was where a write just came up short, as it would be for the
-        field concerned alone. */
+       is that of the failed call, or as it was where a write just came up short, as it would be for the
+       field concerned alone. */
     [[nodiscard]] bool commit();
 
-    /** After a commit in which a write came up short: tries to write the rest of the field in which it stopped,
-        so that errno tells why where that fails, too. For callers whose fields behind that one were always
-        tried. Does nothing after any other commit, nor once something else was put. */
+    /** After a commit in which a write came up short: tries to write the rest of the field in which it
+       stopped, so that errno tells why where that fails, too. For callers whose fields behind that one were
+       always tried. Does nothing after any other commit, nor once something else was put. */
     void ask_why_short();
 
     /** Moves the file itself to the position, for callers that tell a position that can't be reached from a
-        write that failed; the commit then spares the move. False, with errno from lseek(2), when it does not
-        get there. */
+       write that failed; the commit then spares the move. False, with errno from lseek(2), when it does not
+       get there. */
     [[nodiscard]] bool settle() { return move_to(position_); }
 
     /** How far the last commit came: the bytes that it wrote, and the fields of which it wrote every byte. So
-        fields_written() is also the number, from 0, of the field in which it stopped. */
+       fields_written() is also the number, from 0, of the field in which it stopped. */
     [[nodiscard]] std::uint64_t bytes_written() const { return bytes_written_; }
     [[nodiscard]] std::uint64_t fields_written() const { return fields_written_; }
 
@@ -96,7 +96,7 @@ private:
         [[nodiscard]] const Value* values() const { return values_; }
         [[nodiscard]] std::size_t count() const { return count_; }
         /** Sees to room for at least COUNT values and keeps those that are there. False when there is none;
-            errno stays. */
+           errno stays. */
         [[nodiscard]] bool reserve(std::size_t count) { return count <= count_ || grow(count); }
 
     private:
@@ -146,7 +146,7 @@ private:
 };
 
 /** Writes no bytes at FILE's position, which is where a format that can shrink its file would cut it. FILE
-    keeps its length and its contents, whatever becomes of the call. */
+   keeps its length and its contents, whatever becomes of the call. */
 void mark_end(FIOFUNCSTRUCT* file);
 
 } // namespace velmora

@@ -2,16 +2,7 @@
 
 #include "object.h"
 
-/** The Content Description object: five fixed strings.
-
-        0  24  object header
-       24   2  title length in bytes
-       26   2  author length
-       28   2  copyright length
-       30   2  description length
-       32   2  rating length
-       34      the five strings in the same order, UTF-16LE, normally each with a terminating zero unit
-*/
+/** The Content Description object, five fixed strings (docs/asf.md, "Content Description"). */
 namespace velmora {
 
 /** The string buffers are owned (malloc family). */
@@ -22,7 +13,7 @@ struct _asf_content_description_t : _asf_object_t {
     std::uint16_t description_length;
     std::uint16_t rating_length;
     /** The strings lie in the record's own block and are never replaced. So are kept, for their sake of
-        memory, the descriptions of a header that nobody looks into: all but the first. */
+       memory, the descriptions of a header that nobody looks into: all but the first. */
     bool is_fixed;
     std::uint8_t* title; ///< raw UTF-16LE, maybe without a terminator; null for length 0
     std::uint8_t* author;
@@ -43,14 +34,15 @@ void asf_free_content_description(_asf_content_description_t* cd);
 [[nodiscard]] std::uint32_t asf_content_description_bytes(const _asf_content_description_t* cd);
 
 /** Reads the object at the current position into CD (whose old contents are not freed), or into a new
-    record when CD is null, and seeks behind it: the object's declared size decides where the next one is,
-    not the strings. A string may run past the declared size; where the file ends, missing bytes are zero. A
-    string that finds no memory stays absent with length 0. Returns the record, or null when the object
-    header can't be read, the disk fails or the size leads to no file position; CD then owns nothing. */
+   record when CD is null, and seeks behind it: the object's declared size decides where the next one is,
+   not the strings. A string may run past the declared size; where the file ends, missing bytes are zero. A
+   string that finds no memory stays absent with length 0. Returns the record, or null when the object
+   header can't be read, the disk fails or the size leads to no file position; CD then owns nothing. Nothing
+   in the program calls it. */
 _asf_content_description_t* asf_read_content_description(FIOFUNCSTRUCT* file, _asf_content_description_t* cd);
 
 /** Writes the object with the size field as it stands. Returns 1, or 0 when the object header could not be
-    written. Later failures show in the file's position only. */
+   written. Later failures show in the file's position only. Nothing in the program calls it. */
 [[nodiscard]] int asf_store_content_description(FIOFUNCSTRUCT* file, const _asf_content_description_t* cd);
 
 } // namespace velmora

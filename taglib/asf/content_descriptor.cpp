@@ -17,7 +17,7 @@ namespace velmora {
 namespace {
 
 /** LENGTH bytes in BYTES, nothing for length 0. False when they can't be had or there is no memory for
-    them. */
+   them. */
 bool read_bytes(ReadCursor* cursor, std::uint16_t length, AsfOwned<std::uint8_t>& bytes) {
     if (length == 0) {
         return true;

@@ -4,14 +4,8 @@
 
 #include <cstdint>
 
-/** One named, typed value of the Extended Content Description object.
-
-        0   2  name length in bytes
-        2      name, UTF-16LE with its terminating zero unit
-            2  value type
-            2  value length in bytes
-               value
-*/
+/** One named, typed value of the Extended Content Description object (docs/asf.md, "Extended Content
+   Description"). */
 namespace velmora {
 
 /** Value types. A file may hold others: those are kept and written back unchanged. */
@@ -46,8 +40,9 @@ inline constexpr std::uint32_t asf_content_descriptor_fixed_size = 6;
 [[nodiscard]] std::uint32_t asf_content_descriptor_bytes(const _asf_content_descriptor_t* descriptor);
 
 /** Reads the descriptor at the current position into DESCRIPTOR (whose old contents are not freed), or into
-    a new record when DESCRIPTOR is null. What lies behind the end of the file is zero. Returns the record,
-    or null when memory is exhausted or the disk fails; DESCRIPTOR then owns nothing. */
+   a new record when DESCRIPTOR is null. What lies behind the end of the file is zero. Returns the record,
+   or null when memory is exhausted or the disk fails; DESCRIPTOR then owns nothing. Nothing in the program
+   calls it. */
 _asf_content_descriptor_t* asf_read_content_descriptor(FIOFUNCSTRUCT* file,
                                                        _asf_content_descriptor_t* descriptor);
 
@@ -56,7 +51,8 @@ void asf_log_content_descriptor(std::int64_t position, const _asf_content_descri
 /** The line that writing one traces: its name, LENGTH bytes. */
 void asf_log_content_descriptor_name(std::int64_t position, const void* name, std::uint16_t length);
 
-/** Writes DESCRIPTOR. Returns 1; a failed write shows in the file's position only. */
+/** Writes DESCRIPTOR. Returns 1; a failed write shows in the file's position only. Nothing in the program
+   calls it. */
 int asf_store_content_descriptor(FIOFUNCSTRUCT* file, const _asf_content_descriptor_t* descriptor);
 
 } // namespace velmora

@@ -5,11 +5,11 @@
 #include <cstdint>
 
 /** The GUIDs of the ASF format that the module knows. The first four decide what it does; the rest complete
- * the set. */
+   the set. */
 namespace velmora {
 
 /** A GUID from its printed groups: {75B22630-668E-11CF-A6D9-00AA0062CE6C} is asf_guid(0x75B22630, 0x668E,
-    0x11CF, 0xA6D9, 0x00AA0062CE6C). */
+   0x11CF, 0xA6D9, 0x00AA0062CE6C). */
 [[nodiscard]] constexpr GUID asf_guid(std::uint32_t first, std::uint16_t second, std::uint16_t third,
                                       std::uint16_t fourth, std::uint64_t fifth) {
     const auto byte = [](std::uint64_t value, int place) {

@@ -32,8 +32,8 @@ struct MimeType {
     char text[longest_mime_type] = {};
 };
 
-/** Walks over the zero-terminated texts of a picture value. Each unit must end before the value does, not *
-    with it. */
+/** Walks over the zero-terminated texts of a picture value. Each unit must end before the value does, not
+   with it. */
 class TextCursor {
 public:
     TextCursor(const std::uint8_t* value, std::size_t length) : value_(value), length_(length) {}

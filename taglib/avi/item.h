@@ -6,17 +6,18 @@
 
 #include <cstdint>
 
-/** The RIFF items of an AVI file as a tree in memory: building, searching, measuring and writing it. */
+/** The RIFF items of an AVI file (docs/avi.md, "Layout") as a tree in memory: building, searching, measuring
+   and writing it. */
 namespace velmora {
 
 /** One RIFF chunk. Its parent's child array holds it by value, so a pointer to an item lives only until the
    next insert into or removal from that array. Zeroed, it is an empty chunk that owns nothing.
 
-    A "LIST" or "RIFF" item has children, and its own bytes are never loaded, with one exception: a list found
+   A "LIST" or "RIFF" item has children, and its own bytes are never loaded, with one exception: a list found
    inside a list is not taken apart but kept as plain data bytes, and is written back as those bytes
    (avi_has_children tells).
 
-    What an item owns is made and freed by the functions here and in item_data.h, never by malloc and free. */
+   What an item owns is made and freed by the functions here and in item_data.h, never by malloc and free. */
 struct _avi_item_t {
     std::uint32_t fourcc;
     std::uint32_t size; ///< the size field: data bytes; for a list its type and sub-chunks, pad bytes counted
@@ -51,7 +52,7 @@ void avi_mark_incomplete(_avi_item_t* item);
    write, which is logged and leaves what was written so far. */
 [[nodiscard]] int avi_store_item(FIOFUNCSTRUCT* file, const _avi_item_t* item);
 /** The same at CURSOR's position, where it is left behind the item. A large item goes to the file in several
-    commits, in its order. */
+   commits, in its order. */
 [[nodiscard]] int avi_store_item(WriteCursor* cursor, const _avi_item_t* item);
 
 /** Inserts a copy of ITEM, whose contents then belong to the tree, in front of the child INDEX; an INDEX
@@ -75,7 +76,7 @@ int avi_remove_tag(_avi_item_t* parent, std::uint32_t fourcc);
 [[nodiscard]] std::int32_t avi_get_item_index(const _avi_item_t* parent, const _avi_item_t* child);
 
 /** Moves a child so that its index is INDEX, or the last one when INDEX is larger; the others keep their
-   order. Returns 1, or 0 when CHILD is no child of PARENT. */
+   order. Returns 1, or 0 when CHILD is no child of PARENT. Nothing in the program calls it. */
 int avi_move_item(_avi_item_t* parent, _avi_item_t* child, std::uint32_t index);
 
 /** Frees what the item owns, children recursively, and zeroes it. The record itself belongs to its holder. */

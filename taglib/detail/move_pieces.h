@@ -9,15 +9,15 @@ namespace velmora {
 inline constexpr std::int64_t small_move_piece = 65536;
 
 /** The next piece of a move of which REMAINING bytes are left: 65,536 bytes when the low 32 bits of REMAINING
-    are at most that, otherwise all of them. So a remainder below 65,536 bytes is taken with its neighbours.
+   are at most that, otherwise all of them. So a remainder below 65,536 bytes is taken with its neighbours.
  */
 [[nodiscard]] constexpr std::int64_t move_piece_size(std::int64_t remaining) {
     return static_cast<std::uint32_t>(remaining) <= small_move_piece ? small_move_piece : remaining;
 }
 
 /** Moves SIZE bytes from FROM to TO by MOVE(from, to, size) of one piece after the other, as long as that
-    gives true: towards the end of the file from the back, otherwise from the front. Returns whether exactly
-    SIZE bytes were moved. */
+   gives true: towards the end of the file from the back, otherwise from the front. Returns whether exactly
+   SIZE bytes were moved. */
 template <typename Move>
 [[nodiscard]] bool move_in_pieces(std::int64_t from, std::int64_t to, std::int64_t size, Move move) {
     const bool from_the_back = from < to;

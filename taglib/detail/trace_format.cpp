@@ -153,7 +153,7 @@ std::size_t put_utf8(char* to, std::uint32_t c) {
 }
 
 /** UTF-8 of the zero-terminated UTF-16LE text, up to and including the character that fills a message; its
-    length is returned. */
+   length is returned. */
 std::size_t utf8_from_utf16le(const void* utf16, char (&text)[message_capacity + 4]) {
     const auto* at = static_cast<const unsigned char*>(utf16);
     std::size_t length = 0;

@@ -14,8 +14,8 @@ struct FormatArguments {
     va_list list;
 };
 
-/* Each puts into TO as much of its text as ROOM bytes hold beside a terminator, which it leaves out, and returns
-   how many bytes these are. */
+/* Each puts into TO as much of its text as ROOM bytes hold beside a terminator, which it leaves out, and
+   returns how many bytes these are. */
 [[nodiscard]] std::size_t put_decimal(char* to, std::size_t room, std::int64_t number);
 [[nodiscard]] std::size_t put_hex(char* to, std::size_t room, std::uint64_t number);
 /** Of UTF-16LE text up to its first zero unit, as UTF-8; null is no text. */
@@ -25,7 +25,8 @@ struct FormatArguments {
 
 /** For a message whose conversions, up to where it is full, are all among %x, %d, %s, %S, %I64x and %I64d,
    without flags: what nearly every one is, and many times as fast as the general way. Uses ARGUMENTS up and
-   sets LENGTH to the message's. False for any other format; MESSAGE then holds what precedes the conversion. */
+   sets LENGTH to the message's. False for any other format; MESSAGE then holds what precedes the conversion.
+   */
 [[nodiscard]] bool format_plainly(char* message, const char* format, FormatArguments& arguments,
                                   std::size_t* length);
 

@@ -15,9 +15,9 @@ namespace velmora {
 /** Writes the message of LENGTH bytes and room for its terminator that was put there. errno stays. */
 void write_message(char* message, std::size_t length);
 
-/** A message that is put together piece by piece, in the time that its bytes take, and written when the object
-    goes: for what is traced of every small thing of a file, of which there can be millions. What does not fit
-    into message_capacity is cut off. Nothing else may be traced while an object lives. */
+/** A message that is put together piece by piece, in the time that its bytes take, and written when the
+   object goes: for what is traced of every small thing of a file, of which there can be millions. What does
+   not fit into message_capacity is cut off. Nothing else may be traced while an object lives. */
 class TraceLine {
 public:
     TraceLine() : begin_(place_for_message(own_)), end_(begin_) {}

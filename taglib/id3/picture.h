@@ -4,8 +4,7 @@
 #include "descriptor.h"
 #include "image_seam/image.h"
 
-/** Cover art in APIC frames and in album-art files. The body of an APIC frame: text encoding, MIME type with
-   its zero byte, picture type, description with its zero byte, then the encoded picture. */
+/** Cover art in APIC frames and in album art files (docs/id3.md, "Pictures"). */
 namespace velmora {
 
 /** The image in an APIC frame, owned by the caller. Null, with the reason logged, for an empty frame, a text

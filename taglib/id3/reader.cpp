@@ -112,7 +112,7 @@ private:
     ReadCursor cursor_;
     _id3_file_desc_t* descriptor_;
     /** Counted from the end of the tag's header: behind the last frame, or behind the header of one whose
-        body is bad. */
+       body is bad. */
     std::uint32_t position_ = 0;
     bool failed_ = false;
 };

@@ -13,14 +13,14 @@ namespace velmora {
 inline constexpr std::uint32_t id3_largest_tag = 0x40000;
 
 /** The file offset of a tag's header (0 is one), or -1. Logs only what can't be read, and a footer that
-   points in front of the file. */
+   points in front of the file. The program calls the one for a window alone. */
 [[nodiscard]] std::int64_t id3_is_present_v2(FIOFUNCSTRUCT* file, bool at_end);
 [[nodiscard]] std::int64_t id3_is_present_v2(ReadWindow& window, bool at_end);
 
 /** Reads a tag into the zeroed DESCRIPTOR. Returns the file offset of its header (0 is one), or -1, with
    DESCRIPTOR still zeroed and the reason logged (but for a file that just has no footer). A bad frame ends
    the reading but does not fail it: the frames in front of it are kept, and what follows the bad frame's
-   header counts as padding. The caller frees DESCRIPTOR. */
+   header counts as padding. The caller frees DESCRIPTOR. Nothing in the program calls it. */
 [[nodiscard]] std::int64_t id3_load_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor,
                                                   bool at_end);
 
@@ -28,7 +28,7 @@ inline constexpr std::uint32_t id3_largest_tag = 0x40000;
 struct Id3TagReading {
     std::int64_t offset = -1; ///< as id3_load_descriptor_v2 returns it
     /** Whether the file may hold a tag or frames that were not read: a call failed or gave fewer bytes than
-        the file has, or memory ran out. A tag rewritten from such a reading would lose them. */
+       the file has, or memory ran out. A tag rewritten from such a reading would lose them. */
     bool failed = false;
 };
 

@@ -3,7 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
-/** The ten-byte records that an ID3v2 tag is made of in a file. */
+/** The ten-byte records that an ID3v2 tag is made of in a file (docs/id3.md, "Header and footer" and
+   "Frames"). */
 namespace velmora {
 
 inline constexpr std::uint8_t id3_newest_version = 4;

@@ -4,13 +4,7 @@
 
 #include <cstddef>
 
-/** The time text of the TDRC frame: "%d-%d-%dT:%d:%d:%d+%d:%d", that is year, month, day, hour, minute,
-   second, zone hours and zone minutes, with a colon behind the "T".
-
-    Year and month are those of the broken-down time as they stand: years since 1900 and months from 0. The
-   text of a moment in June 2008 begins "108-05-". The reader takes the numbers in the same way, but refuses a
-   year below 1900, and so reads a calendar year as one 1900 years later. Seconds since 1970 have 32 bits, so
-   what such a year gives is cut to them. */
+/** The time text of the TDRC frame (docs/id3.md, "Time text"). */
 namespace velmora {
 
 /** Reads TEXT as local time; the zone is not used. Returns 1; 0, with TIME left alone, when fewer than six

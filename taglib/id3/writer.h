@@ -12,8 +12,8 @@ namespace velmora {
    the written tag. Returns 1, with the position behind the tag; 0 with what was written so far left in the
    file, logged when it was a write that failed (a seek over the padding fails silently). */
 [[nodiscard]] int id3_store_descriptor_v2(FIOFUNCSTRUCT* file, _id3_file_desc_t* descriptor);
-/** Writes the tag as id3_store_descriptor_v2 does, but at POSITION, in bytes from the start of the file. False
-   where that returns 0. */
+/** Writes the tag as id3_store_descriptor_v2 does, but at POSITION, in bytes from the start of the file.
+   False where that returns 0. */
 [[nodiscard]] bool id3_store_descriptor_at(FIOFUNCSTRUCT* file, std::int64_t position,
                                            _id3_file_desc_t* descriptor);
 

@@ -11,10 +11,10 @@ namespace velmora {
 inline constexpr int log_patience = 100;
 
 /** Calls WRITE, which writes a text to standard error and returns whether that went well, with errno where it
-    did not. When standard error is full, and is one that does not wait (O_NONBLOCK), its reader is given a
-    moment, and WRITE is called once more if there is room by then. A reader that took nothing in that moment
-    is not waited for again before a text got through: what nobody reads is lost, and nobody waits for it. May
-    be called from any thread. */
+   did not. When standard error is full, and is one that does not wait (O_NONBLOCK), its reader is given a
+   moment, and WRITE is called once more if there is room by then. A reader that took nothing in that moment
+   is not waited for again before a text got through: what nobody reads is lost, and nobody waits for it. May
+   be called from any thread. */
 template <typename Write>
 void write_patiently(Write write) {
     static std::atomic<bool> reader_stopped = false;

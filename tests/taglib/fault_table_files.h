@@ -6,11 +6,11 @@
 #include <vector>
 
 /** Files for the fault table, put together without the code under test: each with every field that its format
-    has, so that what a store of a title and a picture may change of them is known to the byte. */
+   has, so that what a store of a title and a picture may change of them is known to the byte. */
 namespace velmora::test {
 
 /** What a tag holds, in the file's order: each field's name in the format and its raw bytes. Fields that the
-    library does not know are among them. */
+   library does not know are among them. */
 using TagFields = std::vector<std::pair<std::string, std::string>>;
 
 /** A file, and where the parts of it are that no store may lose. */
@@ -40,7 +40,7 @@ struct MediaSample {
 [[nodiscard]] MediaSample id3_side_file_sample();
 
 /** An ASF file with a data object of SIZE bytes, whose header ends with PADDING bytes of padding; 0: with
-    another object. ALBUM is the text of WM/AlbumTitle. */
+   another object. ALBUM is the text of WM/AlbumTitle. */
 [[nodiscard]] MediaSample asf_sample(std::size_t size, std::size_t padding, const std::string& album);
 
 /** Where the INFO list of an AVI file is. */

@@ -115,7 +115,7 @@ void add_attributes(const std::string& body, TagFields* fields) {
 }
 
 /** Walks the header object's children, each of which SEE gets with its first GUID byte. The header's size, or
-    nothing where they do not add up to it. */
+   nothing where they do not add up to it. */
 template <typename See>
 std::optional<std::uint64_t> walk_asf_header(std::string_view bytes, See see) {
     Taker header(bytes);

@@ -347,7 +347,7 @@ bool media_survives_a_kill(const Operation& operation, const Outcome& outcome, c
 
 /** Whether a failure that came of FAULT says why: in the log, or by errno, which is 5 for a header that can't
    be read and else the system's own number. A header object that is not written whole is told by the result
-    alone. */
+   alone. */
 bool failure_is_explained(const Outcome& outcome, const Fault& fault) {
     static const char* const endings[] = {
         "id3_store_file_info: couldn't read old descriptor\n",

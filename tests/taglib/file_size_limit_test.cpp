@@ -12,7 +12,7 @@
 #include <unistd.h>
 
 /** A store by a process that may not let a file grow as far as the tag needs. The program ignores the signal
-    that the system sends then, as these processes do. */
+   that the system sends then, as these processes do. */
 namespace velmora::test {
 namespace {
 

@@ -82,7 +82,7 @@ std::string asf_of(const std::string& child) {
 }
 
 /** An extended content description of COUNT times DESCRIPTOR. (The first one of a file, which has 65,535 at
-    most, becomes records: up to 8 MiB, whatever the file's size.) */
+   most, becomes records: up to 8 MiB, whatever the file's size.) */
 std::string ecd_of(std::size_t count, const std::string& descriptor) {
     return asf_object(ecd_guid, le(count, 2) + repeated(descriptor, count * descriptor.size()));
 }

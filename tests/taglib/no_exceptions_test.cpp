@@ -20,7 +20,7 @@ constexpr std::string_view picture_bytes = "\xFF\xD8\xFFpicture";
 class NoExceptions : public testing::Test {
 protected:
     /** Calls RUN once for each request that it makes, with that request failing, on a file of these BYTES;
-        CHECK is told what it returned. Fails the test when there is no request. */
+       CHECK is told what it returned. Fails the test when there is no request. */
     template <typename Check>
     void run_without_memory(const std::string& bytes, const std::function<int()>& run, Check check) {
         bool refused = true;

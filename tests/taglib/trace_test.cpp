@@ -1,7 +1,7 @@
 #include "support/bytes.h"
 #include "support/stream_capture.h"
-#include "taglib/trace.h"
 #include "taglib/detail/trace_line.h"
+#include "taglib/trace.h"
 
 #include <gtest/gtest.h>
 

@@ -8,7 +8,7 @@
 #include <cstdint>
 
 /** The readers of a header's objects, on a cursor over the file. Each is what the public function of its name
-    is for a file's position: it begins at CURSOR's position and ends where that says that the file is left.
+   is for a file's position: it begins at CURSOR's position and ends where that says that the file is left.
  */
 namespace velmora {
 
@@ -19,7 +19,7 @@ _asf_object_t* asf_read_padding_object(ReadCursor* cursor, _asf_object_t* object
 _asf_content_description_t* asf_read_content_description(ReadCursor* cursor, _asf_content_description_t* cd);
 
 /** For one that nobody will edit: a record whose strings lie in its own block. Memory for it is asked for
-    only when it is known how long they are. */
+   only when it is known how long they are. */
 _asf_content_description_t* asf_read_fixed_content_description(ReadCursor* cursor);
 
 /** Whether descriptors become records or stay as they lie in the file. */
@@ -29,7 +29,7 @@ _asf_ext_content_description_t* asf_read_ext_content_description(ReadCursor* cur
                                                                  _asf_ext_content_description_t* ecd);
 
 /** Null also for a descriptor that does not end in front of the cursor's end: nothing is allocated for a name
-    or value that would run past it. */
+   or value that would run past it. */
 _asf_content_descriptor_t* asf_read_content_descriptor(ReadCursor* cursor,
                                                        _asf_content_descriptor_t* descriptor);
 
@@ -37,7 +37,7 @@ _asf_content_descriptor_t* asf_read_content_descriptor(ReadCursor* cursor,
 _asf_header_object_t* asf_read_header_object(ReadCursor* cursor, _asf_header_object_t* header);
 
 /** Reads LENGTH BYTES, which must lie in front of CURSOR's end, and goes on behind them; what lies behind the
-    end of the file is zero. False when they don't lie there or can't be read. */
+   end of the file is zero. False when they don't lie there or can't be read. */
 [[nodiscard]] bool asf_read_zero_padded(ReadCursor* cursor, void* bytes, std::size_t length);
 
 /** START + SIZE as a file position, or -1 where that is none. */

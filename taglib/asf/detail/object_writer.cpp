@@ -152,8 +152,8 @@ bool AsfObjectWriter::settle() {
     return fio_lseek(file_, position(), SEEK_SET) == position();
 }
 
-/** Whether the last commit stopped in a field behind which others of the same object are tried, so that they tell
-    why: every one but the last, unless it is the GUID, without which nothing is tried. */
+/** Whether the last commit stopped in a field behind which others of the same object are tried, so that they
+   tell why: every one but the last, unless it is the GUID, without which nothing is tried. */
 bool AsfObjectWriter::fields_follow(bool list_goes_on) const {
     const std::uint64_t stopped_in = cursor_.fields_written();
     std::size_t i = 0;

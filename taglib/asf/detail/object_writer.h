@@ -11,9 +11,9 @@
 namespace velmora {
 
 /** Writes the objects of a header one behind the other, and traces them as if each field were written by
-    itself: positions, and where the lines stop, are those of such a run also where a write fails.
+   itself: positions, and where the lines stop, are those of such a run also where a write fails.
 
-    reserve() comes first. After it the objects are gathered and written in large pieces, a usual header in
+   reserve() comes first. After it the objects are gathered and written in large pieces, a usual header in
    one call of the system; no memory is asked for any more. What was put must stay as it is until finish(). */
 class AsfObjectWriter {
 public:
@@ -34,8 +34,8 @@ public:
     /** An object that is kept as it is in the file. */
     void put_block(const _asf_object_t& object);
 
-    /** Writes what is left. False when not every byte of all that was put was written; where that was before the
-        end, the objects behind it were not begun. */
+    /** Writes what is left. False when not every byte of all that was put was written; where that was before
+       the end, the objects behind it were not begun. */
     bool finish();
 
     /** Whether the GUID of the first object was written whole. */

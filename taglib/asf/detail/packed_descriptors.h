@@ -4,7 +4,7 @@
 #include "taglib/read_cursor.h"
 
 /** Descriptors as they lie in a file, one behind the other in one block: a file may hold millions of empty
-    ones, each of which would take ten times its size as a record. */
+   ones, each of which would take ten times its size as a record. */
 namespace velmora {
 
 /** Walks over the packed descriptors of an object. */
@@ -25,12 +25,12 @@ private:
 };
 
 /** Reads and traces COUNT descriptors into ECD, which has none. False when one does not end in front of
-    CURSOR's end, memory is exhausted or the disk fails; ECD then holds what is to be freed. */
+   CURSOR's end, memory is exhausted or the disk fails; ECD then holds what is to be freed. */
 [[nodiscard]] bool asf_read_packed_descriptors(ReadCursor* cursor, _asf_ext_content_description_t* ecd,
                                                std::uint16_t count);
 
 /** Turns the packed descriptors, if ECD has such, into records. False, with ECD as it was, when memory is
-    exhausted. */
+   exhausted. */
 [[nodiscard]] bool asf_unpack_descriptors(_asf_ext_content_description_t* ecd);
 
 } // namespace velmora

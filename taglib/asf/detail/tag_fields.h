@@ -7,7 +7,7 @@
 #include <array>
 
 /** Which attribute of the Extended Content Description, and which string of the Content Description, carries
-    which field of the tag record. */
+   which field of the tag record (docs/asf.md, "Fields"). */
 namespace velmora {
 
 enum class AsfFieldKind { text, year, time, picture };

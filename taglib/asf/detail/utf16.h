@@ -4,25 +4,25 @@
 #include <cstdint>
 
 /** The one place where the UTF-16LE text of an ASF file meets the UTF-8 text of the tag record. Two
-    process-wide converters stand behind it, so it is used on one thread only. */
+   process-wide converters stand behind it, so it is used on one thread only. */
 namespace velmora {
 
-/** Bytes in front of the first zero unit of a text of LENGTH bytes (a last odd byte is no unit): an even *
-    number. */
+/** Bytes in front of the first zero unit of a text of LENGTH bytes (a last odd byte is no unit): an even
+   number. */
 [[nodiscard]] std::size_t utf16le_length(const void* text, std::size_t length);
 
 /** Converts the units in front of the first zero unit of SOURCE, at most LENGTH bytes of it, into TARGET,
-    at most CAPACITY bytes. Stops at the first unpaired surrogate and at the first character that no longer
-    fits whole; what was converted until then stays. No terminator is written: callers zero TARGET
-    beforehand. */
+   at most CAPACITY bytes. Stops at the first unpaired surrogate and at the first character that no longer
+   fits whole; what was converted until then stays. No terminator is written: callers zero TARGET
+   beforehand. */
 void utf16le_to_utf8(const void* source, std::size_t length, char* target, std::size_t capacity);
 
 /** Converts zero-terminated UTF-8 text under the same rules; it stops at the first invalid byte. CAPACITY
-    in * bytes. */
+   in bytes. */
 void utf8_to_utf16le(const char* source, void* target, std::size_t capacity);
 
 /** A text of a file, which may lack its terminator, in the form that "%S" of DebugInfo takes: as much of it
-    as a message can hold, terminated. */
+   as a message can hold, terminated. */
 class Utf16TraceText {
 public:
     /** TEXT may be null. */

@@ -61,7 +61,7 @@ constexpr std::size_t largest_small_block = 1024;
 Slab* open_slab = nullptr; ///< the one that takes blocks
 
 /** A block of SIZE bytes in a slab, PREFIX bytes behind an address of this ALIGNMENT; null when memory runs
-    out. */
+   out. */
 std::uint8_t* new_small_block(std::size_t prefix, std::size_t size, std::size_t alignment) {
     const auto aligned = [alignment](std::size_t at) { return (at + alignment - 1) / alignment * alignment; };
     std::size_t at = open_slab ? aligned(open_slab->used) : slab_size;

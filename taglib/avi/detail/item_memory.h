@@ -4,7 +4,7 @@
 
 /** Where an item's children and data bytes lie. A file may consist of millions of chunks without contents,
    and what is kept of it must stay in proportion: small blocks lie side by side in slabs, and what a block is
-    stands in the bytes in front of it. */
+   stands in the bytes in front of it. */
 namespace velmora {
 
 /** SIZE zeroed bytes for an item's `data`; not null for 0 bytes. Null when memory runs out. */

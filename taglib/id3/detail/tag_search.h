@@ -24,9 +24,9 @@ struct Id3TagPlace {
     bool failed = false;      ///< what can't be read may hold a tag: the file goes on there
 };
 
-/** Looks for a tag: AT_END through its footer in the file's last ten bytes, else at offset 0. The header's
-   version is not looked at, the footer's may be up to NEWEST_FOOTER. Reads ahead as far as the tag goes, or
-   one window where that isn't known yet. */
+/** Looks for a tag (docs/id3.md, "Where a tag is"): AT_END through its footer in the file's last ten bytes,
+   else at offset 0. The header's version is not looked at, the footer's may be up to NEWEST_FOOTER. Reads
+   ahead as far as the tag goes, or one window where that isn't known yet. */
 [[nodiscard]] Id3TagPlace id3_find_tag(ReadWindow& window, bool at_end, std::uint8_t newest_footer);
 
 /** Logs FINDING under the name of the public FUNCTION. A tag, and the mere lack of a footer, are not worth a

@@ -64,7 +64,7 @@ inline constexpr std::string_view other_name = "{8cabdca1-a947-11cf-8ee4-00c00c2
                                                 std::initializer_list<std::string> children);
 
 /** A file of its own with these bytes, open for reading and writing at its start; closed and removed with
-    the * object. */
+   the object. */
 class OpenBytes {
 public:
     explicit OpenBytes(std::string_view bytes);

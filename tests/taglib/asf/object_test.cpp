@@ -3,8 +3,8 @@
 #include "asf_bytes.h"
 #include "support/bytes.h"
 #include "support/stream_capture.h"
-#include "taglib/asf/guids.h"
 #include "taglib/asf/detail/owned.h"
+#include "taglib/asf/guids.h"
 
 #include <gtest/gtest.h>
 

@@ -16,7 +16,7 @@
 #include <sstream>
 
 /** Songs and films made by ffmpeg. What is stored is read back by ffprobe, TagLib and mutagen, what mutagen
-    stored is loaded, and the media decodes as before. */
+   stored is loaded, and the media decodes as before. */
 namespace velmora {
 namespace {
 

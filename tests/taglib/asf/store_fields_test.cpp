@@ -37,7 +37,7 @@ protected:
     }
 
     /** The header now has this content description, these attributes, and a padding that fills the old size
-     * up.
+       up.
      */
     void expect(const std::string& cd, std::initializer_list<std::string> descriptors) {
         const std::string children = other_object() + cd + ext_content_description(descriptors);

@@ -20,7 +20,7 @@ namespace {
 using namespace test;
 
 /** Where a store puts what: header, padding and media data. The field that changes is the genre, in an
-    object of attributes that has only "WM/Genre". */
+   object of attributes that has only "WM/Genre". */
 class AsfStoreLayout : public testing::Test {
 protected:
     /** Stores GENRE, or removes it when that is empty, in a file of these bytes. */

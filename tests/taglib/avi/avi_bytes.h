@@ -7,7 +7,7 @@
 #include <string_view>
 
 /** The pieces that the AVI tests' files are written out with. Every size field stands in the tests as a
- * number. */
+   number. */
 namespace velmora::test {
 
 /** Four bytes, low byte first. */
@@ -40,7 +40,7 @@ namespace velmora::test {
 [[nodiscard]] std::string avi_with_info_last();
 
 /** 113,594 bytes with the chunks and sizes of an encoder's file: hdrl at 12, JUNK at 4480 and 4514, movi at
-    5538, idx1 at 105550, INFO (old_info) at 113558. */
+   5538, idx1 at 105550, INFO (old_info) at 113558. */
 [[nodiscard]] std::string avi_film_with_info_last();
 
 /** What reading the header of the three files logs. */

@@ -57,7 +57,7 @@ protected:
     }
 
     /** A new file each time: some file systems write a truncated one out to disk at once, which takes its
-     * time. */
+       time. */
     void restore() {
         std::remove(path_.c_str());
         write_file(path_, GetParam().bytes);

@@ -18,7 +18,7 @@
 using namespace std::string_literals;
 
 /** Files that lie: whatever they claim, the result is one of the documented ones and costs what the file is
- * worth. */
+   worth. */
 namespace velmora::test {
 namespace {
 
@@ -62,7 +62,7 @@ protected:
     }
 
     /** A new file each time: some file systems write a truncated one out to disk at once, which takes its
-     * time. */
+       time. */
     void write_anew(const std::string& bytes) {
         std::remove(path_.c_str());
         write_file(path_, bytes);

@@ -74,7 +74,7 @@ void expect_documented(const FaultyStore& store, const Expected& expected, const
 }
 
 /** Runs a store into CONTENTS once for each call that it makes, with that call failing, and hands each to
- * CHECK. */
+   CHECK. */
 template <typename Check>
 void run_with_each_call_failing(const std::string& contents, const std::vector<Expected>& expected,
                                 Check check) {
@@ -105,7 +105,7 @@ struct RefusedField {
 };
 
 /** Runs a store into CONTENTS for each byte of FIELDS, with CALLs of that kind refused there, by each way of
-    refusing; each fails as documented. CHECK is handed each. */
+   refusing; each fails as documented. CHECK is handed each. */
 template <typename Check>
 void run_with_each_byte_refused(const std::string& contents, SystemCall call,
                                 const std::vector<RefusedField>& fields, Check check) {
