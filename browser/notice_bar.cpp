@@ -1,7 +1,6 @@
 #include "notice_bar.h"
 
 #include "platform/accessibility.h"
-#include "platform/elided_label.h"
 #include "platform/localisation.h"
 #include "platform/symbol.h"
 
@@ -30,10 +29,15 @@ QLabel* newSign(Notice::Kind kind, QWidget& bar) {
 }
 
 QLabel* newText(const QString& text) {
-    auto* const label = new ElidedLabel;
+    auto* const label = new QLabel(text);
     label->setObjectName(QStringLiteral("lbl_notice"));
-    label->setText(text);
+    label->setTextFormat(Qt::PlainText);
     label->setToolTip(text);
+    // One line where there is room for it. In a small window a second one is better than a reason that nobody sees.
+    label->setWordWrap(true);
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    label->setSizePolicy(policy);
     return label;
 }
 

@@ -23,7 +23,7 @@ struct Notice {
     };
 
     Kind kind = Kind::Information;
-    QString text;                       ///< one line, plain
+    QString text;                       ///< plain; one line in a window that is not small
     QList<Action> actions;              ///< two at most
     std::chrono::milliseconds shown{0}; ///< how long; 0: until it is closed or another takes its place
 };

@@ -18,6 +18,14 @@ QString asSentence(const QString& text) {
     return text + QLatin1Char('.');
 }
 
+/** NAME, or its beginning and end where it is long. */
+QString shortened(const QString& name) {
+    constexpr qsizetype longest = 40;
+    constexpr qsizetype ending = 15;
+    return name.size() <= longest ? name
+                                  : name.first(longest - ending - 1) + QChar(0x2026) + name.last(ending);
+}
+
 QString together(const QString& first, const QString& second) {
     return first + QLatin1Char(' ') + second;
 }
@@ -37,7 +45,7 @@ PortableNotices::~PortableNotices() {
 
 QString PortableNotices::fileName() const {
     const MediaFile* const file = document_.mediaFile();
-    return file ? lastPathComponent(file->filename()) : QString();
+    return file ? shortened(lastPathComponent(file->filename())) : QString();
 }
 
 void PortableNotices::fileClosed() {

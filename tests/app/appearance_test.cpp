@@ -87,6 +87,33 @@ TEST_F(AppearanceTest, EveryControlOfTheFormIsVisibleOnASmallScreen) {
     }
 }
 
+class NoticeAppearanceTest : public AppearanceTest,
+                             public testing::WithParamInterface<std::tuple<QSize, bool>> {};
+
+TEST_P(NoticeAppearanceTest, NoticeIsReadWhole) {
+    const auto [size, isDark] = GetParam();
+    QApplication::setPalette(isDark ? darkPalette() : palette_);
+    document().window()->resize(size);
+    addFile("A song.mp3", test::fileTaggedInFront());
+    select(0);
+    type("entry_title", "Evening");
+    button("btn_saveTag").click();
+    test::settle();
+
+    const auto& label = widget<QLabel>("lbl_notice");
+    EXPECT_GE(label.height(), label.heightForWidth(label.width()));
+    EXPECT_EQ(size.width() > 1024,
+              label.heightForWidth(label.width()) < 2 * label.fontMetrics().lineSpacing())
+        << "one line if there is room";
+    EXPECT_EQ(QStringList(), cutTexts());
+    EXPECT_EQ(size, document().window()->size());
+    (void)picture(QStringLiteral("notice-%1-%2").arg(size.width()).arg(isDark ? "dark" : "light"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, NoticeAppearanceTest,
+                         testing::Combine(testing::Values(QSize(1024, 700), QSize(1280, 800)),
+                                          testing::Bool()));
+
 TEST_F(AppearanceTest, DarkPaletteIsFollowed) {
     showFilm(darkPalette());
     const QImage image = picture("window-dark");

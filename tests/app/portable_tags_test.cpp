@@ -269,6 +269,16 @@ TEST_F(PortableTagsTest, AreOfferedWhenASaveInPlaceFails) {
     EXPECT_TRUE(document().isDocumentEdited());
 }
 
+TEST_F(PortableTagsTest, AreOfferedWithoutAllOfALongName) {
+    open(std::string(200, 'x') + ".mp3", songTaggedInFront());
+    type("entry_title", "Evening");
+    press("btn_saveTag");
+
+    EXPECT_EQ("\"" + QString(24, 'x') + QChar(0x2026) + QString(11, 'x') +
+                  ".mp3\" was not saved. Its tag can't be changed in place.",
+              notice());
+}
+
 TEST_F(PortableTagsTest, AreSavedOnceWhereASaveInPlaceFailed) {
     failToSave();
     press("btn_noticeFirst");
