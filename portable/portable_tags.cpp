@@ -118,6 +118,15 @@ std::uint64_t copied_bytes(const Rewrite& rewrite) {
     return sum;
 }
 
+/** Whether nothing is left of the file. */
+bool leaves_nothing(const Rewrite& rewrite) {
+    const auto is_empty = [](const Segment& segment) {
+        const auto* const range = std::get_if<Range>(&segment);
+        return range ? range->size() == 0 : std::get<0>(segment).empty();
+    };
+    return !rewrite.finish && std::all_of(rewrite.segments.begin(), rewrite.segments.end(), is_empty);
+}
+
 /** Replaces the file by the one that MAKE says, when VERIFY finds in it what it should. */
 template <typename Make, typename Verify>
 void replace(const std::string& path, const MediaKind& kind, const SaveOptions& options, SaveOutcome& outcome,
@@ -131,7 +140,9 @@ void replace(const std::string& path, const MediaKind& kind, const SaveOptions& 
         outcome.result = SaveResult::unchanged;
         return;
     }
-    if (!options.dry_run) {
+    if (!options.dry_run && kind.container == Container::side_file && leaves_nothing(rewrite)) {
+        outcome.warning = file.remove(); // it held a tag, and nothing else
+    } else if (!options.dry_run) {
         progress.set_total(copied_bytes(rewrite) + verified_bytes(*old));
         file.fill(rewrite, progress);
         const std::unique_ptr<TaggedFile> made =

@@ -59,15 +59,23 @@ NewFile::NewFile(int folder) : folder_(folder) {
     if (!open_without_name()) {
         open_hidden();
     }
-    // A file system without locks has no one else's to respect.
-    static_cast<void>(::flock(file_.descriptor, LOCK_EX | LOCK_NB));
 }
 
 NewFile::~NewFile() {
     const int error = errno;
     remove_name();
-    ::close(file_.descriptor);
+    if (file_.descriptor >= 0) {
+        ::close(file_.descriptor);
+    }
     errno = error;
+}
+
+/** Returns whether the file is this process's own: another one, which cleans up, may have been faster. A file system
+    without locks has none of others to respect. */
+bool NewFile::lock() {
+    const bool taken = ::flock(file_.descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    struct stat status {};
+    return !taken && (::fstat(file_.descriptor, &status) != 0 || status.st_nlink > 0);
 }
 
 bool NewFile::open_without_name() {
@@ -78,6 +86,10 @@ bool NewFile::open_without_name() {
         ::close(file_.descriptor);
         file_.descriptor = -1;
     }
+    if (file_.descriptor >= 0) {
+        // Nobody else can see it before it is named; from then on it is locked.
+        static_cast<void>(::flock(file_.descriptor, LOCK_EX | LOCK_NB));
+    }
     return file_.descriptor >= 0;
 }
 
@@ -87,11 +99,14 @@ void NewFile::open_hidden() {
         file_.descriptor = uninterrupted([&] {
             return ::openat(folder_, name.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, owner_alone);
         });
-        if (file_.descriptor >= 0) {
+        if (file_.descriptor >= 0 && lock()) {
             hidden_name_ = name;
             return;
         }
-        if (errno != EEXIST) {
+        if (file_.descriptor >= 0) {
+            ::close(file_.descriptor);
+            file_.descriptor = -1;
+        } else if (errno != EEXIST) {
             break;
         }
     }

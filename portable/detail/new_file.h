@@ -26,6 +26,7 @@ public:
 private:
     [[nodiscard]] bool open_without_name();
     void open_hidden();
+    [[nodiscard]] bool lock();
     void link_hidden();
     void remove_name();
 

@@ -150,6 +150,18 @@ std::optional<Reason> Replacement::take_place() {
         check_unchanged();
     }
     new_file_->take_place(name_, exists_);
+    return sync_folder();
+}
+
+std::optional<Reason> Replacement::remove() {
+    check_unchanged();
+    if (::unlinkat(folder_.handle()->descriptor, name_.c_str(), 0) != 0) {
+        throw system_refusal();
+    }
+    return sync_folder();
+}
+
+std::optional<Reason> Replacement::sync_folder() {
     if (uninterrupted([&] { return ::fsync(folder_.handle()->descriptor); }) != 0) {
         return Reason{ReasonCode::folder_not_synced, errno, {}};
     }

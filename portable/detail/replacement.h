@@ -35,7 +35,11 @@ public:
         done, and yet not known to be on the disk. */
     [[nodiscard]] std::optional<Reason> take_place();
 
+    /** Removes the file instead, when it is still what was opened. Returns a warning as take_place() does. */
+    [[nodiscard]] std::optional<Reason> remove();
+
 private:
+    [[nodiscard]] std::optional<Reason> sync_folder();
     void open_folder(const std::string& path);
     void open_original(bool break_links, bool may_be_missing);
     void check_unchanged();

@@ -239,6 +239,9 @@ TEST_F(TagAtTheEnd, OfADiscIsAFileBesideIt) {
     EXPECT_STREQ("Harbour", info.title);
     id3_free_file_info(&info);
     EXPECT_EQ("Harbour", read_tags(disc).values.text(Field::title));
+    ASSERT_EQ(SaveResult::saved, remove_tags(disc).result);
+    EXPECT_FALSE(test::file_exists(folder_ / "film.TAG"));
+    EXPECT_EQ(SaveResult::unchanged, remove_tags(disc).result);
 }
 
 } // namespace
