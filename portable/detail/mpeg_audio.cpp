@@ -61,6 +61,9 @@ private:
 MpegAudioFile::MpegAudioFile(FIOFUNCSTRUCT* file, std::uint64_t size, Media media)
     : window_(file, 0), size_(size), media_(media), media_range_{0, size} {
     read_front();
+    // What may stand at the end is looked for in one read.
+    constexpr std::uint64_t end_size = 512;
+    window_.look_ahead(size_ - std::min(media_range_.size(), end_size), size_);
     read_appended();
     // Each only once, in the order in which they are found from the end on.
     while (read_id3v1() || read_ape() || read_lyrics()) {
