@@ -14,7 +14,7 @@ bool MyDocument::savePortably(bool breakLinks) {
         return false;
     }
     if (form_) {
-        form_->storeFilledFields();
+        form_->storeShownValues();
     }
     const PortableSaveResult result = saveRun_.run(
         mediaFile_->portableSave(breakLinks), lastPathComponent(mediaFile_->filename()), windowForSheet());

@@ -112,7 +112,7 @@ void VelmoraController::showOpenError(const Error& error) {
 void VelmoraController::fillFields(const FormFillInfo* info) {
     form_.fillFields(info);
     if (document_.portableTags()) {
-        form_.storeFilledFields();
+        form_.storeShownValues();
     }
 }
 

@@ -18,6 +18,7 @@
 #include "weblookup/form_fill_info.h"
 
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStringListModel>
 
@@ -75,6 +76,11 @@ void TagForm::setUpFields() {
     ui_->picker_dateTime->setDateTime(ui_->picker_dateTime->minimumDateTime());
     connect(ui_->entry_desc, &QPlainTextEdit::textChanged, this, [this] { textDidChange(ui_->entry_desc); });
     connect(ui_->img_coverArt, &CoverArtView::coverArtImageChanged, this, &TagForm::coverArtImageChanged);
+    connect(ui_->img_coverArt, &CoverArtView::imageChanged, this, [this] {
+        if (document_.portableTags() && !showing_) {
+            storeShownCover();
+        }
+    });
     connect(ui_->img_coverArt, &CoverArtView::shownImageChanged, this,
             [this] { ui_->box_preview->setCover(ui_->img_coverArt->shownImage()); });
     // What nobody sees nobody trims.
@@ -142,6 +148,7 @@ void TagForm::clearFields() {
 }
 
 void TagForm::clearCoverArt() {
+    const QScopedValueRollback<bool> showing(showing_, true);
     ui_->img_coverArt->setImage(QImage());
 }
 
@@ -192,6 +199,7 @@ void TagForm::showCaptions(const MediaFile& media) {
 }
 
 void TagForm::showCoverArt(const MediaFile& media) {
+    const QScopedValueRollback<bool> showing(showing_, true);
     if (media.coverArt()) {
         ui_->img_coverArt->setCover(media.coverArt());
     } else if (!document_.portableTags()) {

@@ -50,9 +50,9 @@ public:
        fields do when the person next types in them. Null changes nothing. */
     void fillFields(const FormFillInfo* info);
 
-    /** Brings the fields that a web lookup filled, and nobody has typed in since, into the open file: for saves that
-       write all that the form shows. */
-    void storeFilledFields();
+    /** Brings what the form shows and the open file does not have yet into it, for saves that write all of that: the
+       fields that a web lookup filled, and nobody has typed in since, and a cover that was pasted or cut. */
+    void storeShownValues();
 
     /** CONTROL, a text field or the genre box, was edited by the person. */
     void controlTextDidChange(const QObject* control);
@@ -97,6 +97,7 @@ private:
     void setUpFields();
     void connectButtons();
     void setSymbols();
+    void storeShownCover();
     void showCaptions(const MediaFile& file);
     void showCoverArt(const MediaFile& file);
     void setGenreText(const QString& text);
@@ -106,6 +107,7 @@ private:
     std::unique_ptr<Ui::TagForm> ui_;
     MediaDocument& document_;
     QStringList genres_;
+    bool showing_ = false;   ///< the cover is changed by the program, and not by the user
     QList<QWidget*> filled_; ///< controls that a web lookup filled, and whose text is not in the open file
 };
 

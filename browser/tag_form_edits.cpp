@@ -49,7 +49,8 @@ QString withLineFeeds(QString text) {
 
 } // namespace
 
-void TagForm::storeFilledFields() {
+void TagForm::storeShownValues() {
+    storeShownCover();
     const QList<QWidget*> filled = std::exchange(filled_, {});
     for (QWidget* control : filled) {
         if (control == ui_->entry_desc) {
@@ -63,6 +64,20 @@ void TagForm::storeFilledFields() {
         }
         controlTextDidChange(control);
     }
+}
+
+void TagForm::storeShownCover() {
+    MediaFile* const media = file();
+    const ImageRef cover = ui_->img_coverArt->cover();
+    if (!media || media->coverArt().get() == cover.get()) {
+        return;
+    }
+    if (cover) {
+        media->setCoverArt(cover);
+    } else {
+        media->removeCoverArt();
+    }
+    markChange();
 }
 
 void TagForm::controlTextDidChange(const QObject* control) {

@@ -68,6 +68,7 @@ public:
     void setCoverArt(const ImageRef& coverArt) {
         metadata_[QStringLiteral("coverart")] = QVariant::fromValue(coverArt);
     }
+    void removeCoverArt() { metadata_.remove(QStringLiteral("coverart")); }
     /** Joins names with ", " and stores them as the cast. */
     void setCastList(const QStringList& names);
 

@@ -147,7 +147,7 @@ bool saysMore(const portable::TagValues& values, const QVariantMap& metadata, in
         }
     }
     return (values.year && metadata.value(yearKey).toInt() == 0) ||
-           (values.cover && !metadata.contains(coverKey));
+           (values.cover && !coverOf(metadata));
 }
 
 } // namespace velmora

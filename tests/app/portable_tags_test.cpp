@@ -4,6 +4,7 @@
 
 #include "browser/notice_bar.h"
 #include "browser/portable_save_run.h"
+#include "imaging/CoverArtView.h"
 #include "portable/portable_tags.h"
 #include "support/bytes.h"
 #include "weblookup/form_fill_info.h"
@@ -11,6 +12,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QFile>
@@ -167,6 +169,56 @@ TEST_F(PortableTagsTest, TakeEverythingThatALookUpFilled) {
     EXPECT_EQ("Folk, Sea", values.text(portable::Field::genre));
     EXPECT_EQ("Ada, Bo", values.text(portable::Field::artist));
     EXPECT_EQ(1994, values.year);
+}
+
+TEST_F(PortableTagsTest, TakeALoadedCoverAsItIsAndLoseItWhenItIsCut) {
+    QImage pixels(30, 20, QImage::Format_RGB32);
+    pixels.fill(Qt::red);
+    ASSERT_TRUE(pixels.save(path("cover.png")));
+    action().trigger();
+    open("song.mp3", songTaggedInFront());
+    controller().loadCoverArtSelected(1, {path("cover.png")});
+    press("btn_saveTag");
+
+    const auto cover = portable::read_tags(folder_ / "song.mp3").values.cover;
+    ASSERT_TRUE(cover);
+    EXPECT_EQ(test::read_file(folder_ / "cover.png"), std::string(cover->bytes.begin(), cover->bytes.end()));
+
+    widget<CoverArtView>("img_coverArt").cut();
+    EXPECT_TRUE(enabled("btn_saveTag"));
+    press("btn_saveTag");
+    EXPECT_EQ(std::nullopt, portable::read_tags(folder_ / "song.mp3").values.cover);
+}
+
+TEST_F(PortableTagsTest, TakeAPastedCover) {
+    QImage pixels(30, 20, QImage::Format_RGB32);
+    pixels.fill(Qt::red);
+    QGuiApplication::clipboard()->setImage(pixels);
+    open("song.mp3", songTaggedInFront());
+    widget<CoverArtView>("img_coverArt").paste();
+    EXPECT_FALSE(enabled("btn_saveTag")) << "in place it is shown and not stored";
+    action().trigger();
+    settle();
+    EXPECT_TRUE(widget<CoverArtView>("img_coverArt").image().isNull());
+    widget<CoverArtView>("img_coverArt").paste();
+    press("btn_saveTag");
+
+    EXPECT_EQ("image/jpeg", portable::read_tags(folder_ / "song.mp3").values.cover.value().mime);
+}
+
+TEST_F(PortableTagsTest, KeepTheCoverOfEachFileThatIsOpened) {
+    QImage pixels(30, 20, QImage::Format_RGB32);
+    pixels.fill(Qt::red);
+    ASSERT_TRUE(pixels.save(path("cover.png")));
+    action().trigger();
+    open("a.mp3", songTaggedInFront());
+    controller().loadCoverArtSelected(1, {path("cover.png")});
+    press("btn_saveTag");
+    open("b.mp3", songTaggedInFront());
+    select(0);
+
+    EXPECT_FALSE(document().isDocumentEdited());
+    EXPECT_TRUE(file().coverArt());
 }
 
 TEST_F(PortableTagsTest, DoNotTakeTheFoldersImage) {
