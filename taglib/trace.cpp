@@ -16,8 +16,8 @@ namespace {
 thread_local TraceBatch* batch_of_this_thread = nullptr;
 thread_local int mutes_of_this_thread = 0;
 
-/** A pipe takes such texts, of up to 4,096 bytes, whole or not at all, so that a second call repeats nothing.
-   */
+/** A pipe takes such texts, of up to 4,096 bytes, whole or not at all, so that a second call repeats
+   nothing. */
 void write_out(const char* text) {
     write_patiently([text] { return std::fputs(text, stderr) != EOF; });
 }
@@ -56,6 +56,9 @@ char* place_for_message(char* own) {
 }
 
 void write_message(char* message, std::size_t length) {
+    if (mutes_of_this_thread > 0) {
+        return; // every message comes through here
+    }
     if (batch_of_this_thread) {
         batch_of_this_thread->take(length);
     } else {
@@ -67,9 +70,6 @@ void write_message(char* message, std::size_t length) {
 }
 
 void DebugTraceV(const char* format, va_list arguments) {
-    if (mutes_of_this_thread > 0) {
-        return;
-    }
     const int error = errno;
     FormatArguments copy;
     va_copy(copy.list, arguments);

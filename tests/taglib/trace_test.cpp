@@ -61,10 +61,12 @@ TEST(TraceMute, LosesWhatItsThreadSaysWhileItLives) {
     {
         const TraceMute mute;
         DebugInfo("%s\n", "lost");
-        {
-            const TraceMute another;
-        }
+        { const TraceMute another; }
         DebugError("lost, too\n");
+        trace_by_list("%5d\n", 3);
+        TraceLine().text("lost as well\n");
+        const TraceBatch batch;
+        DebugInfo("lost in a batch\n");
     }
     DebugInfo("kept\n");
     EXPECT_EQ("kept\n", transcript.text());
