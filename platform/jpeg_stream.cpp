@@ -11,7 +11,7 @@ constexpr int mostScans = 64;
 constexpr qint64 manyPixels = 1'000'000;
 constexpr qint64 mostScannedPixels = 1'000'000'000;
 constexpr int blockSide = 8;
-constexpr qint64 blockBytes = blockSide * blockSide * 2; // 16 bits a coefficient
+constexpr qint64 blockBytes = qint64{blockSide} * blockSide * 2; // 16 bits a coefficient
 
 namespace marker {
 constexpr int tem = 0x01;

@@ -55,7 +55,7 @@ struct Slab {
     std::uint32_t used; ///< bytes, these included
     std::uint32_t blocks;
 };
-constexpr std::size_t slab_size = 16 * 1024;
+constexpr std::size_t slab_size = 16384;
 /** What is larger gets a block of its own, for which the malloc family's own overhead doesn't count. */
 constexpr std::size_t largest_small_block = 1024;
 Slab* open_slab = nullptr; ///< the one that takes blocks
