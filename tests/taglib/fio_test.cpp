@@ -1,3 +1,4 @@
+#include "open_file.h"
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
@@ -18,6 +19,7 @@ namespace velmora {
 namespace {
 
 using test::hex;
+using test::OpenFile;
 using test::read_file;
 using test::ScratchFolder;
 using test::StreamCapture;
@@ -25,26 +27,6 @@ using test::SystemCall;
 using test::SystemCallFaults;
 using test::to_hex;
 using test::write_file;
-
-/** A file of given bytes, open for reading and writing at its beginning. */
-class OpenFile {
-public:
-    explicit OpenFile(std::string_view bytes) : path_(folder_ / "file") {
-        write_file(path_, bytes);
-        EXPECT_EQ(0, fio_open(path_.c_str(), O_RDWR, 0, &file_));
-    }
-    ~OpenFile() { fio_close(&file_); }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-
-    [[nodiscard]] FIOFUNCSTRUCT* handle() { return &file_; }
-    [[nodiscard]] std::string contents() const { return to_hex(read_file(path_)); }
-
-private:
-    ScratchFolder folder_;
-    std::string path_;
-    FIOFUNCSTRUCT file_{};
-};
 
 TEST(FioHandle, BeginsWithTheDescriptor) {
     EXPECT_EQ(0u, offsetof(FIOFUNCSTRUCT, descriptor));
@@ -154,7 +136,7 @@ TEST(FioRead, IsNotTriedAgainAfterAnInterruption) {
 TEST(FioWrite, ReturnsTheBytesWritten) {
     OpenFile file("abcde");
     EXPECT_EQ(2, fio_write(file.handle(), "XY", 2));
-    EXPECT_EQ("58 59 63 64 65 ", file.contents());
+    EXPECT_EQ("58 59 63 64 65 ", to_hex(file.contents()));
 }
 
 TEST(FioWrite, OfNoBytesReturnsZeroAndLeavesTheFilesLength) {
@@ -163,7 +145,7 @@ TEST(FioWrite, OfNoBytesReturnsZeroAndLeavesTheFilesLength) {
     EXPECT_EQ(0, fio_write(file.handle(), "", 0));
     EXPECT_EQ(9, fio_lseek(file.handle(), 9, SEEK_SET));
     EXPECT_EQ(0, fio_write(file.handle(), "", 0));
-    EXPECT_EQ("61 62 63 64 65 ", file.contents());
+    EXPECT_EQ("61 62 63 64 65 ", to_hex(file.contents()));
 }
 
 TEST(FioWrite, IsNeitherTriedAgainNorCompletedAfterAShortCount) {
@@ -302,7 +284,7 @@ template <typename Writer, typename Value>
 std::string put(Writer writer, Value value) {
     OpenFile file("");
     const ssize_t count = writer(file.handle(), value);
-    return file.contents() + "(" + std::to_string(count) + ")";
+    return to_hex(file.contents()) + "(" + std::to_string(count) + ")";
 }
 
 TEST(FioPut, WritersGiveTheirOrderAndTheWidth) {

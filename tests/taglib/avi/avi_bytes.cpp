@@ -102,12 +102,4 @@ std::string loaded_title(const std::string& path) {
     return title;
 }
 
-OpenFile::OpenFile(const std::string& path, int flags) {
-    EXPECT_EQ(0, fio_open(path.c_str(), flags, 0644, &file_)) << path;
-}
-
-OpenFile::~OpenFile() {
-    fio_close(&file_);
-}
-
 } // namespace velmora::test

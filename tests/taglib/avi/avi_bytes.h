@@ -51,18 +51,4 @@ namespace velmora::test {
 /** The title that a load finds in the file; empty when it has none. A load that fails, fails the test. */
 [[nodiscard]] std::string loaded_title(const std::string& path);
 
-/** A file opened through the library, closed with the object. */
-class OpenFile {
-public:
-    OpenFile(const std::string& path, int flags);
-    ~OpenFile();
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-
-    FIOFUNCSTRUCT* operator&() { return &file_; }
-
-private:
-    FIOFUNCSTRUCT file_{-1};
-};
-
 } // namespace velmora::test

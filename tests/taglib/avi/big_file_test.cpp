@@ -6,6 +6,7 @@
 #include "taglib/avi/header_reader.h"
 #include "taglib/avi/remove_file_info.h"
 #include "taglib/avi/store_file_info.h"
+#include "taglib/byte_file.h"
 
 #include <gtest/gtest.h>
 
@@ -37,23 +38,26 @@ protected:
     }
 
     void write_at(std::int64_t offset, const std::string& bytes) {
-        OpenFile file(path_, O_RDWR);
-        fio_lseek(&file, offset, SEEK_SET);
-        EXPECT_EQ(static_cast<ssize_t>(bytes.size()), fio_write(&file, bytes.data(), bytes.size()));
+        ByteFile file;
+        EXPECT_TRUE(file.open(path_.c_str(), O_RDWR));
+        fio_lseek(file.handle(), offset, SEEK_SET);
+        EXPECT_EQ(static_cast<ssize_t>(bytes.size()), fio_write(file.handle(), bytes.data(), bytes.size()));
     }
 
     [[nodiscard]] std::string read_at(std::int64_t offset, std::size_t count) const {
-        OpenFile file(path_, O_RDONLY);
-        fio_lseek(&file, offset, SEEK_SET);
+        ByteFile file;
+        EXPECT_TRUE(file.open(path_.c_str(), O_RDONLY));
+        fio_lseek(file.handle(), offset, SEEK_SET);
         std::string bytes(count, '#');
-        const ssize_t got = fio_read(&file, bytes.data(), count);
+        const ssize_t got = fio_read(file.handle(), bytes.data(), count);
         bytes.resize(got < 0 ? 0 : static_cast<std::size_t>(got));
         return bytes;
     }
 
     [[nodiscard]] std::int64_t length() const {
-        OpenFile file(path_, O_RDONLY);
-        return fio_lseek(&file, 0, SEEK_END);
+        ByteFile file;
+        EXPECT_TRUE(file.open(path_.c_str(), O_RDONLY));
+        return fio_lseek(file.handle(), 0, SEEK_END);
     }
 
     Cost store(const std::string& title) {
@@ -111,10 +115,11 @@ TEST_F(AviBigFile, BeyondThe32BitsOfItsFieldTheRiffSizeIsTheLargestNumberAndTheL
 
 TEST_F(AviBigFile, TheRootsSizeAsFoundIsTheLargestNumberToo) {
     make(0, hdrl(), 0xFFFFFFFE, "");
-    OpenFile file(path_, O_RDONLY);
+    ByteFile file;
+    EXPECT_TRUE(file.open(path_.c_str(), O_RDONLY));
     _avi_item_t root;
     StreamCapture quiet;
-    EXPECT_EQ(1, avi_read_header(&file, &root));
+    EXPECT_EQ(1, avi_read_header(file.handle(), &root));
     EXPECT_EQ(0xFFFFFFFFu, root.size);
     avi_free_header(&root);
 }

@@ -4,6 +4,7 @@
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
+#include "taglib/byte_file.h"
 
 #include <gtest/gtest.h>
 
@@ -23,10 +24,11 @@ protected:
     int read(const std::string& bytes) {
         const std::string path = folder_ / "file.avi";
         write_file(path, bytes);
-        OpenFile file(path, O_RDONLY);
+        ByteFile file;
+        EXPECT_TRUE(file.open(path.c_str(), O_RDONLY));
         avi_free_header(&root_);
         StreamCapture log;
-        const int result = avi_read_header(&file, &root_);
+        const int result = avi_read_header(file.handle(), &root_);
         error_ = errno;
         log_ = log.text();
         return result;

@@ -3,6 +3,7 @@
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
 #include "taglib/avi/header_reader.h"
+#include "taglib/byte_file.h"
 
 #include <gtest/gtest.h>
 
@@ -20,12 +21,13 @@ protected:
     void load(std::uint32_t size, const std::string& bytes) {
         const std::string path = folder_ / "list";
         write_file(path, list(size, "INFO", bytes));
-        OpenFile file(path, O_RDONLY);
-        fio_lseek(&file, 12, SEEK_SET);
+        ByteFile file;
+        EXPECT_TRUE(file.open(path.c_str(), O_RDONLY));
+        fio_lseek(file.handle(), 12, SEEK_SET);
         list_.fourcc = fourcc::list;
         list_.size = size;
         StreamCapture log;
-        EXPECT_EQ(1, avi_load_item_list(&file, &list_));
+        EXPECT_EQ(1, avi_load_item_list(file.handle(), &list_));
         log_ = log.text();
     }
 

@@ -4,6 +4,7 @@
 #include "support/stream_capture.h"
 #include "taglib/avi/item.h"
 #include "taglib/avi/item_data.h"
+#include "taglib/byte_file.h"
 
 #include <gtest/gtest.h>
 
@@ -50,8 +51,9 @@ protected:
     /** What avi_store_item writes for ITEM into a new file. */
     [[nodiscard]] std::string written(const _avi_item_t& item) const {
         const std::string path = folder_ / "item";
-        OpenFile file(path, O_RDWR | O_CREAT | O_TRUNC);
-        EXPECT_EQ(1, avi_store_item(&file, &item));
+        ByteFile file;
+        EXPECT_TRUE(file.open(path.c_str(), O_RDWR | O_CREAT | O_TRUNC, 0644));
+        EXPECT_EQ(1, avi_store_item(file.handle(), &item));
         return read_file(path);
     }
 
@@ -288,20 +290,22 @@ TEST_F(AviItem, AListThatIsKeptAsBytesIsWrittenAsThoseBytes) {
 TEST_F(AviItem, AnItemIsWrittenAtTheFilesPosition) {
     const std::string path = folder_ / "item";
     write_file(path, "................");
-    OpenFile file(path, O_RDWR);
-    fio_lseek(&file, 4, SEEK_SET);
+    ByteFile file;
+    EXPECT_TRUE(file.open(path.c_str(), O_RDWR));
+    fio_lseek(file.handle(), 4, SEEK_SET);
     const _avi_item_t item = plain(fourcc::junk, 1);
-    EXPECT_EQ(1, avi_store_item(&file, &item));
+    EXPECT_EQ(1, avi_store_item(file.handle(), &item));
     EXPECT_EQ(std::string("....JUNK\1\0\0\0....", 16), read_file(path));
 }
 
 TEST_F(AviItem, AFailingWriteIsLoggedOnceAndGivesZero) {
     const std::string path = folder_ / "item";
     write_file(path, "");
-    OpenFile file(path, O_RDONLY);
+    ByteFile file;
+    EXPECT_TRUE(file.open(path.c_str(), O_RDONLY));
     add(make_fourcc("AAAA"));
     StreamCapture log;
-    EXPECT_EQ(0, avi_store_item(&file, &list_));
+    EXPECT_EQ(0, avi_store_item(file.handle(), &list_));
     EXPECT_EQ("avi_store_item: Error writing file\n", log.text());
 }
 

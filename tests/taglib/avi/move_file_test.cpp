@@ -5,6 +5,7 @@
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
 #include "support/system_call_faults.h"
+#include "taglib/byte_file.h"
 
 #include <gtest/gtest.h>
 
@@ -20,12 +21,13 @@ protected:
     /** Moves an item of that size field from OFFSET to TO in the file, which holds BYTES when they are given.
      */
     int move(std::uint64_t offset, std::uint32_t size, std::uint64_t to) {
-        OpenFile file(path_, O_RDWR);
+        ByteFile file;
+        EXPECT_TRUE(file.open(path_.c_str(), O_RDWR));
         _avi_item_t item{};
         item.offset = offset;
         item.size = size;
         StreamCapture log;
-        const int result = avi_move_file(&file, &item, to);
+        const int result = avi_move_file(file.handle(), &item, to);
         log_ = log.text();
         EXPECT_EQ(offset, item.offset);
         return result;
@@ -137,13 +139,14 @@ TEST_F(AviMoveFile, TheLow32BitsOfTheRemainderChooseThePiece) {
     // Size field 0xFFFFFFF9 makes 2^32 + 1 bytes: their low 32 bits say 1, so that a piece of 65,536 bytes
     // comes first.
     write_file(path_, std::string(200000, 'x'));
-    OpenFile file(path_, O_RDWR);
+    ByteFile file;
+    EXPECT_TRUE(file.open(path_.c_str(), O_RDWR));
     _avi_item_t item{};
     item.offset = 100000;
     item.size = 0xFFFFFFF9;
     StreamCapture log;
     SystemCallFaults watch;
-    EXPECT_EQ(0, avi_move_file(&file, &item, 0));
+    EXPECT_EQ(0, avi_move_file(file.handle(), &item, 0));
     EXPECT_EQ(65536, watch.bytes(SystemCall::write));
     EXPECT_EQ("avi_move_file: Error reading file\n", log.text());
 }
@@ -151,11 +154,12 @@ TEST_F(AviMoveFile, TheLow32BitsOfTheRemainderChooseThePiece) {
 TEST_F(AviMoveFile, ABigPieceGoesThroughAWindowOfBoundedSize) {
     const std::string before = pattern(1000000);
     write_file(path_, before);
-    OpenFile file(path_, O_RDWR);
+    ByteFile file;
+    EXPECT_TRUE(file.open(path_.c_str(), O_RDWR));
     _avi_item_t item{};
     item.size = 999992;
     SystemCallFaults watch;
-    EXPECT_EQ(1, avi_move_file(&file, &item, 8));
+    EXPECT_EQ(1, avi_move_file(file.handle(), &item, 8));
     for (const SystemCallRecord& record : watch.records()) {
         if (record.call == SystemCall::read || record.call == SystemCall::write) {
             EXPECT_LE(record.requested, 65536);
@@ -166,26 +170,28 @@ TEST_F(AviMoveFile, ABigPieceGoesThroughAWindowOfBoundedSize) {
 
 TEST_F(AviMoveFile, AFailingWriteIsLoggedAndEndsTheMove) {
     write_file(path_, pattern(300000));
-    OpenFile file(path_, O_RDWR);
+    ByteFile file;
+    EXPECT_TRUE(file.open(path_.c_str(), O_RDWR));
     _avi_item_t item{};
     item.size = 199992;
     StreamCapture log;
     SystemCallFaults faults;
     faults.fail(SystemCall::write, 2, ENOSPC);
-    EXPECT_EQ(0, avi_move_file(&file, &item, 8));
+    EXPECT_EQ(0, avi_move_file(file.handle(), &item, 8));
     EXPECT_EQ(2, faults.count(SystemCall::write));
     EXPECT_EQ("avi_move_file: Error writing file\n", log.text());
 }
 
 TEST_F(AviMoveFile, AShortReadIsLoggedAndEndsTheMove) {
     write_file(path_, pattern(300000));
-    OpenFile file(path_, O_RDWR);
+    ByteFile file;
+    EXPECT_TRUE(file.open(path_.c_str(), O_RDWR));
     _avi_item_t item{};
     item.size = 199992;
     StreamCapture log;
     SystemCallFaults faults;
     faults.cut_short(SystemCall::read, 2, 100);
-    EXPECT_EQ(0, avi_move_file(&file, &item, 8));
+    EXPECT_EQ(0, avi_move_file(file.handle(), &item, 8));
     EXPECT_EQ(1, faults.count(SystemCall::write));
     EXPECT_EQ("avi_move_file: Error reading file\n", log.text());
 }

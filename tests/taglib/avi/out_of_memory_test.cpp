@@ -6,6 +6,7 @@
 #include "taglib/avi/item_data.h"
 #include "taglib/avi/load_file_info.h"
 #include "taglib/avi/store_file_info.h"
+#include "taglib/byte_file.h"
 
 #include <gtest/gtest.h>
 
@@ -59,8 +60,9 @@ protected:
         const std::string behind = chunk("INAM", 4, z("Old"));
         const long long end = 0xC0000000LL + static_cast<long long>(front.size());
         write_sparse_file(path_, end + static_cast<long long>(behind.size()), behind, end);
-        OpenFile file(path_, O_RDWR);
-        EXPECT_EQ(static_cast<ssize_t>(front.size()), fio_write(&file, front.data(), front.size()));
+        ByteFile file;
+        EXPECT_TRUE(file.open(path_.c_str(), O_RDWR));
+        EXPECT_EQ(static_cast<ssize_t>(front.size()), fio_write(file.handle(), front.data(), front.size()));
     }
 
     const ScratchFolder folder_;

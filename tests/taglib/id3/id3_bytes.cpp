@@ -4,7 +4,6 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <fcntl.h>
 
 namespace velmora::test {
 
@@ -60,24 +59,6 @@ std::string frames_with_cover() {
            text4("TPE3", "director") + text4("TCON", "genre") + text4("TYER", "1999") +
            frame4("PRIV", bytes("WM/ParentalRating\0PG-13")) +
            frame4("APIC", bytes("\0image/jpeg\0\x03\0") + cover) + text4("TENC", "somebody");
-}
-
-OpenFile::OpenFile(std::string_view contents) {
-    write_file(path_, contents);
-    open();
-}
-
-OpenFile::OpenFile(long long size, std::string_view contents, long long offset) {
-    write_sparse_file(path_, size, contents, offset);
-    open();
-}
-
-OpenFile::~OpenFile() {
-    fio_close(&file_);
-}
-
-void OpenFile::open() {
-    EXPECT_EQ(0, fio_open(path_.c_str(), O_RDWR, 0, &file_));
 }
 
 void Descriptor::add(std::string_view id, std::string_view body, std::string_view flag_bytes) {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "../open_file.h"
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
-#include "taglib/fio.h"
 #include "taglib/id3/descriptor.h"
 
 #include <cstdint>
@@ -39,27 +39,6 @@ template <std::size_t size>
 
 /** Frames of a version 4 tag for every field, one with a cover of 20,000 bytes that has a frame behind it. */
 [[nodiscard]] std::string frames_with_cover();
-
-/** A file of given bytes, open for reading and writing. */
-class OpenFile {
-public:
-    explicit OpenFile(std::string_view contents);
-    /** A file of SIZE bytes that holds CONTENTS at OFFSET and holes elsewhere. */
-    OpenFile(long long size, std::string_view contents, long long offset);
-    ~OpenFile();
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-
-    [[nodiscard]] FIOFUNCSTRUCT* handle() { return &file_; }
-    [[nodiscard]] const std::string& path() const { return path_; }
-    [[nodiscard]] std::string contents() const { return read_file(path_); }
-
-private:
-    void open();
-    ScratchFolder folder_;
-    std::string path_ = folder_ / "file.mp3";
-    FIOFUNCSTRUCT file_{-1};
-};
 
 /** A descriptor that releases what it holds. */
 struct Descriptor : _id3_file_desc_t {
