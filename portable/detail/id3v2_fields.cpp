@@ -2,6 +2,7 @@
 
 #include "cover_choice.h"
 #include "date_text.h"
+#include "id3v2_places.h"
 #include "id3v2_text.h"
 #include "text.h"
 
@@ -12,113 +13,14 @@ namespace velmora::portable {
 
 namespace {
 
-constexpr const char* director_description = "DIRECTOR";
-constexpr const char* rating_description = "CONTENTRATING";
-
-/** The identifiers of what the fields are kept in. */
-enum class FrameKind { title, artist, album, genre, comment, user_text, picture, date, year, day, time };
-
-struct FrameName {
-    FrameKind kind;
-    const char* id;       ///< in 2.3 and 2.4
-    const char* short_id; ///< in 2.2; empty: not there
-};
-
-constexpr std::array frame_names = {
-    FrameName{FrameKind::title, "TIT2", "TT2"},   FrameName{FrameKind::artist, "TPE1", "TP1"},
-    FrameName{FrameKind::album, "TALB", "TAL"},   FrameName{FrameKind::genre, "TCON", "TCO"},
-    FrameName{FrameKind::comment, "COMM", "COM"}, FrameName{FrameKind::user_text, "TXXX", "TXX"},
-    FrameName{FrameKind::picture, "APIC", "PIC"}, FrameName{FrameKind::date, "TDRC", ""},
-    FrameName{FrameKind::year, "TYER", "TYE"},    FrameName{FrameKind::day, "TDAT", "TDA"},
-    FrameName{FrameKind::time, "TIME", "TIM"},
-};
-
-std::string id_of(FrameKind kind, std::uint8_t version) {
-    const auto* const name = std::find_if(frame_names.begin(), frame_names.end(),
-                                          [&](const FrameName& candidate) { return candidate.kind == kind; });
-    return version == 2 ? name->short_id : name->id;
-}
-
-std::optional<FrameKind> kind_of(const Id3v2Frame& frame) {
-    const auto* const name =
-        std::find_if(frame_names.begin(), frame_names.end(), [&](const FrameName& candidate) {
-            return frame.id == (frame.id.size() == 3 ? candidate.short_id : candidate.id);
-        });
-    return name == frame_names.end() ? std::nullopt : std::optional(name->kind);
-}
-
-Bytes content_of(const Id3v2Tag& tag, const Id3v2Frame& frame) {
-    return tag.content(frame).value_or(Bytes());
-}
-
-/** The type of the picture in FRAME; nothing where there is none. */
-std::optional<std::uint32_t> type_of_picture(const Id3v2Tag& tag, const Id3v2Frame& frame) {
-    const AttachedPicture picture = attached_picture(content_of(tag, frame), tag.version());
-    return picture.bytes.empty() ? std::nullopt : std::optional<std::uint32_t>(picture.type);
-}
-
-/** The frames of TAG that are the cover. */
-std::vector<std::size_t> cover_frames(const Id3v2Tag& tag) {
-    std::vector<std::optional<std::uint32_t>> types;
-    types.reserve(tag.frames().size());
-    for (const Id3v2Frame& frame : tag.frames()) {
-        types.push_back(kind_of(frame) == FrameKind::picture ? type_of_picture(tag, frame) : std::nullopt);
-    }
-    return cover_places(types);
-}
-
-/** The field that a user-defined text of films is. */
-std::optional<Field> user_text_field(const Id3v2Tag& tag, const Id3v2Frame& frame, Media media) {
-    if (media != Media::video) {
-        return std::nullopt;
-    }
-    const std::string description = described_text(content_of(tag, frame), false).description;
-    return equal_ignoring_case(description, director_description) ? std::optional(Field::director)
-           : equal_ignoring_case(description, rating_description) ? std::optional(Field::rating)
-                                                                  : std::nullopt;
-}
-
-/** The field that FRAME is a place of, but for pictures. */
-std::optional<Field> field_of(const Id3v2Tag& tag, const Id3v2Frame& frame, Media media) {
-    const std::optional<FrameKind> kind = kind_of(frame);
-    if (!kind) {
-        return std::nullopt;
-    }
-    switch (*kind) {
-    case FrameKind::title:
-        return Field::title;
-    case FrameKind::artist:
-        return Field::artist;
-    case FrameKind::album:
-        return media == Media::video ? std::nullopt : std::optional(Field::album);
-    case FrameKind::genre:
-        return Field::genre;
-    case FrameKind::comment: {
-        const std::optional<Bytes> content = tag.content(frame);
-        return content && described_text(*content, true).description.empty() ? std::optional(Field::synopsis)
-                                                                             : std::nullopt;
-    }
-    case FrameKind::user_text:
-        return user_text_field(tag, frame, media);
-    case FrameKind::date:
-    case FrameKind::year:
-    case FrameKind::day:
-    case FrameKind::time:
-        return Field::year;
-    case FrameKind::picture:
-        break;
-    }
-    return std::nullopt;
-}
-
 std::vector<std::string> values_of(const Id3v2Tag& tag, const Id3v2Frame& frame) {
     const Bytes content = content_of(tag, frame);
-    switch (*kind_of(frame)) {
-    case FrameKind::genre:
+    switch (*place_of(frame)) {
+    case Id3v2Place::genre:
         return genre_values(content);
-    case FrameKind::comment:
+    case Id3v2Place::comment:
         return described_text(content, true).values;
-    case FrameKind::user_text:
+    case Id3v2Place::user_text:
         return described_text(content, false).values;
     default:
         return text_values(content);
@@ -126,8 +28,8 @@ std::vector<std::string> values_of(const Id3v2Tag& tag, const Id3v2Frame& frame)
 }
 
 /** Where the year is: in 2.4 in front the date, before that the year. */
-FrameKind year_kind(std::uint8_t version) {
-    return version >= 4 ? FrameKind::date : FrameKind::year;
+Id3v2Place year_kind(std::uint8_t version) {
+    return version >= 4 ? Id3v2Place::date : Id3v2Place::year;
 }
 
 std::optional<int> frame_year(const Id3v2Tag& tag, const Id3v2Frame& frame) {
@@ -135,14 +37,14 @@ std::optional<int> frame_year(const Id3v2Tag& tag, const Id3v2Frame& frame) {
     return dates.empty() ? std::nullopt : year_of(dates.front());
 }
 
-bool has_year(FrameKind kind) {
-    return kind == FrameKind::date || kind == FrameKind::year;
+bool has_year(Id3v2Place kind) {
+    return kind == Id3v2Place::date || kind == Id3v2Place::year;
 }
 
 std::optional<int> year_value(const Id3v2Tag& tag) {
     std::optional<int> second;
     for (const Id3v2Frame& frame : tag.frames()) {
-        const std::optional<FrameKind> kind = kind_of(frame);
+        const std::optional<Id3v2Place> kind = place_of(frame);
         if (!kind || !has_year(*kind)) {
             continue;
         }
@@ -174,29 +76,29 @@ Bytes content_for(const Id3v2Tag& tag, Field field, const std::string& text, con
         return described_content({language.empty() ? "eng" : language, {}, {text}}, tag.version());
     }
     case Field::director:
-        return described_content({{}, director_description, {text}}, tag.version());
+        return described_content({{}, id3v2_director, {text}}, tag.version());
     case Field::rating:
-        return described_content({{}, rating_description, {text}}, tag.version());
+        return described_content({{}, id3v2_rating, {text}}, tag.version());
     default:
         return text_content(text, tag.version());
     }
 }
 
-FrameKind kind_for(Field field) {
+Id3v2Place kind_for(Field field) {
     switch (field) {
     case Field::artist:
-        return FrameKind::artist;
+        return Id3v2Place::artist;
     case Field::album:
-        return FrameKind::album;
+        return Id3v2Place::album;
     case Field::genre:
-        return FrameKind::genre;
+        return Id3v2Place::genre;
     case Field::synopsis:
-        return FrameKind::comment;
+        return Id3v2Place::comment;
     case Field::director:
     case Field::rating:
-        return FrameKind::user_text;
+        return Id3v2Place::user_text;
     default:
-        return FrameKind::title;
+        return Id3v2Place::title;
     }
 }
 
@@ -236,14 +138,14 @@ void set_year(Id3v2Tag& tag, int year) {
     bool placed = false;
     std::vector<Id3v2Frame> frames;
     for (Id3v2Frame& frame : tag.frames()) {
-        const std::optional<FrameKind> kind = kind_of(frame);
+        const std::optional<Id3v2Place> kind = place_of(frame);
         if (kind && has_year(*kind)) {
             placed = placed || *kind == year_kind(tag.version());
             if (frame_year(tag, frame) != year) {
                 frame = tag.frame(frame.id, text_content(date_with_year({}, year), tag.version()));
             }
         }
-        const bool of_another_year = !same && (kind == FrameKind::day || kind == FrameKind::time);
+        const bool of_another_year = !same && (kind == Id3v2Place::day || kind == Id3v2Place::time);
         if (!of_another_year) {
             frames.push_back(std::move(frame));
         }
@@ -274,7 +176,7 @@ void apply_cover(Id3v2Tag& tag, const Edit<Cover>& edit) {
     picture.type = picture_type::front_cover;
     picture.bytes = edit.value()->bytes;
     Id3v2Frame frame =
-        tag.frame(id_of(FrameKind::picture, tag.version()), picture_content(picture, tag.version()));
+        tag.frame(id_of(Id3v2Place::picture, tag.version()), picture_content(picture, tag.version()));
     if (covers.empty()) {
         tag.frames().push_back(std::move(frame));
     } else {
