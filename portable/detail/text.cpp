@@ -1,6 +1,6 @@
 #include "text.h"
 
-#include <algorithm>
+#include <unordered_set>
 
 namespace velmora::portable {
 
@@ -182,13 +182,12 @@ std::string utf8_from_code_points(std::u32string_view text) {
 
 std::string joined(std::span<const std::string> values) {
     std::string text;
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        const auto* const here = values.data() + i;
-        if (here->empty() || std::find(values.data(), here, *here) != here) {
-            continue;
+    std::unordered_set<std::string_view> seen; // a hostile file has hundreds of thousands of values
+    for (const std::string& value : values) {
+        if (!value.empty() && seen.insert(value).second) {
+            text += text.empty() ? "" : "; ";
+            text += value;
         }
-        text += text.empty() ? "" : "; ";
-        text += *here;
     }
     return text;
 }
