@@ -2,12 +2,10 @@
 
 #include "../reason.h"
 #include "checked_read.h"
-#include "id3v2_text.h"
+#include "in_place_frames.h"
 #include "system_refusal.h"
-#include "text.h"
 
 #include "taglib/id3/descriptor.h"
-#include "taglib/id3/genres.h"
 #include "taglib/id3/reader.h"
 #include "taglib/id3/text.h"
 #include "taglib/id3/writer.h"
@@ -19,10 +17,7 @@ namespace velmora::portable {
 
 namespace {
 
-constexpr std::size_t record_size = 10; ///< of a header, a footer and a frame's header
-constexpr std::string_view rating_owner = "WM/ParentalRating";
-constexpr std::size_t largest_text = 8191;
-constexpr std::uint8_t picture_type = 0x10;
+constexpr std::size_t record_size = in_place_record_size;
 
 /** The frame of FIELD. */
 const char* frame_id(Field field, Media media) {
@@ -50,112 +45,6 @@ const char* frame_id(Field field, Media media) {
     return nullptr;
 }
 
-std::string_view up_to_zero(ByteView bytes) {
-    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-    return text.substr(0, std::min(text.find('\0'), largest_text));
-}
-
-/** A text as the media file model decodes it. */
-std::string decoded(std::string_view text) {
-    const std::string valid = valid_utf8(text);
-    return valid == text
-               ? valid
-               : utf8_from_latin1({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
-}
-
-bool has_owner(const Id3v2Frame& frame, std::string_view owner) {
-    return equal_ignoring_case(up_to_zero(frame.body), owner);
-}
-
-std::string text_of(const Id3v2Frame& frame) {
-    if (frame.body.empty()) {
-        return {};
-    }
-    const std::uint8_t encoding = frame.body[0];
-    if (encoding == id3_encoding::latin1 || encoding == id3_encoding::utf8) {
-        return decoded(up_to_zero(ByteView(frame.body).subspan(1)));
-    }
-    // It reads no UTF-16. What another program wrote into its tag must not be lost for that.
-    return joined(text_values(frame.body));
-}
-
-std::string rating_of(const Id3v2Frame& frame) {
-    const std::size_t owner = up_to_zero(frame.body).size();
-    return owner < frame.body.size() ? decoded(up_to_zero(ByteView(frame.body).subspan(owner + 1)))
-                                     : std::string();
-}
-
-std::string genre_of(const Id3v2Frame& frame) {
-    const auto name = [](std::int64_t index) {
-        const char* const text = id3_genre_name(index);
-        return std::string(text ? text : "");
-    };
-    if (frame.body.size() == 1) {
-        return name(frame.body[0]);
-    }
-    std::string text = text_of(frame);
-    return text.starts_with('(') ? name(std::strtoll(text.c_str() + 1, nullptr, 10)) : text;
-}
-
-std::optional<int> year_of_frame(const Id3v2Frame& frame) {
-    const std::string text(frame.body.empty() ? std::string_view()
-                                              : up_to_zero(ByteView(frame.body).subspan(1)));
-    const long year = std::strtol(text.c_str(), nullptr, 10);
-    return year > 0 && year <= 9999 ? std::optional(static_cast<int>(year)) : std::nullopt;
-}
-
-/** A JPEG under the encoding 0; nothing for all others. */
-std::optional<Cover> cover_of(const Id3v2Frame& frame) {
-    AttachedPicture picture = attached_picture(frame.body, 4);
-    const bool jpeg =
-        equal_ignoring_case(picture.mime, "image/jpeg") || equal_ignoring_case(picture.mime, "image/jpg");
-    if (!jpeg || picture.bytes.empty() || frame.body[0] != id3_encoding::latin1) {
-        return std::nullopt;
-    }
-    return Cover{std::move(picture.bytes), "image/jpeg"};
-}
-
-Bytes text_body(std::string_view text) {
-    if (text.size() > largest_text) {
-        throw Refusal({ReasonCode::too_large, 0, "a text of more than 8,191 bytes"});
-    }
-    Bytes body{id3_encoding::latin1};
-    append(body, text);
-    return body;
-}
-
-Bytes rating_body(std::string_view rating) {
-    Bytes body;
-    append(body, rating_owner);
-    append(body, text_body(rating)); // its first byte ends the owner
-    return body;
-}
-
-Bytes cover_body(const Cover& cover) {
-    if (cover.mime != "image/jpeg") {
-        throw Refusal({ReasonCode::unsupported, 0, "its tag takes a JPEG as cover, and nothing else"});
-    }
-    AttachedPicture picture{cover.mime, picture_type, {}, cover.bytes};
-    return picture_content(picture, 4);
-}
-
-/** The frames of a tag; what can't be one ends them. */
-std::vector<Id3v2Frame> frames_in(ByteView content, std::uint8_t version) {
-    std::vector<Id3v2Frame> frames;
-    while (content.size() >= record_size && load_be32(content.data()) != 0) {
-        const std::uint32_t size =
-            version >= 4 ? syncsafe_to_long(content.data() + 4) : load_be32(content.data() + 4);
-        if (size > content.size() - record_size) {
-            break;
-        }
-        const ByteView body = content.subspan(record_size, size);
-        frames.push_back({std::string(content.begin(), content.begin() + 4), load_be16(content.data() + 8),
-                          Bytes(body.begin(), body.end())});
-        content = content.subspan(record_size + size);
-    }
-    return frames;
-}
-
 } // namespace
 
 std::optional<InPlaceTag::Found> InPlaceTag::find(ReadWindow& window, std::uint64_t size) {
@@ -181,7 +70,7 @@ std::optional<InPlaceTag::Found> InPlaceTag::find(ReadWindow& window, std::uint6
     found.tag.version_ = header[3];
     found.tag.revision_ = header[4];
     found.tag.flags_ = header[5] | 0x10;
-    found.tag.frames_ = frames_in(content, header[3]);
+    found.tag.frames_ = in_place_frames(content, header[3]);
     return found;
 }
 
@@ -198,7 +87,7 @@ std::optional<Field> InPlaceTag::field_of(std::size_t index, Media media) const 
     for (std::size_t i = 0; i < field_count; ++i) {
         const auto field = static_cast<Field>(i);
         const char* const id = frame_id(field, media);
-        if (!id || frame.id != id || (field == Field::rating && !has_owner(frame, rating_owner)) ||
+        if (!id || frame.id != id || (field == Field::rating && !has_owner(frame, in_place_rating_owner)) ||
             (field == Field::cover && index != first_cover())) {
             continue;
         }
