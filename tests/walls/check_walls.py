@@ -9,7 +9,7 @@ import sys
 import tempfile
 
 project, build = map(pathlib.Path, sys.argv[1:3])
-rooms = ["taglib", "platform", "model", "imaging", "weblookup", "browser", "app"]
+rooms = ["taglib", "portable", "platform", "model", "imaging", "weblookup", "browser", "app"]
 wrong = []
 
 commands = {}
