@@ -3,6 +3,7 @@
 #include "../reason.h"
 #include "date_text.h"
 #include "id3v2_text.h"
+#include "picture_mime.h"
 #include "text.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "id3v2_text.h"
 
+#include "picture_mime.h"
 #include "text.h"
 
 #include <algorithm>
@@ -262,16 +263,6 @@ bool equal_ignoring_case(std::string_view left, std::string_view right) {
     const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),
                       [&](char a, char b) { return lower(a) == lower(b); });
-}
-
-std::string picture_mime(ByteView bytes) {
-    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-    return text.starts_with("\xFF\xD8\xFF")                                               ? "image/jpeg"
-           : text.starts_with("\x89PNG\r\n\x1A\n")                                        ? "image/png"
-           : text.starts_with("GIF8")                                                     ? "image/gif"
-           : text.starts_with("BM")                                                       ? "image/bmp"
-           : text.starts_with("RIFF") && text.size() >= 12 && text.substr(8, 4) == "WEBP" ? "image/webp"
-                                                                                          : std::string();
 }
 
 } // namespace velmora::portable

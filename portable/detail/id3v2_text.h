@@ -50,7 +50,4 @@ struct AttachedPicture {
 /** Whether the two are equal when the letters A to Z and a to z are not told apart. */
 [[nodiscard]] bool equal_ignoring_case(std::string_view left, std::string_view right);
 
-/** The type of the picture that BYTES are, by their beginning; nothing in it for one that is not known. */
-[[nodiscard]] std::string picture_mime(std::span<const std::uint8_t> bytes);
-
 } // namespace velmora::portable
