@@ -65,8 +65,8 @@ QStringList formsOfDates() {
     constexpr std::int64_t day = 24L * 60 * 60;
     constexpr std::int64_t start = 1766188800; // 20 December 2025; from there in steps of about a month
     QStringList forms;
-    for (int month = 0; month < 12; ++month) {
-        for (int weekday = 0; weekday < 7; ++weekday) {
+    for (std::int64_t month = 0; month < 12; ++month) {
+        for (std::int64_t weekday = 0; weekday < 7; ++weekday) {
             for (const std::int64_t halfDay : {std::int64_t(0), day / 2}) {
                 QString text = createdText({start + month * 30 * day + weekday * day + halfDay, 0});
                 std::replace_if(

@@ -160,7 +160,7 @@ bool corners_match(const std::uint32_t* pixels, std::uint32_t width, std::uint32
 /** Asks for large pages behind a large buffer that is about to be filled: one page fault in 2 MiB instead of
    one in 4 KiB is most of what filling it costs. Where the system has none, nothing changes. */
 void prefer_large_pages(void* buffer, std::size_t size) {
-    constexpr std::size_t large_page = 2 * 1024 * 1024;
+    constexpr std::size_t large_page = 2UL * 1024 * 1024;
     if (size >= large_page) {
         const int error = errno;
         // From the page that the buffer begins in: the large ones need not begin with it.

@@ -13,6 +13,7 @@ struct FileTime {
     std::int64_t seconds = 0;
     std::uint32_t nanoseconds = 0;
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): what the compiler writes compares with 0
     auto operator<=>(const FileTime&) const = default;
 };
 

@@ -32,7 +32,7 @@ QIcon fileIcon(const QString& path) {
     if (!file.exists()) {
         return plainIcon(path);
     }
-    const QIcon icon = QFileIconProvider().icon(file);
+    QIcon icon = QFileIconProvider().icon(file);
     // Without an extension the desktop goes by what the file is or holds, and so does a folder's icon.
     if (!extension.isEmpty() && !file.isDir()) {
         iconsByExtension.emplace(extension, icon);

@@ -131,7 +131,7 @@ std::optional<ImageRef> TagWebBrowser::fetchCover(const QUrl& url) {
     connect(ui_->btn_cancelCover, &QPushButton::clicked, &hesitation, [&cancelled] { cancelled = true; });
     ui_->lbl_coverWait->setText(waitText(url));
     hesitation.start(waitWithoutAWord);
-    const std::optional<ImageRef> image = fetchImage(url, ui_->webview_search, ui_->btn_cancelCover);
+    std::optional<ImageRef> image = fetchImage(url, ui_->webview_search, ui_->btn_cancelCover);
     if (self) {
         coversCancelled_ = cancelled;
         ui_->box_coverWait->hide();

@@ -57,7 +57,7 @@ QString AddressLine::fittingText() const {
     initStyleOption(&frame);
     const int room = style()->subElementRect(QStyle::SE_LineEditContents, &frame, this).width() - 2 * margin;
     const QFontMetrics metrics = fontMetrics();
-    const QString whole = wholeText();
+    QString whole = wholeText();
     if (metrics.horizontalAdvance(whole) <= room) {
         return whole;
     }

@@ -55,7 +55,7 @@ std::shared_ptr<const DomDocument> readDomSnapshot(const QString& text) {
     std::vector<DomNode*> added;
     const QJsonArray nodes = snapshot.value(QLatin1String("nodes")).toArray();
     added.reserve(static_cast<std::size_t>(nodes.size()));
-    for (const QJsonValue& value : nodes) {
+    for (const auto& value : nodes) {
         const QJsonArray columns = value.toArray();
         std::optional<DomNode> node = readNode(columns);
         const int parent = columns.at(Parent).toInt(-2);

@@ -14,7 +14,7 @@ namespace velmora {
 namespace {
 
 /** A piece larger than this goes through the buffer in several steps. */
-constexpr std::int64_t largest_buffer = 1024 * 1024;
+constexpr std::int64_t largest_buffer = 1024L * 1024;
 
 /** The transfer buffer of one move. */
 class Transfer {

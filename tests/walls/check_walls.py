@@ -8,7 +8,7 @@ import subprocess
 import sys
 import tempfile
 
-project, build = map(pathlib.Path, sys.argv[1:3])
+project, build = (pathlib.Path(path).resolve() for path in sys.argv[1:3])
 rooms = ["taglib", "portable", "platform", "model", "imaging", "weblookup", "browser", "app"]
 wrong = []
 

@@ -13,7 +13,7 @@ namespace velmora {
 namespace {
 
 /** What is gathered before it is written: more than a usual header has. */
-constexpr std::uint64_t most_gathered = 64 * 1024;
+constexpr std::uint64_t most_gathered = 64UL * 1024;
 
 /** The strings of a content description, in the order of the file. */
 struct Strings {
