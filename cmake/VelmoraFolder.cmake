@@ -6,6 +6,12 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
+# A linker that takes half the time, where there is one.
+find_program(VELMORA_LLD ld.lld)
+if(VELMORA_LLD)
+  add_link_options(-fuse-ld=lld)
+endif()
+
 add_library(velmora_options INTERFACE)
 target_compile_options(velmora_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
 if(VELMORA_WERROR)

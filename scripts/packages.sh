@@ -1,6 +1,6 @@
 # Installs Debian packages that are missing, and says so. Sourced by ./run and ./test.
 
-build_packages=(build-essential cmake ninja-build pkg-config
+build_packages=(build-essential cmake lld ninja-build pkg-config
   qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-multimedia-dev qt6-webengine-dev
   libjpeg-dev libpng-dev libtag1-dev libcli11-dev nlohmann-json3-dev zlib1g-dev)
 run_packages=(libqt6svg6 qt6-image-formats-plugins qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core
