@@ -23,7 +23,7 @@ namespace velmora {
 namespace {
 
 using test::settle;
-using test::textFrame;
+using test::text4;
 using test::waitUntil;
 
 QAccessibleInterface& interfaceOf(QObject& object) {
@@ -121,7 +121,7 @@ TEST_F(AccessibilityTest, EveryControlIsNamedWhileASongIsOpen) {
 }
 
 TEST_F(AccessibilityTest, EveryControlIsNamedWhileAFilmIsOpen) {
-    openFile("a.mp4", textFrame("TALB", "Film"));
+    openFile("a.mp4", text4("TALB", "Film"));
     EXPECT_EQ(QStringList(), complaints());
     widget<CoverArtView>("img_coverArt").setImage(QImage(30, 40, QImage::Format_RGB32));
     EXPECT_EQ(QStringList(), complaints());
@@ -183,7 +183,7 @@ TEST_F(AccessibilityTest, FieldsAreCalledAsTheirCaptionsRead) {
         }
     };
     expectAgreement();
-    openFile("a.mp4", textFrame("TALB", "Film"));
+    openFile("a.mp4", text4("TALB", "Film"));
     EXPECT_EQ("Cast", nameOf(entry("entry_artist")));
     EXPECT_EQ("Director", nameOf(entry("entry_album")));
     expectAgreement();
@@ -282,7 +282,7 @@ TEST_F(AltLetterTest, EveryFieldAndButtonHasOneAndNoneIsGivenTwice) {
 }
 
 TEST_F(AltLetterTest, FieldsAreReachedAndButtonsPressedByThem) {
-    openFile("a.mp4", textFrame("TALB", "Film"));
+    openFile("a.mp4", text4("TALB", "Film"));
     const auto all = letters();
     for (QWidget* control : buttonsAndFields()) {
         if (all.keys(control).isEmpty()) {

@@ -16,8 +16,8 @@ class AddedPathsTest : public test::WindowTest {
 protected:
     AddedPathsTest() {
         std::filesystem::create_directory(folder_ / "shelf");
-        test::write_file(folder_ / "a.mp3", test::taggedFile(test::textFrame("TIT2", "Harbour")));
-        test::write_file(folder_ / "b.mp3", test::taggedFile(test::textFrame("TIT2", "Evening")));
+        test::write_file(folder_ / "a.mp3", test::taggedFile(test::text4("TIT2", "Harbour")));
+        test::write_file(folder_ / "b.mp3", test::taggedFile(test::text4("TIT2", "Evening")));
         // The search lists what is larger than 100 KiB.
         test::write_file(folder_ / "shelf/c.mp3", std::string(200'000, '\0'));
         test::write_file(folder_ / "notes.txt", "1984");

@@ -14,7 +14,7 @@
 namespace velmora {
 namespace {
 
-using test::textFrame;
+using test::text4;
 
 QPalette darkPalette() {
     QPalette palette(QColor(0x35, 0x36, 0x3A));
@@ -32,10 +32,9 @@ protected:
     void showFilm(const QPalette& palette) {
         QApplication::setPalette(palette);
         document().window()->resize(1024, 700);
-        openFile("A film.mp4", textFrame("TALB", "Harbour Lights") + textFrame("TPE1", "Ann, Bob, Cy") +
-                                   textFrame("TIT2", "Two people meet.\nThey part.") +
-                                   textFrame("TPE3", "Di") + textFrame("TCON", "Drama") +
-                                   textFrame("TYER", "2005"));
+        openFile("A film.mp4", text4("TALB", "Harbour Lights") + text4("TPE1", "Ann, Bob, Cy") +
+                                   text4("TIT2", "Two people meet.\nThey part.") + text4("TPE3", "Di") +
+                                   text4("TCON", "Drama") + text4("TYER", "2005"));
         QImage cover(300, 420, QImage::Format_RGB32);
         cover.fill(QColor(0x2F, 0x5F, 0x8F));
         widget<CoverArtView>("img_coverArt").setImage(cover);

@@ -5,6 +5,7 @@
 #include "platform/busy_indicator.h"
 #include "platform/file_path.h"
 #include "support/bytes.h"
+#include "support/pictures.h"
 
 #include <QAction>
 #include <QFileDialog>
@@ -20,7 +21,7 @@ namespace {
 
 using test::settle;
 using test::taggedFile;
-using test::textFrame;
+using test::text4;
 
 class ButtonActionsTest : public test::WindowTest {
 protected:
@@ -46,19 +47,17 @@ protected:
     std::string bytes() { return test::read_file(folder_ / "a.mp3"); }
     CoverArtView& well() { return widget<CoverArtView>("img_coverArt"); }
     QString image(const std::string& name, int width, int height) {
-        QImage picture(width, height, QImage::Format_RGB32);
-        picture.fill(Qt::darkRed);
-        EXPECT_TRUE(picture.save(path(name), "PNG"));
+        EXPECT_TRUE(test::plain({width, height}, Qt::darkRed).save(path(name), "PNG"));
         return path(name);
     }
-    const std::string original = taggedFile(textFrame("TIT2", "Z"));
+    const std::string original = taggedFile(text4("TIT2", "Z"));
 };
 
 TEST_F(ButtonActionsTest, SaveWritesAndSettlesTheChanges) {
     openFile();
     type("entry_title", "new");
     button("btn_saveTag").click();
-    EXPECT_EQ(taggedFile(textFrame("TIT2", "new")), bytes());
+    EXPECT_EQ(taggedFile(text4("TIT2", "new")), bytes());
     EXPECT_FALSE(document().isDocumentEdited());
     EXPECT_FALSE(enabled("btn_saveTag"));
     EXPECT_FALSE(enabled("btn_revertTag"));
@@ -96,7 +95,7 @@ TEST_F(ButtonActionsTest, RevertShowsTheStoredValuesAgain) {
 
 TEST_F(ButtonActionsTest, RevertReadsWhatOthersHaveWritten) {
     openFile();
-    test::write_file(folder_ / "a.mp3", taggedFile(textFrame("TIT2", "theirs")));
+    test::write_file(folder_ / "a.mp3", taggedFile(text4("TIT2", "theirs")));
     controller().revertToSaved();
     settle();
     EXPECT_EQ("theirs", entry("entry_title").text());
@@ -184,7 +183,7 @@ TEST_F(ButtonActionsTest, RemoveLeavesFileFormAndModelAlone) {
 
 TEST_F(ButtonActionsTest, AfterRemoveTheNextSelectionDropsTheEditsUnasked) {
     openFile();
-    addFile("b.mp3", taggedFile(textFrame("TIT2", "B")));
+    addFile("b.mp3", taggedFile(text4("TIT2", "B")));
     type("entry_title", "new");
     button("btn_removeTag").click();
     select(1);

@@ -6,8 +6,8 @@
 #include "model/MediaFile.h"
 #include "support/bytes.h"
 #include "support/drag_session.h"
+#include "support/pictures.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QUrl>
 
@@ -21,50 +21,20 @@ using test::waitUntil;
 class CoverArtTest : public test::WindowTest {
 protected:
     static std::string encoded(const QImage& image, const char* format = "jpeg") {
-        QBuffer buffer;
-        buffer.open(QIODevice::WriteOnly);
-        EXPECT_TRUE(image.save(&buffer, format));
-        return buffer.data().toStdString();
-    }
-
-    static QImage plain(QSize size) {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(Qt::darkCyan);
-        return image;
-    }
-
-    /** An APIC frame that calls DATA a JPEG. */
-    static std::string cover(const std::string& data) {
-        std::string body(1, '\0');
-        body += "image/jpeg";
-        body += std::string("\0\3\0", 3) + data;
-        return frame("APIC", body);
-    }
-    static std::string frame(const std::string& id, const std::string& body) {
-        const std::size_t size = body.size();
-        return id +
-               std::string({static_cast<char>(size >> 21 & 0x7F), static_cast<char>(size >> 14 & 0x7F),
-                            static_cast<char>(size >> 7 & 0x7F), static_cast<char>(size & 0x7F), '\0',
-                            '\0'}) +
-               body;
+        return test::encoded(image, format).toStdString();
     }
     /** A JPEG whose header is whole and whose data never comes. */
     static std::string headerOnly(QSize size) {
-        const std::string jpeg = encoded(plain(size));
+        const std::string jpeg = encoded(test::plain(size));
         return jpeg.substr(0, jpeg.find("\xFF\xDA"));
-    }
-    static std::string svgThatShows(const std::string& path) {
-        return "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" "
-               "width=\"8\" height=\"8\"><image width=\"8\" height=\"8\" xlink:href=\"" +
-               path + "\"/></svg>";
     }
 
     CoverArtView& well() { return widget<CoverArtView>("img_coverArt"); }
 };
 
 TEST_F(CoverArtTest, ACoverThatIsAnSvgShowsNoFileOfThisMachine) {
-    test::write_file(folder_ / "private.png", encoded(plain(QSize(8, 8)), "png"));
-    openFile("a.mp3", cover(svgThatShows(folder_ / "private.png")));
+    test::write_file(folder_ / "private.png", encoded(test::plain(QSize(8, 8)), "png"));
+    openFile("a.mp3", test::cover4(test::svgThatShows(folder_ / "private.png").toStdString()));
     EXPECT_TRUE(well().image().isNull());
     EXPECT_FALSE(file().coverArt());
     EXPECT_FALSE(enabled("btn_trimBorder"));
@@ -72,15 +42,15 @@ TEST_F(CoverArtTest, ACoverThatIsAnSvgShowsNoFileOfThisMachine) {
 
 TEST_F(CoverArtTest, ACoverThatIsAnSvgWaitsForNoPipe) {
     ASSERT_EQ(0, ::mkfifo((folder_ / "pipe").c_str(), 0600));
-    test::write_file(folder_ / "folder.jpg", svgThatShows(folder_ / "pipe"));
-    openFile("a.mp3", cover(svgThatShows(folder_ / "pipe")));
+    test::write_file(folder_ / "folder.jpg", test::svgThatShows(folder_ / "pipe").toStdString());
+    openFile("a.mp3", test::cover4(test::svgThatShows(folder_ / "pipe").toStdString()));
     EXPECT_TRUE(well().image().isNull());
 }
 
 TEST_F(CoverArtTest, ACoverThatCannotBeDecodedLeavesItsPlaceToTheFoldersImage) {
     for (const QSize size : {QSize(300, 200), QSize(3000, 2000)}) {
-        test::write_file(folder_ / "folder.jpg", encoded(plain(QSize(20, 10))));
-        openFile("a.mp3", cover(headerOnly(size)));
+        test::write_file(folder_ / "folder.jpg", encoded(test::plain(QSize(20, 10))));
+        openFile("a.mp3", test::cover4(headerOnly(size)));
         EXPECT_EQ(QSize(20, 10), well().image().size());
         EXPECT_TRUE(enabled("btn_trimBorder"));
         EXPECT_TRUE(document().isDocumentEdited());
@@ -90,16 +60,16 @@ TEST_F(CoverArtTest, ACoverThatCannotBeDecodedLeavesItsPlaceToTheFoldersImage) {
 
 TEST_F(CoverArtTest, ACoverThatCannotBeDecodedLeavesItsPlaceToTheAlbumsImage) {
     test::write_file(folder_ / "AlbumArt_{13121110-1514-1716-1819-1a1b1c1d1e1f}_Large.jpg",
-                     encoded(plain(QSize(30, 40))));
+                     encoded(test::plain(QSize(30, 40))));
     const std::string album = std::string("WM/WMCollectionGroupID") + '\0' +
                               test::hex("10 11 12 13 14 15 16 17 18 19 1A 1B 1C 1D 1E 1F");
-    openFile("a.mp3", cover(headerOnly(QSize(300, 200))) + frame("PRIV", album));
+    openFile("a.mp3", test::cover4(headerOnly(QSize(300, 200))) + test::frame4("PRIV", album));
     EXPECT_EQ(QSize(30, 40), well().image().size());
     EXPECT_FALSE(document().isDocumentEdited());
 }
 
 TEST_F(CoverArtTest, ALargeCoverIsThereAtOnceAndShownLater) {
-    openFile("a.mp3", cover(encoded(plain(QSize(3000, 2000)))));
+    openFile("a.mp3", test::cover4(encoded(test::plain(QSize(3000, 2000)))));
     EXPECT_TRUE(file().coverArt());
     EXPECT_TRUE(enabled("btn_trimBorder"));
     EXPECT_FALSE(document().isDocumentEdited());
@@ -111,7 +81,7 @@ TEST_F(CoverArtTest, ALargeCoverIsThereAtOnceAndShownLater) {
 
 TEST_F(CoverArtTest, ACoverThatIsTooLargeToShowCannotBeTrimmedAndIsStored) {
     well().findChild<BackgroundDecode*>()->setPatience(std::chrono::milliseconds(0));
-    const QString path = openFile("a.mp3", cover(encoded(plain(QSize(3000, 2000)), "png")));
+    const QString path = openFile("a.mp3", test::cover4(encoded(test::plain(QSize(3000, 2000)), "png")));
     EXPECT_TRUE(waitUntil([this] { return !enabled("btn_trimBorder"); }));
     type("entry_title", "Noon");
     button("btn_saveTag").click();
@@ -120,7 +90,7 @@ TEST_F(CoverArtTest, ACoverThatIsTooLargeToShowCannotBeTrimmedAndIsStored) {
 }
 
 TEST_F(CoverArtTest, ALargeFolderImageIsAChangeAtOnceAndStored) {
-    test::write_file(folder_ / "folder.jpg", encoded(plain(QSize(3000, 2000))));
+    test::write_file(folder_ / "folder.jpg", encoded(test::plain(QSize(3000, 2000))));
     const QString path = openFile("a.mp3");
     EXPECT_TRUE(document().isDocumentEdited());
     EXPECT_TRUE(enabled("btn_saveTag"));
@@ -130,7 +100,7 @@ TEST_F(CoverArtTest, ALargeFolderImageIsAChangeAtOnceAndStored) {
 }
 
 TEST_F(CoverArtTest, AWindowMayCloseWhileALargeCoverIsDecoded) {
-    openFile("a.mp3", cover(encoded(plain(QSize(6000, 5000)))));
+    openFile("a.mp3", test::cover4(encoded(test::plain(QSize(6000, 5000)))));
     document_.reset();
 }
 
@@ -141,7 +111,7 @@ class FileDropTest : public CoverArtTest {
 protected:
     FileDropTest() {
         openFile();
-        test::write_file(folder_ / "c.png", encoded(plain(QSize(12, 10)), "png"));
+        test::write_file(folder_ / "c.png", encoded(test::plain(QSize(12, 10)), "png"));
         test::write_file(folder_ / "notes.txt", "1984");
     }
 

@@ -10,7 +10,7 @@
 namespace velmora {
 namespace {
 
-using test::textFrame;
+using test::text4;
 
 class FillFieldsTest : public test::WindowTest {
 protected:
@@ -29,7 +29,7 @@ protected:
         info.releaseDate = QDate(2005, 5, 12);
         return info;
     }
-    void openVideo() { openFile("a.mp4", textFrame("TALB", "Film")); }
+    void openVideo() { openFile("a.mp4", text4("TALB", "Film")); }
     void openRated(const QString& rating) {
         openVideo();
         file().setRating(rating);
@@ -103,7 +103,7 @@ TEST_F(FillFieldsTest, LogsItsSlotsInOrder) {
 }
 
 TEST_F(FillFieldsTest, MissingSlotsLeaveTheirControlsAlone) {
-    openFile("a.mp4", textFrame("TALB", "Film") + textFrame("TPE1", "Cast") + textFrame("TYER", "1999"));
+    openFile("a.mp4", text4("TALB", "Film") + text4("TPE1", "Cast") + text4("TYER", "1999"));
     const FormFillInfo nothing;
     controller().fillFields(&nothing);
     EXPECT_EQ("Film", entry("entry_title").text());

@@ -12,14 +12,14 @@
 namespace velmora {
 namespace {
 
-using test::textFrame;
+using test::text4;
 
 class FormEditsTest : public test::WindowTest {
 protected:
     void openAudio() {
-        openFile("a.mp3", textFrame("TIT2", "Z") + textFrame("TYER", "1999") + textFrame("TCON", "Jazz"));
+        openFile("a.mp3", text4("TIT2", "Z") + text4("TYER", "1999") + text4("TCON", "Jazz"));
     }
-    void openVideo() { openFile("a.mp4", textFrame("TALB", "Film") + textFrame("TIT2", "plot")); }
+    void openVideo() { openFile("a.mp4", text4("TALB", "Film") + text4("TIT2", "plot")); }
     void expectMarked(bool marked) {
         EXPECT_EQ(marked, document().isDocumentEdited());
         EXPECT_EQ(marked, enabled("btn_saveTag"));
@@ -140,7 +140,7 @@ TEST_F(FormEditsTest, ArrowKeysStartAtTheGenreThatIsShown) {
     }
     ASSERT_EQ("Animated", genre().currentText());
     controller().removeTag();
-    openFile("b.mp3", textFrame("TCON", "Crime"));
+    openFile("b.mp3", text4("TCON", "Crime"));
     EXPECT_EQ("Crime", genre().currentText());
     expectMarked(false);
     QTest::keyClick(&genre(), Qt::Key_Down);
@@ -152,7 +152,7 @@ TEST_F(FormEditsTest, ArrowKeysStartAtTheTopForAGenreThatIsNotInTheList) {
     QTest::keyClick(&genre(), Qt::Key_Down);
     QTest::keyClick(&genre(), Qt::Key_Down);
     controller().removeTag();
-    openFile("b.mp3", textFrame("TCON", "Jazz"));
+    openFile("b.mp3", text4("TCON", "Jazz"));
     EXPECT_EQ("Jazz", genre().currentText());
     QTest::keyClick(&genre(), Qt::Key_Down);
     EXPECT_EQ("Action", file().genre());
@@ -183,7 +183,7 @@ TEST_F(FormEditsTest, LongTextsAreNotCutByAnEdit) {
 }
 
 TEST_F(FormEditsTest, PassingThroughTheGenreBoxIsNoEdit) {
-    openFile("a.mp3", textFrame("TCON", "Drama"));
+    openFile("a.mp3", text4("TCON", "Drama"));
     const int before = logged("in controlTextDidEndEditing:\n");
     genre().setFocus();
     QTest::keyClick(genre().lineEdit(), Qt::Key_Return);
@@ -221,7 +221,7 @@ TEST_F(FormEditsTest, SynopsisLikeTheStoredOneMarksNothing) {
 }
 
 TEST_F(FormEditsTest, NoBreakSpacesOfTheSynopsisSurviveAKeystroke) {
-    openFile("a.mp4", textFrame("TIT2", "10\xA0km\xA0"));
+    openFile("a.mp4", text4("TIT2", "10\xA0km\xA0"));
     QTest::keyClicks(&synopsis(), "x");
     EXPECT_EQ(QStringLiteral("x10\u00A0km\u00A0"), file().synopsis());
 }

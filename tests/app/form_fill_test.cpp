@@ -2,6 +2,7 @@
 
 #include "imaging/CoverArtView.h"
 #include "support/bytes.h"
+#include "support/pictures.h"
 
 #include <QComboBox>
 #include <QDateTimeEdit>
@@ -16,10 +17,10 @@ namespace velmora {
 namespace {
 
 using test::taggedFile;
-using test::textFrame;
+using test::text4;
 
-const std::string allFrames = textFrame("TALB", "X") + textFrame("TPE1", "Y") + textFrame("TIT2", "Z") +
-                              textFrame("TPE3", "D") + textFrame("TCON", "Jazz") + textFrame("TYER", "1999");
+const std::string allFrames = text4("TALB", "X") + text4("TPE1", "Y") + text4("TIT2", "Z") +
+                              text4("TPE3", "D") + text4("TCON", "Jazz") + text4("TYER", "1999");
 
 class FormFillTest : public test::WindowTest {
 protected:
@@ -28,14 +29,8 @@ protected:
     QComboBox& genre() { return widget<QComboBox>("combo_genre"); }
     QString synopsis() { return widget<QPlainTextEdit>("entry_desc").toPlainText(); }
     QImage cover() { return widget<CoverArtView>("img_coverArt").image(); }
-    static std::string ratingFrame(const std::string& rating) {
-        const std::string body = std::string("WM/ParentalRating\0", 18) + rating;
-        return "PRIV" + std::string(3, '\0') + static_cast<char>(body.size()) + std::string(2, '\0') + body;
-    }
     void writeImage(const std::string& name, int width, int height) {
-        QImage image(width, height, QImage::Format_RGB32);
-        image.fill(Qt::darkCyan);
-        ASSERT_TRUE(image.save(path(name), "PNG"));
+        ASSERT_TRUE(test::plain({width, height}).save(path(name), "PNG"));
     }
 };
 
@@ -50,7 +45,7 @@ TEST_F(FormFillTest, AudioHasArtistAndAlbum) {
 }
 
 TEST_F(FormFillTest, VideoHasCastAndDirectorAndARating) {
-    openFile("a.mp4", allFrames + ratingFrame("PG-13"));
+    openFile("a.mp4", allFrames + test::rating4("PG-13"));
     EXPECT_EQ("Cast:", label("lbl_artist"));
     EXPECT_EQ("Director:", label("lbl_album"));
     EXPECT_EQ("Y", entry("entry_artist").text());
@@ -68,7 +63,7 @@ TEST_F(FormFillTest, FilmAfterASongCanBeRatedAgain) {
 }
 
 TEST_F(FormFillTest, RatingIsMatchedExactly) {
-    openFile("a.mp4", ratingFrame("pg-13"));
+    openFile("a.mp4", test::rating4("pg-13"));
     EXPECT_EQ(-1, rating().currentIndex());
     EXPECT_EQ("pg-13", file().rating());
 }
@@ -92,23 +87,23 @@ TEST_F(FormFillTest, GenreYearAndDateAreShown) {
 }
 
 TEST_F(FormFillTest, YearZeroIsAnEmptyField) {
-    openFile("a.mp3", textFrame("TIT2", "Z"));
+    openFile("a.mp3", text4("TIT2", "Z"));
     EXPECT_EQ("", entry("entry_year").text());
 }
 
 TEST_F(FormFillTest, SearchTextIsTheTitle) {
-    openFile("a.mp3", textFrame("TIT2", "Harbour"));
+    openFile("a.mp3", text4("TIT2", "Harbour"));
     EXPECT_EQ("Harbour", entry("entry_search").text());
     EXPECT_EQ(1, logged("set search field to Harbour\n"));
 }
 
 TEST_F(FormFillTest, SearchTextWithoutATitleIsTheNameWithoutFolderAndExtension) {
-    openFile("A film (2005).x.mp3", textFrame("TALB", "X"));
+    openFile("A film (2005).x.mp3", text4("TALB", "X"));
     EXPECT_EQ("A film (2005).x", entry("entry_search").text());
 }
 
 TEST_F(FormFillTest, FillingMarksNoChange) {
-    openFile("a.mp4", allFrames + ratingFrame("R"));
+    openFile("a.mp4", allFrames + test::rating4("R"));
     EXPECT_FALSE(document().isDocumentEdited());
     EXPECT_FALSE(enabled("btn_saveTag"));
     EXPECT_FALSE(enabled("btn_revertTag"));
@@ -116,7 +111,7 @@ TEST_F(FormFillTest, FillingMarksNoChange) {
 
 TEST_F(FormFillTest, OpeningAnotherFileLeavesItsValuesAlone) {
     openFile("a.mp4", allFrames);
-    openFile("b.mp4", textFrame("TALB", "Other"));
+    openFile("b.mp4", text4("TALB", "Other"));
     openFile("c.mp4", allFrames);
     EXPECT_EQ("X", file().title());
     EXPECT_EQ("Z", file().synopsis());
@@ -133,7 +128,7 @@ TEST_F(FormFillTest, EnablesRemoveAndLoadForAnOpenFile) {
 }
 
 TEST_F(FormFillTest, ClearEmptiesTheFormButNotItsCaptionsAndDate) {
-    openFile("a.mp4", allFrames + ratingFrame("R"));
+    openFile("a.mp4", allFrames + test::rating4("R"));
     file().setCoverArt(ImageRef::fromQImage(QImage(8, 8, QImage::Format_RGB32)));
     controller().fillUI();
     ASSERT_FALSE(cover().isNull());

@@ -20,7 +20,7 @@
 namespace velmora {
 namespace {
 
-using test::textFrame;
+using test::text4;
 
 class LayoutTest : public test::WindowTest {
 protected:
@@ -178,7 +178,7 @@ class SmallWindowTest : public LayoutTest, public testing::WithParamInterface<QS
 protected:
     /** The window in that size, with every button in use, a film in the form and a page in the panel. */
     void showFilm() {
-        openFile("a.mp4", textFrame("TALB", "Film"));
+        openFile("a.mp4", text4("TALB", "Film"));
         // What the preview has to say takes room of its own.
         EXPECT_TRUE(test::waitUntil([this] { return widget<QLabel>("lbl_previewFailed").isVisible(); }));
         emit page().didStartProvisionalLoad(&page(), page().mainFrame());

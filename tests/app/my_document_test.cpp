@@ -10,14 +10,14 @@ namespace velmora {
 namespace {
 
 using test::taggedFile;
-using test::textFrame;
+using test::text4;
 
 class MyDocumentTest : public test::WindowTest {
 protected:
     bool open(const QString& path, Error* error = nullptr) {
         return document().readFromURL(fileUrlFromPath(path), "mediafile", error);
     }
-    QString write(const std::string& name, const std::string& bytes = taggedFile(textFrame("TIT2", "Z"))) {
+    QString write(const std::string& name, const std::string& bytes = taggedFile(text4("TIT2", "Z"))) {
         test::write_file(folder_ / name, bytes);
         return path(name);
     }
@@ -129,7 +129,7 @@ TEST_F(MyDocumentTest, SavingWritesTheFileAndKeepsTheChangeCount) {
     file().setTitle("Q");
     document().updateChangeCount(Document::ChangeType::Done);
     EXPECT_TRUE(document().saveMediaFile(nullptr));
-    EXPECT_EQ(taggedFile(textFrame("TIT2", "Q")), test::read_file(folder_ / "a.mp3"));
+    EXPECT_EQ(taggedFile(text4("TIT2", "Q")), test::read_file(folder_ / "a.mp3"));
     EXPECT_TRUE(document().isDocumentEdited());
 }
 
@@ -154,7 +154,7 @@ TEST_F(MyDocumentTest, MenuSaveWritesButTheDocumentStaysEdited) {
     type("entry_title", "Menu");
     QAction& save = *document().window()->findChild<QAction*>("action_save");
     save.trigger();
-    EXPECT_EQ(taggedFile(textFrame("TIT2", "Menu")), test::read_file(folder_ / "a.mp3"));
+    EXPECT_EQ(taggedFile(text4("TIT2", "Menu")), test::read_file(folder_ / "a.mp3"));
     EXPECT_TRUE(document().isDocumentEdited());
     EXPECT_TRUE(enabled("btn_saveTag"));
     EXPECT_TRUE(enabled("btn_revertTag"));

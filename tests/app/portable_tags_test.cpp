@@ -29,7 +29,7 @@ using test::hex;
 using test::QuestionAnswerer;
 using test::settle;
 using test::taggedFile;
-using test::textFrame;
+using test::text4;
 using test::waitUntil;
 
 /** Two silent frames of MPEG audio, layer 3. */
@@ -369,7 +369,7 @@ TEST_F(PortableTagsTest, AreForgottenWhenTheUserSwitchesThemOff) {
 }
 
 TEST_F(PortableTagsTest, AreOfferedWhenASaveInPlaceIsNotReadBack) {
-    open("song.mp3", taggedFile(textFrame("TIT2", "Harbour")));
+    open("song.mp3", taggedFile(text4("TIT2", "Harbour")));
     type("entry_title", "Harb");
     press("btn_saveTag");
 
@@ -379,7 +379,7 @@ TEST_F(PortableTagsTest, AreOfferedWhenASaveInPlaceIsNotReadBack) {
 }
 
 TEST_F(PortableTagsTest, AreNotMentionedWhenASaveInPlaceIsReadBack) {
-    open("song.mp3", taggedFile(textFrame("TIT2", "Harbour")));
+    open("song.mp3", taggedFile(text4("TIT2", "Harbour")));
     type("entry_title", "A harbour in the evening");
     press("btn_saveTag");
 

@@ -13,7 +13,7 @@ namespace {
 
 using test::QuestionAnswerer;
 using test::taggedFile;
-using test::textFrame;
+using test::text4;
 
 class QuittingTest : public test::WindowTest {};
 
@@ -43,7 +43,7 @@ TEST_F(QuittingTest, ClosingWithChangesAsksOnceAndSaves) {
     EXPECT_TRUE(document().window()->close());
     EXPECT_EQ(1, answer.questions());
     EXPECT_TRUE(termination_.isTerminating());
-    EXPECT_EQ(taggedFile(textFrame("TIT2", "edited")), test::read_file(folder_ / "a.mp3"));
+    EXPECT_EQ(taggedFile(text4("TIT2", "edited")), test::read_file(folder_ / "a.mp3"));
 }
 
 TEST_F(QuittingTest, QuittingWithoutChangesAsksNothing) {
@@ -67,7 +67,7 @@ TEST_F(QuittingTest, QuittingAndNotSavingEnds) {
     const QuestionAnswerer answer(*document().window(), "Don't Save");
     document().window()->findChild<QAction*>("action_quit")->trigger();
     EXPECT_TRUE(termination_.isTerminating());
-    EXPECT_EQ(taggedFile(textFrame("TIT2", "Z")), test::read_file(folder_ / "a.mp3"));
+    EXPECT_EQ(taggedFile(text4("TIT2", "Z")), test::read_file(folder_ / "a.mp3"));
 }
 
 TEST_F(QuittingTest, LastWindowsCloseIsAskedForAndGranted) {

@@ -16,7 +16,7 @@ namespace {
 using test::QuestionAnswerer;
 using test::settle;
 using test::taggedFile;
-using test::textFrame;
+using test::text4;
 using test::waitUntil;
 
 /** Two listed files; the first is open and its title was changed to "edited". */
@@ -24,7 +24,7 @@ class SaveQuestionTest : public test::WindowTest {
 protected:
     SaveQuestionTest() {
         openFile("a.mp3");
-        addFile("b.mp3", taggedFile(textFrame("TIT2", "B")));
+        addFile("b.mp3", taggedFile(text4("TIT2", "B")));
         type("entry_title", "edited");
     }
     int selectedRow() {
@@ -38,7 +38,7 @@ protected:
         EXPECT_TRUE(waitUntil([&] { return answer.questions() > 0; }));
         settle();
     }
-    const std::string original = taggedFile(textFrame("TIT2", "Z"));
+    const std::string original = taggedFile(text4("TIT2", "Z"));
 };
 
 TEST_F(SaveQuestionTest, NamesTheFileAndItsLoss) {
@@ -74,7 +74,7 @@ TEST_F(SaveQuestionTest, SaveWritesAndThenOpensTheOtherFile) {
     selectAndWait(1, answer);
     EXPECT_EQ(path("b.mp3"), file().filename());
     EXPECT_FALSE(document().isDocumentEdited());
-    EXPECT_EQ(taggedFile(textFrame("TIT2", "edited")), bytes());
+    EXPECT_EQ(taggedFile(text4("TIT2", "edited")), bytes());
 }
 
 TEST_F(SaveQuestionTest, DeselectingAsksToo) {
@@ -132,7 +132,7 @@ TEST_F(SaveQuestionTest, ComesBeforeTheAddressIsLookedAt) {
 }
 
 TEST_F(SaveQuestionTest, TypingOnInTheListAnswersNothing) {
-    addFile("video.mp3", taggedFile(textFrame("TIT2", "V")));
+    addFile("video.mp3", taggedFile(text4("TIT2", "V")));
     bool stillAsked = false;
     bool done = false;
     QTimer look;

@@ -3,10 +3,10 @@
 #include "window_fixture.h"
 
 #include "imaging/CoverArtView.h"
+#include "support/pictures.h"
 #include "web_support/page_server.h"
 #include "weblookup/TagWebBrowser.h"
 
-#include <QBuffer>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QDir>
@@ -15,7 +15,7 @@
 namespace velmora {
 namespace {
 
-using test::textFrame;
+using test::text4;
 using test::waitUntil;
 
 const char filmPage[] = R"(<!DOCTYPE html>
@@ -32,12 +32,7 @@ const char filmPage[] = R"(<!DOCTYPE html>
 <tr><td></td><td><a href="#">Bob Ray</a></td></tr></table></div></body></html>)";
 
 QByteArray poster() {
-    QImage image(150, 210, QImage::Format_RGB32);
-    image.fill(QColor(0x2F, 0x5F, 0x8F));
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(image.save(&buffer, "PNG"));
-    return buffer.data();
+    return test::encoded(test::plain({150, 210}, QColor(0x2F, 0x5F, 0x8F)), "PNG");
 }
 
 class WebLookupTest : public test::WindowTest {
@@ -46,7 +41,7 @@ protected:
         server_.serve("/find", filmPage);
         server_.serve("/poster.png", {.body = poster(), .type = "image/png"});
         document().webBrowser()->searchHosts = {server_.host(), server_.host(), server_.host()};
-        openFile("film.mp4", textFrame("TALB", "harbour"));
+        openFile("film.mp4", text4("TALB", "harbour"));
     }
     void lookUp() {
         button("btn_search").click();

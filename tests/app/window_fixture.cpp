@@ -12,30 +12,12 @@
 
 namespace velmora::test {
 
-namespace {
-
-std::string syncsafe(std::size_t value) {
-    return {static_cast<char>(value >> 21 & 0x7F), static_cast<char>(value >> 14 & 0x7F),
-            static_cast<char>(value >> 7 & 0x7F), static_cast<char>(value & 0x7F)};
-}
-
-} // namespace
-
-std::string textFrame(const std::string& id, const std::string& text) {
-    return id + syncsafe(text.size() + 1) + std::string(3, '\0') + text;
-}
-
 std::string taggedFile(const std::string& frames) {
-    const std::string rest = std::string("\x04\x00\x10", 3) + syncsafe(frames.size());
-    return pattern(64) + "ID3" + rest + frames + "3DI" + rest;
+    return pattern(64) + appended_tag(frames);
 }
 
 std::string fileTaggedInFront() {
     return "ID3" + hex("03 00 00 00 00 00 0C") + "TIT2" + hex("00 00 00 02 00 00 00 5A") + pattern(64);
-}
-
-bool waitUntil(const std::function<bool()>& condition) {
-    return QTest::qWaitFor(condition, 10000);
 }
 
 void settle() {

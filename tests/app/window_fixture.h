@@ -4,8 +4,10 @@
 #include "browser/VelmoraController.h"
 #include "browser/media_table.h"
 #include "browser/tag_form.h"
+#include "support/id3_tags.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
+#include "support/waiting.h"
 
 #include <QLineEdit>
 #include <QMessageBox>
@@ -15,21 +17,16 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 #include <string>
 
 namespace velmora::test {
 
-/** An ID3v2.4 text frame with encoding byte 0. */
-[[nodiscard]] std::string textFrame(const std::string& id, const std::string& text);
 /** Media bytes with an ID3v2.4 tag of FRAMES behind them: a file that can be saved. */
 [[nodiscard]] std::string taggedFile(const std::string& frames);
 /** Media bytes behind an ID3v2.3 tag with the title "Z": a small file that can't be saved. */
 [[nodiscard]] std::string fileTaggedInFront();
 
-/** Handles events until CONDITION holds or some seconds have gone by; returns whether it holds. */
-[[nodiscard]] bool waitUntil(const std::function<bool()>& condition);
 /** Handles what is due now. */
 void settle();
 
@@ -65,7 +62,7 @@ protected:
     /** Selects a row as a click does, and lets the window act on it; -1 selects none. */
     void select(int row);
     /** A file with TITLE, listed and open. */
-    QString openFile(const std::string& name = "a.mp3", const std::string& frames = textFrame("TIT2", "Z"));
+    QString openFile(const std::string& name = "a.mp3", const std::string& frames = text4("TIT2", "Z"));
 
     template <class Widget = QWidget>
     [[nodiscard]] Widget& widget(const char* name) {

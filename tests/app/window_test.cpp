@@ -15,7 +15,7 @@
 namespace velmora {
 namespace {
 
-using test::textFrame;
+using test::text4;
 
 class WindowLayoutTest : public test::WindowTest {
 protected:

@@ -7,6 +7,7 @@
 #include "support/qt_printing.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
+#include "support/waiting.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -29,6 +30,7 @@
 namespace velmora {
 namespace {
 
+using test::waitUntil;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -87,17 +89,8 @@ protected:
     [[nodiscard]] int searchesStarted() const {
         return static_cast<int>(std::count(events_.begin(), events_.end(), "animate"));
     }
-    /** Serves the main loop until HOLDS; gives up after some seconds. */
-    static bool runLoopUntil(const std::function<bool()>& holds) {
-        QElapsedTimer timer;
-        timer.start();
-        while (!holds() && timer.elapsed() < 20'000) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        }
-        return holds();
-    }
     bool runLoopUntilDone(int searches = 1) {
-        return runLoopUntil([this, searches] { return searchesDone() == searches; });
+        return waitUntil([this, searches] { return searchesDone() == searches; });
     }
     /** Lets the worker look for the last time while the main loop stands still; false when it never does. */
     bool waitForWorkersLastLook() {
@@ -336,7 +329,7 @@ protected:
     }
     bool startEndless() {
         search_->queueFolders({endless_, waiting_});
-        return runLoopUntil([this] { return events_.size() > 5; });
+        return waitUntil([this] { return events_.size() > 5; });
     }
     [[nodiscard]] std::vector<std::string> statusesAfterStart(int start) const {
         std::vector<std::string> statuses;
@@ -436,7 +429,7 @@ TEST_F(EndlessSearchTest, WorkersNeverOverlap) {
             search_->queueFolders({endless_});
             search_->stopScan();
             search_->queueFolders({added_});
-            runLoopUntil([this] { return search_->isSearchRunning(); });
+            waitUntil([this] { return search_->isSearchRunning(); });
         }
         search_.reset();
     });
@@ -511,7 +504,7 @@ TEST_F(MediaSearchTest, NoFolderIsEverLostWhenItIsQueuedAtTheEndOfASearch) {
             QCoreApplication::processEvents();
         }
     }
-    EXPECT_TRUE(runLoopUntil([this] { return files_.size() == rounds && !search_->isSearchRunning(); }))
+    EXPECT_TRUE(waitUntil([this] { return files_.size() == rounds && !search_->isSearchRunning(); }))
         << files_.size();
 }
 

@@ -2,6 +2,7 @@
 
 #include "imaging/CoverArtView.h"
 
+#include "support/pictures.h"
 #include "support/stream_capture.h"
 
 #include <QImage>
@@ -40,9 +41,7 @@ protected:
     }
 
     static QImage plain(const QColor& colour, QSize size = QSize(60, 40)) {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(colour);
-        return image;
+        return test::plain(size, colour);
     }
 
     /** The view's pixels. */

@@ -2,9 +2,9 @@
 #include "support/drag_session.h"
 
 #include "support/bytes.h"
+#include "support/pictures.h"
 #include "support/scratch_folder.h"
 
-#include <QBuffer>
 #include <QUrl>
 
 #include <sys/stat.h>
@@ -13,14 +13,6 @@ namespace velmora::test {
 namespace {
 
 using Ring = CoverArtView::FocusRingType;
-
-QByteArray encoded(const QImage& image, const char* format) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(image.save(&buffer, format));
-    return bytes;
-}
 
 QList<QUrl> fileUrls(const std::vector<std::string>& paths) {
     QList<QUrl> urls;

@@ -1,8 +1,8 @@
 #include "imaging/image_data.h"
 
+#include "support/pictures.h"
 #include "support/scratch_folder.h"
 
-#include <QBuffer>
 #include <QMimeData>
 #include <QUrl>
 
@@ -12,17 +12,11 @@ namespace velmora::test {
 namespace {
 
 QImage plain(const QColor& colour) {
-    QImage image(5, 4, QImage::Format_RGB32);
-    image.fill(colour);
-    return image;
+    return test::plain({5, 4}, colour);
 }
 
 QByteArray encoded(const QColor& colour, const char* format) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(plain(colour).save(&buffer, format));
-    return bytes;
+    return test::encoded(plain(colour), format);
 }
 
 QColor colourOf(const QMimeData& data) {

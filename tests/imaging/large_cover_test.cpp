@@ -1,9 +1,9 @@
 // Covers that are too large to be decoded at once.
 
 #include "cover_art_fixture.h"
+#include "support/pictures.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QClipboard>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -17,11 +17,7 @@ protected:
     static constexpr QSize size{3000, 2000};
 
     static QByteArray encoded(const QColor& colour, const char* format = "jpeg") {
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::WriteOnly);
-        EXPECT_TRUE(plain(colour, size).save(&buffer, format));
-        return bytes;
+        return test::encoded(plain(colour, size), format);
     }
     static ImageRef cover(const QColor& colour, const char* format = "jpeg") {
         return ImageRef::fromBytes(encoded(colour, format));

@@ -2,6 +2,7 @@
 
 #include "platform/file_path.h"
 #include "support/bytes.h"
+#include "support/id3_tags.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
 
@@ -15,20 +16,11 @@
 namespace velmora {
 namespace {
 
+using test::frame4;
 using test::hex;
 using test::ScratchFolder;
 using test::StreamCapture;
-
-std::string frame(const std::string& id, const std::string& body) {
-    const std::size_t n = body.size();
-    std::string size = {static_cast<char>(n >> 21 & 0x7F), static_cast<char>(n >> 14 & 0x7F),
-                        static_cast<char>(n >> 7 & 0x7F), static_cast<char>(n & 0x7F)};
-    return id + size + std::string(2, '\0') + body;
-}
-
-std::string text(const std::string& id, const std::string& value) {
-    return frame(id, std::string(1, '\0') + value);
-}
+using test::text4;
 
 /** A RIFF chunk: FOURCC, size field as given, data. */
 std::string chunk(const std::string& fourcc, char size, const std::string& data) {
@@ -45,20 +37,11 @@ std::string infoList() {
                      chunk("ICRD", 4, "-44" + zero));
 }
 
-/** An ID3v2.4 tag with a footer around FRAMES. */
-std::string appendedTag(const std::string& frames) {
-    const std::size_t n = frames.size();
-    const std::string rest = std::string("\x04\x00\x10", 3) +
-                             std::string{static_cast<char>(n >> 21 & 0x7F), static_cast<char>(n >> 14 & 0x7F),
-                                         static_cast<char>(n >> 7 & 0x7F), static_cast<char>(n & 0x7F)};
-    return "ID3" + rest + frames + "3DI" + rest;
-}
-
 class MediaFileTest : public testing::Test {
 protected:
     /** A file of NAME with 64 bytes of media and a tag of FRAMES behind them. */
     QString tagged(const std::string& name, const std::string& frames) {
-        test::write_file(folder_ / name, test::pattern(64) + appendedTag(frames));
+        test::write_file(folder_ / name, test::pattern(64) + test::appended_tag(frames));
         return path(name);
     }
     QString path(const std::string& name) { return QString::fromStdString(folder_ / name); }
@@ -67,9 +50,9 @@ protected:
     StreamCapture log_;
 };
 
-const std::string fullTag = text("TALB", "X") + text("TPE1", "Y") + text("TIT2", "Z") + text("TPE3", "D") +
-                            frame("PRIV", std::string("WM/ParentalRating\0PG", 20)) + text("TCON", "(17)") +
-                            text("TYER", "1999");
+const std::string fullTag = text4("TALB", "X") + text4("TPE1", "Y") + text4("TIT2", "Z") +
+                            text4("TPE3", "D") + frame4("PRIV", std::string("WM/ParentalRating\0PG", 20)) +
+                            text4("TCON", "(17)") + text4("TYER", "1999");
 
 TEST_F(MediaFileTest, AudioShowsAlbumArtistAndTitleUnderTheirKeys) {
     const auto file = MediaFile::initWithFile(tagged("a.mp3", fullTag));
@@ -130,7 +113,7 @@ TEST_F(MediaFileTest, FileWithoutATagHasEmptyValuesAndNoCoverArt) {
 }
 
 TEST_F(MediaFileTest, LoadingLogsTheThreeTexts) {
-    (void)MediaFile::initWithFile(tagged("a.mp3", text("TALB", "X") + text("TIT2", "Z")));
+    (void)MediaFile::initWithFile(tagged("a.mp3", text4("TALB", "X") + text4("TIT2", "Z")));
     EXPECT_NE(std::string::npos, log_.text().find("file info: title='X', artist='(null)', desc='Z'\n"));
 }
 
@@ -154,25 +137,25 @@ TEST_F(MediaFileTest, FileWithoutReadPermissionGivesNoObject) {
 }
 
 TEST_F(MediaFileTest, Latin1TextIsShownAsLatin1) {
-    const auto file = MediaFile::initWithFile(tagged("a.mp3", text("TIT2", "caf\xE9")));
+    const auto file = MediaFile::initWithFile(tagged("a.mp3", text4("TIT2", "caf\xE9")));
     EXPECT_EQ(QString::fromLatin1("caf\xE9"), file->title());
 }
 
 TEST_F(MediaFileTest, BlanksAroundATextStay) {
-    const auto file = MediaFile::initWithFile(tagged("a.mp3", text("TIT2", " Z ")));
+    const auto file = MediaFile::initWithFile(tagged("a.mp3", text4("TIT2", " Z ")));
     EXPECT_EQ(" Z ", file->title());
 }
 
 TEST_F(MediaFileTest, DateIsTheMomentOfLoadingWhateverTheTagSays) {
     const QDateTime before = QDateTime::currentDateTime();
-    const auto file = MediaFile::initWithFile(tagged("a.mp3", text("TDRC", "2008-05-04T:10:20:30")));
+    const auto file = MediaFile::initWithFile(tagged("a.mp3", text4("TDRC", "2008-05-04T:10:20:30")));
     EXPECT_GE(file->dateTime(), before.addMSecs(-1));
     EXPECT_LE(file->dateTime(), QDateTime::currentDateTime());
 }
 
 TEST_F(MediaFileTest, DvdFolderReadsItsSideFile) {
     test::write_file(folder_ / "VIDEO_TS.IFO", "dvd");
-    test::write_file(folder_ / "VIDEO_TS.TAG", appendedTag(text("TALB", "Film")));
+    test::write_file(folder_ / "VIDEO_TS.TAG", test::appended_tag(text4("TALB", "Film")));
     const auto file = MediaFile::initWithFile(path("VIDEO_TS.IFO"));
     ASSERT_TRUE(file);
     EXPECT_EQ(path("VIDEO_TS.TAG"), file->filename());
@@ -181,7 +164,7 @@ TEST_F(MediaFileTest, DvdFolderReadsItsSideFile) {
 }
 
 TEST_F(MediaFileTest, DiscImageWithoutASideFileOpensEmpty) {
-    test::write_file(folder_ / "movie.iso", appendedTag(text("TALB", "Not this")));
+    test::write_file(folder_ / "movie.iso", test::appended_tag(text4("TALB", "Not this")));
     const auto file = MediaFile::initWithFile(path("movie.iso"));
     ASSERT_TRUE(file);
     EXPECT_EQ(path("movie.TAG"), file->filename());
@@ -193,11 +176,11 @@ TEST_F(MediaFileTest, DiscImageWithoutASideFileOpensEmpty) {
 
 TEST_F(MediaFileTest, DvdFolderIsSavedIntoItsSideFile) {
     test::write_file(folder_ / "video_ts.ifo", "dvd");
-    test::write_file(folder_ / "video_ts.TAG", test::pattern(64) + appendedTag(text("TALB", "Film")));
+    test::write_file(folder_ / "video_ts.TAG", test::pattern(64) + test::appended_tag(text4("TALB", "Film")));
     const auto file = MediaFile::initWithFile(path("video_ts.ifo"));
     file->setTitle("New film");
     EXPECT_TRUE(file->saveMetadata(nullptr));
-    EXPECT_EQ(test::pattern(64) + appendedTag(text("TALB", "New film")),
+    EXPECT_EQ(test::pattern(64) + test::appended_tag(text4("TALB", "New film")),
               test::read_file(folder_ / "video_ts.TAG"));
     EXPECT_EQ("dvd", test::read_file(folder_ / "video_ts.ifo"));
 }
@@ -267,7 +250,7 @@ TEST_F(MediaFileTest, FileThatBecameAPipeIsNotSaved) {
 
 TEST_F(MediaFileTest, NameWithAnyByteOpens) {
     const std::string name = "a#?%20<b>\xE9\xFF\n.mp3";
-    test::write_file(folder_ / name, test::pattern(64) + appendedTag(text("TIT2", "Z")));
+    test::write_file(folder_ / name, test::pattern(64) + test::appended_tag(text4("TIT2", "Z")));
     const auto file = MediaFile::initWithFile(pathFromBytes(QByteArray::fromStdString(folder_ / name)));
     ASSERT_TRUE(file);
     EXPECT_EQ("Z", file->title());
@@ -277,13 +260,13 @@ TEST_F(MediaFileTest, NameWithAnyByteOpens) {
 }
 
 TEST_F(MediaFileTest, SavingAudioWritesTheFramesItWasReadFrom) {
-    auto file =
-        MediaFile::initWithFile(tagged("a.mp3", text("TALB", "X") + text("TPE1", "Y") + text("TIT2", "Z")));
+    auto file = MediaFile::initWithFile(
+        tagged("a.mp3", text4("TALB", "X") + text4("TPE1", "Y") + text4("TIT2", "Z")));
     file->setTitle("new title");
     file->setYear(2001);
     ASSERT_TRUE(file->saveMetadata(nullptr));
-    EXPECT_EQ(test::pattern(64) + appendedTag(text("TALB", "X") + text("TPE1", "Y") +
-                                              text("TIT2", "new title") + text("TYER", "2001")),
+    EXPECT_EQ(test::pattern(64) + test::appended_tag(text4("TALB", "X") + text4("TPE1", "Y") +
+                                                     text4("TIT2", "new title") + text4("TYER", "2001")),
               test::read_file(folder_ / "a.mp3"));
 }
 
@@ -298,9 +281,9 @@ TEST_F(MediaFileTest, SavingVideoWritesDirectorAndRatingToo) {
     file->setGenre("Drama");
     ASSERT_TRUE(file->saveMetadata(nullptr));
     EXPECT_EQ(test::pattern(64) +
-                  appendedTag(text("TALB", "T") + text("TPE1", "C") + text("TIT2", "S") + text("TPE3", "D") +
-                              frame("PRIV", std::string("WM/ParentalRating\0PG", 20)) +
-                              text("TCON", "Drama")),
+                  test::appended_tag(
+                      text4("TALB", "T") + text4("TPE1", "C") + text4("TIT2", "S") + text4("TPE3", "D") +
+                      frame4("PRIV", std::string("WM/ParentalRating\0PG", 20)) + text4("TCON", "Drama")),
               test::read_file(folder_ / "a.mp4"));
 }
 
@@ -309,7 +292,7 @@ TEST_F(MediaFileTest, TextsAreStoredAsUtf8) {
     auto file = MediaFile::initWithFile(path("a.mp3"));
     file->setTitle(QString::fromUtf8("caf\xC3\xA9"));
     ASSERT_TRUE(file->saveMetadata(nullptr));
-    EXPECT_EQ(test::pattern(64) + appendedTag(text("TIT2", "caf\xC3\xA9")),
+    EXPECT_EQ(test::pattern(64) + test::appended_tag(text4("TIT2", "caf\xC3\xA9")),
               test::read_file(folder_ / "a.mp3"));
 }
 
@@ -318,20 +301,21 @@ TEST_F(MediaFileTest, NegativeYearIsWritten) {
     auto file = MediaFile::initWithFile(path("a.mp3"));
     file->setYear(-44);
     ASSERT_TRUE(file->saveMetadata(nullptr));
-    EXPECT_EQ(test::pattern(64) + appendedTag(text("TYER", "-44")), test::read_file(folder_ / "a.mp3"));
+    EXPECT_EQ(test::pattern(64) + test::appended_tag(text4("TYER", "-44")),
+              test::read_file(folder_ / "a.mp3"));
 }
 
 TEST_F(MediaFileTest, EmptyTextAndYearZeroLeaveTheStoredFieldsAlone) {
-    auto file = MediaFile::initWithFile(tagged("a.mp3", text("TIT2", "Z") + text("TYER", "1999")));
+    auto file = MediaFile::initWithFile(tagged("a.mp3", text4("TIT2", "Z") + text4("TYER", "1999")));
     file->setTitle("");
     file->setYear(0);
     ASSERT_TRUE(file->saveMetadata(nullptr));
-    EXPECT_EQ(test::pattern(64) + appendedTag(text("TIT2", "Z") + text("TYER", "1999")),
+    EXPECT_EQ(test::pattern(64) + test::appended_tag(text4("TIT2", "Z") + text4("TYER", "1999")),
               test::read_file(folder_ / "a.mp3"));
 }
 
 TEST_F(MediaFileTest, SavingKeepsTheValuesAsTheyWere) {
-    auto file = MediaFile::initWithFile(tagged("a.mp3", text("TIT2", "Z")));
+    auto file = MediaFile::initWithFile(tagged("a.mp3", text4("TIT2", "Z")));
     file->setTitle("A");
     const QVariantMap before = file->metadata();
     ASSERT_TRUE(file->saveMetadata(nullptr));
@@ -339,7 +323,7 @@ TEST_F(MediaFileTest, SavingKeepsTheValuesAsTheyWere) {
 }
 
 TEST_F(MediaFileTest, SavingLogsWhatIsWrittenAndWhere) {
-    auto file = MediaFile::initWithFile(tagged("a.mp3", text("TIT2", "Z")));
+    auto file = MediaFile::initWithFile(tagged("a.mp3", text4("TIT2", "Z")));
     file->setYear(1999);
     const std::size_t before = log_.text().size();
     ASSERT_TRUE(file->saveMetadata(nullptr));
@@ -368,7 +352,7 @@ TEST_F(MediaFileTest, FailedSaveFillsTheErrorForAnAlert) {
 }
 
 TEST_F(MediaFileTest, FailedSaveWithoutAnErrorSlotOnlyLogs) {
-    const QString name = tagged("a.mp3", text("TIT2", "Z"));
+    const QString name = tagged("a.mp3", text4("TIT2", "Z"));
     const auto file = MediaFile::initWithFile(name);
     ASSERT_EQ(0, ::unlink((folder_ / "a.mp3").c_str()));
     ASSERT_EQ(0, ::mkdir((folder_ / "a.mp3").c_str(), 0700));

@@ -1,9 +1,9 @@
 #include "platform/image.h"
 
 #include "support/bytes.h"
+#include "support/pictures.h"
 #include "support/scratch_folder.h"
 
-#include <QBuffer>
 #include <QImageReader>
 
 #include <gtest/gtest.h>
@@ -15,6 +15,7 @@
 namespace velmora {
 namespace {
 
+using test::encoded;
 using test::ScratchFolder;
 
 QImage gradient(int width, int height, QImage::Format format = QImage::Format_RGB32) {
@@ -25,13 +26,6 @@ QImage gradient(int width, int height, QImage::Format format = QImage::Format_RG
         }
     }
     return image;
-}
-
-QByteArray encoded(const QImage& image, const char* format) {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(image.save(&buffer, format));
-    return buffer.data();
 }
 
 /** The SOF markers of a JPEG stream: FF C0 is baseline, FF C2 progressive. */

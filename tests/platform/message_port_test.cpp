@@ -1,5 +1,7 @@
 #include "platform/message_port.h"
 
+#include "support/waiting.h"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -28,11 +30,7 @@ protected:
     static void runLoop() { QCoreApplication::processEvents(); }
     /** Until COUNT messages have arrived; gives up after some seconds. */
     void runLoopUntil(std::size_t count) {
-        QElapsedTimer timer;
-        timer.start();
-        while (ids_.size() < count && timer.elapsed() < 10'000) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        }
+        EXPECT_TRUE(test::waitUntil([this, count] { return ids_.size() >= count; }));
     }
 
     std::unique_ptr<MessagePort> port_ = std::make_unique<MessagePort>();

@@ -5,9 +5,8 @@
 #include "platform/png_decode.h"
 
 #include "support/bytes.h"
+#include "support/pictures.h"
 #include "support/scratch_folder.h"
-
-#include <QBuffer>
 
 #include <gtest/gtest.h>
 
@@ -19,23 +18,13 @@
 namespace velmora {
 namespace {
 
+using test::encoded;
+using test::plain;
 using test::ScratchFolder;
+using test::svgThatShows;
 
 QByteArray bytesOf(const std::string& hexDigits) {
     return QByteArray::fromStdString(test::hex(hexDigits));
-}
-
-QByteArray encoded(const QImage& image, const char* format) {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(image.save(&buffer, format)) << format;
-    return buffer.data();
-}
-
-QImage plain(int width, int height) {
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(Qt::darkCyan);
-    return image;
 }
 
 bool isPicture(const QByteArray& bytes) {
@@ -46,7 +35,7 @@ bool isPicture(const QByteArray& bytes) {
 
 TEST(PictureFormats, TheUsualOnesArePictures) {
     for (const char* format : {"jpeg", "png", "bmp", "webp", "tiff"}) {
-        EXPECT_TRUE(isPicture(encoded(plain(6, 4), format))) << format;
+        EXPECT_TRUE(isPicture(encoded(plain({6, 4}), format))) << format;
     }
     // One red pixel, written out.
     EXPECT_TRUE(isPicture(bytesOf("47 49 46 38 39 61 01 00 01 00 80 00 00 FF 00 00 00 00 00"
@@ -55,21 +44,13 @@ TEST(PictureFormats, TheUsualOnesArePictures) {
 
 TEST(PictureFormats, WhatElseTheDesktopReadsIsNone) {
     for (const char* format : {"xpm", "ppm", "xbm", "ico", "icns"}) {
-        EXPECT_FALSE(isPicture(encoded(plain(16, 16), format))) << format;
+        EXPECT_FALSE(isPicture(encoded(plain({16, 16}), format))) << format;
     }
-}
-
-/** An SVG that shows the picture at PATH. */
-QByteArray svgThatShows(const std::string& path) {
-    return QByteArray::fromStdString(
-        "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"8\" "
-        "height=\"8\"><image width=\"8\" height=\"8\" xlink:href=\"" +
-        path + "\"/></svg>");
 }
 
 TEST(PictureFormats, AnSvgIsNoPictureAndReadsNoFile) {
     const ScratchFolder folder;
-    ASSERT_TRUE(plain(8, 8).save(QString::fromStdString(folder / "private.png")));
+    ASSERT_TRUE(plain({8, 8}).save(QString::fromStdString(folder / "private.png")));
     EXPECT_FALSE(isPicture(svgThatShows(folder / "private.png")));
     // A pipe that nobody writes into: whoever opens it waits for ever.
     ASSERT_EQ(0, ::mkfifo((folder / "pipe").c_str(), 0600));
@@ -239,7 +220,7 @@ TEST(PictureSizes, CoefficientsThatOutgrowThePixelsAreNone) {
 // Data
 
 TEST(PictureData, AGoodHeaderWithoutDataIsNoPicture) {
-    const QByteArray whole = encoded(plain(64, 64), "jpeg");
+    const QByteArray whole = encoded(plain({64, 64}), "jpeg");
     const qsizetype scan = whole.indexOf("\xFF\xDA");
     ASSERT_GT(scan, 0);
     EXPECT_TRUE(isPicture(whole));
@@ -258,7 +239,7 @@ TEST(PictureData, ADamagedCodeTableMakesNoPictureSmallOrLarge) {
 }
 
 TEST(PictureData, AFileThatIsCutKeepsWhatItHas) {
-    QImage halves = plain(64, 64);
+    QImage halves = plain({64, 64});
     for (int y = 0; y < 64; ++y) {
         for (int x = 0; x < 64; ++x) {
             halves.setPixelColor(x, y, QColor((x * 7) % 256, (y * 5) % 256, 80));
@@ -303,8 +284,8 @@ TEST(DeepPngs, AreReadInEightBitsASample) {
             }
         }
     }
-    EXPECT_FALSE(isDeepPng(encoded(plain(8, 8), "png")));
-    EXPECT_FALSE(isDeepPng(encoded(plain(8, 8).convertToFormat(QImage::Format_Grayscale16), "png")));
+    EXPECT_FALSE(isDeepPng(encoded(plain({8, 8}), "png")));
+    EXPECT_FALSE(isDeepPng(encoded(plain({8, 8}).convertToFormat(QImage::Format_Grayscale16), "png")));
 }
 
 TEST(DeepPngs, CutAnywhereGiveNone) {

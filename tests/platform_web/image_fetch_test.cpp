@@ -1,9 +1,9 @@
 #include "platform/web/image_fetch.h"
 
 #include "page_server.h"
+#include "support/pictures.h"
 #include "support/scratch_folder.h"
 
-#include <QBuffer>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QPushButton>
@@ -19,13 +19,7 @@ namespace velmora::test {
 namespace {
 
 QByteArray picture(int width, const char* format = "PNG") {
-    QImage image(width, 3, QImage::Format_RGB32);
-    image.fill(Qt::blue);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
-    return bytes;
+    return encoded(plain({width, 3}, Qt::blue), format);
 }
 
 class ImageFetch : public testing::Test {

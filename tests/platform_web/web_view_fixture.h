@@ -3,7 +3,7 @@
 #include "page_server.h"
 #include "platform/web/web_view.h"
 #include "support/qt_printing.h"
-#include "waiting.h"
+#include "support/waiting.h"
 
 #include <QStringList>
 

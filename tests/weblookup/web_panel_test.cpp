@@ -1,11 +1,11 @@
 #include "panel_fixture.h"
+#include "support/pictures.h"
 #include "support/qt_printing.h"
 #include "support/stream_capture.h"
+#include "support/waiting.h"
 #include "web_support/page_server.h"
-#include "web_support/waiting.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -18,13 +18,7 @@ namespace velmora::test {
 namespace {
 
 QByteArray png(int width) {
-    QImage image(width, 3, QImage::Format_RGB32);
-    image.fill(Qt::green);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes;
+    return encoded(plain({width, 3}, Qt::green), "PNG");
 }
 
 const char* const titlePage = R"(<!DOCTYPE html><html><head><title>Harbour Lights (2005)</title></head><body>

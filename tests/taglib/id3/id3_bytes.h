@@ -2,6 +2,7 @@
 
 #include "../open_file.h"
 #include "support/bytes.h"
+#include "support/id3_tags.h"
 #include "support/scratch_folder.h"
 #include "taglib/id3/descriptor.h"
 
@@ -13,29 +14,11 @@
 /** Tags for tests, put together without the code under test. */
 namespace velmora::test {
 
-/** Four bytes of seven bits. */
-[[nodiscard]] std::string syncsafe(std::uint32_t value);
-[[nodiscard]] std::string big_endian(std::uint32_t value);
-
 /** The bytes of TEXT, zeros included: bytes("a\0b"). */
 template <std::size_t size>
 [[nodiscard]] std::string bytes(const char (&text)[size]) {
     return {text, size - 1};
 }
-
-/** A header ("ID3") or a footer ("3DI") for a tag of SIZE bytes. */
-[[nodiscard]] std::string header(int version, int flags, std::uint32_t size,
-                                 std::string_view signature = "ID3");
-/** A frame of a version 4 tag, with flags 0. */
-[[nodiscard]] std::string frame4(std::string_view id, std::string_view body);
-/** A frame of a version 3 tag, with flags 0. */
-[[nodiscard]] std::string frame3(std::string_view id, std::string_view body);
-/** A frame of a version 4 tag that holds TEXT under encoding byte 0. */
-[[nodiscard]] std::string text4(std::string_view id, std::string_view text);
-/** A tag as it stands at a file's start: header and CONTENTS. */
-[[nodiscard]] std::string leading_tag(int version, std::string_view contents);
-/** A version 4 tag as it stands at a file's end: header, CONTENTS, footer. */
-[[nodiscard]] std::string appended_tag(std::string_view contents);
 
 /** Frames of a version 4 tag for every field, one with a cover of 20,000 bytes that has a frame behind it. */
 [[nodiscard]] std::string frames_with_cover();
