@@ -63,7 +63,7 @@ public:
        button clears that. */
     void saveDocument();
 
-    /** Asks what to do with the changes of the open file, and does it. False when the person cancelled, and
+    /** Asks what to do with the changes of the open file, and does it. False when the user cancelled, and
        while the question is on the screen already. True otherwise: the file is closed, its changes written or
        dropped. A question that goes away without an answer counts as true and leaves the file and its changes
        as they are. */

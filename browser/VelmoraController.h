@@ -32,10 +32,10 @@ public:
     /** Writes the open file's values into the file. A failure is logged, and everything stays as it is. */
     void saveTag();
     /** Opens the selected file again from disk, dropping all edits; nothing is reopened when no row is
-     * selected. */
+       selected. */
     void revertToSaved();
     /** Takes the edits for settled: nothing asks to save them any more. The file, the form and the values
-     * stay. */
+       stay. */
     void removeTag();
 
     void addFile();

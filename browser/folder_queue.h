@@ -11,7 +11,7 @@ namespace velmora {
 
 /** The folders still to be searched, first in first out, shared by the main thread and the search worker.
 
-    The lock is handed over at the end of a search: the worker's last look at the queue and the hold of the
+   The lock is handed over at the end of a search: the worker's last look at the queue and the hold of the
    lock are one step, and the main thread releases the lock only after it has noted that no search runs any
    more. So a folder is never queued in a moment in which the worker has already looked for the last time and
    a search still seems to run. */

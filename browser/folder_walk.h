@@ -35,7 +35,7 @@ public:
 /** Walks FOLDER depth first and tells LISTENER of each file that is larger than 100 KiB and has a supported
    extension.
 
-    A folder's entries are taken once, when it is entered, in the order of the file system. Symbolic links are
+   A folder's entries are taken once, when it is entered, in the order of the file system. Symbolic links are
    followed, to folders too: a link to a folder above is walked again until the search is stopped or the
    system refuses the path as too long or too winding. Hidden entries are entries like all others. What can't
    be listed or asked for its attributes is passed over; an unlistable folder is still told as entered. */

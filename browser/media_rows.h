@@ -38,7 +38,7 @@ public:
     void addColdataSorted(ColdataPointer row);
 
     /** Sorts the list by COLUMN, shown ascending. When it is the sort column already, only the direction is
-     * turned. */
+       turned. */
     void sortBy(const TableColumn& column);
 
 private:

@@ -23,7 +23,7 @@ namespace velmora {
     | stopping  | false         | finishes its entry and unwinds                             |
     | finishing | either        | holds the folder queue's lock, its last message is on its way |
 
-    A stopped search leaves the folders it did not come to in the queue, where the next search finds them
+   A stopped search leaves the folders it did not come to in the queue, where the next search finds them
    first. Destroying the object stops the worker and waits for it, without the help of the event loop. */
 class MediaSearch : public QObject {
     Q_OBJECT
@@ -44,7 +44,7 @@ public:
     void stopScan();
 
     /** Acts on one message of the worker, or logs one with an unknown id. Called by the port on the main
-     * thread. */
+       thread. */
     void handlePortMessage(const PortMessage& message);
 
     [[nodiscard]] bool isSearchRunning() const { return searchRunning_; }
@@ -78,7 +78,7 @@ private:
 
     std::thread worker_;
     /** From a worker's start until its last message was handled; outlasts searchRunning_ while the worker
-     * unwinds. */
+       unwinds. */
     bool workerUnderWay_ = false;
     bool restartWanted_ = false;
     /** Folders that came while a finishing worker held the queue. */

@@ -15,7 +15,7 @@
 namespace velmora {
 namespace {
 
-/** An error that a failed open has filled; one that it left alone means that the person cancelled. */
+/** An error that a failed open has filled; one that it left alone means that the user cancelled. */
 bool isFilled(const Error& error) {
     return !error.domain.isEmpty() || error.code != 0 || !error.userInfo.isEmpty();
 }

@@ -14,10 +14,10 @@
 
 namespace velmora {
 
-/** The media table: joins the rows to a table view, opens the file of the row that the person selects in the
+/** The media table: joins the rows to a table view, opens the file of the row that the user selects in the
    document, and tells the editor form about it.
 
-    The selection handler runs once per act of the person, from the event loop: however often the view reports
+   The selection handler runs once per act of the user, from the event loop: however often the view reports
    a change, after the left button was released, and never while the handler itself or another modal loop is
    at work. */
 class MediaTable : public QObject {
@@ -34,7 +34,7 @@ public:
     };
 
     /** Takes VIEW over: model, header, selection. VIEW and DOCUMENT live as long as events still reach the
-     * table. */
+       table. */
     MediaTable(QTableView& view, MediaDocument& document, Form form, QObject* parent = nullptr);
 
     /** Adds a row for the file at PATH at its sorted place and reloads the table. False, with nothing added,
@@ -62,7 +62,7 @@ public:
        inserting rows leave it as it is. */
     [[nodiscard]] int curSelectedRow() const { return curSelectedRow_; }
     /** Makes no row the open one, so that the next tableViewSelectionDidChange opens the selected row's file
-     * anew. */
+       anew. */
     void forgetSelectedRow() { curSelectedRow_ = -1; }
 
     [[nodiscard]] const MediaRows& mediaFiles() const { return mediaFiles_; }

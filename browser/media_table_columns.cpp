@@ -27,7 +27,7 @@ constexpr int nameLength = 15;
 const auto longestSize = QStringLiteral("1024.0 KB");
 
 /** Draws cells with air around their texts. Names, which differ at both ends, lose their middle when they are
-    too long; of a size or date the beginning is what matters. */
+   too long; of a size or date the beginning is what matters. */
 class CellDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -60,7 +60,7 @@ private:
 };
 
 /** All forms that dates of the process's locale take: each month, day of the week and half of the day. Every
-    digit is a nought. */
+   digit is a nought. */
 QStringList formsOfDates() {
     constexpr std::int64_t day = 24L * 60 * 60;
     constexpr std::int64_t start = 1766188800; // 20 December 2025; from there in steps of about a month

@@ -9,8 +9,8 @@ namespace velmora {
 
 /** How the media table's columns are drawn, and their widths: each shows its longest text, the date's in the
    form of the process's locale as it is when this object is made. The name gets the room that the others
-   leave; while the table is too narrow for all, the date gives its room up, and then the size. Once a person
-   has set a width, that and the other widths are the person's. */
+   leave; while the table is too narrow for all, the date gives its room up, and then the size. Once a user
+   has set a width, that and the other widths are the user's. */
 class MediaTableColumns : public QObject {
     Q_OBJECT
 public:

@@ -11,8 +11,8 @@ namespace velmora {
 
 /** The media table's data source: shows a MediaRows to a table view.
 
-    Views know this model as a number of rows whose contents may change at any time: reloadData never moves or
-   removes a row in their eyes, so the row that a person has selected stays the selected one, whatever it
+   Views know this model as a number of rows whose contents may change at any time: reloadData never moves or
+   removes a row in their eyes, so the row that a user has selected stays the selected one, whatever it
    shows now. */
 class MediaTableModel : public QAbstractTableModel {
     Q_OBJECT
@@ -42,7 +42,7 @@ public:
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-    /** Typing into the table finds file names, whatever column the typing person is in. */
+    /** Typing into the table finds file names, whatever column the typing user is in. */
     [[nodiscard]] QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
                                         Qt::MatchFlags flags) const override;
 

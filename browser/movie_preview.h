@@ -20,7 +20,7 @@ inline constexpr float coverArtFrameSide = 160;
 [[nodiscard]] QImage frameForCoverArt(QImage frame);
 
 /** The form's preview: shows the open file as a movie, a while after the form was filled, or says that it
- * can't. */
+   can't. */
 class MoviePreview : public QWidget {
     Q_OBJECT
 public:

@@ -54,9 +54,9 @@ void TagForm::setUpGenre() {
     QComboBox* const genre = ui_->combo_genre;
     genre->setInsertPolicy(QComboBox::NoInsert);
     genre->setModel(new QStringListModel(genres_, this));
-    genre->setCompleter(nullptr); // it would rewrite "drama" to "Drama" behind the person's back
+    genre->setCompleter(nullptr); // it would rewrite "drama" to "Drama" behind the user's back
     setGenreText(QString());
-    // Leaving the box would pick the item whose name it shows, which is no edit of the person's.
+    // Leaving the box would pick the item whose name it shows, which is no edit of the user's.
     disconnect(genre->lineEdit(), &QLineEdit::editingFinished, genre, nullptr);
     genre->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
     connect(genre->lineEdit(), &QLineEdit::textEdited, this, [this, genre] { controlTextDidChange(genre); });

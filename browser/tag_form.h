@@ -47,14 +47,14 @@ public:
     /** Lets the open file's tag be removed and its cover art be loaded. */
     void enableFileButtons();
     /** Shows the result of a web lookup. Only the rating and the cover art reach the open file; the other
-       fields do when the person next types in them. Null changes nothing. */
+       fields do when the user next types in them. Null changes nothing. */
     void fillFields(const FormFillInfo* info);
 
     /** Brings what the form shows and the open file does not have yet into it, for saves that write all of that: the
        fields that a web lookup filled, and nobody has typed in since, and a cover that was pasted or cut. */
     void storeShownValues();
 
-    /** CONTROL, a text field or the genre box, was edited by the person. */
+    /** CONTROL, a text field or the genre box, was edited by the user. */
     void controlTextDidChange(const QObject* control);
     /** The synopsis was edited. */
     void textDidChange(const QObject* textView);

@@ -77,7 +77,7 @@ void require_media_moved_whole(const std::string& before, const std::string& aft
 }
 
 /** A growing header moves the data first, and writes nothing when that can't be done. In too little data of a
-    file that is large all the same, the last piece was moved. */
+   file that is large all the same, the last piece was moved. */
 void require_media_in_place(const std::string& before, const std::string& after, const Header& old_header) {
     require(after.size() >= before.size(), "a file never gets shorter");
     if (before.size() < 65536) {

@@ -64,7 +64,7 @@ Bitmap plainly_trimmed(const Bitmap& source) {
 }
 
 /** Width, height and border colour; then runs: a length byte and a pixel each, one pixel of border where the
-    runs end. */
+   runs end. */
 Bitmap bitmap_of(Input& input) {
     Bitmap bitmap;
     bitmap.width = 1 + input.byte();

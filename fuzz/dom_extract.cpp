@@ -60,7 +60,7 @@ QString text(Input& input) {
 }
 
 /** A document from instructions of a byte each: close an element, add text, a comment or an attribute, or
-    open an element. */
+   open an element. */
 std::shared_ptr<const DomDocument> built_document(Input& input) {
     auto document = std::make_shared<DomDocument>();
     std::vector<DomNode*> open = {document->root()};

@@ -133,7 +133,7 @@ DescriptorCheck::~DescriptorCheck() {
 } // namespace velmora::fuzz
 
 /** Has libFuzzer lead both output streams to /dev/null (its own reports go elsewhere), because the code under
-    test traces a lot; so that a trace does not cost a system call either, standard error is buffered. */
+   test traces a lot; so that a trace does not cost a system call either, standard error is buffered. */
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     using velmora::fuzz::report_descriptor;
     report_descriptor = ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 100);

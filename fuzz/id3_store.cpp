@@ -108,7 +108,7 @@ void require_media_kept_in_copy(const std::string& before, const std::string& af
 }
 
 /** Whether a load finds the tag that a store wrote at PLACE. A tag that became shorter by less than a footer
-    lies partly over its old footer, and one beyond the largest size is not read. */
+   lies partly over its old footer, and one beyond the largest size is not read. */
 bool is_found_again(const std::string& before, const std::string& after, const Place& place) {
     const Place now(after);
     if (!now.found || now.position != place.position) {

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] bool has(std::uint32_t flag) const { return (flags_ & flag) != 0; }
 
     /** The fields of FLAGS that LOADED does not hold as they are in this edit, though it sets them to a
-        value. */
+       value. */
     [[nodiscard]] std::uint32_t differing(const _file_info_t& loaded, std::uint32_t flags) const;
     /** The text fields in which all characters are ASCII. */
     [[nodiscard]] std::uint32_t ascii_fields() const;

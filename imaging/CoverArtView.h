@@ -12,13 +12,13 @@ class QMimeData;
 namespace velmora {
 
 /** The well that shows the cover art, takes images dropped on it, and cuts, copies and pastes them.
- *
- *  The image's device pixel ratio gives its nominal size. The view shows the image at that size, or smaller
- * where the view is smaller, its proportions kept. One that is slowly decoded appears a while after it was
- * set; when that takes too long, the view says that it is too large to show, and has it all the same.
- *
- *  A drop changes the file's cover art, and says so once, whether or not it held an image. Cut and paste
- * change what the view shows and nothing else. */
+
+   The image's device pixel ratio gives its nominal size. The view shows the image at that size, or smaller
+   where the view is smaller, its proportions kept. One that is slowly decoded appears a while after it was
+   set; when that takes too long, the view says that it is too large to show, and has it all the same.
+
+   A drop changes the file's cover art, and says so once, whether or not it held an image. Cut and paste
+   change what the view shows and nothing else. */
 class CoverArtView : public QFrame {
     Q_OBJECT
     Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged)

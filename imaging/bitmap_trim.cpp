@@ -34,7 +34,7 @@ bool lanes_match(std::uint32_t a, std::uint32_t b) {
 }
 
 /** Sixteen lanes that are computed at once: vector instructions where the processor has them, plain ones
- * where not. */
+   where not. */
 using Lanes = std::uint8_t __attribute__((vector_size(16)));
 
 /** Has the processor fetch the pixels that are looked at soon: the comparison is waiting for memory, not

@@ -8,7 +8,7 @@
 namespace velmora {
 
 /** What the trim asks of the desktop, one step each. A null result is a failure of that step. Tests replace
- * steps; the program uses them as they are. */
+   steps; the program uses them as they are. */
 class TrimBorderSteps {
 public:
     virtual ~TrimBorderSteps() = default;
@@ -26,8 +26,8 @@ public:
 };
 
 /** The work of the trim button: COVER with its border of one colour cut off, at its new pixel size and with a
- * device pixel ratio of 1 (the nominal size of COVER plays no part). Nothing when there is no border that can
- * be cut or a step failed; the application log then has one line that says why, except for a null COVER. */
+   device pixel ratio of 1 (the nominal size of COVER plays no part). Nothing when there is no border that can
+   be cut or a step failed; the application log then has one line that says why, except for a null COVER. */
 [[nodiscard]] std::optional<QImage> trim_border(const QImage& cover,
                                                 const TrimBorderSteps& steps = TrimBorderSteps());
 

@@ -50,7 +50,7 @@ public:
     [[nodiscard]] QString whyNotSaved() const;
 
     /** The path of the file that carries the tag: PATH as given, or its side file for DVD folders and disc
-     * images. */
+       images. */
     [[nodiscard]] QString filename() const { return filename_; }
     /** A MediaType, told by the path as given. */
     [[nodiscard]] int mediaType() const { return mediaType_; }

@@ -32,7 +32,7 @@ public:
 
     /** Opens the file at URL in place of the current one, or closes the current one when there is no URL.
        Returns whether that was done. On failure ERROR (may be null) is filled; a false with ERROR untouched
-       means that the person cancelled. */
+       means that the user cancelled. */
     virtual bool readFromURL(const std::optional<QUrl>& url, const QString& type, Error* error) = 0;
 
     /** The window that sheets are shown on; null before there is one. */

@@ -19,7 +19,7 @@ inline const QString NSFilePathErrorKey = QStringLiteral("NSFilePath");
 inline const QString NSURLErrorKey = QStringLiteral("NSURL");
 /** What went wrong, one sentence. */
 inline const QString NSLocalizedDescriptionKey = QStringLiteral("NSLocalizedDescription");
-/** What the person can do about it. */
+/** What the user can do about it. */
 inline const QString NSLocalizedRecoverySuggestionErrorKey = QStringLiteral("NSLocalizedRecoverySuggestion");
 
 } // namespace velmora

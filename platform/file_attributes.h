@@ -8,7 +8,7 @@
 namespace velmora {
 
 /** A moment: whole seconds since 1970-01-01 UTC, rounded down, and the nanoseconds after them (0 to
- * 999,999,999). */
+   999,999,999). */
 struct FileTime {
     std::int64_t seconds = 0;
     std::uint32_t nanoseconds = 0;

@@ -16,7 +16,7 @@ bool isEscape(QChar unit) {
 }
 
 /** Length of the valid UTF-8 sequence at BYTES, 0 when there is none. Overlong forms and surrogates are not
- * valid. */
+   valid. */
 int sequenceLength(const uchar* bytes, qsizetype left) {
     const uchar first = bytes[0];
     if (first < 0x80) {

@@ -18,7 +18,7 @@ namespace velmora {
 /** The bytes of the path of NAME in FOLDER, with one slash between them; NAME alone without a folder. */
 [[nodiscard]] QByteArray joinedPath(const QByteArray& folder, std::string_view name);
 
-/** The bytes of the path of the person's home folder: as the environment says, or else the user database, or
+/** The bytes of the path of the user's home folder: as the environment says, or else the user database, or
    else the root folder. */
 [[nodiscard]] QByteArray homeFolder();
 
@@ -26,16 +26,16 @@ namespace velmora {
    stand percent-encoded. */
 [[nodiscard]] QUrl fileUrlFromPath(const QString& path);
 /** The path of a file URL made by fileUrlFromPath or by another program; empty for a URL that is not a local
- * file. */
+   file. */
 [[nodiscard]] QString pathFromFileUrl(const QUrl& url);
 
 /** The text behind the last "/". */
 [[nodiscard]] QString lastPathComponent(const QString& path);
 /** The text behind the last dot of the last component, case kept; empty when there is no dot. ".app" has
- * "app". */
+   "app". */
 [[nodiscard]] QString pathExtension(const QString& path);
 /** PATH without its last component and the slash before it ("/" for a file in the root); empty when it has no
- * "/". */
+   "/". */
 [[nodiscard]] QString pathFolder(const QString& path);
 /** PATH without the extension of its last component and the dot before it. */
 [[nodiscard]] QString pathWithoutExtension(const QString& path);

@@ -41,7 +41,7 @@ private:
    has ended. A long queue is worked off in slices of a few milliseconds, so that the window answers in
    between.
 
-    Lives on the main thread. Messages that are still queued when the port goes are dropped. */
+   Lives on the main thread. Messages that are still queued when the port goes are dropped. */
 class MessagePort : public QObject {
     Q_OBJECT
 public:

@@ -7,7 +7,7 @@ namespace velmora {
 /** Lives as long as an event loop of its own waits for an answer that the program can't go on without. Loops
    may be nested. Main thread only.
 
-    What should not happen behind such a question (messages of other threads, a change of the selection) looks
+   What should not happen behind such a question (messages of other threads, a change of the selection) looks
    at depth() and takes itself up again through a ModalLoopWatch. */
 class ModalLoop {
 public:

@@ -9,7 +9,7 @@ class QWidget;
 
 namespace velmora {
 
-/** What an open panel lets the person choose. There is never a type filter. */
+/** What an open panel lets the user choose. There is never a type filter. */
 struct OpenPanel {
     QString title = {};
     bool choosesFolders = false; ///< folders only; otherwise files only

@@ -10,7 +10,7 @@ namespace velmora {
 namespace {
 
 /** FETCH for the pictures of a page at ADDRESS: a page from the web can't put a file of this machine on the
- * form. */
+   form. */
 ImageFetch withoutLocalFiles(const QString& address, ImageFetch fetch) {
     if (QUrl(address).isLocalFile()) {
         return fetch;

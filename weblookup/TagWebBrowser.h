@@ -20,7 +20,7 @@ namespace velmora {
 struct FormFillInfo;
 
 /** The web search panel: looks a title up on one of three sites and fills the form from the page that the
-   person has gone to. It owns its controls. Main thread only. */
+   user has gone to. It owns its controls. Main thread only. */
 class TagWebBrowser : public QWidget {
     Q_OBJECT
 public:

@@ -11,7 +11,7 @@
 namespace velmora {
 
 /** The first of the siblings behind NODE whose class is exactly CLS; null when there is none. Never NODE
- * itself. */
+   itself. */
 [[nodiscard]] const DomNode* get_first_sibling_of_type(const DomNode* node, DomClass cls);
 
 /** The first direct child of NODE whose class is exactly CLS; null when there is none. */

@@ -10,7 +10,7 @@ namespace velmora {
    structure: what another page does not have is simply not found. When a label occurs twice the last one
    wins, even when it gives nothing; only the year keeps that of an earlier good date.
 
-    FETCH is called for the picture of each "poster" anchor in turn, and the slot ends with the result of its
+   FETCH is called for the picture of each "poster" anchor in turn, and the slot ends with the result of its
    last call. */
 void readImdbPage(const DomDocument& page, const ImageFetch& fetch, FormFillInfo& info);
 

@@ -10,7 +10,7 @@ namespace velmora {
    what another page does not have is simply not found. When a label occurs twice the last one wins, even when
    it gives nothing; only the year keeps that of an earlier good date. Genres are never found here.
 
-    FETCH is called for the large picture of each product image in turn, until one comes. */
+   FETCH is called for the large picture of each product image in turn, until one comes. */
 void readStorePage(const DomDocument& page, const ImageFetch& fetch, FormFillInfo& info);
 
 } // namespace velmora

@@ -18,7 +18,7 @@
 namespace velmora {
 namespace {
 
-/** Longer than the pause between two rows when an arrow key is held down, shorter than a person's patience.
+/** Longer than the pause between two rows when an arrow key is held down, shorter than a user's patience.
  */
 constexpr std::chrono::milliseconds openDelay(150);
 

@@ -10,16 +10,16 @@
 namespace velmora {
 
 /** A media file opened as a movie, stopped at its first frame until somebody plays it.
- *
- *  Nothing here waits for a file: open and close return at once, and what was found out arrives as one
- * signal, opened or failed, from the event loop. Opening another file, or closing, lets the one before go;
- * nothing is heard of it again. The file is looked at a moment after open, so that files opened in quick
- * succession cost nothing but the last one. */
+
+   Nothing here waits for a file: open and close return at once, and what was found out arrives as one
+   signal, opened or failed, from the event loop. Opening another file, or closing, lets the one before go;
+   nothing is heard of it again. The file is looked at a moment after open, so that files opened in quick
+   succession cost nothing but the last one. */
 class Movie : public QObject {
     Q_OBJECT
 public:
     /** Loads the system's movie component, which takes a moment the first time: best made before a window is
-     * shown. */
+       shown. */
     explicit Movie(QObject* parent = nullptr);
     ~Movie() override;
 

@@ -174,7 +174,7 @@ void MovieView::updateControls() {
 }
 
 void MovieView::updatePosition() {
-    // The movie's own progress moves the slider; only the person's hand moves the movie.
+    // The movie's own progress moves the slider; only the user's hand moves the movie.
     const QSignalBlocker blocker(positionSlider_);
     positionSlider_->setEnabled(movie_ && (movie_->hasVideo() || movie_->duration() > 0));
     positionSlider_->setRange(0, movie_ ? sliderValue(movie_->duration()) : 0);

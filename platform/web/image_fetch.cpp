@@ -30,7 +30,7 @@ bool canFetch(const QUrl& url) {
 }
 
 /** Whether all that the sender had to send has arrived. A server's answer with an error status is a whole
- * answer. */
+   answer. */
 bool cameWhole(const QNetworkReply& reply) {
     const int error = reply.error();
     const bool answered = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();

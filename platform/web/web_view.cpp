@@ -15,7 +15,7 @@
 namespace velmora {
 
 /** A wait for the page's document: a local event loop that ends with the text, or without it when the page
- * goes away. */
+   goes away. */
 struct WebView::DocumentWait {
     QEventLoop loop;
     QString text;

@@ -28,7 +28,7 @@ public:
 /** Shows web pages. The widget is a place with a hint until the first page is asked for: only then is the
    engine's module loaded, and where that fails the place says why.
 
-    Content from the web has no access to local files, can open neither windows nor dialogs, and leaves
+   Content from the web has no access to local files, can open neither windows nor dialogs, and leaves
    nothing on the disk. */
 class WebView : public QWidget, private WebEngineListener {
     Q_OBJECT
@@ -50,7 +50,7 @@ public:
     void loadRequest(const QUrl& url);
 
     /** How long a page may take to hand out its document; a page whose scripts never rest has none after that
-     * time. */
+       time. */
     void setDocumentTimeLimit(std::chrono::milliseconds limit) { documentTimeLimit_ = limit; }
 
     /** How long a page whose scripts never rest may hold up the load, or the way back, by which it is left. 5
@@ -95,7 +95,7 @@ private:
 };
 
 /** The maker that loads the engine's module from beside the program. Null results leave the reason, a
-    sentence, in the parent widget's label. */
+   sentence, in the parent widget's label. */
 [[nodiscard]] WebView::EngineMaker engineFromModule();
 
 } // namespace velmora

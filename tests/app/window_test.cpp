@@ -19,7 +19,7 @@ using test::text4;
 
 class WindowLayoutTest : public test::WindowTest {
 protected:
-    /** The controls that a person works with. */
+    /** The controls that a user works with. */
     QWidgetList controls() {
         QWidgetList list;
         for (const char* name :

@@ -29,7 +29,7 @@ protected:
                          Qt::NoModifier);
         QCoreApplication::sendEvent(header, &move);
     }
-    /** As a person does, with the mouse, at the right edge of COLUMN's header. */
+    /** As a user does, with the mouse, at the right edge of COLUMN's header. */
     void dragEdge(int column, int distance) const {
         const QHeaderView* const header = view_.horizontalHeader();
         const QPoint edge(header->sectionViewportPosition(column) + header->sectionSize(column) - 1,

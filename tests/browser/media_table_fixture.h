@@ -83,7 +83,7 @@ protected:
         QTest::mouseClick(view_.viewport(), Qt::LeftButton, modifiers, middleOf(row));
         runLoop();
     }
-    /** As a person clicks: with the mouse, on the header. */
+    /** As a user clicks: with the mouse, on the header. */
     void clickHeader(int column) {
         QWidget* const viewport = view_.horizontalHeader()->viewport();
         QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier,

@@ -11,7 +11,7 @@
 #include <vector>
 
 /** Stands in for libFuzzer's main: runs a target once on each file of the folders that are named, without any
-    other tool than the compiler of the day. Findings end the program. */
+   other tool than the compiler of the day. Findings end the program. */
 namespace {
 
 namespace fs = std::filesystem;

@@ -8,7 +8,7 @@
 namespace velmora::test {
 namespace {
 
-/** Drawing, and what a person who does not see it is told. */
+/** Drawing, and what a user who does not see it is told. */
 class CoverArtViewDrawing : public CoverArtViewTest {
 protected:
     CoverArtViewDrawing() {
@@ -19,7 +19,7 @@ protected:
     }
 
     /** A frame 2 wide inside the view's edges in the accent colour, each component times 0.6, and none of it
-     * further in. */
+       further in. */
     [[nodiscard]] static bool showsFrame(const QImage& picture) {
         const QColor frame(60, 120, 30);
         const int right = picture.width() - 1;

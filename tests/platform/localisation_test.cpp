@@ -17,7 +17,7 @@
 namespace velmora {
 namespace {
 
-/** A person of one language; afterwards the tests speak English again. */
+/** A user of one language; afterwards the tests speak English again. */
 class LocalisationTest : public testing::Test {
 protected:
     ~LocalisationTest() override {

@@ -14,7 +14,7 @@ namespace velmora::test {
 [[nodiscard]] std::string to_hex(std::string_view bytes);
 
 /** COUNT bytes that follow a fixed pattern without long repeats, for media data that must come through
- * unchanged. */
+   unchanged. */
 [[nodiscard]] std::string pattern(std::size_t count, unsigned seed = 1);
 
 /** A whole file's bytes; fails the test when it can't be read. */

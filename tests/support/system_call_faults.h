@@ -9,12 +9,12 @@
 
 /** Watches the POSIX calls that a piece of code makes, and makes chosen ones fail.
 
-    A test program gets this by linking velmora_system_call_faults: the linker then leads the calls made by
+   A test program gets this by linking velmora_system_call_faults: the linker then leads the calls made by
    the program's own objects and static libraries (the C and C++ runtime keeps its own) through here. They
    reach the system unchanged while no object of the class lives, and from every thread but the one that made
    it.
 
-    To run an operation once for each of its calls, with that call failing:
+   To run an operation once for each of its calls, with that call failing:
 
         int calls = 0;
         {

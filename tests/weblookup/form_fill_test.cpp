@@ -129,7 +129,7 @@ TEST(FormFill, DropsNamesThatAFormCanNotShow) {
 // Large pages
 
 /** The least processor time in seconds that it takes to read a page with the children CHILDREN, as a page of
- * TYPE. */
+   TYPE. */
 double timeToRead(const Doms& children, int type) {
     const StreamCapture log;
     const auto document = page(children);

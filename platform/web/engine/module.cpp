@@ -21,7 +21,7 @@ void silenceEngineContext(QLoggingCategory* category) {
 }
 
 /** Keeps what the engine has to say about the graphics hardware that it does not use out of the log while it
- * starts. */
+   starts. */
 class QuietStart {
 public:
     QuietStart() : warned_(category()->isEnabled(QtWarningMsg)) {

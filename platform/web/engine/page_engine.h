@@ -45,7 +45,7 @@ private:
     QString snapshotScript_;
     int snapshots_ = 0;
     /** The number of the snapshot that the page owes; 0 for none. Shared with answers, which may outlive the
-     * engine. */
+       engine. */
     std::shared_ptr<int> awaited_ = std::make_shared<int>(0);
     /** What was asked for last. */
     std::function<void()> navigation_;
