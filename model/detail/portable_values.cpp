@@ -146,8 +146,7 @@ bool saysMore(const portable::TagValues& values, const QVariantMap& metadata, in
             return true;
         }
     }
-    return (values.year && metadata.value(yearKey).toInt() == 0) ||
-           (values.cover && !coverOf(metadata));
+    return (values.year && metadata.value(yearKey).toInt() == 0) || (values.cover && !coverOf(metadata));
 }
 
 } // namespace velmora
