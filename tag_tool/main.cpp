@@ -22,7 +22,7 @@ constexpr int ended_by_signal = 128; ///< and the signal's number
 
 /** Reads the picture that is to be the cover. False, with a line on standard error, where it is none. */
 bool read_cover(Request& request) {
-    constexpr std::size_t largest_cover = 64 * 1024 * 1024;
+    constexpr std::size_t largest_cover = 64UL * 1024 * 1024;
     struct Close {
         void operator()(std::FILE* file) const { std::fclose(file); }
     };

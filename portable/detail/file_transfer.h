@@ -10,7 +10,7 @@
 namespace velmora::portable {
 
 /** Work is done in pieces of at most this many bytes, between which it can be cancelled. */
-inline constexpr std::uint64_t transfer_piece = 8 * 1024 * 1024;
+inline constexpr std::uint64_t transfer_piece = 8UL * 1024 * 1024;
 
 /** Writes BYTES at POSITION. */
 void write_at(FIOFUNCSTRUCT* file, std::span<const std::uint8_t> bytes, std::uint64_t position);

@@ -26,7 +26,7 @@ constexpr std::uint8_t last_block = 0x80;
 constexpr std::size_t block_header_size = 4;
 constexpr std::size_t largest_block = (1u << 24) - 1;
 /** Metadata of more bytes than this in all is not taken into memory. */
-constexpr std::uint64_t largest_metadata = 64 * 1024 * 1024;
+constexpr std::uint64_t largest_metadata = 64UL * 1024 * 1024;
 /** Padding beyond this and beyond what was there before is given back. */
 constexpr std::size_t most_padding = 8192;
 constexpr std::size_t new_padding = 4096;

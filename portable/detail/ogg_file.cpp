@@ -16,7 +16,7 @@ namespace velmora::portable {
 namespace {
 
 constexpr std::string_view picture_key = "METADATA_BLOCK_PICTURE";
-constexpr std::uint64_t largest_headers = 64 * 1024 * 1024;
+constexpr std::uint64_t largest_headers = 64UL * 1024 * 1024;
 
 /** How a codec begins its stream. */
 struct Codec {

@@ -9,7 +9,9 @@ TagValues filled(TagValues values, const TagValues& more) {
         values.texts[i] = values.texts[i] ? values.texts[i] : more.texts[i];
     }
     values.year = values.year ? values.year : more.year;
-    values.cover = values.cover ? std::move(values.cover) : more.cover;
+    if (!values.cover) {
+        values.cover = more.cover;
+    }
     return values;
 }
 

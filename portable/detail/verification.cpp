@@ -11,7 +11,7 @@ namespace velmora::portable {
 
 namespace {
 
-constexpr std::size_t buffer_size = 512 * 1024;
+constexpr std::size_t buffer_size = 512UL * 1024;
 
 [[noreturn]] void refuse(const std::string& what) {
     throw Refusal({ReasonCode::would_lose, 0, what});
