@@ -56,7 +56,7 @@ portable::TagEdits take_edits(Input& input, std::string_view extension) {
         const auto field = static_cast<Field>(i);
         const bool sets = (set >> i & 1) != 0;
         const bool deletes = (deleted >> i & 1) != 0;
-        if (!has_field(kind->media, field) || (!sets && !deletes)) {
+        if (!fuzz::has_field(kind->media, field) || (!sets && !deletes)) {
             continue;
         }
         if (field == Field::year) {

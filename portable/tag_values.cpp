@@ -4,6 +4,18 @@
 
 namespace velmora::portable {
 
+bool has_field(Media media, Field field) {
+    switch (field) {
+    case Field::album:
+        return media != Media::video;
+    case Field::director:
+    case Field::rating:
+        return media == Media::video;
+    default:
+        return true;
+    }
+}
+
 bool TagEdits::asks_for(Field field) const {
     switch (field) {
     case Field::year:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "media_kind.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -24,6 +26,9 @@ enum class Field : std::uint8_t {
 };
 inline constexpr std::size_t text_field_count = 7;
 inline constexpr std::size_t field_count = 9;
+
+/** Whether files of that media have FIELD. */
+[[nodiscard]] bool has_field(Media media, Field field);
 
 /** A picture as it is in the file. */
 struct Cover {

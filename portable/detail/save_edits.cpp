@@ -32,18 +32,6 @@ Edit<std::string> valid_text(const Edit<std::string>& edit) {
 
 } // namespace
 
-bool has_field(Media media, Field field) {
-    switch (field) {
-    case Field::album:
-        return media != Media::video;
-    case Field::director:
-    case Field::rating:
-        return media == Media::video;
-    default:
-        return true;
-    }
-}
-
 TagEdits valid_edits(const TagEdits& edits, Media media) {
     TagEdits valid = edits;
     for (std::size_t i = 0; i < field_count; ++i) {

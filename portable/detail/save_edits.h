@@ -5,9 +5,6 @@
 
 namespace velmora::portable {
 
-/** Whether files of that media have FIELD. */
-[[nodiscard]] bool has_field(Media media, Field field);
-
 /** EDITS as a save takes them: an empty text, no bytes of a cover and a year 0 are deleted, a text ends at its first
     zero and is UTF-8. Throws a Refusal for a field that files of that media don't have, and for a year that is not
     one of four digits. */
