@@ -9,7 +9,7 @@ import sys
 import tempfile
 
 project, build = (pathlib.Path(path).resolve() for path in sys.argv[1:3])
-rooms = ["taglib", "portable", "platform", "model", "imaging", "weblookup", "browser", "app"]
+rooms = ["taglib", "portable", "platform", "model", "imaging", "weblookup", "browser", "library", "app"]
 wrong = []
 
 commands = {}

@@ -1,0 +1,201 @@
+#include "library/filter_query.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+namespace velmora {
+namespace {
+
+using portable::Field;
+
+RowTexts textsOfSong() {
+    RowTexts texts;
+    const auto set = [&texts](LibraryColumn column, const char* text) {
+        texts[static_cast<std::size_t>(column)] = text;
+    };
+    set(LibraryColumn::name, "07 dancing.mp3");
+    set(LibraryColumn::folder, "/home/me/Music/Arrival");
+    set(LibraryColumn::kind, "Song");
+    set(LibraryColumn::title, "Dancing Queen");
+    set(LibraryColumn::artist, "ABBA");
+    set(LibraryColumn::album, "Arrivée");
+    set(LibraryColumn::year, "1976");
+    set(LibraryColumn::genre, "Pop");
+    set(LibraryColumn::synopsis, "Live in Melbourne");
+    set(LibraryColumn::tags, "ID3v2.3, ID3v1");
+    set(LibraryColumn::size, "4.1 MB");
+    set(LibraryColumn::date, "2020-05-04 11:12");
+    return texts;
+}
+
+FilterText song(int year = 1976, MissingBits missing = 0) {
+    return {textsOfSong(), year, missing};
+}
+
+bool matches(const char* query, const FilterText& row = song()) {
+    return FilterQuery(QString::fromUtf8(query)).matches(row);
+}
+
+TEST(FilterQuery, NothingTypedMatchesEverything) {
+    EXPECT_TRUE(FilterQuery().matches(song()));
+    EXPECT_TRUE(FilterQuery("  ").isEmpty());
+    EXPECT_TRUE(FilterQuery("\"\"").isEmpty());
+    EXPECT_FALSE(FilterQuery("a").isEmpty());
+}
+
+TEST(FilterQuery, AWordMayStandInAnyColumnAndWithinAWord) {
+    EXPECT_TRUE(matches("queen"));
+    EXPECT_TRUE(matches("ncin"));
+    EXPECT_TRUE(matches("music/arr"));
+    EXPECT_TRUE(matches("id3v2.3"));
+    EXPECT_FALSE(matches("waterloo"));
+}
+
+TEST(FilterQuery, EveryWordMustBeThere) {
+    EXPECT_TRUE(matches("abba queen pop"));
+    EXPECT_TRUE(matches("pop abba"));
+    EXPECT_FALSE(matches("abba waterloo"));
+}
+
+TEST(FilterQuery, CaseAndAccentsDoNotMatter) {
+    EXPECT_TRUE(matches("aBBa ARRIVEE"));
+    EXPECT_TRUE(matches("arrivée"));
+    EXPECT_TRUE(matches("Ábba"));
+}
+
+TEST(FilterQuery, QuotesMakeOneWordOfSeveral) {
+    EXPECT_TRUE(matches("\"dancing queen\""));
+    EXPECT_FALSE(matches("\"queen dancing\""));
+    EXPECT_TRUE(matches("\"dancing que"));
+    EXPECT_TRUE(matches("title:\"dancing queen\" abba"));
+    EXPECT_FALSE(matches("artist:\"dancing queen\""));
+}
+
+TEST(FilterQuery, NoWordReachesFromOneColumnIntoTheNext) {
+    EXPECT_FALSE(matches("\"queen abba\""));
+    EXPECT_FALSE(matches("queenabba"));
+}
+
+TEST(FilterQuery, ANameNarrowsAWordToItsColumn) {
+    EXPECT_TRUE(matches("artist:abba"));
+    EXPECT_TRUE(matches("ARTIST:abba"));
+    EXPECT_TRUE(matches("cast:abba"));
+    EXPECT_FALSE(matches("title:abba"));
+    EXPECT_TRUE(matches("album:arrivee"));
+    EXPECT_FALSE(matches("album:music"));
+    EXPECT_TRUE(matches("name:dancing folder:arrival kind:song genre:pop tags:id3v1 size:4.1 date:2020"));
+    EXPECT_TRUE(matches("comment:melbourne synopsis:live"));
+    EXPECT_FALSE(matches("date:2021"));
+    EXPECT_FALSE(matches("rating:pg"));
+}
+
+TEST(FilterQuery, ANameAloneIsStillBeingTyped) {
+    EXPECT_TRUE(FilterQuery("artist:").isEmpty());
+    EXPECT_TRUE(FilterQuery("year:").isEmpty());
+    EXPECT_TRUE(FilterQuery("missing:").isEmpty());
+}
+
+TEST(FilterQuery, AnUnknownNameIsPartOfAnOrdinaryWord) {
+    EXPECT_TRUE(matches("11:12"));
+    EXPECT_FALSE(matches("11:13"));
+    EXPECT_FALSE(matches("composer:abba"));
+    EXPECT_FALSE(matches("composer:"));
+}
+
+TEST(FilterQuery, QuotedNamesAreText) {
+    EXPECT_FALSE(matches("\"artist:abba\""));
+}
+
+TEST(FilterQuery, AYearIsThatYear) {
+    EXPECT_TRUE(matches("year:1976"));
+    EXPECT_FALSE(matches("year:1977"));
+    EXPECT_FALSE(matches("year:1976", song(0)));
+}
+
+TEST(FilterQuery, YearsReachFromTheFirstToTheLast) {
+    EXPECT_TRUE(matches("year:1970-1979"));
+    EXPECT_TRUE(matches("year:1976-1976"));
+    EXPECT_FALSE(matches("year:1977-1990"));
+    EXPECT_FALSE(matches("year:1960-1975"));
+    EXPECT_TRUE(matches("year:1976-"));
+    EXPECT_FALSE(matches("year:1977-"));
+    EXPECT_TRUE(matches("year:-1976"));
+    EXPECT_FALSE(matches("year:-1975"));
+    EXPECT_FALSE(matches("year:-1990", song(0)));
+}
+
+TEST(FilterQuery, TheBeginningOfAYearStandsForAllThatBeginSo) {
+    EXPECT_TRUE(matches("year:197"));
+    EXPECT_TRUE(matches("year:1"));
+    EXPECT_FALSE(matches("year:198"));
+    EXPECT_TRUE(matches("year:1960-19"));
+    EXPECT_TRUE(matches("year:19-1976"));
+}
+
+TEST(FilterQuery, AYearThatIsNoneIsAnOrdinaryWord) {
+    EXPECT_FALSE(matches("year:soon"));
+    EXPECT_FALSE(matches("year:19761"));
+    RowTexts texts = textsOfSong();
+    texts[static_cast<std::size_t>(LibraryColumn::title)] = "Year:Soon";
+    EXPECT_TRUE(matches("year:soon", FilterText(texts, 0, 0)));
+}
+
+TEST(FilterQuery, WhatIsMissingIsFound) {
+    const FilterText row = song(1976, missingBit(Field::cover) | missingBit(Field::year));
+    EXPECT_TRUE(matches("missing:cover", row));
+    EXPECT_TRUE(matches("missing:Year", row));
+    EXPECT_TRUE(matches("abba missing:cover missing:year", row));
+    EXPECT_FALSE(matches("missing:title", row));
+    EXPECT_FALSE(matches("missing:cover", song()));
+    EXPECT_TRUE(matches("missing:tags", song(0, missingTag)));
+}
+
+TEST(FilterQuery, TheBeginningOfAMissingNameStandsForAllThatBeginSo) {
+    EXPECT_TRUE(matches("missing:co", song(0, missingBit(Field::cover))));
+    EXPECT_TRUE(matches("missing:co", song(0, missingBit(Field::synopsis))));
+    EXPECT_FALSE(matches("missing:co", song(0, missingBit(Field::title))));
+    EXPECT_FALSE(matches("missing:nothing", song(0, missingBit(Field::title))));
+}
+
+TEST(FilterQuery, AWrongNumberOfColumnsIsNoDanger) {
+    EXPECT_FALSE(matches("date:x", FilterText()));
+    EXPECT_FALSE(matches("x", FilterText()));
+    EXPECT_TRUE(matches("", FilterText()));
+}
+
+portable::ReadOutcome readOutcome(portable::Media media) {
+    portable::ReadOutcome read;
+    read.kind = portable::MediaKind{media, portable::Container::mp4};
+    return read;
+}
+
+TEST(MissingIn, AFieldThatTheKindDoesNotHaveIsNotMissing) {
+    EXPECT_EQ(missingIn(readOutcome(portable::Media::audio)), 0b11'1011'0111 & ~missingBit(Field::director));
+    EXPECT_EQ(missingIn(readOutcome(portable::Media::video)), 0b11'1111'1011);
+}
+
+TEST(MissingIn, WhatIsThereIsNotMissing) {
+    portable::ReadOutcome read = readOutcome(portable::Media::audio);
+    read.tags = {"ID3v2.3"};
+    read.values.text(Field::title) = "a";
+    read.values.text(Field::artist) = "a";
+    read.values.text(Field::album) = "a";
+    read.values.text(Field::synopsis) = "a";
+    read.values.text(Field::genre) = "a";
+    read.values.year = 1;
+    EXPECT_EQ(missingIn(read), missingBit(Field::cover));
+    read.values.cover = portable::Cover{};
+    EXPECT_EQ(missingIn(read), 0);
+}
+
+TEST(MissingIn, OfAFileThatCanNotBeReadNothingIsKnown) {
+    portable::ReadOutcome read = readOutcome(portable::Media::audio);
+    read.failure = portable::Reason{};
+    EXPECT_EQ(missingIn(read), 0);
+    EXPECT_EQ(missingIn(portable::ReadOutcome{}), 0);
+}
+
+} // namespace
+} // namespace velmora
