@@ -10,7 +10,7 @@ namespace velmora::portable {
 
 namespace {
 
-constexpr std::size_t buffer_size = 256UL * 1024;
+constexpr std::size_t buffer_size = 64UL * 1024;
 
 /** Whether the system says, by errno, that it can't copy between these files itself. */
 bool must_be_copied_by_hand() {
