@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 """run.py BUILD_FOLDER [PART...]: runs the benchmarks of the build and prints one table, in Markdown, with ratios and
-targets. A PART is tags, memory, trim, search, dom or start; without any it is all of them.
+targets. A PART is tags, memory, portable, trim, search, dom or start; without any it is all of them.
 
 Each ratio comes from one run of one program (or, for the starts, one loop) in which the two sides take turns, and is a
 ratio of medians. Time is processor time, user and system together, unless a row says otherwise: it is what the work
@@ -17,44 +17,14 @@ import sys
 import tempfile
 import time
 
+from portable_rows import add_portable
+from table import Table, duration
+
 HERE = os.path.dirname(os.path.abspath(__file__))
 KINDS = [("leading", "MP3 with the tag in front"), ("appended", "MP3 with an appended tag"), ("asf", "ASF"),
          ("avi", "AVI")]
 STORES = [("appended", "MP3 with an appended tag"), ("asf", "ASF with room in its padding"),
           ("avi", "AVI with INFO last")]
-
-
-class Table:
-    """Rows of cells, and whether every target was met."""
-
-    def __init__(self):
-        self.rows = []
-        self.met = True
-
-    def add(self, work, ours, yardstick, value, target, limit, measured, closed=""):
-        met = measured <= limit
-        self.met = self.met and met
-        self.rows.append((work, ours, closed, yardstick, value, target, "yes" if met else "**no**"))
-
-    def add_without_target(self, work, ours, yardstick, value):
-        self.rows.append((work, ours, "", yardstick, value, "", ""))
-
-    def add_ratio(self, work, ours, yardstick, name, limit, closed=None):
-        ratio = ours / yardstick
-        self.add(work, duration(ours), f"{name}: {duration(yardstick)}", f"{ratio:.3g}", f"at most {limit}", limit,
-                 ratio, "" if closed is None else f"{duration(closed)} ({closed / yardstick:.2f})")
-
-    def write(self):
-        head = ("work", "Velmora", "standard error closed", "yardstick", "ratio or figure", "target", "met")
-        for row in (head, ["---"] * len(head), *self.rows):
-            print("| " + " | ".join(row) + " |")
-
-
-def duration(nanoseconds):
-    for unit, size in (("s", 1e9), ("ms", 1e6), ("µs", 1e3)):
-        if nanoseconds >= size:
-            return f"{nanoseconds / size:.3g} {unit}"
-    return f"{nanoseconds:.3g} ns"
 
 
 def google_benchmark(command, repetitions, *options):
@@ -221,7 +191,7 @@ def machine():
 
 def main():
     programs = f"{os.path.abspath(sys.argv[1])}/benchmarks"
-    parts = sys.argv[2:] or ["tags", "memory", "trim", "search", "dom", "start"]
+    parts = sys.argv[2:] or ["tags", "memory", "portable", "trim", "search", "dom", "start"]
     table = Table()
     if "tags" in parts or "memory" in parts:
         with tempfile.TemporaryDirectory() as library:
@@ -230,6 +200,8 @@ def main():
                 add_tags(table, programs, library)
             if "memory" in parts:
                 add_memory(table, programs, library)
+    if "portable" in parts:
+        add_portable(table, os.path.abspath(sys.argv[1]))
     for part, add in (("trim", add_trim), ("search", add_search), ("dom", add_dom_copy), ("start", add_start)):
         if part in parts:
             add(table, programs)
