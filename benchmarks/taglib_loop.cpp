@@ -18,8 +18,8 @@ int main(int, char** arguments) {
     for (const std::string& path : paths) {
         const TagLib::FileRef file(path.c_str(), false);
         if (const TagLib::Tag* const tag = file.tag()) {
-            length += tag->title().size() + tag->artist().size() + tag->album().size() + tag->comment().size() +
-                      tag->genre().size() + tag->year();
+            length += tag->title().size() + tag->artist().size() + tag->album().size() +
+                      tag->comment().size() + tag->genre().size() + tag->year();
         }
     }
     std::cout << length << "\n";
