@@ -138,8 +138,11 @@ bool MyDocument::handleDirtySave() {
     case Alert::secondButtonReturn:
         return false;
     case Alert::firstButtonReturn:
-        if (!saveMediaFile(nullptr) && portableTags_) {
-            return false; // nothing of what the user did is lost, and the notice says why
+        if (!saveMediaFile(nullptr)) {
+            if (portableTags_) {
+                return false; // nothing of what the user did is lost, and the notice says why
+            }
+            keepEdits();
         }
         [[fallthrough]];
     case Alert::thirdButtonReturn:

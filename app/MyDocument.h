@@ -10,6 +10,7 @@
 #include <QList>
 
 #include <memory>
+#include <vector>
 
 namespace Ui {
 class MyDocument;
@@ -56,6 +57,8 @@ public:
     bool setPortableTags(bool portable) override;
     [[nodiscard]] QString portableObstacle() const override { return portableObstacle_; }
     bool savePortably(bool breakLinks) override;
+    [[nodiscard]] bool hasUnsavedEdits() const override { return !unsavedEdits_.empty(); }
+    bool restoreUnsavedEdits(Error* error) override;
     /** The menu's switch. What the user switches off is not remembered any more. */
     void switchPortableTags(bool portable);
 
@@ -64,8 +67,8 @@ public:
     void saveDocument();
 
     /** Asks what to do with the changes of the open file, and does it. False when the user cancelled, and
-       while the question is on the screen already. True otherwise: the file is closed, its changes written or
-       dropped. A question that goes away without an answer counts as true and leaves the file and its changes
+       while the question is on the screen already. True otherwise: the file is closed, its changes written,
+       kept for restoreUnsavedEdits where they could not be, or dropped. A question that goes away without an answer counts as true and leaves the file and its changes
        as they are. */
     [[nodiscard]] bool handleDirtySave();
     /** The end of the question's sheet. */
@@ -81,11 +84,18 @@ public:
     [[nodiscard]] TagWebBrowser* webBrowser() const { return webBrowser_; }
 
 private:
+    struct UnsavedEdits {
+        std::unique_ptr<MediaFile> file;
+        QUrl url;
+    };
+
     /** Puts the file at URL into the place of the open one. Empty when it is open, else the user's words for what
        stands in the way; the file that was open is gone then if there is one at URL that can't be read. */
     [[nodiscard]] QString openFile(const QUrl& url);
     /** Saves, and tells everybody how that ended. */
     [[nodiscard]] bool saveInPlace(Error* error);
+    /** Keeps the open file with its edits, which are about to be lost. */
+    void keepEdits();
     void makeForms();
     void connectCommands();
     void setSymbols();
@@ -93,7 +103,8 @@ private:
 
     ApplicationTermination& termination_;
     std::unique_ptr<MediaFile> mediaFile_;
-    std::optional<QUrl> openUrl_; ///< where the open file is
+    std::optional<QUrl> openUrl_;            ///< where the open file is
+    std::vector<UnsavedEdits> unsavedEdits_; ///< the last ones are restored first
     bool portableTags_ = false;
     QString portableObstacle_;
     PortableSaveRun saveRun_;

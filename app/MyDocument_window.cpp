@@ -76,10 +76,10 @@ void MyDocument::setSymbols() {
     for (const auto& [action, name] :
          {std::pair(ui_->action_addFile, "list-add"), std::pair(ui_->action_addFolder, "folder-new"),
           std::pair(ui_->action_save, "document-save"), std::pair(ui_->action_revert, "document-revert"),
-          std::pair(ui_->action_portableTags, "tag"), std::pair(ui_->action_close, "window-close"),
-          std::pair(ui_->action_quit, "application-exit"), std::pair(ui_->action_find, "edit-find"),
-          std::pair(ui_->action_loadCoverArt, "insert-image"), std::pair(ui_->action_lookUp, "web-browser"),
-          std::pair(ui_->action_sortByName, "sort-by-name"),
+          std::pair(ui_->action_portableTags, "tag"), std::pair(ui_->action_restoreEdits, "edit-undo"),
+          std::pair(ui_->action_close, "window-close"), std::pair(ui_->action_quit, "application-exit"),
+          std::pair(ui_->action_find, "edit-find"), std::pair(ui_->action_loadCoverArt, "insert-image"),
+          std::pair(ui_->action_lookUp, "web-browser"), std::pair(ui_->action_sortByName, "sort-by-name"),
           std::pair(ui_->action_sortBySize, "sort-by-size"),
           std::pair(ui_->action_sortByDate, "sort-by-date")}) {
         action->setIcon(symbol(QLatin1String(name)));
@@ -94,6 +94,9 @@ void MyDocument::connectCommands() {
     connect(ui_->action_portableTags, &QAction::triggered, this, &MyDocument::switchPortableTags);
     connect(this, &MyDocument::portableTagsChanged, ui_->action_portableTags, &QAction::setChecked);
     connect(ui_->action_revert, &QAction::triggered, form_, &TagForm::clickRevert);
+    connect(ui_->action_restoreEdits, &QAction::triggered, controller_.get(),
+            &VelmoraController::restoreUnsavedEdits);
+    connect(this, &MediaDocument::hasUnsavedEditsChanged, ui_->action_restoreEdits, &QAction::setEnabled);
     connect(ui_->action_loadCoverArt, &QAction::triggered, controller_.get(),
             &VelmoraController::loadCoverArt);
     connect(ui_->action_close, &QAction::triggered, window_.get(), &QWidget::close);

@@ -86,6 +86,7 @@ void VelmoraController::connectForm() {
 void VelmoraController::connectPortableTags() {
     connect(&document_, &MediaDocument::saveEnded, this, &VelmoraController::saveEnded);
     connect(&document_, &MediaDocument::openedAgain, this, &VelmoraController::showFileAgain);
+    connect(&notices_, &PortableNotices::restoreWanted, this, &VelmoraController::restoreUnsavedEdits);
 }
 
 /** A save with portable tags settles the changes, whichever command began it. */
@@ -184,6 +185,19 @@ void VelmoraController::revertToSaved() {
 void VelmoraController::removeTag() {
     document_.updateChangeCount(Document::ChangeType::Cleared);
     form_.disableSaveAndRevert();
+}
+
+void VelmoraController::restoreUnsavedEdits() {
+    Error error;
+    if (document_.restoreUnsavedEdits(&error)) {
+        clearUI();
+        fillUI();
+        form_.markChange();
+        table().showAsOpen(document_.mediaFile()->path());
+        notices_.editsRestored();
+    } else if (!error.domain.isEmpty()) {
+        showOpenError(error);
+    }
 }
 
 void VelmoraController::addFile() {

@@ -38,6 +38,10 @@ public:
        stay. */
     void removeTag();
 
+    /** Opens the file again whose edits were kept last, and puts them back. What stands in the way is said on a
+       sheet; the edits stay kept then. */
+    void restoreUnsavedEdits();
+
     void addFile();
     void addFileSelected(int returnCode, const QStringList& paths);
     void addFolder();

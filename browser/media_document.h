@@ -36,6 +36,17 @@ public:
         return false;
     }
 
+    /** Whether there are edits of a file that could not be saved before another one took its place. They are kept
+       until the program ends. */
+    [[nodiscard]] virtual bool hasUnsavedEdits() const { return false; }
+    /** Opens the file again whose edits were kept last, in place of the open one, and makes them once more; they
+       count as a change. False when it can't be opened, with ERROR (may be null) filled, or the user cancelled;
+       the edits are still kept then. */
+    virtual bool restoreUnsavedEdits(Error* error) {
+        static_cast<void>(error);
+        return false;
+    }
+
 signals:
     /** An attempt to save the open file has ended. */
     void saveEnded(const velmora::SaveEnd& end);
@@ -43,6 +54,11 @@ signals:
     void portableTagsChanged(bool portable);
     /** The open file was opened again. */
     void openedAgain();
+    /** There are unsaved edits of closed files, or none any more. */
+    void hasUnsavedEditsChanged(bool hasSome);
+    /** The edits of the file at PATH were kept: it is closed, and could not be saved because of REASON, one sentence
+       without a full stop. */
+    void editsKept(const QString& path, const QString& reason);
 };
 
 } // namespace velmora

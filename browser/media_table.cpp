@@ -89,13 +89,24 @@ void MediaTable::reloadData() {
 }
 
 void MediaTable::selectFile(const QString& path) {
+    const int row = rowOf(path);
+    if (row >= 0) {
+        view_.setCurrentIndex(model_.index(row, MediaTableModel::columnIndex(u"filename")));
+    }
+}
+
+int MediaTable::rowOf(const QString& path) const {
     for (std::size_t row = mediaFiles_.count(); row-- > 0;) {
         if (mediaFiles_.at(row)->fullpath == path) {
-            const int column = MediaTableModel::columnIndex(u"filename");
-            view_.setCurrentIndex(model_.index(static_cast<int>(row), column));
-            return;
+            return static_cast<int>(row);
         }
     }
+    return -1;
+}
+
+void MediaTable::showAsOpen(const QString& path) {
+    curSelectedRow_ = rowOf(path);
+    restoreSelection();
 }
 
 void MediaTable::tableViewDidClickTableColumn(int column) {

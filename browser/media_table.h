@@ -50,6 +50,10 @@ public:
        there is none. */
     void selectFile(const QString& path);
 
+    /** The document has opened the file at PATH by itself: selects its row, the last where there are several, which
+       opens nothing; no row where there is none. */
+    void showAsOpen(const QString& path);
+
     /** Sorts by the column of that index in MediaTableModel::columns, or turns the direction when it is the
        sort column; the icon column stands for the file name's. */
     void tableViewDidClickTableColumn(int column);
@@ -82,6 +86,8 @@ private:
     [[nodiscard]] bool closeFile();
     [[nodiscard]] bool openFile(int row);
     void restoreSelection();
+    /** The place in the list of the last row of the file at PATH; -1 when there is none. */
+    [[nodiscard]] int rowOf(const QString& path) const;
 
     QTableView& view_;
     MediaDocument& document_;

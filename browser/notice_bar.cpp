@@ -49,15 +49,58 @@ NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent) {
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     timer_.setSingleShot(true);
-    connect(&timer_, &QTimer::timeout, this, &NoticeBar::clear);
+    connect(&timer_, &QTimer::timeout, this, &NoticeBar::dismiss);
     const auto* const key = new QShortcut(QKeySequence(Qt::Key_F6), this);
     connect(key, &QShortcut::activated, this, [this] { first_->setFocus(Qt::ShortcutFocusReason); });
     hide();
 }
 
 void NoticeBar::show(const Notice& notice) {
+    notices_.removeIf([&](const Notice& other) { return other.topic == notice.topic; });
+    notices_.append(notice);
+    showLast();
+}
+
+void NoticeBar::showBehind(const Notice& notice) {
+    if (notices_.isEmpty()) {
+        show(notice);
+    } else {
+        notices_.prepend(notice);
+    }
+}
+
+void NoticeBar::withdraw(Notice::Topic topic) {
+    const bool wasShown = holdsNotice() && notices_.last().topic == topic;
+    notices_.removeIf([&](const Notice& notice) { return notice.topic == topic; });
+    if (wasShown) {
+        showLast();
+    }
+}
+
+/** The notice that is shown has been read. */
+void NoticeBar::dismiss() {
+    if (holdsNotice()) {
+        notices_.removeLast();
+        showLast();
+    }
+}
+
+void NoticeBar::clear() {
+    notices_.clear();
+    showLast();
+}
+
+void NoticeBar::showLast() {
     const bool hadKeyboard = hasKeyboard();
-    clear();
+    if (notices_.isEmpty() && hadKeyboard) {
+        focusNextChild();
+    }
+    removeRow();
+    if (notices_.isEmpty()) {
+        hide();
+        return;
+    }
+    const Notice& notice = notices_.last();
     makeRow(notice);
     setAccessibleName(notice.text);
     if (notice.shown.count() > 0) {
@@ -68,6 +111,18 @@ void NoticeBar::show(const Notice& notice) {
         first_->setFocus();
     }
     announce();
+}
+
+void NoticeBar::removeRow() {
+    timer_.stop();
+    if (!row_) {
+        return;
+    }
+    // Not at once: a button in it may be what takes it away.
+    row_->hide();
+    row_->deleteLater();
+    row_ = nullptr;
+    first_ = nullptr;
 }
 
 void NoticeBar::makeRow(const Notice& notice) {
@@ -82,9 +137,9 @@ void NoticeBar::makeRow(const Notice& notice) {
     for (int i = 0; i < notice.actions.size() && i < mostActions; ++i) {
         buttons += addButton(names[i], notice.actions[i]);
     }
-    auto* const close =
-        addButton(QStringLiteral("btn_noticeClose"),
-                  {{}, localised("Close this notice"), QStringLiteral("window-close"), [this] { clear(); }});
+    auto* const close = addButton(
+        QStringLiteral("btn_noticeClose"),
+        {{}, localised("Close this notice"), QStringLiteral("window-close"), [this] { dismiss(); }});
     close->setAccessibleName(localised("Close"));
     close->setFlat(true);
     buttons += close;
@@ -127,25 +182,9 @@ bool NoticeBar::hasKeyboard() const {
     return row_ != nullptr && row_->isAncestorOf(QApplication::focusWidget());
 }
 
-void NoticeBar::clear() {
-    timer_.stop();
-    if (!row_) {
-        return;
-    }
-    if (hasKeyboard()) {
-        focusNextChild();
-    }
-    hide();
-    // Not at once: a button in it may be what clears it.
-    row_->hide();
-    row_->deleteLater();
-    row_ = nullptr;
-    first_ = nullptr;
-}
-
 void NoticeBar::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
-        clear();
+        dismiss();
         return;
     }
     QFrame::keyPressEvent(event);

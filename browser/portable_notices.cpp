@@ -36,6 +36,8 @@ PortableNotices::PortableNotices(MediaDocument& document, NoticeBar& bar, QObjec
     : QObject(parent), document_(document), bar_(bar) {
     thread_.setMaxThreadCount(1);
     connect(&document_, &MediaDocument::saveEnded, this, &PortableNotices::saveEnded);
+    // Once the next file is open, whose notices take the place of all others.
+    connect(&document_, &MediaDocument::editsKept, this, &PortableNotices::editsKept, Qt::QueuedConnection);
 }
 
 PortableNotices::~PortableNotices() {
@@ -80,18 +82,38 @@ void PortableNotices::lookForMore() {
             return;
         }
         const auto tell = [this, which] {
-            if (which == opened_ && !bar_.holdsNotice()) {
-                bar_.show({Notice::Kind::Information,
-                           localised("Other programs see more in this file"),
-                           {{localised("Show It"), localised("Switch to the tags that other programs read"),
-                             QStringLiteral("tag"), [this] { document_.setPortableTags(true); }},
-                            {localised("Always"), localised("Switch to these tags, now and at each start"),
-                             QStringLiteral("view-pin"), [this] { showAlways(); }}},
-                           {}});
+            if (which == opened_) {
+                bar_.showBehind(
+                    {Notice::Kind::Information,
+                     localised("Other programs see more in this file"),
+                     {{localised("Show It"), localised("Switch to the tags that other programs read"),
+                       QStringLiteral("tag"), [this] { document_.setPortableTags(true); }},
+                      {localised("Always"), localised("Switch to these tags, now and at each start"),
+                       QStringLiteral("view-pin"), [this] { showAlways(); }}},
+                     {},
+                     Notice::Topic::OtherPrograms});
             }
         };
         QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
     });
+}
+
+void PortableNotices::editsKept(const QString& path, const QString& reason) {
+    Notice notice{
+        Notice::Kind::Warning,
+        together(localised("\"%@\" was not saved; its edits are kept.", shortened(lastPathComponent(path))),
+                 asSentence(reason)),
+        {},
+        {}};
+    notice.actions = {{localised("Restore Unsaved Edits"),
+                       localised("Open the file again whose edits could not be saved, and put them back"),
+                       QStringLiteral("edit-undo"), [this] { emit restoreWanted(); }}};
+    notice.topic = Notice::Topic::UnsavedEdits;
+    bar_.show(notice);
+}
+
+void PortableNotices::editsRestored() {
+    offerSave(localised("The edits of \"%@\" are back, and not saved yet.", fileName()));
 }
 
 void PortableNotices::saveEnded(const SaveEnd& end) {

@@ -25,11 +25,18 @@ public:
     void fileOpened();
     /** The form shows no file any more. */
     void fileClosed();
+    /** The open file's edits have come back. */
+    void editsRestored();
     /** A save of the document has ended. */
     void saveEnded(const SaveEnd& end);
 
+signals:
+    /** The user wants the edits back that were kept. */
+    void restoreWanted();
+
 private:
     void lookForMore();
+    void editsKept(const QString& path, const QString& reason);
     void savedInPlace();
     void savedPortably(const PortableSaveResult& result);
     void failedPortably(const PortableSaveResult& result);

@@ -135,6 +135,23 @@ bool MediaFile::saveMetadata(Error* error) const {
     return false;
 }
 
+void MediaFile::takeEditsOf(const MediaFile& other) {
+    const QString cover = QStringLiteral("coverart");
+    for (auto value = other.metadata_.begin(); value != other.metadata_.end(); ++value) {
+        if (value.key() != cover && *value != other.opened_.value(value.key())) {
+            metadata_[value.key()] = *value;
+        }
+    }
+    if (other.coverArt().get() == other.opened_.value(cover).value<ImageRef>().get()) {
+        return;
+    }
+    if (other.coverArt()) {
+        setCoverArt(other.coverArt());
+    } else {
+        removeCoverArt();
+    }
+}
+
 void MediaFile::setCastList(const QStringList& names) {
     setCast(names.join(QStringLiteral(", ")));
 }

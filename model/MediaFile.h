@@ -38,6 +38,8 @@ public:
     [[nodiscard]] PortableSave portableSave(bool breakLinks) const;
     /** Takes the values for those that the file was opened with. */
     void settleChanges() { opened_ = metadata_; }
+    /** Makes the edits of OTHER since it was opened or last settled here, too; all other values stay. */
+    void takeEditsOf(const MediaFile& other);
     /** Whether the file is of a kind that portable tags can be saved in. */
     [[nodiscard]] bool canHavePortableTags() const;
     /** Finds out, on any thread, whether the file's portable tags have a value that is missing or cut off here. Empty
@@ -52,6 +54,8 @@ public:
     /** The path of the file that carries the tag: PATH as given, or its side file for DVD folders and disc
        images. */
     [[nodiscard]] QString filename() const { return filename_; }
+    /** The path as given. */
+    [[nodiscard]] QString path() const { return path_; }
     /** A MediaType, told by the path as given. */
     [[nodiscard]] int mediaType() const { return mediaType_; }
 

@@ -543,6 +543,22 @@
         <source>The other links keep the old contents</source>
         <translation>Die anderen Links behalten den alten Inhalt</translation>
     </message>
+    <message>
+        <source>&quot;%@&quot; was not saved; its edits are kept.</source>
+        <translation>„%@“ wurde nicht gespeichert; die Änderungen sind aufgehoben.</translation>
+    </message>
+    <message>
+        <source>Restore Unsaved Edits</source>
+        <translation>Ungespeicherte Änderungen wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Open the file again whose edits could not be saved, and put them back</source>
+        <translation>Die Datei wieder öffnen, deren Änderungen nicht gespeichert werden konnten, und sie wieder eintragen</translation>
+    </message>
+    <message>
+        <source>The edits of &quot;%@&quot; are back, and not saved yet.</source>
+        <translation>Die Änderungen an „%@“ sind wieder da und noch nicht gespeichert.</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>
@@ -613,6 +629,14 @@
     <message>
         <source>Open and save with the tags that other programs read</source>
         <translation>Mit den Tags öffnen und speichern, die andere Programme lesen</translation>
+    </message>
+    <message>
+        <source>Restore Unsaved &amp;Edits</source>
+        <translation>Ungespeicherte Ä&amp;nderungen wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Open the file again whose edits could not be saved, and put them back</source>
+        <translation>Die Datei wieder öffnen, deren Änderungen nicht gespeichert werden konnten, und sie wieder eintragen</translation>
     </message>
 </context>
 <context>
