@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <memory>
 #include <sstream>
 
 namespace velmora::tag_tool {
@@ -62,10 +63,28 @@ std::vector<std::string> prepared(const std::vector<std::string>& arguments) {
     return words;
 }
 
+constexpr std::string_view paths_name = "PATH";
+
+/** Help in which the paths, which the parser does not count, are said to be needed. */
+class HelpWithPaths : public CLI::Formatter {
+public:
+    std::string make_usage(const CLI::App* command, std::string name) const override {
+        const std::string optional = "[" + std::string(paths_name) + "]";
+        std::string usage = CLI::Formatter::make_usage(command, std::move(name));
+        const std::size_t place = usage.find(optional);
+        return place == std::string::npos
+                   ? usage
+                   : usage.replace(place, optional.size(), std::string(paths_name) + "...");
+    }
+};
+
 /** The paths are what the parser leaves: it would take a name in brackets for a list. */
 void add_paths(CLI::App& command, Given& given) {
     command.add_flag("-r,--recursive", given.request.recursive, "Take the files in folders, too");
-    command.add_option("PATH", "Files, or with --recursive folders")->type_name("...")->expected(0);
+    command.add_option(std::string(paths_name), "Files, or with --recursive folders")
+        ->type_name("...")
+        ->expected(0);
+    command.formatter(std::make_shared<HelpWithPaths>());
     command.allow_extras();
 }
 
@@ -78,7 +97,7 @@ void take_paths(const CLI::App& command, Request& request) {
         }
     }
     if (request.paths.empty()) {
-        throw CLI::RequiredError("PATH");
+        throw CLI::RequiredError(std::string(paths_name));
     }
 }
 

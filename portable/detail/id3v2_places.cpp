@@ -2,6 +2,7 @@
 
 #include "cover_choice.h"
 #include "id3v2_text.h"
+#include "text.h"
 
 #include <algorithm>
 #include <array>

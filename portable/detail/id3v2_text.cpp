@@ -259,10 +259,4 @@ std::uint8_t genre_number(std::string_view name) {
     return none;
 }
 
-bool equal_ignoring_case(std::string_view left, std::string_view right) {
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [&](char a, char b) { return lower(a) == lower(b); });
-}
-
 } // namespace velmora::portable

@@ -47,7 +47,4 @@ struct AttachedPicture {
 /** The number of the genre of that name, in any case; 255 where there is none. */
 [[nodiscard]] std::uint8_t genre_number(std::string_view name);
 
-/** Whether the two are equal when the letters A to Z and a to z are not told apart. */
-[[nodiscard]] bool equal_ignoring_case(std::string_view left, std::string_view right);
-
 } // namespace velmora::portable

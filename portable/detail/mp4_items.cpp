@@ -153,12 +153,6 @@ Bytes user_text_box(const Mp4Item& item, std::string_view text) {
     return make_box(item.box.type, UserText{language, bytes_of(text)}.content());
 }
 
-bool same_letters(std::string_view left, std::string_view right) {
-    const auto lower = [](char letter) { return letter >= 'A' && letter <= 'Z' ? letter + 32 : letter; };
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [&](char a, char b) { return lower(a) == lower(b); });
-}
-
 } // namespace
 
 std::optional<Field> mp4_field(Kind kind, std::string_view name, Media media) {
@@ -171,7 +165,7 @@ std::optional<Field> mp4_field(Kind kind, std::string_view name, Media media) {
 }
 
 bool mp4_same_name(std::string_view left, std::string_view right) {
-    return left == right || (left.starts_with(free_item) && same_letters(left, right));
+    return left == right || (left.starts_with(free_item) && equal_ignoring_case(left, right));
 }
 
 std::vector<std::string_view> mp4_places(Kind kind, Field field) {

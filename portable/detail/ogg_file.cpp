@@ -3,8 +3,8 @@
 #include "file_transfer.h"
 #include "flac_picture.h"
 #include "formats.h"
-#include "id3v2_text.h"
 #include "ogg_page.h"
+#include "text.h"
 #include "vorbis_comments.h"
 
 #include "../reason.h"

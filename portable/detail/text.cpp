@@ -1,5 +1,6 @@
 #include "text.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace velmora::portable {
@@ -190,6 +191,12 @@ std::string joined(std::span<const std::string> values) {
         }
     }
     return text;
+}
+
+bool equal_ignoring_case(std::string_view left, std::string_view right) {
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [&](char a, char b) { return lower(a) == lower(b); });
 }
 
 } // namespace velmora::portable

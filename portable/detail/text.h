@@ -33,6 +33,9 @@ namespace velmora::portable {
 /** The UTF-8 of TEXT. */
 [[nodiscard]] std::string utf8_from_code_points(std::u32string_view text);
 
+/** Whether the two are equal when the letters A to Z and a to z are not told apart. */
+[[nodiscard]] bool equal_ignoring_case(std::string_view left, std::string_view right);
+
 /** Several values of one field as one text: in their order, each once, without empty ones, with "; " between. */
 [[nodiscard]] std::string joined(std::span<const std::string> values);
 

@@ -38,6 +38,9 @@ def check_wrong_use(song):
     for arguments in (["--help"], ["set", "--help"], ["--version"]):
         status, output, error = run(*arguments)
         check((status, output != "", error), (0, True, ""), f"the end of {arguments}")
+    for command in ("show", "set", "remove"):
+        usage = [line for line in run(command, "--help")[1].splitlines() if line.startswith("Usage:")]
+        check(usage, [f"Usage: velmora-tag {command} [OPTIONS] PATH..."], f"the usage of {command}")
 
 
 def check_show(folder):
