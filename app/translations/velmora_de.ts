@@ -559,6 +559,42 @@
         <source>The edits of &quot;%@&quot; are back, and not saved yet.</source>
         <translation>Die Änderungen an „%@“ sind wieder da und noch nicht gespeichert.</translation>
     </message>
+    <message>
+        <source>A percent sign stands alone. Write %% for a percent sign.</source>
+        <translation>Ein Prozentzeichen steht allein. Schreiben Sie %% für ein Prozentzeichen.</translation>
+    </message>
+    <message>
+        <source>There is no field &quot;%@&quot;.</source>
+        <translation>Es gibt kein Feld „%@“.</translation>
+    </message>
+    <message>
+        <source>The pattern is empty.</source>
+        <translation>Das Muster ist leer.</translation>
+    </message>
+    <message>
+        <source>There is nothing beside a slash.</source>
+        <translation>Neben einem Schrägstrich steht nichts.</translation>
+    </message>
+    <message>
+        <source>Nothing divides one field from the next.</source>
+        <translation>Zwischen zwei Feldern steht nichts, das sie trennt.</translation>
+    </message>
+    <message>
+        <source>A field comes twice.</source>
+        <translation>Ein Feld kommt zweimal vor.</translation>
+    </message>
+    <message>
+        <source>%skip% has no place in a new name.</source>
+        <translation>%skip% hat in einem neuen Namen keinen Platz.</translation>
+    </message>
+    <message>
+        <source>A name has no slash: files stay in their folders.</source>
+        <translation>Ein Name hat keinen Schrägstrich: Dateien bleiben in ihren Ordnern.</translation>
+    </message>
+    <message>
+        <source>There is no field in the pattern.</source>
+        <translation>Im Muster ist kein Feld.</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>

@@ -8,7 +8,7 @@ import re
 import sys
 import xml.etree.ElementTree as xml
 
-FOLDERS = ["app", "browser", "imaging", "model", "platform", "weblookup"]
+FOLDERS = ["app", "browser", "imaging", "library", "model", "platform", "weblookup"]
 LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
 
 

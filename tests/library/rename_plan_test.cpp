@@ -1,0 +1,146 @@
+#include "library/rename_plan.h"
+
+#include "platform/file_path.h"
+#include "support/scratch_folder.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+namespace velmora {
+namespace {
+
+using portable::Field;
+using testing::ElementsAre;
+
+class RenamePlanTest : public testing::Test {
+protected:
+    /** A row of a file NAME with TITLE, which is made. */
+    RenameRow row(const std::string& name, const std::string& title) {
+        make(name);
+        RenameRow row;
+        row.path = pathFromBytes(QByteArray::fromStdString(folder_ / name));
+        if (!title.empty()) {
+            row.values.text(Field::title) = title;
+        }
+        return row;
+    }
+    void make(const std::string& name) const { std::ofstream(folder_ / name) << name; }
+
+    std::vector<PlannedRename> plan(const std::vector<RenameRow>& rows, const char* pattern = "%title%") {
+        return planRenames(rows,
+                           std::get<NamePattern>(NamePattern::parsed(pattern, NamePattern::Use::write)));
+    }
+    std::vector<RenameMark> marks(const std::vector<RenameRow>& rows, const char* pattern = "%title%") {
+        std::vector<RenameMark> marks;
+        for (const PlannedRename& planned : plan(rows, pattern)) {
+            marks.push_back(planned.mark);
+        }
+        return marks;
+    }
+    [[nodiscard]] QByteArray path(const std::string& name) const {
+        return QByteArray::fromStdString(folder_ / name);
+    }
+
+    test::ScratchFolder folder_;
+};
+
+TEST_F(RenamePlanTest, AFileGetsANameInItsFolderAndKeepsItsExtension) {
+    const auto planned = plan({row("a.MP3", "AC/DC")});
+    EXPECT_EQ(planned[0].mark, RenameMark::renamed);
+    EXPECT_EQ(planned[0].from, path("a.MP3"));
+    EXPECT_EQ(planned[0].to, path("AC_DC.MP3"));
+}
+
+TEST_F(RenamePlanTest, AFileThatHasTheNameIsUnchanged) {
+    EXPECT_THAT(marks({row("a.mp3", "a")}), ElementsAre(RenameMark::unchanged));
+}
+
+TEST_F(RenamePlanTest, AMissingValueIsTold) {
+    const auto planned = plan({row("a.mp3", "a")}, "%title% %year%");
+    EXPECT_EQ(planned[0].mark, RenameMark::missingValue);
+    EXPECT_EQ(planned[0].missing, Field::year);
+    EXPECT_EQ(planned[0].to, planned[0].from);
+}
+
+TEST_F(RenamePlanTest, ANameThatIsCutIsMarked) {
+    const auto planned = plan({row("a.mp3", std::string(300, 'b'))});
+    EXPECT_EQ(planned[0].mark, RenameMark::shortened);
+    EXPECT_EQ(planned[0].to, path(std::string(251, 'b') + ".mp3"));
+    EXPECT_TRUE(planned[0].isRenamed());
+}
+
+TEST_F(RenamePlanTest, ATextThatLeavesNoNameIsMarked) {
+    EXPECT_THAT(marks({row("a." + std::string(253, 'x'), "éé")}), ElementsAre(RenameMark::noName));
+}
+
+TEST_F(RenamePlanTest, AFileWhoseTagLiesBesideItKeepsItsName) {
+    EXPECT_THAT(marks({row("VIDEO_TS.IFO", "a"), row("b.iso", "a")}),
+                ElementsAre(RenameMark::fixedName, RenameMark::fixedName));
+}
+
+TEST_F(RenamePlanTest, RowsThatWantOneNameAllClash) {
+    EXPECT_THAT(marks({row("a.mp3", "x"), row("b.mp3", "x"), row("c.mp3", "y"), row("d.flac", "x")}),
+                ElementsAre(RenameMark::clashesWithRow, RenameMark::clashesWithRow, RenameMark::renamed,
+                            RenameMark::renamed));
+}
+
+TEST_F(RenamePlanTest, NamesThatDifferInCaseAloneClash) {
+    EXPECT_THAT(marks({row("a.mp3", "Intro"), row("b.mp3", "INTRO")}),
+                ElementsAre(RenameMark::clashesWithRow, RenameMark::clashesWithRow));
+    EXPECT_THAT(marks({row("intro.mp3", "intro"), row("b.mp3", "Intro")}),
+                ElementsAre(RenameMark::unchanged, RenameMark::clashesWithRow));
+}
+
+TEST_F(RenamePlanTest, ItsOwnNameInOtherCaseIsFree) {
+    EXPECT_THAT(marks({row("intro.mp3", "Intro")}), ElementsAre(RenameMark::renamed));
+}
+
+TEST_F(RenamePlanTest, AFileThatIsNoRowKeepsItsName) {
+    make("x.mp3");
+    EXPECT_THAT(marks({row("a.mp3", "x")}), ElementsAre(RenameMark::clashesWithFile));
+}
+
+TEST_F(RenamePlanTest, ALinkToNowhereIsAFileToo) {
+    ASSERT_EQ(::symlink("nowhere", (folder_ / "x.mp3").c_str()), 0);
+    EXPECT_THAT(marks({row("a.mp3", "x")}), ElementsAre(RenameMark::clashesWithFile));
+}
+
+TEST_F(RenamePlanTest, ANameThatAnotherRowLeavesIsFree) {
+    EXPECT_THAT(marks({row("a.mp3", "b"), row("b.mp3", "c"), row("c.mp3", "d")}),
+                ElementsAre(RenameMark::renamed, RenameMark::renamed, RenameMark::renamed));
+    EXPECT_THAT(marks({row("a.mp3", "b"), row("b.mp3", "a")}),
+                ElementsAre(RenameMark::renamed, RenameMark::renamed));
+}
+
+TEST_F(RenamePlanTest, WhereOneRowMustStayAllStayThatWantItsName) {
+    make("d.mp3");
+    EXPECT_THAT(
+        marks({row("a.mp3", "b"), row("b.mp3", "c"), row("c.mp3", "d")}),
+        ElementsAre(RenameMark::clashesWithRow, RenameMark::clashesWithRow, RenameMark::clashesWithFile));
+    EXPECT_THAT(marks({row("a.mp3", "b"), row("b.mp3", "")}),
+                ElementsAre(RenameMark::clashesWithRow, RenameMark::missingValue));
+}
+
+TEST_F(RenamePlanTest, TheFoldersNameHasAPlace) {
+    const auto planned = plan({row("a.mp3", "b")}, "%folder% %title%");
+    const std::string folder = folder_.path().substr(folder_.path().rfind('/') + 1);
+    EXPECT_EQ(planned[0].to, path(folder + " b.mp3"));
+}
+
+TEST_F(RenamePlanTest, NamesOfAnyBytesAreRenamed) {
+    const auto planned = plan({row("caf\xe9.mp3", "x")});
+    EXPECT_EQ(planned[0].from, path("caf\xe9.mp3"));
+    EXPECT_EQ(planned[0].mark, RenameMark::renamed);
+}
+
+TEST_F(RenamePlanTest, WhatIsDoneIsWhatIsMarkedAsRenamed) {
+    const auto renames = renamesOf(plan({row("a.mp3", "x"), row("b.mp3", ""), row("c.mp3", "c")}));
+    ASSERT_EQ(renames.size(), 1U);
+    EXPECT_EQ(renames[0].from, path("a.mp3"));
+    EXPECT_EQ(renames[0].to, path("x.mp3"));
+    EXPECT_EQ(renames[0].identity, identityOf(path("a.mp3")));
+}
+
+} // namespace
+} // namespace velmora
