@@ -1,14 +1,10 @@
 #include "media_search.h"
 
-#include "browser/search_messages.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
 
-#include <QDeadlineTimer>
-
 #include <cstdio>
-#include <optional>
 #include <utility>
 
 namespace velmora {
@@ -36,6 +32,24 @@ private:
 };
 
 } // namespace
+
+void send_port_message_simple(const PortSender& port, SearchMessage id, const std::optional<QByteArray>& text,
+                              QDeadlineTimer deadline) {
+    PortMessage message;
+    message.id = static_cast<int>(id);
+    if (text) {
+        QByteArray component = *text;
+        component.append('\0');
+        message.components.append(component);
+    }
+    static_cast<void>(port.send(std::move(message), deadline));
+}
+
+QString messagePath(const PortMessage& message) {
+    const QByteArray component = message.components.value(0);
+    const qsizetype end = component.indexOf('\0');
+    return pathFromBytes(end < 0 ? component : component.left(end));
+}
 
 MediaSearch::MediaSearch(QObject* parent) : QObject(parent) {}
 

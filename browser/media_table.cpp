@@ -1,6 +1,6 @@
 #include "media_table.h"
 
-#include "browser/media_table_columns.h"
+#include "detail/media_table_columns.h"
 #include "platform/file_path.h"
 
 #include <QGuiApplication>

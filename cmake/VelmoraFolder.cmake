@@ -74,13 +74,12 @@ endfunction()
 
 # velmora_expose_detail(TARGET NAME... )
 #   TARGET_detail, an interface target for tests alone: whoever links it sees the internal headers "NAME/detail/header.h"
-#   of the current folder's subfolders NAME/detail, where NAME begins with the folder's own name.
+#   that lie in the project's folders NAME/detail.
 function(velmora_expose_detail target)
   add_library(${target}_detail INTERFACE)
   target_link_libraries(${target}_detail INTERFACE ${target})
-  get_filename_component(parent "${CMAKE_CURRENT_SOURCE_DIR}" DIRECTORY)
   foreach(name IN LISTS ARGN)
-    velmora_expose(${target}_detail ${name}/detail "${parent}/${name}/detail")
+    velmora_expose(${target}_detail ${name}/detail "${PROJECT_SOURCE_DIR}/${name}/detail")
   endforeach()
 endfunction()
 

@@ -1,7 +1,7 @@
 #include "harness.h"
-#include "platform/web/dom_snapshot.h"
-#include "weblookup/imdb_page.h"
-#include "weblookup/store_page.h"
+#include "platform/web/detail/dom_snapshot.h"
+#include "weblookup/detail/imdb_page.h"
+#include "weblookup/detail/store_page.h"
 
 #include <QString>
 

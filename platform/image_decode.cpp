@@ -1,8 +1,8 @@
 #include "image_decode.h"
 
-#include "jpeg_recode.h"
-#include "jpeg_stream.h"
-#include "png_decode.h"
+#include "detail/jpeg_recode.h"
+#include "detail/jpeg_stream.h"
+#include "detail/png_decode.h"
 
 #include <QBuffer>
 #include <QImageIOHandler>

@@ -1,7 +1,7 @@
 #include "image_encode.h"
 
+#include "detail/jpeg_recode.h"
 #include "image_decode.h"
-#include "jpeg_recode.h"
 
 #include <QBuffer>
 #include <QImageWriter>

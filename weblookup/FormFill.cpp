@@ -1,9 +1,9 @@
 #include "FormFill.h"
 
-#include "imdb_page.h"
+#include "detail/imdb_page.h"
+#include "detail/store_page.h"
 #include "platform/web/web_view.h"
 #include "search_address.h"
-#include "store_page.h"
 
 namespace velmora {
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "cover_fetch.h"
 #include "form_fill_info.h"
 
 #include <memory>

@@ -5,7 +5,9 @@
 #include <QDate>
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 
+#include <functional>
 #include <optional>
 
 namespace velmora {
@@ -32,5 +34,8 @@ struct FormFillInfo {
     /** A plain calendar date, of no time zone. */
     std::optional<QDate> releaseDate;
 };
+
+/** Gives the image at an address, blocking; none when there is none to be had. */
+using ImageFetch = std::function<ImageRef(const QUrl&)>;
 
 } // namespace velmora

@@ -1,6 +1,6 @@
 #include "image_fetch.h"
 
-#include "input_block.h"
+#include "detail/input_block.h"
 #include "platform/modal_loop.h"
 
 #include <QAbstractButton>

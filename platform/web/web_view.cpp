@@ -1,7 +1,7 @@
 #include "web_view.h"
 
-#include "dom_snapshot.h"
-#include "input_block.h"
+#include "detail/dom_snapshot.h"
+#include "detail/input_block.h"
 #include "platform/accessibility.h"
 #include "platform/localisation.h"
 #include "platform/modal_loop.h"

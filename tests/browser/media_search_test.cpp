@@ -1,6 +1,5 @@
 #include "browser/media_search.h"
 
-#include "browser/search_messages.h"
 #include "platform/file_path.h"
 
 #include "support/bytes.h"

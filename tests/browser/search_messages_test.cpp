@@ -1,4 +1,4 @@
-#include "browser/search_messages.h"
+#include "browser/media_search.h"
 
 #include "support/qt_printing.h"
 

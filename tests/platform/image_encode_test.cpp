@@ -1,8 +1,8 @@
 // The stored picture, byte for byte.
 
+#include "platform/detail/jpeg_recode.h"
+#include "platform/detail/jpeg_stream.h"
 #include "platform/image_encode.h"
-#include "platform/jpeg_recode.h"
-#include "platform/jpeg_stream.h"
 
 #include <QBuffer>
 #include <QColorSpace>

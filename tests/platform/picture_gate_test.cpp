@@ -1,8 +1,8 @@
 // What counts as a picture, told by its first bytes, its claims and its data.
 
+#include "platform/detail/jpeg_stream.h"
+#include "platform/detail/png_decode.h"
 #include "platform/image.h"
-#include "platform/jpeg_stream.h"
-#include "platform/png_decode.h"
 
 #include "support/bytes.h"
 #include "support/pictures.h"

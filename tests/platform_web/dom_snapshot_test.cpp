@@ -1,4 +1,4 @@
-#include "platform/web/dom_snapshot.h"
+#include "platform/web/detail/dom_snapshot.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/web/input_block.h"
+#include "platform/web/detail/input_block.h"
 
 #include <QCloseEvent>
 #include <QDialog>

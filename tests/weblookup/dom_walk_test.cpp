@@ -1,4 +1,4 @@
-#include "weblookup/dom_walk.h"
+#include "weblookup/detail/dom_walk.h"
 
 #include "dom_builder.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "weblookup/cover_fetch.h"
+#include "weblookup/form_fill_info.h"
 
 #include <QImage>
 #include <QMap>

@@ -1,4 +1,4 @@
-#include "weblookup/imdb_page.h"
+#include "weblookup/detail/imdb_page.h"
 
 #include "dom_builder.h"
 #include "fetch_script.h"

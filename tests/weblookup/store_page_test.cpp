@@ -1,4 +1,4 @@
-#include "weblookup/store_page.h"
+#include "weblookup/detail/store_page.h"
 
 #include "dom_builder.h"
 #include "fetch_script.h"

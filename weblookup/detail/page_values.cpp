@@ -1,6 +1,11 @@
-#include "release_date.h"
+#include "page_values.h"
 
 namespace velmora {
+
+std::optional<QUrl> imageUrl(const QString& address) {
+    const QUrl url(address);
+    return url.isValid() && !url.isEmpty() ? std::optional(url) : std::nullopt;
+}
 
 void setReleaseDate(FormFillInfo& info, const std::optional<QString>& text, const QString& format) {
     info.releaseDate = std::nullopt;

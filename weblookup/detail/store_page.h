@@ -1,8 +1,7 @@
 #pragma once
 
-#include "cover_fetch.h"
-#include "form_fill_info.h"
 #include "platform/web/dom_node.h"
+#include "weblookup/form_fill_info.h"
 
 namespace velmora {
 

@@ -1,8 +1,9 @@
 #include "store_page.h"
 
 #include "dom_walk.h"
+#include "page_values.h"
+
 #include "platform/log.h"
-#include "release_date.h"
 
 namespace velmora {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dom_node.h"
+#include "platform/web/dom_node.h"
 
 #include <memory>
 
