@@ -78,6 +78,8 @@ void Replacement::open_original(bool break_links, bool may_be_missing) {
             status_.st_mode = S_IFREG | 0666;
             return;
         }
+        // A link that leads anywhere was followed above.
+        errno = errno == ELOOP ? ENOENT : errno;
         throw errno == ENXIO ? Refusal({ReasonCode::not_regular, 0, {}}) : system_refusal();
     }
     if (::fstat(original_.handle()->descriptor, &status_) != 0) {
@@ -90,7 +92,8 @@ void Replacement::open_original(bool break_links, bool may_be_missing) {
         throw Refusal({ReasonCode::not_writable, 0, {}});
     }
     if (::faccessat(folder_.handle()->descriptor, name_.c_str(), W_OK, AT_EACCESS) != 0) {
-        throw system_refusal();
+        // So the system answers for a file that was made immutable.
+        throw errno == EPERM ? Refusal({ReasonCode::not_writable, 0, {}}) : system_refusal();
     }
     if (status_.st_nlink > 1 && !break_links) {
         throw Refusal({ReasonCode::more_links, 0, {}});

@@ -6,7 +6,9 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <gmock/gmock.h>
+#include <linux/fs.h>
 #include <sys/file.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -141,6 +143,27 @@ TEST_F(ReplacedFile, IsARegularOne) {
 TEST_F(ReplacedFile, ThatIsNotThereIsAFailureOfTheSystem) {
     EXPECT_EQ(ReasonCode::system, refused(folder_ / "none.mp3"));
     EXPECT_EQ(ENOENT, save_tags(folder_ / "none.mp3", title("X")).failure->error);
+}
+
+TEST_F(ReplacedFile, IsNotMadeWhereALinkLeadsToNothing) {
+    const std::string link = folder_ / "link.mp3";
+    ASSERT_EQ(0, ::symlink("nowhere.mp3", link.c_str()));
+    EXPECT_EQ(ReasonCode::system, refused(link));
+    EXPECT_EQ(ENOENT, save_tags(link, title("X")).failure.value().error);
+}
+
+TEST_F(ReplacedFile, IsLeftAloneWhileItIsImmutable) {
+    const int file = ::open(path_.c_str(), O_RDONLY | O_CLOEXEC);
+    int flags = 0;
+    const bool known = ::ioctl(file, FS_IOC_GETFLAGS, &flags) == 0;
+    const int immutable = flags | FS_IMMUTABLE_FL;
+    if (!known || ::ioctl(file, FS_IOC_SETFLAGS, &immutable) != 0) {
+        ::close(file);
+        GTEST_SKIP() << "here no file can be made immutable";
+    }
+    EXPECT_EQ(ReasonCode::not_writable, refused(path_));
+    EXPECT_EQ(0, ::ioctl(file, FS_IOC_SETFLAGS, &flags));
+    ::close(file);
 }
 
 TEST_F(ReplacedFile, ThatAnotherProgramChangesMeanwhileKeepsTheChange) {
