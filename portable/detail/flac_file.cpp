@@ -74,7 +74,7 @@ private:
 };
 
 FlacFile::FlacFile(FIOFUNCSTRUCT* file, std::uint64_t size, Media media) : media_(media), frames_{0, size} {
-    ReadWindow window(file, 0);
+    ReadWindow window(file);
     ReadCursor cursor(window, 0, size);
     read_id3(cursor);
     read_blocks(cursor);

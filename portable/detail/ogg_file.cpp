@@ -72,7 +72,7 @@ private:
 };
 
 OggFile::OggFile(FIOFUNCSTRUCT* file, std::uint64_t size, Media media)
-    : file_(file), window_(file, 0), size_(size), media_(media) {
+    : file_(file), window_(file), size_(size), media_(media) {
     ReadCursor cursor(window_, 0, size);
     read_first_page(cursor);
     read_packets(cursor);

@@ -130,6 +130,7 @@ std::vector<Operation> operations() {
          }()},
         {"mp4, media behind", "mp4", mp4(true), film},
         {"mp4, media in front", "m4a", mp4(false), new_values()},
+        {"m4a, tag at the end", "m4a", mp4(false) + appended_tag(), new_values()},
         {"wav", "wav", wav(), new_values()},
         {"aiff", "aiff", aiff(), new_values()},
         {"asf", "wmv", asf, film},

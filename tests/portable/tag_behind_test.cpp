@@ -1,0 +1,126 @@
+// Files behind which a save in place put a tag of its own.
+
+#include "box_bytes.h"
+#include "chunk_bytes.h"
+#include "rewriting.h"
+
+#include "support/bytes.h"
+
+#include <gmock/gmock.h>
+
+namespace velmora {
+namespace {
+
+using namespace portable;
+using test::aiff_chunk;
+using test::be32;
+using test::box;
+using test::chunk;
+using test::edited;
+using test::hex;
+using test::item;
+using test::item_list;
+using test::pattern;
+using test::riff;
+using test::to_hex;
+using test::track;
+using test::values_in;
+using test::without_tags;
+
+/** A tag of less than 128 bytes with FRAMES, between its header and its footer. */
+std::string tag(const std::string& frames) {
+    const std::string rest = hex("040010 000000") + static_cast<char>(frames.size());
+    return "ID3" + rest + frames + "3DI" + rest;
+}
+
+/** A frame of a text, as it is written in place: UTF-8 under the number of ISO 8859-1. */
+std::string frame(const std::string& id, const std::string& text) {
+    return id + hex("000000") + static_cast<char>(text.size() + 1) + hex("0000 00") + text;
+}
+
+const std::string unknown = "XYZW" + hex("00000003 0000 010203");
+
+std::string song(const std::string& title) {
+    return riff("WAVE", chunk("fmt ", "0123456789abcdef") + chunk("data", pattern(300)) +
+                            (title.empty() ? "" : test::list("INFO", test::info("INAM", title))));
+}
+
+std::string film(const std::string& title) {
+    const std::string type = box("ftyp", "isom");
+    const std::string media = box("mdat", pattern(300));
+    const std::string items = title.empty() ? "" : item("\xA9nam", title);
+    return type + media +
+           box("moov", track(be32(type.size() + 8)) + item_list(items, box("free", std::string(300, '\0'))));
+}
+
+TagEdits set(Field field, const std::string& text) {
+    TagEdits edits;
+    edits.text(field) = Edit<std::string>::set(text);
+    return edits;
+}
+
+TagEdits remove(Field field) {
+    TagEdits edits;
+    edits.text(field) = Edit<std::string>::remove();
+    return edits;
+}
+
+std::string end_of(const std::string& file, std::size_t size) {
+    return to_hex(file.substr(file.size() - std::min(file.size(), size)));
+}
+
+TEST(TagBehind, IsNotRead) {
+    EXPECT_EQ("Harbour",
+              values_in(film("Harbour") + tag(frame("TALB", "Later") + frame("TCON", "Drama")), "mp4")
+                  .text(Field::title));
+    EXPECT_EQ(std::nullopt,
+              values_in(film("Harbour") + tag(frame("TCON", "Drama")), "mp4").text(Field::genre));
+}
+
+TEST(TagBehind, FollowsAFieldThatItHas) {
+    const std::string made =
+        edited(film("Harbour") + tag(unknown + frame("TALB", "Later")), "mp4", set(Field::title, "Evening"));
+    EXPECT_EQ("Evening", values_in(made, "mp4").text(Field::title));
+    const std::string expected = tag(unknown + frame("TALB", "Evening"));
+    EXPECT_EQ(to_hex(expected), end_of(made, expected.size()));
+}
+
+TEST(TagBehind, GetsNoFieldThatItDoesNotHave) {
+    const std::string behind = tag(unknown + frame("TALB", "Later"));
+    const std::string made = edited(film("Harbour") + behind, "mp4", set(Field::genre, "Drama"));
+    EXPECT_EQ(to_hex(behind), end_of(made, behind.size()));
+}
+
+TEST(TagBehind, LosesAFieldThatIsDeletedAndGoesWithItsLast) {
+    const std::string with_two = tag(unknown + frame("TIT2", "Later"));
+    const std::string made = edited(song("Harbour") + with_two, "wav", remove(Field::title));
+    EXPECT_EQ(to_hex(tag(unknown)), end_of(made, tag(unknown).size()));
+
+    EXPECT_EQ(to_hex(edited(song("Harbour"), "wav", remove(Field::title))),
+              to_hex(edited(song("Harbour") + tag(frame("TIT2", "Later")), "wav", remove(Field::title))));
+}
+
+TEST(TagBehind, LosesWhatItCanNotHold) {
+    const std::string jpeg = hex("FFD8FFE0 01");
+    const std::string cover = "APIC" + hex("00000013 0000 00") + "image/jpeg" + hex("00 03 00") + jpeg;
+    TagEdits png;
+    png.cover = Edit<Cover>::set({{0x89, 'P', 'N', 'G', 1}, "image/png"});
+    const std::string made = edited(song("") + tag(cover + frame("TIT2", "Later")), "wav", png);
+    const std::string expected = tag(frame("TIT2", "Later"));
+    EXPECT_EQ(to_hex(expected), end_of(made, expected.size()));
+    EXPECT_EQ(png.cover.value(), values_in(made, "wav").cover);
+}
+
+TEST(TagBehind, GoesWithAllTags) {
+    const std::string behind = tag(unknown + frame("TIT2", "Later"));
+    const std::string sound = aiff_chunk("COMM", "123456789012345678") + aiff_chunk("SSND", pattern(300));
+    const std::string flac = "fLaC" + hex("80000022") + pattern(34) + hex("FFF8C918") + pattern(300);
+    EXPECT_EQ(to_hex(without_tags(song(""), "wav")), to_hex(without_tags(song("") + behind, "wav")));
+    EXPECT_EQ(to_hex(without_tags(film("x"), "m4a")), to_hex(without_tags(film("x") + behind, "m4a")));
+    EXPECT_EQ(to_hex(flac), to_hex(without_tags(flac + behind, "flac")));
+    const std::string aiff = aiff_chunk("FORM", "AIFF" + sound);
+    EXPECT_EQ(to_hex(aiff), to_hex(without_tags(aiff + behind, "aiff")));
+}
+
+} // namespace
+} // namespace velmora
