@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 """run.py BUILD_FOLDER [PART...]: runs the benchmarks of the build and prints one table, in Markdown, with ratios and
-targets. A PART is tags, memory, portable, trim, search, dom or start; without any it is all of them.
+targets. A PART is tags, memory, portable, trim, search, library, dom or start; without any it is all of them.
 
 Each ratio comes from one run of one program (or, for the starts, one loop) in which the two sides take turns, and is a
 ratio of medians. Time is processor time, user and system together, unless a row says otherwise: it is what the work
@@ -17,6 +17,7 @@ import sys
 import tempfile
 import time
 
+from library_rows import add_library
 from portable_rows import add_portable
 from table import Table, duration
 
@@ -191,7 +192,7 @@ def machine():
 
 def main():
     programs = f"{os.path.abspath(sys.argv[1])}/benchmarks"
-    parts = sys.argv[2:] or ["tags", "memory", "portable", "trim", "search", "dom", "start"]
+    parts = sys.argv[2:] or ["tags", "memory", "portable", "trim", "search", "library", "dom", "start"]
     table = Table()
     if "tags" in parts or "memory" in parts:
         with tempfile.TemporaryDirectory() as library:
@@ -202,6 +203,8 @@ def main():
                 add_memory(table, programs, library)
     if "portable" in parts:
         add_portable(table, os.path.abspath(sys.argv[1]))
+    if "library" in parts:
+        add_library(table, google_benchmark, programs)
     for part, add in (("trim", add_trim), ("search", add_search), ("dom", add_dom_copy), ("start", add_start)):
         if part in parts:
             add(table, programs)
