@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../tag_values.h"
+#include "portable/tag_values.h"
 #include "tagged_file.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../media_kind.h"
-#include "../tag_values.h"
 #include "id3v2_tag.h"
+#include "portable/media_kind.h"
+#include "portable/tag_values.h"
 #include "tagged_file.h"
 
 /** The nine fields in an ID3v2 tag, of whatever version: docs/portable-tags.md says which frames they are. */

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../media_kind.h"
-#include "../tag_values.h"
 #include "id3v2_tag.h"
+#include "portable/media_kind.h"
+#include "portable/tag_values.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../tag_values.h"
 #include "id3v2_tag.h"
+#include "portable/tag_values.h"
 
 #include <optional>
 #include <string>

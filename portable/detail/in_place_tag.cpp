@@ -9,6 +9,7 @@
 #include "taglib/id3/reader.h"
 #include "taglib/id3/text.h"
 #include "taglib/id3/writer.h"
+#include "taglib/trace.h"
 
 #include <algorithm>
 #include <cstring>
@@ -188,6 +189,7 @@ void InPlaceTag::apply(const TagEdits& edits, Media media) {
 }
 
 void InPlaceTag::store(FIOFUNCSTRUCT* file, std::uint64_t position) const {
+    const TraceMute mute; // the log is that of the tags in place; here the reason tells
     Id3Descriptor descriptor;
     std::memcpy(descriptor.tag.signature, "ID3", 3);
     descriptor.tag.version = version_;

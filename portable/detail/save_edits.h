@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../media_kind.h"
-#include "../tag_values.h"
+#include "portable/media_kind.h"
+#include "portable/tag_values.h"
 
 namespace velmora::portable {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../reason.h"
+#include "portable/reason.h"
 
 #include <cerrno>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../tag_values.h"
 #include "byte_appending.h"
+#include "portable/tag_values.h"
 #include "tagged_file.h"
 
 #include <optional>

@@ -4,8 +4,13 @@
 #include "chunk_bytes.h"
 #include "rewriting.h"
 
+#include "portable/detail/in_place_tag.h"
+#include "portable/reason.h"
 #include "support/bytes.h"
+#include "support/stream_capture.h"
+#include "taglib/byte_file.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 
 namespace velmora {
@@ -120,6 +125,21 @@ TEST(TagBehind, GoesWithAllTags) {
     EXPECT_EQ(to_hex(flac), to_hex(without_tags(flac + behind, "flac")));
     const std::string aiff = aiff_chunk("FORM", "AIFF" + sound);
     EXPECT_EQ(to_hex(aiff), to_hex(without_tags(aiff + behind, "aiff")));
+}
+
+TEST(TagBehind, LeavesNoLineInTheLogWhenTheDiskIsFull) {
+    test::StreamCapture log;
+    ByteFile full;
+    ASSERT_TRUE(full.open("/dev/full", O_WRONLY | O_CLOEXEC));
+    InPlaceTag tag;
+    tag.apply(set(Field::title, "Evening"), Media::audio);
+    try {
+        tag.store(full.handle(), 0);
+        ADD_FAILURE() << "it was stored";
+    } catch (const Refusal& refusal) {
+        EXPECT_EQ(ReasonCode::no_space, refusal.reason().code);
+    }
+    EXPECT_EQ("", log.text());
 }
 
 } // namespace
