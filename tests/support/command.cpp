@@ -1,8 +1,12 @@
 #include "command.h"
 
+#include "support/bytes.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <map>
+#include <tuple>
 
 namespace velmora::test {
 
@@ -19,6 +23,27 @@ std::string run_command(const std::string& command) {
     }
     EXPECT_EQ(0, ::pclose(pipe)) << command << "\n" << output;
     return output;
+}
+
+void make_file(const std::string& command, const std::string& path) {
+    static std::map<std::string, std::string> made;
+    const auto known = made.find(command);
+    if (known != made.end()) {
+        write_file(path, known->second);
+        return;
+    }
+    EXPECT_EQ("", run_command(command + " " + shell_word(path)));
+    made[command] = read_file(path);
+}
+
+std::string run_on_file(const std::string& front, const std::string& path, const std::string& behind) {
+    static std::map<std::tuple<std::string, std::string, std::string>, std::string> printed;
+    const std::tuple run(front, behind, read_file(path));
+    const auto known = printed.find(run);
+    if (known != printed.end()) {
+        return known->second;
+    }
+    return printed[run] = run_command(front + " " + shell_word(path) + " " + behind);
 }
 
 std::string shell_word(const std::string& text) {

@@ -8,7 +8,7 @@
 #include "taglib/byte_order.h"
 #include "taglib_reader.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <list>
 #include <map>
@@ -50,15 +50,15 @@ std::map<std::string, std::string> probed_tags(const std::string& path) {
     return tags;
 }
 
-/** Decodes the whole file; the checksum of the audio, for which ffmpeg must have nothing to say. */
-std::string decoded(const std::string& path) {
-    EXPECT_EQ("", run_command("ffmpeg -v error -nostdin -i '" + path + "' -f null -"));
-    return run_command("ffmpeg -v error -nostdin -i '" + path + "' -map 0:a -f md5 -");
-}
-
-/** The checksum of the pictures of a film. */
-std::string decoded_frames(const std::string& path) {
-    return run_command("ffmpeg -v error -nostdin -i '" + path + "' -map 0:v -f md5 -");
+/** Decodes the whole file: the checksum of the audio and that of the pictures where HAS_VIDEO. ffmpeg must have nothing else
+   to say. */
+std::string decoded(const std::string& path, bool has_video) {
+    std::string sums =
+        run_on_file("ffmpeg -v error -nostdin -i", path,
+                    std::string("-map 0:a -f md5 -") + (has_video ? " -map 0:v -f md5 -" : ""));
+    const char* const sum = "MD5=[0-9a-f]{32}\n";
+    EXPECT_THAT(sums, testing::MatchesRegex(has_video ? std::string(sum) + sum : sum));
+    return sums;
 }
 
 const std::string e_acute = "\xC3\xA9";
@@ -98,11 +98,10 @@ protected:
     }
 
     void make(const std::string& metadata) {
-        EXPECT_EQ("", run_command(std::string("ffmpeg -v error -nostdin -y ") + GetParam().options + " " +
-                                  metadata + " '" + path_ + "'"));
+        make_file(std::string("ffmpeg -v error -nostdin -y ") + GetParam().options + " " + metadata, path_);
     }
 
-    std::string media() { return decoded(path_) + (GetParam().has_video ? decoded_frames(path_) : ""); }
+    std::string media() { return decoded(path_, GetParam().has_video); }
 
     int load() {
         id3_free_file_info(&loaded_);

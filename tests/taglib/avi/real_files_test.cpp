@@ -23,13 +23,14 @@ namespace velmora::test {
 namespace {
 
 void make_film(const std::string& path, const std::string& options) {
-    run_command("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=64x48:rate=10:duration=1"
-                " -f lavfi -i sine=frequency=440:duration=1 -c:v mpeg4 -fflags +bitexact " +
-                options + " '" + path + "'");
+    make_file("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=64x48:rate=10:duration=1"
+              " -f lavfi -i sine=frequency=440:duration=1 -c:v mpeg4 -fflags +bitexact " +
+                  options,
+              path);
 }
 
 std::string decoded_checksum(const std::string& path) {
-    return run_command("ffmpeg -v error -nostdin -i '" + path + "' -f md5 -");
+    return run_on_file("ffmpeg -v error -nostdin -i", path, "-f md5 -");
 }
 
 /** The tags that ffprobe finds. */
@@ -160,7 +161,7 @@ TEST_P(AviFilm, AfterARemovalTheFilmDecodesToTheSameChecksum) {
 
 TEST_P(AviFilm, AStoredPictureIsARealJpegForOthers) {
     const std::string cover = folder_ / "cover.jpg";
-    run_command("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=32x24 -frames:v 1 '" + cover + "'");
+    make_file("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=32x24 -frames:v 1", cover);
     const std::string jpeg = read_file(cover);
     Image* const picture = image_from_bytes(jpeg.data(), jpeg.size());
     _file_info_t info{};

@@ -21,14 +21,15 @@ protected:
     /** A second of sound as an MP3 file with what OPTIONS ask for, made of INPUTS beside the sound. */
     std::string make_song(const std::string& options, const std::string& inputs = "") {
         const std::string path = folder_ / "song.mp3";
-        run_command("ffmpeg -v error -nostdin -y -f lavfi -i sine=frequency=440:duration=1 " + inputs +
-                    " -c:a libmp3lame -b:a 64k " + options + " " + path);
+        make_file("ffmpeg -v error -nostdin -y -f lavfi -i sine=frequency=440:duration=1 " + inputs +
+                      " -c:a libmp3lame -b:a 64k " + options,
+                  path);
         return path;
     }
     std::string make_untagged_song() { return make_song("-id3v2_version 0 -write_id3v1 0 -write_xing 0"); }
     std::string make_picture() {
         const std::string path = folder_ / "cover.jpg";
-        run_command("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=64x64 -frames:v 1 " + path);
+        make_file("ffmpeg -v error -nostdin -y -f lavfi -i testsrc2=size=64x64 -frames:v 1", path);
         return path;
     }
     /** Runs a Python program that has mutagen's ID3 names and the song's path. */
@@ -40,7 +41,7 @@ protected:
     }
     /** ffmpeg takes an appended tag for a last, bad frame and says so; that is left out. */
     [[nodiscard]] static std::string decoded_checksum(const std::string& path) {
-        return run_command("ffmpeg -v fatal -nostdin -i " + path + " -map 0:a -f md5 -");
+        return run_on_file("ffmpeg -v fatal -nostdin -i", path, "-map 0:a -f md5 -");
     }
     /** Loads the song into info(). */
     void load(const std::string& path) {
