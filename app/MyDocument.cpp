@@ -1,6 +1,7 @@
 #include "MyDocument.h"
 
 #include "browser/VelmoraController.h"
+#include "library/library_window.h"
 #include "platform/alert.h"
 #include "platform/file_attributes.h"
 #include "platform/file_path.h"

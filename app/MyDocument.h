@@ -18,6 +18,7 @@ class MyDocument;
 
 namespace velmora {
 
+class LibraryWindow;
 class MediaList;
 class TagForm;
 class TagWebBrowser;
@@ -81,6 +82,10 @@ public:
 
     [[nodiscard]] DocumentWindow* window() const { return window_.get(); }
     [[nodiscard]] VelmoraController* controller() const { return controller_.get(); }
+    /** The table over the same list of files; null before showLibrary() was called first. */
+    [[nodiscard]] LibraryWindow* library() const { return library_.get(); }
+    /** Shows the library table. */
+    void showLibrary();
     [[nodiscard]] TagWebBrowser* webBrowser() const { return webBrowser_; }
 
 private:
@@ -100,6 +105,7 @@ private:
     void connectCommands();
     void setSymbols();
     void makeRoomForWebPage(bool shown);
+    void makeLibrary();
 
     ApplicationTermination& termination_;
     std::unique_ptr<MediaFile> mediaFile_;
@@ -117,6 +123,7 @@ private:
     TagWebBrowser* webBrowser_ = nullptr;
     QList<int> sizesWithPage_; ///< how the window was divided when the page was last shown
     std::unique_ptr<VelmoraController> controller_;
+    std::unique_ptr<LibraryWindow> library_;
 };
 
 } // namespace velmora

@@ -79,7 +79,8 @@ void MyDocument::setSymbols() {
           std::pair(ui_->action_portableTags, "tag"), std::pair(ui_->action_restoreEdits, "edit-undo"),
           std::pair(ui_->action_close, "window-close"), std::pair(ui_->action_quit, "application-exit"),
           std::pair(ui_->action_find, "edit-find"), std::pair(ui_->action_loadCoverArt, "insert-image"),
-          std::pair(ui_->action_lookUp, "web-browser"), std::pair(ui_->action_sortByName, "sort-by-name"),
+          std::pair(ui_->action_lookUp, "web-browser"), std::pair(ui_->action_library, "view-list-details"),
+          std::pair(ui_->action_sortByName, "sort-by-name"),
           std::pair(ui_->action_sortBySize, "sort-by-size"),
           std::pair(ui_->action_sortByDate, "sort-by-date")}) {
         action->setIcon(symbol(QLatin1String(name)));
@@ -108,6 +109,7 @@ void MyDocument::connectCommands() {
             list_->table().tableViewDidClickTableColumn(index);
         });
     }
+    connect(ui_->action_library, &QAction::triggered, this, &MyDocument::showLibrary);
     connect(ui_->action_find, &QAction::triggered, list_, &MediaList::focusTable);
     connect(ui_->action_lookUp, &QAction::triggered, webBrowser_, &TagWebBrowser::focusSearchField);
 }

@@ -71,12 +71,13 @@ void MediaTable::setUpHeader() {
 }
 
 bool MediaTable::addMediaFile(const QString& path) {
-    ColdataPointer row = mediaRow(path, fileAttributes(pathBytes(path)));
+    const ColdataPointer row = mediaRow(path, fileAttributes(pathBytes(path)));
     if (!row) {
         return false;
     }
-    addColdataSorted(std::move(row));
+    addColdataSorted(row);
     reloadData();
+    emit fileAdded(row);
     return true;
 }
 

@@ -72,6 +72,10 @@ public:
     [[nodiscard]] const MediaRows& mediaFiles() const { return mediaFiles_; }
     [[nodiscard]] const MediaTableModel& model() const { return model_; }
 
+signals:
+    /** A file was listed. */
+    void fileAdded(const velmora::ColdataPointer& row);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

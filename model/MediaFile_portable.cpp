@@ -2,12 +2,12 @@
 
 #include "MediaFile.h"
 
-#include "detail/portable_reason.h"
 #include "detail/portable_values.h"
 #include "detail/record_slots.h"
 #include "detail/tag_module.h"
 #include "detail/text_decoding.h"
 #include "media_type.h"
+#include "portable_reason.h"
 
 #include "platform/file_attributes.h"
 #include "platform/file_path.h"

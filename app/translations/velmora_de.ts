@@ -595,6 +595,102 @@
         <source>There is no field in the pattern.</source>
         <translation>Im Muster ist kein Feld.</translation>
     </message>
+    <message>
+        <source>%@ files</source>
+        <translation>%@ Dateien</translation>
+    </message>
+    <message>
+        <source>%@ not applied</source>
+        <translation>%@ nicht angewendet</translation>
+    </message>
+    <message>
+        <source>%@ selected</source>
+        <translation>%@ ausgewählt</translation>
+    </message>
+    <message>
+        <source>%@ shown</source>
+        <translation>%@ angezeigt</translation>
+    </message>
+    <message>
+        <source>%@ to be read</source>
+        <translation>%@ noch zu lesen</translation>
+    </message>
+    <message>
+        <source>%@, not applied</source>
+        <translation>%@, nicht angewendet</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>&amp;Sortieren nach</translation>
+    </message>
+    <message>
+        <source>&amp;Then By</source>
+        <translation>&amp;Dann nach</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Album / Director</source>
+        <translation>Album / Regie</translation>
+    </message>
+    <message>
+        <source>Artist / Cast</source>
+        <translation>Interpret / Besetzung</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Titelbild</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>Bibliothek</translation>
+    </message>
+    <message>
+        <source>Library Table</source>
+        <translation>Bibliothekstabelle</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Freigabe</translation>
+    </message>
+    <message>
+        <source>Synopsis / Comment</source>
+        <translation>Inhalt / Kommentar</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Tags</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Jahr</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>
@@ -673,6 +769,14 @@
     <message>
         <source>Open the file again whose edits could not be saved, and put them back</source>
         <translation>Die Datei wieder öffnen, deren Änderungen nicht gespeichert werden konnten, und sie wieder eintragen</translation>
+    </message>
+    <message>
+        <source>Library Table</source>
+        <translation>Bibliothekstabelle</translation>
+    </message>
+    <message>
+        <source>Show all files of the list with their tags, and edit many at once</source>
+        <translation>Alle Dateien der Liste mit ihren Tags zeigen und viele auf einmal bearbeiten</translation>
     </message>
 </context>
 <context>

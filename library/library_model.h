@@ -1,0 +1,107 @@
+#pragma once
+
+#include "library_rows.h"
+#include "row_order.h"
+
+#include <QAbstractTableModel>
+#include <QThreadPool>
+#include <QTimer>
+
+#include <functional>
+#include <optional>
+
+namespace velmora {
+
+/** What the library table shows: the listed files, those that the filter lets through, in the order that was asked for.
+
+    New files are shown at the end, and what changes stays where it is; both get their places a moment later, in an order
+    that is found beside the main thread. */
+class LibraryModel : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    /** Whether the filter lets the file with that number through. */
+    using Filter = std::function<bool(int row)>;
+
+    explicit LibraryModel(QObject* parent = nullptr);
+    ~LibraryModel() override;
+
+    /** Lists the file at PATH of SIZE bytes, unless it is listed, and reads it. */
+    void addFile(const QString& path, std::uint64_t size);
+    void removeFile(const QString& path);
+    /** Reads the file again: it has changed. */
+    void readAgain(int row);
+    /** The file is at PATH now, and is read again. */
+    void moveFile(int row, const QString& path);
+
+    [[nodiscard]] const LibraryRows& rows() const { return rows_; }
+    /** The number of the file that is shown in the table's row SHOWN. */
+    [[nodiscard]] int fileAt(int shown) const { return shown_[static_cast<std::size_t>(shown)]; }
+    [[nodiscard]] const std::vector<int>& shownFiles() const { return shown_; }
+    /** How many files are listed, shown or not. */
+    [[nodiscard]] std::size_t listed() const { return order_.size() + added_.size(); }
+    /** How many files are still to be read. */
+    [[nodiscard]] std::size_t unread() const { return reader_.waiting(); }
+
+    /** Edits of the file FILE; nothing is written into it. */
+    void setEdits(int file, RowEdits edits);
+    /** The same of many files at once. */
+    void setEdits(const std::vector<std::pair<int, RowEdits>>& edits);
+    void revert(const std::vector<int>& files);
+
+    void sortBy(const std::vector<SortKey>& keys);
+    [[nodiscard]] const std::vector<SortKey>& sortKeys() const { return keys_; }
+    /** Without a filter all are shown. */
+    void setFilter(Filter filter);
+    /** The table's rows FIRST to LAST can be seen: their files are read before others. */
+    void setVisibleRows(int first, int last);
+    /** Small covers for the files that can be seen; null while there is none, or none yet. */
+    void setThumbnails(std::function<QVariant(int file)> thumbnails) { thumbnails_ = std::move(thumbnails); }
+    /** The picture of FILE's cover is another one now. */
+    void thumbnailChanged(int file);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+signals:
+    /** Files were listed, read, edited or are not listed any more. */
+    void contentsChanged();
+    void sortKeysChanged();
+    /** The rows stand in the order that was asked for. */
+    void ordered();
+
+private:
+    void showAdded();
+    void takeReadings(const std::vector<RowReading>& readings);
+    void contentsChange(int file);
+    void orderLater();
+    void startOrdering();
+    void takeOrder(std::uint64_t version, std::vector<int> order);
+    void show(std::vector<int> files);
+    void rearrange(std::vector<int> files);
+    void numberShown();
+    [[nodiscard]] std::vector<int> filtered() const;
+    [[nodiscard]] QVariant font(int file, LibraryColumn column) const;
+    [[nodiscard]] QString spokenText(int file, LibraryColumn column) const;
+    [[nodiscard]] QString tip(int file, LibraryColumn column) const;
+
+    LibraryRows rows_;
+    TagReader reader_;
+    std::vector<int> added_;      ///< listed, and not in order_ yet
+    std::vector<int> order_;      ///< all others, sorted
+    std::vector<int> shown_;      ///< those of order_ that the filter lets through
+    std::vector<int> shownRowOf_; ///< where a file is shown; -1: not
+    std::vector<SortKey> keys_;
+    Filter filter_;
+    std::function<QVariant(int file)> thumbnails_;
+    QTimer addTimer_;
+    QTimer orderTimer_;
+    std::uint64_t version_ = 0; ///< of what decides on the order
+    bool ordering_ = false;
+    QThreadPool thread_;
+};
+
+} // namespace velmora

@@ -1,0 +1,164 @@
+#include "library_view.h"
+
+#include "platform/localisation.h"
+
+#include <QGuiApplication>
+#include <QHeaderView>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::chrono::milliseconds scrollingPause{20};
+
+/** Of the shown columns' widths, in average characters. */
+int widthInCharacters(LibraryColumn column) {
+    switch (column) {
+    case LibraryColumn::name:
+    case LibraryColumn::title:
+        return 28;
+    case LibraryColumn::folder:
+    case LibraryColumn::artist:
+    case LibraryColumn::album:
+    case LibraryColumn::synopsis:
+        return 22;
+    case LibraryColumn::year:
+    case LibraryColumn::cover:
+        return 8;
+    case LibraryColumn::tags:
+    case LibraryColumn::date:
+        return 18;
+    default:
+        return 12;
+    }
+}
+
+} // namespace
+
+LibraryView::LibraryView(LibraryModel& model, QWidget* parent) : QTableView(parent), model_(model) {
+    setObjectName(QStringLiteral("tbl_library"));
+    setAccessibleName(localised("Library"));
+    setModel(&model_);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(EditKeyPressed | DoubleClicked);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle);
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    const int rowHeight = fontMetrics().height() + 10;
+    setIconSize(QSize(rowHeight - 2, rowHeight - 2));
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(rowHeight);
+    setUpHeader();
+    visibleTimer_.setSingleShot(true);
+    visibleTimer_.setInterval(scrollingPause);
+    connect(&visibleTimer_, &QTimer::timeout, this, &LibraryView::tellVisibleRows);
+    connect(&model_, &QAbstractItemModel::layoutChanged, &visibleTimer_, qOverload<>(&QTimer::start));
+    connect(&model_, &QAbstractItemModel::rowsInserted, &visibleTimer_, qOverload<>(&QTimer::start));
+    connect(&model_, &LibraryModel::sortKeysChanged, this, &LibraryView::showSortKeys);
+}
+
+void LibraryView::setUpHeader() {
+    QHeaderView& header = *horizontalHeader();
+    header.setSectionsClickable(true);
+    header.setSectionsMovable(true);
+    header.setHighlightSections(false);
+    header.setSortIndicatorShown(false);
+    for (const LibraryColumn column : libraryColumns()) {
+        const int section = static_cast<int>(column);
+        header.resizeSection(section, widthInCharacters(column) * fontMetrics().averageCharWidth());
+        header.setSectionHidden(section, !isShownAtFirst(column));
+    }
+    connect(&header, &QHeaderView::sectionClicked, this, [this](int section) {
+        sortByColumn(static_cast<LibraryColumn>(section),
+                     QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier));
+    });
+}
+
+std::vector<int> LibraryView::selectedFiles() const {
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            rows.push_back(row);
+        }
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    std::transform(rows.begin(), rows.end(), rows.begin(), [this](int row) { return model_.fileAt(row); });
+    return rows;
+}
+
+QList<LibraryColumn> LibraryView::shownColumns() const {
+    QList<LibraryColumn> columns;
+    for (int visual = 0; visual < libraryColumnCount; ++visual) {
+        const int section = horizontalHeader()->logicalIndex(visual);
+        if (!isColumnHidden(section)) {
+            columns += static_cast<LibraryColumn>(section);
+        }
+    }
+    return columns;
+}
+
+void LibraryView::showColumn(LibraryColumn column, bool shown) {
+    if (shown || shownColumns().size() > 1) {
+        setColumnHidden(static_cast<int>(column), !shown);
+    }
+}
+
+void LibraryView::sortByColumn(LibraryColumn column, bool also) {
+    std::vector<SortKey> keys = model_.sortKeys();
+    const auto isOfColumn = [column](const SortKey& key) { return key.column == column; };
+    const auto found = std::find_if(keys.begin(), keys.end(), isOfColumn);
+    const bool turns = found != keys.end() && (also || keys.size() == 1);
+    if (turns) {
+        found->descending = !found->descending;
+    } else if (also) {
+        keys.push_back({column, false});
+    } else {
+        keys = {{column, false}};
+    }
+    model_.sortBy(keys);
+}
+
+/** The header has turned its own indicator on the click. */
+void LibraryView::showSortKeys() {
+    const std::vector<SortKey>& keys = model_.sortKeys();
+    horizontalHeader()->setSortIndicatorShown(!keys.empty());
+    if (!keys.empty()) {
+        horizontalHeader()->setSortIndicator(static_cast<int>(keys.front().column), keys.front().descending
+                                                                                        ? Qt::DescendingOrder
+                                                                                        : Qt::AscendingOrder);
+    }
+}
+
+void LibraryView::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    visibleTimer_.start();
+}
+
+void LibraryView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    visibleTimer_.start();
+}
+
+void LibraryView::tellVisibleRows() {
+    const int first = rowAt(0);
+    const int last = rowAt(viewport()->height() - 1);
+    if (first >= 0) {
+        model_.setVisibleRows(first, last < 0 ? model_.rowCount() - 1 : last);
+    }
+}
+
+void LibraryView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTableView::selectionChanged(selected, deselected);
+    emit selectedFilesChanged();
+}
+
+} // namespace velmora
