@@ -1,5 +1,7 @@
 #include "library_window.h"
 
+#include "names_commands.h"
+
 #include "platform/localisation.h"
 
 #include <QLocale>
@@ -36,6 +38,8 @@ void LibraryWindow::makeMenus() {
     QAction* const close = file->addAction(localised("&Close"), this, &QWidget::close);
     close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
     makeViewMenu();
+    auto* const names = new NamesCommands(model_, *view_, this);
+    names->addTo(*menuBar()->addMenu(localised("&Names")));
 }
 
 void LibraryWindow::makeViewMenu() {

@@ -568,6 +568,154 @@
         <translation>Es gibt kein Feld „%@“.</translation>
     </message>
     <message>
+        <source>The name does not fit the pattern</source>
+        <translation>Der Name passt nicht zum Muster</translation>
+    </message>
+    <message>
+        <source>Files of this kind have no such field: %@</source>
+        <translation>Dateien dieser Art haben kein solches Feld: %@</translation>
+    </message>
+    <message>
+        <source>It says so already</source>
+        <translation>So steht es schon da</translation>
+    </message>
+    <message>
+        <source>It has that name already</source>
+        <translation>Sie heißt schon so</translation>
+    </message>
+    <message>
+        <source>The name is cut: it would be too long</source>
+        <translation>Der Name ist gekürzt: Er wäre zu lang</translation>
+    </message>
+    <message>
+        <source>No value: %@</source>
+        <translation>Kein Wert: %@</translation>
+    </message>
+    <message>
+        <source>No name is left of the values</source>
+        <translation>Von den Werten bleibt kein Name übrig</translation>
+    </message>
+    <message>
+        <source>The file keeps its name: its tag lies in another file that goes by it</source>
+        <translation>Die Datei behält ihren Namen: Ihr Tag liegt in einer anderen Datei, die sich nach ihm richtet</translation>
+    </message>
+    <message>
+        <source>Another row has that name or is to get it</source>
+        <translation>Eine andere Zeile hat diesen Namen oder soll ihn bekommen</translation>
+    </message>
+    <message>
+        <source>There is a file of that name</source>
+        <translation>Es gibt schon eine Datei dieses Namens</translation>
+    </message>
+    <message>
+        <source>Its tags have not been read yet</source>
+        <translation>Ihre Tags sind noch nicht gelesen</translation>
+    </message>
+    <message>
+        <source>Its tags can't be read</source>
+        <translation>Ihre Tags sind nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Tags from Names</source>
+        <translation>Tags aus Namen</translation>
+    </message>
+    <message>
+        <source>Names from Tags</source>
+        <translation>Namen aus Tags</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation>&amp;Muster:</translation>
+    </message>
+    <message>
+        <source>Fields between percent signs, and the text between them</source>
+        <translation>Felder zwischen Prozentzeichen und der Text dazwischen</translation>
+    </message>
+    <message>
+        <source>&amp;Insert Field</source>
+        <translation>Feld &amp;einfügen</translation>
+    </message>
+    <message>
+        <source>Put a field into the pattern</source>
+        <translation>Ein Feld in das Muster einfügen</translation>
+    </message>
+    <message>
+        <source>%skip% stands for text that is left out, a slash for a folder.</source>
+        <translation>%skip% steht für Text, der ausgelassen wird, ein Schrägstrich für einen Ordner.</translation>
+    </message>
+    <message>
+        <source>%folder% stands for the name of the file's folder.</source>
+        <translation>%folder% steht für den Namen des Ordners der Datei.</translation>
+    </message>
+    <message>
+        <source>What becomes of every file</source>
+        <translation>Was aus jeder Datei wird</translation>
+    </message>
+    <message>
+        <source>Show only files that something is &amp;wrong with</source>
+        <translation>Nur Dateien &amp;zeigen, bei denen etwas nicht stimmt</translation>
+    </message>
+    <message>
+        <source>Hide the files that the pattern fits</source>
+        <translation>Die Dateien ausblenden, zu denen das Muster passt</translation>
+    </message>
+    <message>
+        <source>&amp;Set Tags</source>
+        <translation>Tags &amp;setzen</translation>
+    </message>
+    <message>
+        <source>&amp;Set Names</source>
+        <translation>Namen &amp;setzen</translation>
+    </message>
+    <message>
+        <source>Make these edits of the table; no file changes before they are applied</source>
+        <translation>Dies zu Änderungen in der Tabelle machen; keine Datei ändert sich, bevor sie angewendet werden</translation>
+    </message>
+    <message>
+        <source>Leave everything as it is</source>
+        <translation>Alles lassen, wie es ist</translation>
+    </message>
+    <message>
+        <source>New Name</source>
+        <translation>Neuer Name</translation>
+    </message>
+    <message>
+        <source>The preview is being made.</source>
+        <translation>Die Vorschau wird erstellt.</translation>
+    </message>
+    <message>
+        <source>Files that change: %@.</source>
+        <translation>Dateien, die sich ändern: %@.</translation>
+    </message>
+    <message>
+        <source>Files that something is wrong with: %@; they are left alone.</source>
+        <translation>Dateien, bei denen etwas nicht stimmt: %@; sie bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>&amp;Tags from Names...</source>
+        <translation>&amp;Tags aus Namen ...</translation>
+    </message>
+    <message>
+        <source>Take the tags of the selected files from their names, by a pattern</source>
+        <translation>Die Tags der ausgewählten Dateien nach einem Muster aus ihren Namen nehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Names from Tags...</source>
+        <translation>&amp;Namen aus Tags ...</translation>
+    </message>
+    <message>
+        <source>Give the selected files names made of their tags, by a pattern</source>
+        <translation>Den ausgewählten Dateien nach einem Muster Namen aus ihren Tags geben</translation>
+    </message>
+    <message>
+        <source>&amp;Names</source>
+        <translation>&amp;Namen</translation>
+    </message>
+    <message>
         <source>The pattern is empty.</source>
         <translation>Das Muster ist leer.</translation>
     </message>
