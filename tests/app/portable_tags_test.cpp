@@ -500,10 +500,10 @@ TEST_F(PortableSaveRunTest, ShowsNothingWhenItIsShort) {
 }
 
 TEST_F(PortableSaveRunTest, ShowsItsProgressAndKeepsTheWindowFromBeingUsed) {
-    QTimer::singleShot(200, document().window(), [this] {
-        ASSERT_NE(nullptr, sheet());
+    QTimer::singleShot(0, document().window(), [this] {
+        EXPECT_TRUE(
+            waitUntil([this] { return sheet() && sheet()->findChild<QProgressBar*>()->value() > 0; }));
         EXPECT_TRUE(sheet()->isModal());
-        EXPECT_GT(sheet()->findChild<QProgressBar*>()->value(), 0);
         EXPECT_TRUE(run_.isRunning());
         finish_.release();
     });

@@ -40,16 +40,15 @@ TEST(StandardStreams, NoFileGetsTheNumberOfAMissingOne) {
 TEST(StandardStreams, WriteToOneWhoseReaderIsGoneFailsAndTheProgramGoesOn) {
     int ends[2];
     ASSERT_EQ(0, ::pipe(ends));
+    ::close(ends[0]);
     const pid_t child = ::fork();
     if (child == 0) {
         ::signal(SIGPIPE, SIG_DFL);
         ::dup2(ends[1], STDERR_FILENO);
-        ::close(ends[0]);
         ensureStandardStreams();
         const bool failed = ::write(STDERR_FILENO, "x", 1) < 0 && errno == EPIPE;
         ::_exit(failed ? 0 : 1);
     }
-    ::close(ends[0]);
     ::close(ends[1]);
     int status = 0;
     EXPECT_EQ(child, ::waitpid(child, &status, 0));
