@@ -63,6 +63,11 @@ public:
     /** The menu's switch. What the user switches off is not remembered any more. */
     void switchPortableTags(bool portable);
 
+    /** The menu's commands: the window as it is now at each start, and nothing remembered any more. The line above the form
+       says how that ended. */
+    void rememberThisLayout();
+    void forgetEverything();
+
     /** The menu's save command. Saved in place, the document still counts as edited afterwards: only the editor's own
        button clears that. */
     void saveDocument();
@@ -106,6 +111,8 @@ private:
     void setSymbols();
     void makeRoomForWebPage(bool shown);
     void makeLibrary();
+    void restoreLayout();
+    void tell(bool succeeded, const QString& text);
 
     ApplicationTermination& termination_;
     std::unique_ptr<MediaFile> mediaFile_;
@@ -121,6 +128,7 @@ private:
     MediaList* list_ = nullptr;
     TagForm* form_ = nullptr;
     TagWebBrowser* webBrowser_ = nullptr;
+    bool showsPage_ = false;
     QList<int> sizesWithPage_; ///< how the window was divided when the page was last shown
     std::unique_ptr<VelmoraController> controller_;
     std::unique_ptr<LibraryWindow> library_;

@@ -2,6 +2,7 @@
 
 #include "MyDocument.h"
 #include "file_drops.h"
+#include "help_menu.h"
 
 #include "browser/VelmoraController.h"
 #include "browser/media_list.h"
@@ -34,8 +35,10 @@ void MyDocument::makeWindow() {
     controller_ = std::make_unique<VelmoraController>(*list_, *form_, *webBrowser_, *this);
     connectCommands();
     connect(new FileDrops(*window_), &FileDrops::dropped, controller_.get(), &VelmoraController::addPaths);
+    new HelpMenu(*window_, *ui_->action_userGuide, *ui_->action_keyboard, *ui_->action_about);
     setSymbols();
     windowControllerDidLoadNib();
+    restoreLayout();
     controller_->awakeFromNib();
 }
 
@@ -57,6 +60,7 @@ void MyDocument::windowControllerDidLoadNib() {
 /** The page gets its share of the window once there is a page to see, and gives it back when there is none.
  */
 void MyDocument::makeRoomForWebPage(bool shown) {
+    showsPage_ = shown;
     if (!shown) {
         sizesWithPage_ = ui_->split_main->sizes();
         ui_->split_main->setSizes({ui_->split_main->height(), 0}); // no less than the panel's bars
@@ -73,16 +77,26 @@ void MyDocument::showWindow() {
 }
 
 void MyDocument::setSymbols() {
-    for (const auto& [action, name] :
-         {std::pair(ui_->action_addFile, "list-add"), std::pair(ui_->action_addFolder, "folder-new"),
-          std::pair(ui_->action_save, "document-save"), std::pair(ui_->action_revert, "document-revert"),
-          std::pair(ui_->action_portableTags, "tag"), std::pair(ui_->action_restoreEdits, "edit-undo"),
-          std::pair(ui_->action_close, "window-close"), std::pair(ui_->action_quit, "application-exit"),
-          std::pair(ui_->action_find, "edit-find"), std::pair(ui_->action_loadCoverArt, "insert-image"),
-          std::pair(ui_->action_lookUp, "web-browser"), std::pair(ui_->action_library, "view-list-details"),
-          std::pair(ui_->action_sortByName, "sort-by-name"),
-          std::pair(ui_->action_sortBySize, "sort-by-size"),
-          std::pair(ui_->action_sortByDate, "sort-by-date")}) {
+    for (const auto& [action, name] : {std::pair(ui_->action_addFile, "list-add"),
+                                       std::pair(ui_->action_addFolder, "folder-new"),
+                                       std::pair(ui_->action_save, "document-save"),
+                                       std::pair(ui_->action_revert, "document-revert"),
+                                       std::pair(ui_->action_portableTags, "tag"),
+                                       std::pair(ui_->action_restoreEdits, "edit-undo"),
+                                       std::pair(ui_->action_close, "window-close"),
+                                       std::pair(ui_->action_quit, "application-exit"),
+                                       std::pair(ui_->action_find, "edit-find"),
+                                       std::pair(ui_->action_loadCoverArt, "insert-image"),
+                                       std::pair(ui_->action_lookUp, "web-browser"),
+                                       std::pair(ui_->action_library, "view-list-details"),
+                                       std::pair(ui_->action_sortByName, "sort-by-name"),
+                                       std::pair(ui_->action_sortBySize, "sort-by-size"),
+                                       std::pair(ui_->action_sortByDate, "sort-by-date"),
+                                       std::pair(ui_->action_rememberLayout, "view-pin"),
+                                       std::pair(ui_->action_forgetEverything, "edit-clear"),
+                                       std::pair(ui_->action_userGuide, "help-contents"),
+                                       std::pair(ui_->action_keyboard, "input-keyboard"),
+                                       std::pair(ui_->action_about, "help-about")}) {
         action->setIcon(symbol(QLatin1String(name)));
     }
 }
@@ -110,6 +124,8 @@ void MyDocument::connectCommands() {
         });
     }
     connect(ui_->action_library, &QAction::triggered, this, &MyDocument::showLibrary);
+    connect(ui_->action_rememberLayout, &QAction::triggered, this, &MyDocument::rememberThisLayout);
+    connect(ui_->action_forgetEverything, &QAction::triggered, this, &MyDocument::forgetEverything);
     connect(ui_->action_find, &QAction::triggered, list_, &MediaList::focusTable);
     connect(ui_->action_lookUp, &QAction::triggered, webBrowser_, &TagWebBrowser::focusSearchField);
 }

@@ -23,13 +23,6 @@ QAccessibleInterface* interfaceWithRole(const QString& /*className*/, QObject* o
                           : nullptr;
 }
 
-/** TEXT without the mark of its letter. */
-QString plainCaption(QString text) {
-    text.replace(QLatin1String("&&"), QString(QChar::Null));
-    text.remove(u'&');
-    return text.replace(QChar::Null, u'&');
-}
-
 void nameField(QWidget& field, const QString& name) {
     field.setAccessibleName(name);
     if (const auto* box = qobject_cast<QComboBox*>(&field); box && box->lineEdit()) {
@@ -39,6 +32,16 @@ void nameField(QWidget& field, const QString& name) {
 
 } // namespace
 
+QString plainCaption(const QString& caption) {
+    QString text = caption;
+    text.replace(QLatin1String("&&"), QString(QChar::Null));
+    if (const qsizetype letter = text.indexOf(QLatin1String("(&")); letter >= 0 && text.size() > letter + 3) {
+        text.remove(letter, 4);
+    }
+    text.remove(u'&');
+    return text.replace(QChar::Null, u'&');
+}
+
 void setAccessibleRole(QWidget& widget, QAccessible::Role role) {
     QAccessible::installFactory(interfaceWithRole); // once, however often it is called
     widget.setProperty(roleProperty, static_cast<int>(role));
@@ -46,9 +49,10 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role) {
 
 void nameByCaption(const QLabel& caption) {
     QString name = plainCaption(caption.text());
-    if (name.endsWith(u':')) {
+    if (name.endsWith(u':') || name.endsWith(u'：')) {
         name.chop(1);
     }
+    name = name.trimmed(); // some languages put a space in front of a colon
     if (QWidget* const field = caption.buddy()) {
         nameField(*field, name);
     }

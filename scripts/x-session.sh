@@ -1,6 +1,6 @@
 # A virtual display with the program on it, for scripts that work it with mouse and keyboard. Sourced, after build= is
 # set to the build folder; with accessible=yes, controls can be found by their names. Gives: work (a folder that goes at the end), HOME inside it, start_program, wait_for_log,
-# screenshot, point_at, quit_program.
+# screenshot, cut_out, point_at, quit_program.
 
 if [ -z "${VELMORA_DISPLAY_READY:-}" ]; then
   export VELMORA_DISPLAY_READY=1 VELMORA_WORK
@@ -68,6 +68,9 @@ screenshot() {
   mkdir -p "$(dirname "$1")"
   ffmpeg -v error -y -f x11grab -video_size "${2:-1270x880}" -i "$DISPLAY" -frames:v 1 -update 1 "$1"
 }
+
+# cut_out FILE X Y WIDTH HEIGHT: leaves a picture of a part of the display.
+cut_out() { ffmpeg -v error -y -f x11grab -video_size "$4x$5" -i "$DISPLAY+$2,$3" -frames:v 1 -update 1 "$1"; }
 
 # Ends the program from the keyboard and gives its exit code.
 quit_program() {

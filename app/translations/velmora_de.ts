@@ -839,6 +839,138 @@
         <source>Year</source>
         <translation>Jahr</translation>
     </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>The guide&#x27;s text</source>
+        <translation>Der Text des Handbuchs</translation>
+    </message>
+    <message>
+        <source>&amp;Go to:</source>
+        <translation>&amp;Gehe zu:</translation>
+    </message>
+    <message>
+        <source>Go to a heading of the guide</source>
+        <translation>Zu einer Überschrift des Handbuchs gehen</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Find words in the guide; Return goes to the next place</source>
+        <translation>Wörter im Handbuch suchen; die Eingabetaste geht zur nächsten Stelle</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>Das Handbuch ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Was sie bewirkt</translation>
+    </message>
+    <message>
+        <source>Every key and what it does</source>
+        <translation>Alle Tasten und was sie bewirken</translation>
+    </message>
+    <message>
+        <source>Close this window</source>
+        <translation>Dieses Fenster schließen</translation>
+    </message>
+    <message>
+        <source>%@ menu</source>
+        <translation>Menü „%@“</translation>
+    </message>
+    <message>
+        <source>Letters, in the list</source>
+        <translation>Buchstaben, in der Liste</translation>
+    </message>
+    <message>
+        <source>The next name that begins with them</source>
+        <translation>Der nächste Name, der so beginnt</translation>
+    </message>
+    <message>
+        <source>In the list: the file above, below</source>
+        <translation>In der Liste: die Datei darüber, darunter</translation>
+    </message>
+    <message>
+        <source>On the cover: cut it</source>
+        <translation>Auf dem Titelbild: ausschneiden</translation>
+    </message>
+    <message>
+        <source>On the cover: copy it</source>
+        <translation>Auf dem Titelbild: kopieren</translation>
+    </message>
+    <message>
+        <source>On the cover: paste one</source>
+        <translation>Auf dem Titelbild: einfügen</translation>
+    </message>
+    <message>
+        <source>The next control</source>
+        <translation>Das nächste Bedienelement</translation>
+    </message>
+    <message>
+        <source>The control before</source>
+        <translation>Das vorige Bedienelement</translation>
+    </message>
+    <message>
+        <source>The menus</source>
+        <translation>Die Menüs</translation>
+    </message>
+    <message>
+        <source>The buttons of the line above the form</source>
+        <translation>Die Knöpfe der Zeile über dem Formular</translation>
+    </message>
+    <message>
+        <source>Ends the wait for a page or a cover; closes the line above the form</source>
+        <translation>Beendet das Warten auf eine Seite oder ein Titelbild; schließt die Zeile über dem Formular</translation>
+    </message>
+    <message>
+        <source>About Velmora</source>
+        <translation>Über Velmora</translation>
+    </message>
+    <message>
+        <source>MIT licence: free to use, to change and to pass on, without any warranty.</source>
+        <translation>MIT-Lizenz: frei zu nutzen, zu ändern und weiterzugeben, ohne jede Gewähr.</translation>
+    </message>
+    <message>
+        <source>Built on Qt %@ with its web engine and multimedia, TagLib, GStreamer, libjpeg and libpng, each under its own licence.</source>
+        <translation>Gebaut auf Qt %@ mit Web-Engine und Multimedia, TagLib, GStreamer, libjpeg und libpng, jeweils unter eigener Lizenz.</translation>
+    </message>
+    <message>
+        <source>What Velmora is and what it is built on</source>
+        <translation>Was Velmora ist und worauf es gebaut ist</translation>
+    </message>
+    <message>
+        <source>The window will look like this at each start.</source>
+        <translation>Das Fenster sieht künftig bei jedem Start so aus.</translation>
+    </message>
+    <message>
+        <source>The layout can&#x27;t be remembered: the settings file can&#x27;t be written.</source>
+        <translation>Das Layout kann nicht gemerkt werden: Die Einstellungsdatei lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>Nothing is remembered any more: there is no settings file.</source>
+        <translation>Nichts ist mehr gemerkt: Es gibt keine Einstellungsdatei.</translation>
+    </message>
+    <message>
+        <source>The settings file can&#x27;t be removed.</source>
+        <translation>Die Einstellungsdatei lässt sich nicht löschen.</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>
@@ -925,6 +1057,38 @@
     <message>
         <source>Show all files of the list with their tags, and edit many at once</source>
         <translation>Alle Dateien der Liste mit ihren Tags zeigen und viele auf einmal bearbeiten</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>&amp;Handbuch</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation>&amp;Tastatur</translation>
+    </message>
+    <message>
+        <source>&amp;About Velmora</source>
+        <translation>Ü&amp;ber Velmora</translation>
+    </message>
+    <message>
+        <source>&amp;Remember This Layout</source>
+        <translation>&amp;Dieses Layout merken</translation>
+    </message>
+    <message>
+        <source>Start with this size, division, column widths and sorting from now on</source>
+        <translation>Künftig mit dieser Größe, Aufteilung, Spaltenbreite und Sortierung starten</translation>
+    </message>
+    <message>
+        <source>&amp;Forget Everything</source>
+        <translation>&amp;Alles vergessen</translation>
+    </message>
+    <message>
+        <source>Remove the settings file, with the layout and the choice of portable tags</source>
+        <translation>Die Einstellungsdatei mit dem Layout und der Wahl portabler Tags löschen</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,133 @@
+// The window as its user wanted it to be at each start, and everything forgotten again.
+
+#include "window_fixture.h"
+
+#include "support/bytes.h"
+
+#include "browser/notice_bar.h"
+
+#include <QAction>
+#include <QFile>
+#include <QHeaderView>
+#include <QLabel>
+#include <QSplitter>
+#include <QTableView>
+
+namespace velmora {
+namespace {
+
+using test::settle;
+
+class RememberedLayoutTest : public test::WindowTest {
+protected:
+    RememberedLayoutTest() { qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder_ / "config")); }
+    ~RememberedLayoutTest() override { qunsetenv("XDG_CONFIG_HOME"); }
+
+    void choose(const char* action) {
+        document().window()->findChild<QAction*>(QLatin1String(action))->trigger();
+        settle();
+    }
+    /** The program again. */
+    void startAnew() {
+        document_.reset();
+        document_ = std::make_unique<MyDocument>(termination_);
+        document_->makeWindow();
+        document_->showWindow();
+        EXPECT_TRUE(test::waitUntil([this] { return !controller().search().isSearchRunning(); }));
+        settle();
+    }
+    QSplitter& upper() { return widget<QSplitter>("split_upper"); }
+    QTableView& table() { return widget<QTableView>("tbl_mediaFiles"); }
+    QString notice() {
+        const auto& bar = widget<NoticeBar>("bar_notice");
+        return bar.holdsNotice() ? bar.findChild<QLabel*>("lbl_notice")->text() : QString();
+    }
+    QString settings() { return path("config/velmora/settings.ini"); }
+    static constexpr int sizeColumn = 2;
+};
+
+TEST_F(RememberedLayoutTest, SizeDivisionColumnsAndSortComeBack) {
+    document().window()->resize(770, 720);
+    settle();
+    const int width = upper().width();
+    upper().setSizes({width * 2 / 3, width / 3});
+    table().horizontalHeader()->resizeSection(sizeColumn, 137);
+    choose("action_sortByDate");
+    choose("action_sortByDate");
+    settle();
+    const QList<int> sizes = upper().sizes();
+
+    choose("action_rememberLayout");
+    EXPECT_EQ("The window will look like this at each start.", notice());
+    startAnew();
+
+    EXPECT_EQ(QSize(770, 720), document().window()->size());
+    EXPECT_EQ(sizes, upper().sizes());
+    EXPECT_EQ(137, table().columnWidth(sizeColumn));
+    ASSERT_TRUE(controller().table().mediaFiles().tableSortColumn());
+    EXPECT_EQ("created", controller().table().mediaFiles().tableSortColumn()->identifier);
+    EXPECT_TRUE(controller().table().mediaFiles().tableSortDescending());
+}
+
+TEST_F(RememberedLayoutTest, ColumnsThatWereNotTouchedComeBackToo) {
+    document().window()->resize(770, 720);
+    settle();
+    const int width = table().columnWidth(sizeColumn);
+    choose("action_rememberLayout");
+    startAnew();
+    document().window()->resize(640, 720);
+    settle();
+    EXPECT_EQ(width, table().columnWidth(sizeColumn)) << "as if the user had set it";
+}
+
+TEST_F(RememberedLayoutTest, NothingIsWrittenUnlessItIsAskedFor) {
+    document().window()->resize(770, 720);
+    choose("action_sortByDate");
+    startAnew();
+    EXPECT_FALSE(QFile::exists(path("config")));
+    EXPECT_FALSE(controller().table().mediaFiles().tableSortColumn());
+}
+
+TEST_F(RememberedLayoutTest, ForgetEverythingRemovesTheFileAndSaysSo) {
+    document().window()->resize(770, 720);
+    choose("action_rememberLayout");
+    EXPECT_TRUE(QFile::exists(settings()));
+    choose("action_forgetEverything");
+    EXPECT_FALSE(QFile::exists(path("config/velmora")));
+    EXPECT_EQ("Nothing is remembered any more: there is no settings file.", notice());
+    startAnew();
+    EXPECT_NE(QSize(770, 720), document().window()->size());
+}
+
+TEST_F(RememberedLayoutTest, DamagedFileIsAsNone) {
+    choose("action_rememberLayout");
+    QFile file(settings());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("\x01\x02[layout\nsize=,,,\n=");
+    file.close();
+    startAnew();
+    EXPECT_FALSE(controller().table().mediaFiles().tableSortColumn());
+    EXPECT_EQ("", notice());
+}
+
+TEST_F(RememberedLayoutTest, LayoutThatCantBeRememberedIsToldOf) {
+    test::write_file(folder_ / "config", "no folder");
+    choose("action_rememberLayout");
+    EXPECT_EQ("The layout can't be remembered: the settings file can't be written.", notice());
+}
+
+TEST_F(RememberedLayoutTest, SizeBeyondTheScreenAndUnknownColumnsDoNoHarm) {
+    test::write_file(folder_ / "settings",
+                     "[layout]\nsize=90000, 90000\nsort=nonsense\n[parts]\nsplit_upper=1, 2, 3\n");
+    QDir().mkpath(path("config/velmora"));
+    ASSERT_TRUE(QFile::copy(path("settings"), settings()));
+    startAnew();
+    const QSize room = document().window()->screen()->availableSize();
+    EXPECT_LE(document().window()->width(), room.width());
+    EXPECT_LE(document().window()->height(), room.height());
+    EXPECT_FALSE(controller().table().mediaFiles().tableSortColumn());
+    EXPECT_EQ(2, upper().sizes().size());
+}
+
+} // namespace
+} // namespace velmora
