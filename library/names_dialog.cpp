@@ -117,6 +117,7 @@ void NamesDialog::makePreview() {
     preview_->setWordWrap(false);
     preview_->verticalHeader()->hide();
     preview_->horizontalHeader()->setHighlightSections(false);
+    preview_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     layout()->addWidget(preview_);
     summary_ = new QLabel(this);
     summary_->setTextFormat(Qt::PlainText);

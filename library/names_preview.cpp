@@ -108,11 +108,15 @@ NamesPreviewRow namePreview(const NamesSource& source, const PlannedRename& plan
                                     : localised("Its tags can't be read"));
     }
     const QString name = lastPathComponent(pathFromBytes(planned.to));
+    const bool clashes =
+        planned.mark == RenameMark::clashesWithRow || planned.mark == RenameMark::clashesWithFile;
     const bool same = planned.mark == RenameMark::unchanged;
+    if (planned.isRenamed() || clashes || same) {
+        preview.texts += name;
+    }
     if (!planned.isRenamed() && !same) {
         return failing(preview, noteOf(planned));
     }
-    preview.texts += name;
     preview.note = noteOf(planned);
     // A name that the table was to give and has not given yet may be taken back.
     preview.applies = planned.isRenamed() || source.name != name;

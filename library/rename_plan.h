@@ -36,7 +36,7 @@ struct RenameRow {
 
 struct PlannedRename {
     QByteArray from;
-    QByteArray to; ///< absolute; as FROM where there is no new name
+    QByteArray to; ///< absolute; the name that was wanted where it clashes; as FROM where there is none
     RenameMark mark = RenameMark::unchanged;
     portable::Field missing = portable::Field::title; ///< with missingValue: what
 

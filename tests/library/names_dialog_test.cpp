@@ -120,9 +120,10 @@ TEST_F(NamesDialogTest, WhatIsWrongWithANameIsTold) {
     NamesDialog* const dialog = openedForNames();
     ASSERT_NE(dialog, nullptr);
     type(*dialog, "%title%");
-    EXPECT_EQ(cell(*dialog, 0, 2), "Another row has that name or is to get it");
+    EXPECT_EQ(row(*dialog, 0),
+              QStringList({"1.mp3", "One.mp3", "Another row has that name or is to get it"}));
     EXPECT_EQ(cell(*dialog, 1, 2), "Another row has that name or is to get it");
-    EXPECT_EQ(cell(*dialog, 2, 2), "No value: Title");
+    EXPECT_EQ(row(*dialog, 2), QStringList({"3.mp3", "", "No value: Title"}));
     EXPECT_EQ(cell(*dialog, 3, 2), "There is a file of that name");
     EXPECT_EQ(row(*dialog, 4), QStringList({"Five.mp3", "Five.mp3", "It has that name already"}));
     EXPECT_EQ(row(*dialog, 5), QStringList({"6.mp3", "Six.mp3", ""}));
