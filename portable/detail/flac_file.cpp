@@ -1,48 +1,18 @@
 #include "checked_read.h"
-#include "cover_choice.h"
+#include "flac_blocks.h"
 #include "flac_picture.h"
 #include "formats.h"
 #include "id3v1_tag.h"
 #include "id3v2_fields.h"
 #include "vorbis_comments.h"
 
-#include "../reason.h"
+#include "portable/reason.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace velmora::portable {
 
 namespace {
-
-namespace block_type {
-constexpr std::uint8_t stream_info = 0;
-constexpr std::uint8_t padding = 1;
-constexpr std::uint8_t comments = 4;
-constexpr std::uint8_t picture = 6;
-} // namespace block_type
-
-constexpr std::uint8_t last_block = 0x80;
-constexpr std::size_t block_header_size = 4;
-constexpr std::size_t largest_block = (1u << 24) - 1;
-/** Metadata of more bytes than this in all is not taken into memory. */
-constexpr std::uint64_t largest_metadata = 64UL * 1024 * 1024;
-/** Padding beyond this and beyond what was there before is given back. */
-constexpr std::size_t most_padding = 8192;
-constexpr std::size_t new_padding = 4096;
-
-struct Block {
-    std::uint8_t type = 0;
-    Bytes content; ///< of padding: none
-    std::size_t padding = 0;
-
-    [[nodiscard]] std::size_t size() const { return block_header_size + content.size() + padding; }
-};
-
-std::size_t size_of(const std::vector<Block>& blocks) {
-    return std::accumulate(blocks.begin(), blocks.end(), std::size_t{0},
-                           [](std::size_t sum, const Block& block) { return sum + block.size(); });
-}
 
 /** A FLAC stream: metadata blocks and frames. Tags of other formats, which some programs put in front of it and behind
     it, are second places. */
@@ -60,15 +30,14 @@ public:
 
 private:
     void read_id3(ReadCursor& cursor);
-    void read_blocks(ReadCursor& cursor);
     void read_id3v1(ReadWindow& window);
-    [[nodiscard]] TagValues values_in(const std::vector<Block>& blocks) const;
-    [[nodiscard]] Rewrite made_of(std::vector<Block> blocks, const std::optional<Id3v2Tag>& id3v2,
+    [[nodiscard]] TagValues values_in(const FlacBlocks& blocks) const;
+    [[nodiscard]] Rewrite made_of(FlacBlocks blocks, const std::optional<Id3v2Tag>& id3v2,
                                   const std::optional<Id3v1Tag>& id3v1) const;
 
     Media media_;
     std::optional<Id3v2Tag> id3v2_;
-    std::vector<Block> blocks_;
+    FlacBlocks blocks_;
     Range frames_;
     std::optional<Id3v1Tag> id3v1_;
 };
@@ -77,7 +46,7 @@ FlacFile::FlacFile(FIOFUNCSTRUCT* file, std::uint64_t size, Media media) : media
     ReadWindow window(file);
     ReadCursor cursor(window, 0, size);
     read_id3(cursor);
-    read_blocks(cursor);
+    blocks_ = read_flac_blocks(cursor);
     frames_.begin = cursor.position();
     read_id3v1(window);
 }
@@ -89,40 +58,10 @@ void FlacFile::read_id3(ReadCursor& cursor) {
     if (!header) {
         return;
     }
-    if (header->tag_size() > std::min(cursor.left(), largest_metadata)) {
+    if (header->tag_size() > std::min(cursor.left(), flac_largest_metadata)) {
         throw Refusal({ReasonCode::damaged, 0, "the ID3v2 tag is cut off"});
     }
     id3v2_.emplace(read_bytes(cursor, header->tag_size(), "ID3v2 tag"));
-}
-
-void FlacFile::read_blocks(ReadCursor& cursor) {
-    const Bytes marker = read_bytes(cursor, 4, "FLAC stream");
-    if (std::string_view(reinterpret_cast<const char*>(marker.data()), 4) != "fLaC") {
-        throw Refusal({ReasonCode::damaged, 0, "no FLAC stream"});
-    }
-    std::uint64_t left = largest_metadata;
-    std::uint8_t first = 0;
-    while ((first & last_block) == 0) {
-        std::uint32_t length = 0;
-        check_read(cursor.read_byte(&first), "FLAC metadata");
-        check_read(cursor.read_be24(&length), "FLAC metadata");
-        const auto type = static_cast<std::uint8_t>(first & ~last_block);
-        if (type == block_type::padding) {
-            if (!cursor.skip(length)) {
-                throw Refusal({ReasonCode::damaged, 0, "FLAC metadata is cut off"});
-            }
-            blocks_.push_back({type, {}, length});
-            continue;
-        }
-        if (length > left) {
-            throw Refusal({ReasonCode::too_large, 0, "FLAC metadata"});
-        }
-        left -= length;
-        blocks_.push_back({type, read_bytes(cursor, length, "FLAC metadata"), 0});
-    }
-    if (blocks_.front().type != block_type::stream_info) {
-        throw Refusal({ReasonCode::damaged, 0, "FLAC metadata"});
-    }
 }
 
 void FlacFile::read_id3v1(ReadWindow& window) {
@@ -136,8 +75,8 @@ void FlacFile::read_id3v1(ReadWindow& window) {
 
 std::vector<std::string> FlacFile::tags() const {
     std::vector<std::string> names;
-    for (const Block& block : blocks_) {
-        if (block.type == block_type::comments || (block.type == block_type::picture && names.empty())) {
+    for (const FlacBlock& block : blocks_) {
+        if (block.type == flac_block::comments || (block.type == flac_block::picture && names.empty())) {
             names = {"Vorbis"};
         }
     }
@@ -150,33 +89,24 @@ std::vector<std::string> FlacFile::tags() const {
     return names;
 }
 
-std::vector<std::size_t> cover_blocks(const std::vector<Block>& blocks) {
-    std::vector<std::optional<std::uint32_t>> types;
-    for (const Block& block : blocks) {
-        const auto picture = block.type == block_type::picture ? flac_picture(block.content) : std::nullopt;
-        types.push_back(picture ? std::optional(picture->type) : std::nullopt);
-    }
-    return cover_places(types);
-}
-
-TagValues FlacFile::values_in(const std::vector<Block>& blocks) const {
+TagValues FlacFile::values_in(const FlacBlocks& blocks) const {
     TagValues values;
-    for (const Block& block : blocks) {
-        if (block.type == block_type::comments) {
+    for (const FlacBlock& block : blocks) {
+        if (block.type == flac_block::comments) {
             values = VorbisComments(block.content).values(media_);
             break;
         }
     }
-    const std::vector<std::size_t> covers = cover_blocks(blocks);
+    const std::vector<std::size_t> covers = flac_covers(blocks);
     if (!covers.empty()) {
         values.cover = flac_picture(blocks[covers.front()].content)->cover();
     }
     return values;
 }
 
-bool has_comments(const std::vector<Block>& blocks) {
+bool has_comments(const FlacBlocks& blocks) {
     return std::any_of(blocks.begin(), blocks.end(),
-                       [](const Block& block) { return block.type == block_type::comments; });
+                       [](const FlacBlock& block) { return block.type == flac_block::comments; });
 }
 
 std::vector<TagItem> FlacFile::items() const {
@@ -187,15 +117,15 @@ std::vector<TagItem> FlacFile::items() const {
     if (id3v2_) {
         add(id3v2_items(*id3v2_, media_));
     }
-    const std::vector<std::size_t> covers = cover_blocks(blocks_);
+    const std::vector<std::size_t> covers = flac_covers(blocks_);
     if (!has_comments(blocks_)) {
         add(VorbisComments().items(media_)); // what a save begins with
     }
     for (std::size_t i = 0; i < blocks_.size(); ++i) {
-        const Block& block = blocks_[i];
-        if (block.type == block_type::comments) {
+        const FlacBlock& block = blocks_[i];
+        if (block.type == flac_block::comments) {
             add(VorbisComments(block.content).items(media_));
-        } else if (block.type != block_type::padding) {
+        } else if (block.type != flac_block::padding) {
             const bool cover = std::find(covers.begin(), covers.end(), i) != covers.end();
             items.push_back({"FLAC block " + std::to_string(block.type), block.content,
                              cover ? std::optional(Field::cover) : std::nullopt});
@@ -207,50 +137,23 @@ std::vector<TagItem> FlacFile::items() const {
     return items;
 }
 
-void apply_texts(std::vector<Block>& blocks, const TagEdits& edits, Media media) {
+void apply_texts(FlacBlocks& blocks, const TagEdits& edits, Media media) {
     auto place = std::find_if(blocks.begin(), blocks.end(),
-                              [](const Block& block) { return block.type == block_type::comments; });
+                              [](const FlacBlock& block) { return block.type == flac_block::comments; });
     VorbisComments comments = place == blocks.end() ? VorbisComments() : VorbisComments(place->content);
     comments.apply(edits, media);
     if (place != blocks.end()) {
         place->content = comments.bytes();
     } else if (!comments.comments().empty()) {
-        blocks.insert(blocks.begin() + 1, {block_type::comments, comments.bytes(), 0});
-    }
-}
-
-void apply_cover(std::vector<Block>& blocks, const Edit<Cover>& edit) {
-    const std::vector<std::size_t> covers = cover_blocks(blocks);
-    if (edit.deletes()) {
-        for (auto place = covers.rbegin(); place != covers.rend(); ++place) {
-            blocks.erase(blocks.begin() + static_cast<std::ptrdiff_t>(*place));
-        }
-        return;
-    }
-    FlacPicture picture;
-    if (!covers.empty()) {
-        picture = *flac_picture(blocks[covers.front()].content);
-    }
-    if (picture.cover() == *edit.value() && picture.type == picture_type::front_cover) {
-        return;
-    }
-    picture = {picture_type::front_cover, edit.value()->mime, picture.description, edit.value()->bytes};
-    Block block{block_type::picture, flac_picture_block(picture), 0};
-    if (covers.empty()) {
-        const auto padding = std::find_if(blocks.begin(), blocks.end(), [](const Block& candidate) {
-            return candidate.type == block_type::padding;
-        });
-        blocks.insert(padding, std::move(block));
-    } else {
-        blocks[covers.front()] = std::move(block);
+        blocks.insert(blocks.begin() + 1, {flac_block::comments, comments.bytes(), 0});
     }
 }
 
 TagValues FlacFile::values_with(const TagEdits& edits) const {
     TagValues values = edits.applied_to(this->values());
     if (edits.cover.deletes()) {
-        std::vector<Block> blocks = blocks_;
-        apply_cover(blocks, edits.cover);
+        FlacBlocks blocks = blocks_;
+        apply_flac_cover(blocks, edits.cover);
         values.cover = values_in(blocks).cover; // a picture that was hidden by the cover
     }
     return values;
@@ -270,10 +173,10 @@ TagEdits of_existing(const TagEdits& edits, const TagValues& values) {
 }
 
 Rewrite FlacFile::with(const TagEdits& edits) const {
-    std::vector<Block> blocks = blocks_;
+    FlacBlocks blocks = blocks_;
     apply_texts(blocks, edits, media_);
     if (!edits.cover.leaves_alone()) {
-        apply_cover(blocks, edits.cover);
+        apply_flac_cover(blocks, edits.cover);
     }
     std::optional<Id3v2Tag> id3v2 = id3v2_;
     if (id3v2) {
@@ -287,45 +190,22 @@ Rewrite FlacFile::with(const TagEdits& edits) const {
 }
 
 Rewrite FlacFile::without_tags() const {
-    std::vector<Block> blocks = blocks_;
+    FlacBlocks blocks = blocks_;
     blocks.erase(std::remove_if(blocks.begin(), blocks.end(),
-                                [](const Block& block) {
-                                    return block.type == block_type::comments ||
-                                           block.type == block_type::picture;
+                                [](const FlacBlock& block) {
+                                    return block.type == flac_block::comments ||
+                                           block.type == flac_block::picture;
                                 }),
                  blocks.end());
     return made_of(std::move(blocks), std::nullopt, std::nullopt);
 }
 
-/** Lets the last block of padding take up the difference to OLD_SIZE, so that the frames need not move. */
-void fit_padding(std::vector<Block>& blocks, std::size_t old_size) {
-    const auto padding = std::find_if(blocks.rbegin(), blocks.rend(),
-                                      [](const Block& block) { return block.type == block_type::padding; });
-    const std::size_t size = size_of(blocks);
-    if (padding == blocks.rend() || size == old_size) {
-        return;
-    }
-    const std::size_t rest = size - padding->padding;
-    const std::size_t most = std::max(padding->padding, most_padding);
-    padding->padding = old_size >= rest && old_size - rest <= most ? old_size - rest : new_padding;
-}
-
-Rewrite FlacFile::made_of(std::vector<Block> blocks, const std::optional<Id3v2Tag>& id3v2,
+Rewrite FlacFile::made_of(FlacBlocks blocks, const std::optional<Id3v2Tag>& id3v2,
                           const std::optional<Id3v1Tag>& id3v1) const {
-    fit_padding(blocks, size_of(blocks_));
+    fit_flac_padding(blocks, blocks_);
     Bytes head = id3v2 ? id3v2->bytes() : Bytes();
-    append(head, std::string_view("fLaC"));
-    for (std::size_t i = 0; i < blocks.size(); ++i) {
-        const Block& block = blocks[i];
-        const std::size_t length = block.size() - block_header_size;
-        if (length > largest_block) {
-            throw Refusal({ReasonCode::too_large, 0, "FLAC metadata block"});
-        }
-        const std::uint32_t first = block.type | (i + 1 == blocks.size() ? last_block : 0u);
-        append_be32(head, first << 24 | static_cast<std::uint32_t>(length));
-        append(head, block.content);
-        head.resize(head.size() + block.padding);
-    }
+    append(head, flac_marker);
+    append_flac_blocks(head, blocks);
     Rewrite rewrite;
     rewrite.segments.emplace_back(std::move(head));
     rewrite.segments.emplace_back(frames_);
