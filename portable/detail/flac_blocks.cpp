@@ -42,6 +42,11 @@ FlacBlocks read_flac_blocks(ReadCursor& cursor) {
         check_read(cursor.read_byte(&first), "FLAC metadata");
         check_read(cursor.read_be24(&length), "FLAC metadata");
         const auto type = static_cast<std::uint8_t>(first & ~last_block);
+        const std::uint64_t taken = sizeof(FlacBlock) + (type == flac_block::padding ? 0 : length);
+        if (taken > left) {
+            throw Refusal({ReasonCode::too_large, 0, "FLAC metadata"});
+        }
+        left -= taken;
         if (type == flac_block::padding) {
             if (!cursor.skip(length)) {
                 throw Refusal({ReasonCode::damaged, 0, "FLAC metadata is cut off"});
@@ -49,10 +54,6 @@ FlacBlocks read_flac_blocks(ReadCursor& cursor) {
             blocks.push_back({type, {}, length});
             continue;
         }
-        if (length > left) {
-            throw Refusal({ReasonCode::too_large, 0, "FLAC metadata"});
-        }
-        left -= length;
         blocks.push_back({type, read_bytes(cursor, length, "FLAC metadata"), 0});
     }
     if (blocks.front().type != flac_block::stream_info) {

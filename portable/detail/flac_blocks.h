@@ -21,7 +21,7 @@ inline constexpr std::uint8_t comments = 4;
 inline constexpr std::uint8_t picture = 6;
 } // namespace flac_block
 
-/** Metadata of more bytes than this in all is not taken into memory. */
+/** Metadata that would take more bytes of memory than this is refused. */
 inline constexpr std::uint64_t flac_largest_metadata = 64UL * 1024 * 1024;
 
 /** METADATA_BLOCK: its type and its data, of padding the number of bytes. */

@@ -1,6 +1,7 @@
 #include "chunk_bytes.h"
 #include "rewriting.h"
 
+#include "portable/reason.h"
 #include "support/bytes.h"
 
 #include <gmock/gmock.h>
@@ -52,6 +53,14 @@ TEST(FlacTags, PaddingTakesUpWhatChanges) {
     std::string made = file("Harb", 23);
     made.replace(made.find("title"), 5, "TITLE");
     EXPECT_EQ(to_hex(made), to_hex(edited(file("Harbour", 20), "flac", set(Field::title, "Harb"))));
+}
+
+TEST(FlacTags, MoreEmptyBlocksThanMemoryIsGrantedForAreRefused) {
+    std::string blocks;
+    for (int i = 0; i < 2'000'000; ++i) {
+        blocks += block(2, "");
+    }
+    EXPECT_THROW(values_in("fLaC" + stream_info + blocks + block(0x83, "seek") + frames, "flac"), Refusal);
 }
 
 TEST(FlacTags, SeveralValuesAreJoinedAndBecomeOne) {
