@@ -13,6 +13,8 @@ namespace velmora::portable {
 
 namespace {
 
+constexpr std::uint32_t most_items = 250'000; ///< what no tag has, and little memory
+
 constexpr std::string_view signature = "APETAGEX";
 constexpr std::uint32_t has_header = 1u << 31;
 constexpr std::uint32_t is_header = 1u << 29;
@@ -62,12 +64,15 @@ ApeTag::ApeTag(std::span<const std::uint8_t> bytes) {
     version_ = load_le32(footer.data() + 8);
     flags_ = load_le32(footer.data() + 20);
     const std::uint32_t count = load_le32(footer.data() + 16);
+    if (count > most_items) {
+        throw Refusal({ReasonCode::too_large, 0, "items of an APE tag"});
+    }
     const std::size_t begin = (flags_ & has_header) != 0 ? footer_size : 0;
     if (bytes.size() < begin + footer_size) {
         refuse_damaged();
     }
     auto rest = bytes.subspan(begin, bytes.size() - begin - footer_size);
-    while (!rest.empty()) {
+    while (!rest.empty() && items_.size() <= count) {
         constexpr std::size_t numbers = 8;
         const auto key_end =
             rest.size() > numbers ? std::find(rest.begin() + numbers, rest.end(), 0) : rest.end();

@@ -9,6 +9,8 @@ namespace velmora::portable {
 
 namespace {
 
+constexpr std::size_t most_frames = 250'000; ///< what no tag has, and little memory
+
 namespace tag_flag {
 constexpr std::uint8_t unsynchronised = 0x80;
 constexpr std::uint8_t extended_header = 0x40; ///< in 2.2: the whole tag is compressed
@@ -101,6 +103,9 @@ Id3v2Tag::Walk Id3v2Tag::walk(ByteView content, bool plain_sizes) const {
     Walk found;
     const std::size_t header_size = frame_header_size(version());
     while (content.size() >= header_size && content[0] != 0) {
+        if (found.frames.size() == most_frames) {
+            refuse(ReasonCode::too_large, "frames of an ID3v2 tag");
+        }
         const ByteView id = content.first(id_size(version()));
         const std::optional<std::uint32_t> size = version() == 2 ? load_be24(content.data() + 3)
                                                   : version() == 3 || plain_sizes

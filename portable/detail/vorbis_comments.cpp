@@ -12,6 +12,8 @@ namespace velmora::portable {
 
 namespace {
 
+constexpr std::uint32_t most_comments = 250'000; ///< what no file has, and little memory
+
 using ByteView = std::span<const std::uint8_t>;
 
 struct KeyRow {
@@ -88,6 +90,9 @@ VorbisComments::VorbisComments(ByteView bytes) {
     }
     std::uint32_t count = load_le32(bytes.data());
     bytes = bytes.subspan(4);
+    if (count > most_comments) {
+        throw Refusal({ReasonCode::too_large, 0, "Vorbis comments"});
+    }
     for (; count > 0; --count) {
         comments_.push_back(take_text(bytes));
     }

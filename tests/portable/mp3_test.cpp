@@ -1,3 +1,4 @@
+#include "chunk_bytes.h"
 #include "rewriting.h"
 
 #include "portable/portable_tags.h"
@@ -14,7 +15,9 @@ namespace {
 using namespace portable;
 using test::edited;
 using test::hex;
+using test::le32;
 using test::pattern;
+using test::refusal_of;
 using test::to_hex;
 using test::values_in;
 
@@ -139,6 +142,27 @@ TEST(Mp3Tags, AFrameThatReachesBeyondTheTagIsReadPastAndNotSaved) {
     EXPECT_EQ("the file is damaged (ID3v2 frame)", test::refusal_of([&] {
                   static_cast<void>(edited(broken + frames, "mp3", set(Field::title, "X")));
               }));
+}
+
+TEST(Mp3Tags, MoreFramesThanAnyTagHasAreRefused) {
+    std::string content;
+    for (int i = 0; i < 300'000; ++i) {
+        content += "XYZW" + hex("00000000 0000");
+    }
+    // 3,000,000 bytes in seven bits each
+    EXPECT_EQ("too large for this kind of file (frames of an ID3v2 tag)", refusal_of([&] {
+                  static_cast<void>(values_in("ID3" + hex("040000 01370D40") + content + "x", "mp3"));
+              }));
+}
+
+TEST(Mp3Tags, MoreItemsThanAnyApeTagHasAreRefused) {
+    const std::string end = "APETAGEX" + le32(2000) + le32(3'000'032) + le32(300'000) + std::string(12, '\0');
+    std::string items;
+    for (int i = 0; i < 300'000; ++i) {
+        items += std::string(8, '\0') + "k" + '\0';
+    }
+    EXPECT_EQ("too large for this kind of file (items of an APE tag)",
+              refusal_of([&] { static_cast<void>(values_in(std::string(100, 'x') + items + end, "mp3")); }));
 }
 
 TEST(Mp3Tags, WhatHoldsAnotherFormatIsNotTouched) {

@@ -14,6 +14,7 @@ using test::edited;
 using test::hex;
 using test::le32;
 using test::pattern;
+using test::refusal_of;
 using test::to_hex;
 using test::values_in;
 
@@ -61,6 +62,14 @@ TEST(FlacTags, MoreEmptyBlocksThanMemoryIsGrantedForAreRefused) {
         blocks += block(2, "");
     }
     EXPECT_THROW(values_in("fLaC" + stream_info + blocks + block(0x83, "seek") + frames, "flac"), Refusal);
+}
+
+TEST(FlacTags, MoreCommentsThanAnyFileHasAreRefused) {
+    std::string comments = counted("v") + le32(300'000) + std::string(std::size_t{4} * 300'000, '\0');
+    const std::string size = hex("84") + hex("124F89"); // of 1,200,009 bytes
+    EXPECT_EQ("too large for this kind of file (Vorbis comments)", refusal_of([&] {
+                  static_cast<void>(values_in("fLaC" + stream_info + size + comments + frames, "flac"));
+              }));
 }
 
 TEST(FlacTags, SeveralValuesAreJoinedAndBecomeOne) {
