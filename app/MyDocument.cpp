@@ -3,7 +3,6 @@
 #include "browser/VelmoraController.h"
 #include "library/library_window.h"
 #include "platform/alert.h"
-#include "platform/file_attributes.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
@@ -75,7 +74,7 @@ QString MyDocument::openFile(const QUrl& url) {
         return localised("Velmora can only open local files.");
     }
     const QString path = pathFromFileUrl(url);
-    if (!fileExists(pathBytes(path))) {
+    if (!fileExists(path)) {
         return localised("The file does not exist.");
     }
     portableObstacle_.clear();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/media_type.h"
 #include "model/portable_save.h"
 #include "platform/error.h"
 #include "platform/image.h"
@@ -53,11 +54,11 @@ public:
 
     /** The path of the file that carries the tag: PATH as given, or its side file for DVD folders and disc
        images. */
-    [[nodiscard]] QString filename() const { return filename_; }
+    [[nodiscard]] QString filename() const { return kind_.taggedFile; }
     /** The path as given. */
     [[nodiscard]] QString path() const { return path_; }
     /** A MediaType, told by the path as given. */
-    [[nodiscard]] int mediaType() const { return mediaType_; }
+    [[nodiscard]] int mediaType() const { return kind_.type; }
 
     void setTitle(const QString& title) { metadata_[QStringLiteral("title")] = title; }
     void setArtist(const QString& artist) { metadata_[QStringLiteral("artist")] = artist; }
@@ -106,8 +107,7 @@ private:
     [[nodiscard]] QString text(const QString& key) const { return metadata_.value(key).toString(); }
 
     QString path_; ///< as given
-    QString filename_;
-    int mediaType_ = 3;
+    MediaKind kind_;
     QVariantMap metadata_;
     QVariantMap opened_; ///< the metadata as it was opened or last settled
 };

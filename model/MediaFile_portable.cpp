@@ -3,20 +3,14 @@
 #include "MediaFile.h"
 
 #include "detail/portable_values.h"
-#include "detail/record_slots.h"
-#include "detail/tag_module.h"
-#include "detail/text_decoding.h"
-#include "media_type.h"
+#include "detail/tag_record.h"
 #include "portable_reason.h"
 
-#include "platform/file_attributes.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "portable/portable_tags.h"
-#include "taglib/file_info.h"
 #include "taglib/trace.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <unistd.h>
 
@@ -62,17 +56,16 @@ bool hasTagOfOthers(const std::string& path) {
 } // namespace
 
 std::unique_ptr<MediaFile> MediaFile::initWithPortableTags(const QString& path, QString* obstacle) {
-    const QByteArray bytes = pathBytes(path);
-    if (!isReadableFile(bytes)) {
+    if (!isReadableFile(path)) {
         return nullptr;
     }
     std::unique_ptr<MediaFile> file(new MediaFile);
     file->path_ = path;
-    file->filename_ = mediaKindOfPath(path).taggedFile;
+    file->kind_ = mediaKindOfPath(path);
     const TraceMute mute; // the log is that of the tags in place
-    const portable::ReadOutcome outcome = portable::read_tags(bytes.toStdString());
-    file->mediaType_ = outcome.kind ? mediaTypeOf(*outcome.kind) : otherMedia;
-    fillMetadata(file->metadata_, outcome.values, file->mediaType_);
+    const portable::ReadOutcome outcome = portable::read_tags(pathBytes(path).toStdString());
+    file->kind_.type = outcome.kind ? mediaTypeOf(*outcome.kind) : otherMedia;
+    fillMetadata(file->metadata_, outcome.values, file->kind_.type);
     file->fillEmptyValues();
     file->settleChanges();
     *obstacle = outcome.failure ? localisedReason(*outcome.failure) : QString();
@@ -80,7 +73,7 @@ std::unique_ptr<MediaFile> MediaFile::initWithPortableTags(const QString& path, 
 }
 
 PortableSave MediaFile::portableSave(bool breakLinks) const {
-    portable::TagEdits edits = editsBetween(opened_, metadata_, mediaType_);
+    portable::TagEdits edits = editsBetween(opened_, metadata_, kind_.type);
     return [edits, cover = coverEdit(opened_, metadata_), path = pathBytes(path_).toStdString(),
             breakLinks](const PortableProgress& progress) {
         const TraceMute mute; // the log is that of the tags in place
@@ -113,28 +106,11 @@ std::function<bool()> MediaFile::otherProgramsSeeMore() const {
 }
 
 bool MediaFile::isReadBackAsSaved() const {
-    const TraceMute mute;
-    _file_info_t info{};
-    const QByteArray path = pathBytes(filename_);
-    if (isPipeOrDevice(path) ||
-        !tagModuleOfExtension(pathExtension(filename_)).load(path.constData(), &info)) {
-        id3_free_file_info(&info);
-        return false;
-    }
-    const auto places = slotsOf(mediaType_);
-    const bool textsAreBack = std::all_of(places.begin(), places.end(), [&](const RecordSlot& slot) {
-        const char* const text = info.*slot.text;
-        return (text ? decodeTagText(QByteArrayView(text)) : QString()) ==
-               this->text(QLatin1String(slot.key));
-    });
-    const bool coverIsBack = (info.picture != nullptr) == static_cast<bool>(coverArt());
-    const bool isBack = textsAreBack && coverIsBack && info.year == year();
-    id3_free_file_info(&info);
-    return isBack;
+    return tagInPlaceSays(kind_, metadata_);
 }
 
 QString MediaFile::whyNotSaved() const {
-    const QByteArray path = pathBytes(filename_);
+    const QByteArray path = pathBytes(kind_.taggedFile);
     return ::access(path.constData(), W_OK) == 0 ? localised("Its tag can't be changed in place")
                                                  : qt_error_string(errno);
 }

@@ -39,8 +39,8 @@ MediaKind mediaKindOfPath(const QString& path) {
         lastPathComponent(path).compare(QLatin1String("video_ts.ifo"), Qt::CaseInsensitive) == 0;
     const bool isDiscImage = extension.compare(QLatin1String("iso"), Qt::CaseInsensitive) == 0;
     const bool hasSideFile = isDvdFolder || isDiscImage;
-    return {typeOfExtension(extension), extension,
-            hasSideFile ? pathWithoutExtension(path) + QLatin1String(".TAG") : path};
+    const QString taggedFile = hasSideFile ? pathWithoutExtension(path) + QLatin1String(".TAG") : path;
+    return {typeOfExtension(extension), extension, taggedFile};
 }
 
 } // namespace velmora

@@ -4,7 +4,6 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace velmora {
 namespace {
@@ -39,20 +38,6 @@ std::optional<FileAttributes> fileAttributes(const QByteArray& path) {
     }
     attributes.creationDate = creationDate(status);
     return attributes;
-}
-
-bool fileExists(const QByteArray& path) {
-    struct stat status {};
-    return ::stat(path.constData(), &status) == 0;
-}
-
-bool isPipeOrDevice(const QByteArray& path) {
-    struct stat status {};
-    return ::stat(path.constData(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode);
-}
-
-bool isReadableFile(const QByteArray& path) {
-    return ::access(path.constData(), R_OK) == 0 && !isPipeOrDevice(path);
 }
 
 } // namespace velmora

@@ -30,11 +30,4 @@ struct FileAttributes {
    symbolic links. Nothing when there is no such file or it can't be asked. From any thread. */
 [[nodiscard]] std::optional<FileAttributes> fileAttributes(const QByteArray& path);
 
-/** Whether there is a file or folder of any kind at PATH, a path in bytes. From any thread. */
-[[nodiscard]] bool fileExists(const QByteArray& path);
-/** Whether there is a pipe or a device at PATH: opening or reading one may wait for ever. From any thread. */
-[[nodiscard]] bool isPipeOrDevice(const QByteArray& path);
-/** Whether the user may read what is at PATH, and it is neither a pipe nor a device. From any thread. */
-[[nodiscard]] bool isReadableFile(const QByteArray& path);
-
 } // namespace velmora

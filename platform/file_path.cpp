@@ -3,6 +3,7 @@
 #include <QStringDecoder>
 
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace velmora {
@@ -128,6 +129,21 @@ QString pathFolder(const QString& path) {
 QString pathWithoutExtension(const QString& path) {
     const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));
     return dot < lastComponentStart(path) ? path : path.left(dot);
+}
+
+bool fileExists(const QString& path) {
+    struct stat status {};
+    return ::stat(pathBytes(path).constData(), &status) == 0;
+}
+
+bool isPipeOrDevice(const QString& path) {
+    struct stat status {};
+    return ::stat(pathBytes(path).constData(), &status) == 0 && !S_ISREG(status.st_mode) &&
+           !S_ISDIR(status.st_mode);
+}
+
+bool isReadableFile(const QString& path) {
+    return ::access(pathBytes(path).constData(), R_OK) == 0 && !isPipeOrDevice(path);
 }
 
 } // namespace velmora

@@ -40,4 +40,11 @@ namespace velmora {
 /** PATH without the extension of its last component and the dot before it. */
 [[nodiscard]] QString pathWithoutExtension(const QString& path);
 
+/** Whether there is a file or folder of any kind at PATH. From any thread. */
+[[nodiscard]] bool fileExists(const QString& path);
+/** Whether there is a pipe or a device at PATH: opening or reading one may wait for ever. From any thread. */
+[[nodiscard]] bool isPipeOrDevice(const QString& path);
+/** Whether the user may read what is at PATH, and it is neither a pipe nor a device. From any thread. */
+[[nodiscard]] bool isReadableFile(const QString& path);
+
 } // namespace velmora

@@ -1,7 +1,5 @@
 #include "portable_values.h"
 
-#include "../media_type.h"
-
 #include "platform/image.h"
 #include "platform/image_encode.h"
 #include "platform/picture_format.h"
@@ -75,7 +73,7 @@ bool isMore(const QString& text, const QString& shown) {
 
 } // namespace
 
-int mediaTypeOf(const portable::MediaKind& kind) {
+MediaType mediaTypeOf(const portable::MediaKind& kind) {
     switch (kind.media) {
     case portable::Media::audio:
         return audioMedia;

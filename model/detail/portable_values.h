@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/media_type.h"
 #include "portable/media_kind.h"
 #include "portable/tag_values.h"
 
@@ -10,7 +11,7 @@
 namespace velmora {
 
 /** The MediaType of files that other programs take for KIND. */
-[[nodiscard]] int mediaTypeOf(const portable::MediaKind& kind);
+[[nodiscard]] MediaType mediaTypeOf(const portable::MediaKind& kind);
 
 /** Puts VALUES into METADATA, a MediaFile's dictionary for files of TYPE. What VALUES do not have is empty. */
 void fillMetadata(QVariantMap& metadata, const portable::TagValues& values, int type);

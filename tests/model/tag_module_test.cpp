@@ -1,4 +1,4 @@
-#include "model/detail/tag_module.h"
+#include "model/detail/tag_record.h"
 
 #include "platform/file_path.h"
 #include "support/bytes.h"

@@ -1,4 +1,4 @@
-#include "model/detail/text_decoding.h"
+#include "model/detail/tag_record.h"
 
 #include <gtest/gtest.h>
 
