@@ -8,8 +8,8 @@ class QWidget;
 
 namespace velmora {
 
-/** Takes the folders, songs, films and pictures that are dropped on a window, wherever nothing inside the window
-   takes them itself. Other files are left out. */
+/** Takes the folders, songs, films and pictures that are dropped on a window, wherever nothing inside the
+   window takes them itself. Other files are left out. */
 class FileDrops : public QObject {
     Q_OBJECT
 public:

@@ -8,7 +8,8 @@ class QWidget;
 
 namespace velmora {
 
-/** The Help menu's commands, each with a window of its own: shown once, brought to the front when it is there. */
+/** The Help menu's commands, each with a window of its own: shown once, brought to the front when it is
+   there. */
 class HelpMenu : public QObject {
     Q_OBJECT
 public:

@@ -12,8 +12,8 @@ struct KeyUse {
     QString use;
 };
 
-/** Every key of WINDOW: of its menus, of its controls' letters, and those that belong to single controls. Taken from the
-   window itself where the window knows, so that no key is missing. */
+/** Every key of WINDOW: of its menus, of its controls' letters, and those that belong to single controls.
+   Taken from the window itself where the window knows, so that no key is missing. */
 [[nodiscard]] QList<KeyUse> keysOf(const QWidget& window);
 
 /** The list of all keys, in a window of its own; Escape closes it. */

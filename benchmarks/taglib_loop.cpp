@@ -1,5 +1,5 @@
-// The yardstick of a listing: reads the tags of all files of one folder, one after another, and says how much text they
-// hold.
+// The yardstick of a listing: reads the tags of all files of one folder, one after another, and says how much
+// text they hold.
 #include <algorithm>
 #include <fileref.h>
 #include <filesystem>

@@ -33,7 +33,8 @@ QLabel* newText(const QString& text) {
     label->setObjectName(QStringLiteral("lbl_notice"));
     label->setTextFormat(Qt::PlainText);
     label->setToolTip(text);
-    // One line where there is room for it. In a small window a second one is better than a reason that nobody sees.
+    // One line where there is room for it. In a small window a second one is better than a reason that nobody
+    // sees.
     label->setWordWrap(true);
     QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);

@@ -31,15 +31,16 @@ struct Notice {
     Topic topic = Topic::Save;
 };
 
-/** A line above the form that says what happened and offers what can be done about it. It takes neither the keyboard nor
-   the mouse from anybody; F6 goes to its first button, and Escape in it closes it. Unseen at first. */
+/** A line above the form that says what happened and offers what can be done about it. It takes neither the
+   keyboard nor the mouse from anybody; F6 goes to its first button, and Escape in it closes it. Unseen at
+   first. */
 class NoticeBar : public QFrame {
     Q_OBJECT
 public:
     explicit NoticeBar(QWidget* parent = nullptr);
 
-    /** Shows NOTICE in front of all others and in place of the one of its topic, and tells assistive technologies
-       of it. When it goes, the one behind it comes up. */
+    /** Shows NOTICE in front of all others and in place of the one of its topic, and tells assistive
+       technologies of it. When it goes, the one behind it comes up. */
     void show(const Notice& notice);
     /** Shows NOTICE once those that there are have gone. */
     void showBehind(const Notice& notice);

@@ -32,8 +32,8 @@ private:
     std::string_view rest_;
 };
 
-/** The file that a target works on: always the same path but for its extension, in a folder of the process's own, in memory
-   where there is such a file system. */
+/** The file that a target works on: always the same path but for its extension, in a folder of the process's
+   own, in memory where there is such a file system. */
 class MediaFile {
 public:
     explicit MediaFile(std::string_view bytes, std::string_view extension = {});

@@ -37,8 +37,8 @@ public:
     [[nodiscard]] QImage image() const { return cover_.toQImage(); }
     /** Shows COVER; none empties the view. */
     void setCover(const ImageRef& cover);
-    /** What the view has to show of its image: all of it, or as much of a large one as it needs; null while there is
-       none, or none yet. */
+    /** What the view has to show of its image: all of it, or as much of a large one as it needs; null while
+       there is none, or none yet. */
     [[nodiscard]] QImage shownImage() const { return shown_; }
     void setImage(const QImage& image) { setCover(image); }
     /** Shows COVER as the file's new cover art. */

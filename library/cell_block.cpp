@@ -74,7 +74,8 @@ private:
         return text_.mid(begin, at_ - begin);
     }
 
-    /** The cell behind its opening mark; ends behind the closing one, or at the text's end where there is none. */
+    /** The cell behind its opening mark; ends behind the closing one, or at the text's end where there is
+       none. */
     QString quotedCell() {
         QString cell;
         while (at_ < text_.size()) {

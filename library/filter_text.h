@@ -28,8 +28,8 @@ inline constexpr MissingBits missingTag = 1U << portable::field_count;
 class FilterText {
 public:
     FilterText() = default;
-    /** Of a row that shows TEXTS, was made in YEAR (0: not known), and lacks MISSING. A row whose tags were not
-       read yet lacks nothing. */
+    /** Of a row that shows TEXTS, was made in YEAR (0: not known), and lacks MISSING. A row whose tags were
+       not read yet lacks nothing. */
     FilterText(const RowTexts& texts, int year, MissingBits missing);
 
     /** The columns' texts, folded, each with a line break behind it. */

@@ -22,7 +22,8 @@ std::string foldedAscii(const QString& text) {
     return folded;
 }
 
-/** The plain spelling of a letter or sign that no decomposition leads to; null where UNIT is spelt as it is. */
+/** The plain spelling of a letter or sign that no decomposition leads to; null where UNIT is spelt as it
+   is. */
 const char* plainSpelling(char16_t unit) {
     switch (unit) {
     case u'ß':

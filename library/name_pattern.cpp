@@ -74,7 +74,8 @@ private:
         if (index == parts_.size()) {
             return begin == text_.size();
         }
-        // What has failed once fails again: the search is no longer than parts times characters times characters.
+        // What has failed once fails again: the search is no longer than parts times characters times
+        // characters.
         std::vector<bool>& failed = failed_[index];
         if (failed[static_cast<std::size_t>(begin)]) {
             return false;

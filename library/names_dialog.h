@@ -18,8 +18,8 @@ namespace velmora {
 class NamesDialog : public QDialog {
     Q_OBJECT
 public:
-    /** For tags from names (read) or names from tags (write) of SOURCES. HISTORY has the patterns that were used before,
-       the last one first; a dialog that is accepted adds its own. It outlives the dialog. */
+    /** For tags from names (read) or names from tags (write) of SOURCES. HISTORY has the patterns that were
+       used before, the last one first; a dialog that is accepted adds its own. It outlives the dialog. */
     NamesDialog(NamePattern::Use use, std::vector<NamesSource> sources, QStringList& history,
                 QWidget* parent);
     /** Waits for a preview that is being made. */

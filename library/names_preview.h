@@ -28,8 +28,8 @@ struct NamesSource {
 struct NamesPreviewRow {
     int file = 0;
     QString name; ///< as the table has it
-    /** Of tags from names the value of each field of the pattern; of names from tags the new name alone, also one that
-       clashes. Empty where there is none. */
+    /** Of tags from names the value of each field of the pattern; of names from tags the new name alone, also
+       one that clashes. Empty where there is none. */
     QStringList texts;
     QString note;         ///< why it is left alone, or what else there is to say; in the user's language
     bool applies = false; ///< it is not left alone

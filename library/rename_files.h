@@ -36,12 +36,13 @@ struct FileRename {
 /** Called before each file with the number of those done and of all; false cancels. */
 using RenameProgress = std::function<bool(std::size_t done, std::size_t total)>;
 
-/** Gives files their new names, which no two share. No file is ever overwritten: where a name turns out to be taken,
-   the file keeps its own. Names that files of RENAMES leave may be taken by others of them, also in a circle. Each
-   file has its old name or its new one at any time, even if the program is killed; the exceptions are circles of
-   three and more, whose files may stand under each other's names meanwhile, and circles in file systems that can't
-   exchange two names, where one of the files has a name with ".renaming" in it meanwhile.
-   May run on any thread. Returns for each of RENAMES why it was not done; nothing where it was. */
+/** Gives files their new names, which no two share. No file is ever overwritten: where a name turns out to be
+   taken, the file keeps its own. Names that files of RENAMES leave may be taken by others of them, also in a
+   circle. Each file has its old name or its new one at any time, even if the program is killed; the
+   exceptions are circles of three and more, whose files may stand under each other's names meanwhile, and
+   circles in file systems that can't exchange two names, where one of the files has a name with ".renaming"
+   in it meanwhile. May run on any thread. Returns for each of RENAMES why it was not done; nothing where it
+   was. */
 [[nodiscard]] std::vector<std::optional<portable::Reason>> renameFiles(const std::vector<FileRename>& renames,
                                                                        const RenameProgress& progress = {});
 

@@ -44,8 +44,9 @@ struct PlannedRename {
 };
 
 /** The new names of ROWS, which are different files, by PATTERN. Each file stays in its folder and keeps its
-   extension. A name that another row leaves may be taken, also in a circle; two rows never get names that differ in case
-   alone, which some file systems do not tell apart. Looks at the folders, and changes nothing. One for each row. */
+   extension. A name that another row leaves may be taken, also in a circle; two rows never get names that
+   differ in case alone, which some file systems do not tell apart. Looks at the folders, and changes nothing.
+   One for each row. */
 [[nodiscard]] std::vector<PlannedRename> planRenames(const std::vector<RenameRow>& rows,
                                                      const NamePattern& pattern);
 

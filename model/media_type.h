@@ -11,8 +11,8 @@ enum MediaType : int { imageMedia = 0, audioMedia = 1, videoMedia = 2, otherMedi
 struct MediaKind {
     MediaType type = otherMedia;
     QString extension; ///< as it stands in the path, without its dot
-    /** The path of the file that carries the tag: for a DVD folder (video_ts.ifo) or a disc image (iso) the side
-       file with the extension TAG, otherwise the path itself. */
+    /** The path of the file that carries the tag: for a DVD folder (video_ts.ifo) or a disc image (iso) the
+       side file with the extension TAG, otherwise the path itself. */
     QString taggedFile;
 };
 

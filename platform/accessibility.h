@@ -9,7 +9,8 @@ class QWidget;
 namespace velmora {
 
 /** What WIDGET is to assistive technologies, for widgets that the toolkit knows nothing of: without a role
-   they count as filler between controls. To be called before anything else that they are told of, as its name. */
+   they count as filler between controls. To be called before anything else that they are told of, as its
+   name. */
 void setAccessibleRole(QWidget& widget, QAccessible::Role role);
 
 /** CAPTION without the mark of its letter; a letter in brackets behind a text of another script goes, too. */

@@ -36,7 +36,8 @@ QString settingsFile() {
            QStringLiteral("/velmora/settings.ini");
 }
 
-/** Whether every line is one of a settings file. The toolkit says so only when it reads a file for the first time. */
+/** Whether every line is one of a settings file. The toolkit says so only when it reads a file for the first
+   time. */
 bool isWellFormed(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {

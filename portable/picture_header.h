@@ -15,7 +15,8 @@ struct PictureHeader {
     std::uint32_t depth = 0; ///< bits of a pixel; 0: not told
 };
 
-/** The header of a JPEG, PNG, GIF, BMP or WebP picture. Nothing for other bytes, and where the size is not told. */
+/** The header of a JPEG, PNG, GIF, BMP or WebP picture. Nothing for other bytes, and where the size is not
+   told. */
 [[nodiscard]] std::optional<PictureHeader> picture_header(std::span<const std::uint8_t> bytes);
 
 } // namespace velmora::portable

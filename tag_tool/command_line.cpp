@@ -42,7 +42,8 @@ struct Given {
     bool no_cover = false;
 };
 
-/** ARGUMENTS for the parser: "--name=value" becomes two words, so that a value may be empty, and names behind "--" can't
+/** ARGUMENTS for the parser: "--name=value" becomes two words, so that a value may be empty, and names behind
+   "--" can't
     be taken for options. */
 std::vector<std::string> prepared(const std::vector<std::string>& arguments) {
     std::vector<std::string> words;

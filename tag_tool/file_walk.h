@@ -11,9 +11,10 @@ struct FoundFile {
     std::string failure; ///< empty: none
 };
 
-/** The files that PATHS stand for, in their order. With RECURSIVE a folder stands for the files in it and below that
-    the program knows by their extensions, in bytewise order of names; linked folders are not entered, and a DVD's folder
-    stands for its video_ts.ifo. Without it a folder is a failure. */
+/** The files that PATHS stand for, in their order. With RECURSIVE a folder stands for the files in it and
+   below that
+    the program knows by their extensions, in bytewise order of names; linked folders are not entered, and a
+    DVD's folder stands for its video_ts.ifo. Without it a folder is a failure. */
 [[nodiscard]] std::vector<FoundFile> find_files(const std::vector<std::string>& paths, bool recursive);
 
 } // namespace velmora::tag_tool

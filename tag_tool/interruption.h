@@ -2,7 +2,8 @@
 
 namespace velmora::tag_tool {
 
-/** From now on SIGINT and SIGTERM are noted instead of ending the program, and writes that nobody reads or that are
+/** From now on SIGINT and SIGTERM are noted instead of ending the program, and writes that nobody reads or
+   that are
     beyond a file size limit fail instead of ending it. */
 void note_interruptions();
 

@@ -10,7 +10,8 @@ namespace velmora::tag_tool {
 
 /** Writes TEXT to standard output, which collects. */
 void print(std::string_view text);
-/** Writes what was collected. False where some of it could not be written; a line on standard error says why. */
+/** Writes what was collected. False where some of it could not be written; a line on standard error says
+   why. */
 [[nodiscard]] bool finish_printing();
 
 /** Writes the line "PATH: REASON" to standard error. */

@@ -23,7 +23,8 @@ void DebugInfo(const char* format, ...);
    line end. */
 void DebugError(const char* format, ...);
 
-/** While an object lives, its thread's messages are lost: for what reads a file again and has nothing to tell. */
+/** While an object lives, its thread's messages are lost: for what reads a file again and has nothing to
+   tell. */
 class TraceMute {
 public:
     TraceMute();

@@ -123,8 +123,8 @@ void MediaTableColumns::fit() {
     const QFontMetrics metrics = view_.fontMetrics();
     const int nameWidth = nameLength * metrics.averageCharWidth() + 2 * air;
     const int room = view_.viewport()->width() - iconWidth - nameWidth;
-    // What the style leaves free in a cell, and the air; and a pixel, as a text that is too wide by a part of one
-    // is elided.
+    // What the style leaves free in a cell, and the air; and a pixel, as a text that is too wide by a part of
+    // one is elided.
     const int margins =
         2 * (view_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view_) + 1 + air) + 1;
     const auto fitColumn = [&](QStringView identifier, int textWidth, int columnRoom) {

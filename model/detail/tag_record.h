@@ -9,16 +9,17 @@
 
 #include <array>
 
-/** The tag that is read and written in place. Nothing else in this room knows the tag library's record. METADATA is
-   MediaFile's dictionary; KIND says which file carries the tag, which module it is for, and which places of a record the
-   dictionary's texts are. */
+/** The tag that is read and written in place. Nothing else in this room knows the tag library's record.
+   METADATA is MediaFile's dictionary; KIND says which file carries the tag, which module it is for, and which
+   places of a record the dictionary's texts are. */
 namespace velmora {
 
-/** Puts what the tag says into METADATA: every text, the year, and the cover where there is one. All is empty where no tag can
-   be read. Logs both. */
+/** Puts what the tag says into METADATA: every text, the year, and the cover where there is one. All is empty
+   where no tag can be read. Logs both. */
 void readTagInPlace(const MediaKind& kind, QVariantMap& metadata);
 
-/** Writes METADATA into the tag and logs that; false, and the file as the tag library leaves it, on failure. */
+/** Writes METADATA into the tag and logs that; false, and the file as the tag library leaves it, on
+   failure. */
 [[nodiscard]] bool writeTagInPlace(const MediaKind& kind, const QVariantMap& metadata);
 
 /** Whether the tag says what METADATA says. Logs nothing. */
@@ -31,7 +32,8 @@ struct TagModule {
     int (*store)(const char* path, _file_info_t* info);
 };
 
-/** The tag module for files with EXTENSION (without its dot), whatever its case; ID3 for all that have no other. */
+/** The tag module for files with EXTENSION (without its dot), whatever its case; ID3 for all that have no
+   other. */
 [[nodiscard]] const TagModule& tagModuleOfExtension(const QString& extension);
 
 /** Encodings that a tag's bytes are tried with, in this order, under their traditional numbers: UTF-8, ISO

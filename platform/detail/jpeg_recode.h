@@ -13,7 +13,8 @@ enum class JpegPasses { One, Progressive };
    such counterpart. */
 [[nodiscard]] QByteArray recodedJpeg(const QByteArray& jpeg, JpegPasses passes);
 
-/** Whether all of JPEG, a stream of one pixel (see emptiedJpeg), can be decoded into the pixels of a picture. */
+/** Whether all of JPEG, a stream of one pixel (see emptiedJpeg), can be decoded into the pixels of a
+   picture. */
 [[nodiscard]] bool isDecodedWhole(const QByteArray& jpeg);
 
 /** Whether the top of the picture in JPEG can be decoded, which takes little time whatever its size. */

@@ -28,8 +28,8 @@ public:
     virtual void loadFailed(FrameKind frame) = 0;
     /** The page is gone for good, as when its process died. */
     virtual void pageLost() = 0;
-    /** The page that is shown has ADDRESS: another page has come, not one that is only asked for; or the page gave itself
-       another address of its own site. */
+    /** The page that is shown has ADDRESS: another page has come, not one that is only asked for; or the page
+       gave itself another address of its own site. */
     virtual void addressOfPageChanged(const QUrl& address) = 0;
 
 protected:

@@ -2,7 +2,8 @@
 
 #include "chunk.h"
 
-/** The texts of AIFF itself, each a chunk: they are read after its ID3v2 tag, and updated where they exist. */
+/** The texts of AIFF itself, each a chunk: they are read after its ID3v2 tag, and updated where they
+   exist. */
 namespace velmora::portable {
 
 class AiffTexts {
@@ -10,7 +11,8 @@ public:
     /** The field that chunks of FOURCC are places of; nothing where they are none. */
     [[nodiscard]] static std::optional<Field> field_of(std::uint32_t fourcc);
 
-    /** Adds CHUNK, of the file of CURSOR, where it is a text of a field. Throws a Refusal where it can't be read. */
+    /** Adds CHUNK, of the file of CURSOR, where it is a text of a field. Throws a Refusal where it can't be
+       read. */
     void read(const ReadCursor& cursor, const Chunk& chunk);
 
     [[nodiscard]] bool empty() const { return texts_.empty(); }

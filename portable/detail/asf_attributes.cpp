@@ -71,7 +71,8 @@ AsfAttribute read_descriptor(ReadCursor& cursor, const std::string& what) {
     return attribute;
 }
 
-/** The record that begins at CURSOR and is of a metadata or metadata library object: all lengths, name, value. */
+/** The record that begins at CURSOR and is of a metadata or metadata library object: all lengths, name,
+   value. */
 AsfAttribute read_metadata_record(ReadCursor& cursor, const std::string& what) {
     AsfAttribute attribute;
     attribute.language = read_le16(cursor, what);

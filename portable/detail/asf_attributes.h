@@ -65,13 +65,13 @@ using AsfLists = std::vector<AsfAttributeList>;
 /** Reads what is behind the header of an object of KIND, up to the end of BODY. Throws a Refusal. */
 [[nodiscard]] AsfAttributeList read_asf_list(AsfListKind kind, ReadCursor body);
 
-/** The attribute NAME with VALUE of TYPE as it stands in an object of KIND, of the whole file and in LANGUAGE. VALUE
-   fits. */
+/** The attribute NAME with VALUE of TYPE as it stands in an object of KIND, of the whole file and in
+   LANGUAGE. VALUE fits. */
 [[nodiscard]] AsfAttribute asf_attribute(AsfListKind kind, const std::string& name, std::uint16_t type,
                                          std::span<const std::uint8_t> value, std::uint16_t language = 0);
 
-/** TEXT as an attribute's value: UTF-16 with a terminator, which is left out where it alone would be too much. Throws a
-   Refusal that names NAME where TEXT takes more than 65,534 bytes. */
+/** TEXT as an attribute's value: UTF-16 with a terminator, which is left out where it alone would be too
+   much. Throws a Refusal that names NAME where TEXT takes more than 65,534 bytes. */
 [[nodiscard]] Bytes asf_text(const std::string& name, const std::string& text);
 
 } // namespace velmora::portable

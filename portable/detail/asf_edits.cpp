@@ -134,8 +134,8 @@ void edit_year(AsfLists& lists, const Edit<int>& edit) {
     }
 }
 
-/** Sets the first cover, which keeps its description. A picture that is too large for where that one was goes into
-   the metadata library. */
+/** Sets the first cover, which keeps its description. A picture that is too large for where that one was goes
+   into the metadata library. */
 void set_cover(AsfLists& lists, const Cover& cover) {
     const std::string name = asf_field_names(Field::cover).name;
     const std::vector<AsfPlace> places = asf_cover_places(lists);

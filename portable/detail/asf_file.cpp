@@ -112,8 +112,8 @@ private:
         }
     }
 
-    /** Keeps the header's size where the padding can take up the difference, so that the media stays where it was
-       and file systems that share blocks can share them. */
+    /** Keeps the header's size where the padding can take up the difference, so that the media stays where it
+       was and file systems that share blocks can share them. */
     void fit_padding() {
         if (!header_.padding || splices_.growth() == 0) {
             return;

@@ -29,14 +29,14 @@ struct AsfHeader {
 
 /** In front of a header's objects: its own header, their count, two reserved bytes. */
 inline constexpr std::uint64_t asf_header_fixed_size = 30;
-/** In front of an extension's objects: its own header, a GUID and a number that are always the same, the size of its
-   objects in 32 bits. */
+/** In front of an extension's objects: its own header, a GUID and a number that are always the same, the size
+   of its objects in 32 bits. */
 inline constexpr std::uint64_t asf_extension_fixed_size = 46;
 /** Where the file properties object holds the size of the file, in 64 bits. */
 inline constexpr std::uint64_t asf_file_size_offset = 40;
 
-/** Takes apart the header of a file of SIZE bytes that WINDOW shows. Throws a Refusal where it is none, contradicts
-   itself, or holds more than 10,000 objects, 64 MiB of attributes or 100,000 of them. */
+/** Takes apart the header of a file of SIZE bytes that WINDOW shows. Throws a Refusal where it is none,
+   contradicts itself, or holds more than 10,000 objects, 64 MiB of attributes or 100,000 of them. */
 [[nodiscard]] AsfHeader read_asf_header(ReadWindow& window, std::uint64_t size);
 
 } // namespace velmora::portable

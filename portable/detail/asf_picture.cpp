@@ -8,7 +8,8 @@ namespace {
 
 constexpr std::size_t fixed_size = 5;
 
-/** The text at OFFSET of VALUE, its terminator included, and OFFSET behind it. Nothing where it has no terminator. */
+/** The text at OFFSET of VALUE, its terminator included, and OFFSET behind it. Nothing where it has no
+   terminator. */
 std::optional<std::span<const std::uint8_t>> terminated_text(std::span<const std::uint8_t> value,
                                                              std::size_t& offset) {
     for (std::size_t end = offset; end + 2 <= value.size(); end += 2) {

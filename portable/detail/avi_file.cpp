@@ -18,8 +18,9 @@ constexpr std::size_t most_chunks = 250'000;
 constexpr std::uint32_t movi = make_fourcc("movi");
 constexpr std::uint32_t index_chunk = make_fourcc("idx1");
 
-/** An AVI film. Its chunks are walked by the file's length, because the size in front of them is wrong in many. The media
-   never move: offsets to them are in several places, and in some files count from the beginning of the file. */
+/** An AVI film. Its chunks are walked by the file's length, because the size in front of them is wrong in
+   many. The media never move: offsets to them are in several places, and in some files count from the
+   beginning of the file. */
 class AviFile : public TaggedFile {
 public:
     AviFile(FIOFUNCSTRUCT* file, std::uint64_t size, Media media) : window_(file), size_(size), info_(media) {
@@ -137,8 +138,8 @@ void AviFile::check_against(const TaggedFile& original) const {
     }
 }
 
-/** A film whose last chunk is cut off may be shown, but there is no place for a list behind it. What lies behind the
-   RIFF chunk is no chunk of it, unless it is the next RIFF chunk. */
+/** A film whose last chunk is cut off may be shown, but there is no place for a list behind it. What lies
+   behind the RIFF chunk is no chunk of it, unless it is the next RIFF chunk. */
 void AviFile::refuse_cut_off() const {
     const bool has_media =
         std::any_of(chunks_.begin(), chunks_.end(), [](const Chunk& chunk) { return chunk.is_list(movi); });
@@ -174,8 +175,8 @@ Rewrite AviFile::with_list(const Bytes& list) const {
     return {splices.segments(size_), {}};
 }
 
-/** Lists in front of the media become free, those behind them go, and what was free there, too: programs look for a list
-   directly behind the index, and at nothing behind another chunk. */
+/** Lists in front of the media become free, those behind them go, and what was free there, too: programs look
+   for a list directly behind the index, and at nothing behind another chunk. */
 void AviFile::put_behind_index(Splices& splices, const Bytes& list) const {
     const auto is_media = [](const Chunk& chunk) {
         return chunk.is_list(movi) || chunk.fourcc == index_chunk;
@@ -197,8 +198,8 @@ void AviFile::put_behind_index(Splices& splices, const Bytes& list) const {
     splices.replace({4, 8}, chunk_size_field(end - 8, std::endian::little));
 }
 
-/** The list goes where nothing moves for it: into lists and free chunks that lie beside each other. Other lists become
-   free. */
+/** The list goes where nothing moves for it: into lists and free chunks that lie beside each other. Other
+   lists become free. */
 void AviFile::put_into_room(Splices& splices, const Bytes& list) const {
     const auto media =
         std::find_if(chunks_.begin(), chunks_.end(), [](const Chunk& chunk) { return chunk.is_list(movi); });

@@ -24,7 +24,8 @@ namespace velmora::portable {
     return type;
 }
 
-/** The letters of TYPE as UTF-8, read as Latin-1, which is what the sign (c) in many of them is written in. */
+/** The letters of TYPE as UTF-8, read as Latin-1, which is what the sign (c) in many of them is written
+   in. */
 [[nodiscard]] std::string type_name(std::uint32_t type);
 
 /** A box as it lies in a file. */
@@ -50,13 +51,13 @@ struct Box {
 /** A box of TYPE around CONTENT. Throws a Refusal where that is too large. */
 [[nodiscard]] Bytes make_box(std::uint32_t type, std::span<const std::uint8_t> content);
 
-/** The box that begins at CURSOR, whose end is that of the box around it; the cursor goes on to its end. Nothing,
-   and the cursor stays, where no box that fits begins there. IN_FILE: the cursor is over the whole file, whose last
-   box may reach to its end. Throws a Refusal where the file can't be read. */
+/** The box that begins at CURSOR, whose end is that of the box around it; the cursor goes on to its end.
+   Nothing, and the cursor stays, where no box that fits begins there. IN_FILE: the cursor is over the whole
+   file, whose last box may reach to its end. Throws a Refusal where the file can't be read. */
 [[nodiscard]] std::optional<Box> next_box(ReadCursor& cursor, bool in_file = false);
 
-/** Throws the Refusal for what is left in CURSOR behind the last box inside PARENT, unless it ends a list in a
-   lawful manner. */
+/** Throws the Refusal for what is left in CURSOR behind the last box inside PARENT, unless it ends a list in
+   a lawful manner. */
 void require_end_of_boxes(ReadCursor cursor, std::uint32_t parent);
 
 /** The boxes inside RANGE, contents of a box of type PARENT. Throws a Refusal where they don't fit. */

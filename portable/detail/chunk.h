@@ -30,15 +30,16 @@ struct Chunk {
 /** The letters of FOURCC as UTF-8, read as Latin-1. */
 [[nodiscard]] std::string fourcc_name(std::uint32_t fourcc);
 
-/** The chunk that begins at CURSOR, whose end is that of what it lies in; the cursor goes on to the next one, or to its
-   end. Nothing, and the cursor stays, where no chunk that fits begins there. ORDER is that of its size. Throws a
-   Refusal where the file can't be read. */
+/** The chunk that begins at CURSOR, whose end is that of what it lies in; the cursor goes on to the next one,
+   or to its end. Nothing, and the cursor stays, where no chunk that fits begins there. ORDER is that of its
+   size. Throws a Refusal where the file can't be read. */
 [[nodiscard]] std::optional<Chunk> next_chunk(ReadCursor& cursor, std::endian order);
 
 /** A chunk around DATA, with its pad byte. Throws a Refusal where that is too large. */
 [[nodiscard]] Bytes make_chunk(std::uint32_t fourcc, std::span<const std::uint8_t> data, std::endian order);
 
-/** A JUNK chunk of SIZE bytes, its header among them, which are even and at least its header's; nothing for none. */
+/** A JUNK chunk of SIZE bytes, its header among them, which are even and at least its header's; nothing for
+   none. */
 [[nodiscard]] Bytes junk_chunk(std::uint64_t size);
 
 /** SIZE in the four bytes of ORDER. Throws a Refusal where it does not fit. */

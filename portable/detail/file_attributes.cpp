@@ -87,7 +87,8 @@ void copy_attributes(FIOFUNCSTRUCT* source, const struct stat& status, FIOFUNCST
         return uninterrupted([&] { return ::fchown(target->descriptor, owner, group); }) == 0;
     };
     if (!give(status.st_uid, status.st_gid)) {
-        // A file of another owner must not run with the rights of this one. The group alone may still be given.
+        // A file of another owner must not run with the rights of this one. The group alone may still be
+        // given.
         mode &= static_cast<mode_t>(~(S_ISUID | S_ISGID));
         static_cast<void>(give(static_cast<uid_t>(-1), status.st_gid));
     }

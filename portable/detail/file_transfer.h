@@ -6,7 +6,8 @@
 #include <cstdint>
 #include <span>
 
-/** Bytes into a file and from one to another, whatever the system does in pieces. All throw a Refusal where it fails. */
+/** Bytes into a file and from one to another, whatever the system does in pieces. All throw a Refusal where
+   it fails. */
 namespace velmora::portable {
 
 /** Work is done in pieces of at most this many bytes, between which it can be cancelled. */
@@ -15,7 +16,8 @@ inline constexpr std::uint64_t transfer_piece = 8UL * 1024 * 1024;
 /** Writes BYTES at POSITION. */
 void write_at(FIOFUNCSTRUCT* file, std::span<const std::uint8_t> bytes, std::uint64_t position);
 
-/** Copies RANGE of FROM to POSITION of TO, inside the system where it can do that. What FROM does not have any more
+/** Copies RANGE of FROM to POSITION of TO, inside the system where it can do that. What FROM does not have
+   any more
     is `changed_meanwhile`. */
 void copy_range(FIOFUNCSTRUCT* from, const Range& range, FIOFUNCSTRUCT* to, std::uint64_t position,
                 Progress& progress);

@@ -14,7 +14,8 @@ namespace velmora::portable {
 
 namespace {
 
-/** A FLAC stream: metadata blocks and frames. Tags of other formats, which some programs put in front of it and behind
+/** A FLAC stream: metadata blocks and frames. Tags of other formats, which some programs put in front of it
+   and behind
     it, are second places. */
 class FlacFile : public TaggedFile {
 public:

@@ -2,8 +2,8 @@
 
 #include "tagged_file.h"
 
-/** The formats. Each takes apart the file that is open as FILE and SIZE bytes long, and throws a Refusal where it is
-   not one of its kind, is damaged or can't be read. */
+/** The formats. Each takes apart the file that is open as FILE and SIZE bytes long, and throws a Refusal
+   where it is not one of its kind, is damaged or can't be read. */
 namespace velmora::portable {
 
 [[nodiscard]] std::unique_ptr<TaggedFile> open_mpeg_audio(FIOFUNCSTRUCT* file, std::uint64_t size,

@@ -102,7 +102,8 @@ Id3v2Place kind_for(Field field) {
     }
 }
 
-/** Replaces the first frame of FIELD by FRAME, or puts it behind all others, and removes the rest of that field's. */
+/** Replaces the first frame of FIELD by FRAME, or puts it behind all others, and removes the rest of that
+   field's. */
 void replace_frames(Id3v2Tag& tag, Field field, Media media, std::optional<Id3v2Frame> frame) {
     std::vector<Id3v2Frame> frames;
     for (Id3v2Frame& old : tag.frames()) {

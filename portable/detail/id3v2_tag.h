@@ -32,7 +32,8 @@ struct Id3v2Header {
 /** The header in the first bytes of BYTES; nothing where there is none. */
 [[nodiscard]] std::optional<Id3v2Header> id3v2_header(ByteView bytes);
 
-/** One frame. What its flags say of its body (compressed, encrypted, unsynchronised) is still to be undone. */
+/** One frame. What its flags say of its body (compressed, encrypted, unsynchronised) is still to be
+   undone. */
 struct Id3v2Frame {
     std::string id;          ///< four characters, in version 2.2 three
     std::uint16_t flags = 0; ///< as they lie in the file, big endian; 2.2 has none
@@ -46,7 +47,8 @@ class Id3v2Tag {
 public:
     /** A new one, of version 2.4, without a frame. */
     Id3v2Tag() = default;
-    /** The tag that BYTES are, from the header to the end of the tag. Throws a Refusal where they are no whole tag, or
+    /** The tag that BYTES are, from the header to the end of the tag. Throws a Refusal where they are no
+       whole tag, or
         one that nothing is known of. Damage among the frames is kept for refuse_damaged(). */
     explicit Id3v2Tag(ByteView bytes);
 
@@ -60,13 +62,15 @@ public:
         this one would lose them. */
     void refuse_damaged() const;
 
-    /** What FRAME holds, with all that its flags and the tag's say undone. Nothing where it is encrypted or does not
+    /** What FRAME holds, with all that its flags and the tag's say undone. Nothing where it is encrypted or
+       does not
         come out whole. */
     [[nodiscard]] std::optional<Bytes> content(const Id3v2Frame& frame) const;
     /** A frame of the tag's version that holds CONTENT. */
     [[nodiscard]] Id3v2Frame frame(std::string id, Bytes content) const;
 
-    /** The tag's bytes. They are as many as it was read from where the frames fit well into these, so that what
+    /** The tag's bytes. They are as many as it was read from where the frames fit well into these, so that
+       what
         lies behind it need not move; a new tag gets some padding. Throws the Refusal `too_large`. */
     [[nodiscard]] Bytes bytes() const;
 

@@ -36,7 +36,8 @@ struct AttachedPicture {
 /** No bytes where CONTENT is no picture, or only a link to one. */
 [[nodiscard]] AttachedPicture attached_picture(std::span<const std::uint8_t> content, std::uint8_t version);
 
-/* The contents of frames of a tag of VERSION. Texts are UTF-8 in 2.4; before that UTF-16 unless they are ASCII. */
+/* The contents of frames of a tag of VERSION. Texts are UTF-8 in 2.4; before that UTF-16 unless they are
+ASCII. */
 [[nodiscard]] Bytes text_content(std::string_view text, std::uint8_t version);
 [[nodiscard]] Bytes genre_content(std::string_view genre, std::uint8_t version);
 [[nodiscard]] Bytes described_content(const DescribedText& text, std::uint8_t version);

@@ -11,14 +11,16 @@
 
 namespace velmora::portable {
 
-/** The tag behind the media that the program writes in place, with that way's table of frames and its decoding
+/** The tag behind the media that the program writes in place, with that way's table of frames and its
+   decoding
     (docs/id3.md): texts are UTF-8 under the encoding of ISO 8859-1, a film's title is its album. */
 class InPlaceTag {
 public:
     /** A new one, without a frame. */
     InPlaceTag() = default;
 
-    /** The one that ends where the file of SIZE bytes does, and where it begins; nothing where there is none. Throws a
+    /** The one that ends where the file of SIZE bytes does, and where it begins; nothing where there is none.
+       Throws a
         Refusal where the file can't be read. */
     struct Found;
     [[nodiscard]] static std::optional<Found> find(ReadWindow& window, std::uint64_t size);

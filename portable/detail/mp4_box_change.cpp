@@ -47,7 +47,8 @@ void BoxChange::keep_media_in_place(bool pads_inside) {
     }
 }
 
-/** Gives or takes the bytes in a `free` box behind the first list of items. False where that is not possible. */
+/** Gives or takes the bytes in a `free` box behind the first list of items. False where that is not
+   possible. */
 bool BoxChange::pad_inside(std::int64_t growth) {
     for (const Mp4ItemList& list : layout_.lists) {
         const std::vector<Box> path(list.path.begin(), std::prev(list.path.end()));

@@ -23,9 +23,9 @@ public:
     /** Puts BYTES where OLD is; PATH are the boxes around it, from `moov` on. */
     void replace(const std::vector<Box>& path, Range old, Bytes bytes);
 
-    /** The changes, with the sizes of the boxes mended, and with free bytes given or taken so that the media stay where
-       they are, as far as that is possible. PADS_INSIDE: lists of items stay, beside which these may be. Throws a
-       Refusal where a box becomes too large. */
+    /** The changes, with the sizes of the boxes mended, and with free bytes given or taken so that the media
+       stay where they are, as far as that is possible. PADS_INSIDE: lists of items stay, beside which these
+       may be. Throws a Refusal where a box becomes too large. */
     [[nodiscard]] Mp4Change finish(bool pads_inside);
 
 private:

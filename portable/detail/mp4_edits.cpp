@@ -116,8 +116,8 @@ void Editor::put_field(const Mp4ItemList& list, Field field, const TagEdits& edi
     }
 }
 
-/** The first item of NAME gets the value, or one behind the others; further ones of that name go. Further covers are
-   other pictures and stay. */
+/** The first item of NAME gets the value, or one behind the others; further ones of that name go. Further
+   covers are other pictures and stay. */
 void Editor::put_value(const Mp4ItemList& list, Field field, const TagEdits& edits, const std::string& name) {
     bool put = false;
     for (const Mp4Item& item : list.items) {
@@ -154,8 +154,8 @@ void Editor::make_list(const TagEdits& edits) {
     }
 }
 
-/** The list goes into the `meta` box that was made for one; a new one stands in front of any other, whose list is of
-   another kind, since programs look into the first. */
+/** The list goes into the `meta` box that was made for one; a new one stands in front of any other, whose
+   list is of another kind, since programs look into the first. */
 void Editor::insert_list(Bytes ilst) {
     std::uint64_t place = layout_.end_in_udta;
     for (const Mp4Meta& meta : layout_.metas) {

@@ -135,8 +135,8 @@ std::vector<TagItem> Mp4File::items() const {
     return items;
 }
 
-/** Everything but tags, free bytes, sizes of boxes that may change, and offsets, which are compared by what they point
-   to. */
+/** Everything but tags, free bytes, sizes of boxes that may change, and offsets, which are compared by what
+   they point to. */
 std::vector<Range> Mp4File::payload() const {
     std::vector<Range> rest;
     for (const Box& box : layout_.top_level) {
@@ -200,7 +200,8 @@ bool Mp4File::moves_boxes(const Splices& splices) const {
     });
 }
 
-/** Behind the last box zeros may lie, or a tag that others put there. Anything else is a box that was cut off. */
+/** Behind the last box zeros may lie, or a tag that others put there. Anything else is a box that was cut
+   off. */
 void Mp4File::require_sound_end() const {
     const std::uint64_t begin = layout_.end_of_boxes;
     const Bytes bytes =

@@ -27,7 +27,8 @@ struct Place {
     bool written = true; ///< false: read, and gives way to the written one of its field
 };
 
-/* Of several names of one field the first that says something is read. In a list of `items` all that are written get
+/* Of several names of one field the first that says something is read. In a list of `items` all that are
+written get
    the value; elsewhere those get it that exist. */
 constexpr std::array places = {
     Place{Kind::items, "©nam", Field::title},

@@ -165,7 +165,8 @@ private:
         return item;
     }
 
-    /** The bytes of a box that is part of a tag: these are held in memory, so there may not be too many of them. */
+    /** The bytes of a box that is part of a tag: these are held in memory, so there may not be too many of
+       them. */
     [[nodiscard]] Bytes read_tag(const Box& box) {
         tag_size_ += box.whole.size();
         if (tag_size_ > largest_tag) {

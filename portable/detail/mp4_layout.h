@@ -50,11 +50,12 @@ struct Mp4Layout {
     std::vector<Box> traks;
 };
 
-/** The boxes inside META, a `meta` box: in MP4 version and flags stand in front of them, in QuickTime they don't. */
+/** The boxes inside META, a `meta` box: in MP4 version and flags stand in front of them, in QuickTime they
+   don't. */
 [[nodiscard]] std::vector<Box> boxes_in_meta(const ReadCursor& file, const Box& meta);
 
-/** Finds the parts, and reads the items. Throws a Refusal where there is no `moov`, where boxes on the way contradict
-   each other, or where the file can't be read. */
+/** Finds the parts, and reads the items. Throws a Refusal where there is no `moov`, where boxes on the way
+   contradict each other, or where the file can't be read. */
 [[nodiscard]] Mp4Layout read_mp4_layout(ReadWindow& window, std::uint64_t file_size, Media media);
 
 } // namespace velmora::portable

@@ -113,7 +113,8 @@ private:
         return !elsewhere ? References::here : here ? References::mixed : References::elsewhere;
     }
 
-    /** A table whose count of four bytes stands behind version, flags and what else is in front of it: AHEAD bytes. */
+    /** A table whose count of four bytes stands behind version, flags and what else is in front of it: AHEAD
+       bytes. */
     void add_table(const Box& box, std::uint64_t ahead, std::uint32_t width) {
         ReadCursor cursor = content_of(box, ahead);
         std::uint32_t count = 0;
@@ -153,7 +154,8 @@ private:
         std::uint32_t count = 0;
         check_read(cursor.read_be32(&sizes), what);
         check_read(cursor.read_be32(&count), what);
-        // Two bits each, one less than the bytes that the numbers of the fragment, the run and the sample take.
+        // Two bits each, one less than the bytes that the numbers of the fragment, the run and the sample
+        // take.
         const std::uint32_t numbers = 3 + (sizes >> 4 & 3) + (sizes >> 2 & 3) + (sizes & 3);
         add({cursor.position() + width, count, 2 * width + numbers, width, 0}, tfra);
     }

@@ -41,16 +41,16 @@ struct UserText {
     std::uint16_t language = undetermined;
     std::span<const std::uint8_t> letters;
 
-    /** Whether the language is one of ISO 639, whose texts are UTF-8 or marked UTF-16, and not a number of the
-       Macintosh, whose texts are in its character sets. */
+    /** Whether the language is one of ISO 639, whose texts are UTF-8 or marked UTF-16, and not a number of
+       the Macintosh, whose texts are in its character sets. */
     [[nodiscard]] bool is_unicode() const;
     [[nodiscard]] std::string text() const;
     /** The contents of its box. Throws a Refusal where it is too long. */
     [[nodiscard]] Bytes content() const;
 };
 
-/** The first text in CONTENT, what a box of user data holds; further ones say the same in other languages. Nothing where
-   there is none. */
+/** The first text in CONTENT, what a box of user data holds; further ones say the same in other languages.
+   Nothing where there is none. */
 [[nodiscard]] std::optional<UserText> user_text(std::span<const std::uint8_t> content);
 
 } // namespace velmora::portable

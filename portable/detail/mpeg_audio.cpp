@@ -20,7 +20,8 @@ namespace {
 /** Tags of this many bytes are not taken into memory. */
 constexpr std::uint64_t largest_tag = 64UL * 1024 * 1024;
 
-/** MPEG audio: an ID3v2 tag in front of its frames, then an APE tag, lyrics that nobody here reads, an ID3v1 block, and the
+/** MPEG audio: an ID3v2 tag in front of its frames, then an APE tag, lyrics that nobody here reads, an ID3v1
+   block, and the
     tag that the program writes in place. Each may be missing. */
 class MpegAudioFile : public TaggedFile {
 public:

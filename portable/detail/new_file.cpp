@@ -70,7 +70,8 @@ NewFile::~NewFile() {
     errno = error;
 }
 
-/** Returns whether the file is this process's own: another one, which cleans up, may have been faster. A file system
+/** Returns whether the file is this process's own: another one, which cleans up, may have been faster. A file
+   system
     without locks has none of others to respect. */
 bool NewFile::lock() {
     const bool taken = ::flock(file_.descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;

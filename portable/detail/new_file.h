@@ -6,9 +6,10 @@
 
 namespace velmora::portable {
 
-/** A file in the making, in the folder where it is to be. It has no name where the file system has such files,
-    and otherwise an exclusive hidden one; it is gone with the object unless it took its place. While it is made
-    it is locked, by which what a killed process left is told from what another one works on. */
+/** A file in the making, in the folder where it is to be. It has no name where the file system has such
+   files,
+    and otherwise an exclusive hidden one; it is gone with the object unless it took its place. While it is
+    made it is locked, by which what a killed process left is told from what another one works on. */
 class NewFile {
 public:
     /** In FOLDER, an open folder's descriptor, which stays the caller's. Throws a Refusal. */
@@ -19,7 +20,8 @@ public:
 
     [[nodiscard]] FIOFUNCSTRUCT* handle() { return &file_; }
 
-    /** Gives the file the name NAME in its folder, in one step: instead of the file that has it where REPLACE is set,
+    /** Gives the file the name NAME in its folder, in one step: instead of the file that has it where REPLACE
+       is set,
         and otherwise only where none has. Throws a Refusal; NAME is then what it was. */
     void take_place(const std::string& name, bool replace);
 
@@ -35,7 +37,8 @@ private:
     std::string hidden_name_; ///< empty: none
 };
 
-/** Removes from FOLDER, an open folder's descriptor, the hidden files that nobody works on any more. What can't be
+/** Removes from FOLDER, an open folder's descriptor, the hidden files that nobody works on any more. What
+   can't be
     read or removed is left. */
 void remove_left_behind(int folder);
 

@@ -24,7 +24,8 @@ void store_offset(std::uint8_t* field, std::uint32_t width, std::uint64_t offset
     store_be32(field, static_cast<std::uint32_t>(offset));
 }
 
-/** Where entries from FIRST on lie, as many as go into a piece; the last one without what follows its offset. */
+/** Where entries from FIRST on lie, as many as go into a piece; the last one without what follows its
+   offset. */
 Range piece_of(const OffsetTable& table, std::uint64_t first) {
     const std::uint64_t count = std::min(table.count - first, piece_size / table.stride);
     const std::uint64_t begin = table.position + first * table.stride;

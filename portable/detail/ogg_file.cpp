@@ -35,7 +35,8 @@ bool begins_with(std::span<const std::uint8_t> bytes, std::string_view text) {
     return std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()).starts_with(text);
 }
 
-/** Vorbis or Opus in Ogg: the first page, the pages with the comments and what else is in front of the audio, and the
+/** Vorbis or Opus in Ogg: the first page, the pages with the comments and what else is in front of the audio,
+   and the
     pages of the audio. */
 class OggFile : public TaggedFile {
 public:
@@ -170,7 +171,8 @@ std::vector<TagItem> OggFile::items() const {
     return items;
 }
 
-/** Calls TAKE with the place and the header of each whole page behind the comments. Returns where they end: at the file's
+/** Calls TAKE with the place and the header of each whole page behind the comments. Returns where they end:
+   at the file's
     end, or where no whole page follows. */
 template <typename Take>
 std::uint64_t OggFile::for_each_audio_page(Take take) const {

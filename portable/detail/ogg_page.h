@@ -39,7 +39,8 @@ struct OggPageHeader {
 /** Where in a page the two numbers lie that change when pages are counted anew. */
 inline constexpr Range ogg_counted_bytes{18, 26};
 
-/** The header at CURSOR, which goes behind it. Nothing where there is no whole one. Throws a Refusal where it can't be
+/** The header at CURSOR, which goes behind it. Nothing where there is no whole one. Throws a Refusal where it
+   can't be
     read. */
 [[nodiscard]] std::optional<OggPageHeader> read_ogg_page_header(ReadCursor& cursor);
 
@@ -49,7 +50,8 @@ inline constexpr Range ogg_counted_bytes{18, 26};
 /** The checksum of a page's BYTES, that in them taken for zero. */
 [[nodiscard]] std::uint32_t ogg_checksum(std::span<const std::uint8_t> page);
 
-/** The pages of a stream that hold PACKETS, the first with the number SEQUENCE; AT_LEAST so many where that can be. */
+/** The pages of a stream that hold PACKETS, the first with the number SEQUENCE; AT_LEAST so many where that
+   can be. */
 [[nodiscard]] std::vector<Bytes> ogg_pages(const std::vector<Bytes>& packets, std::uint32_t serial,
                                            std::uint32_t sequence, std::size_t at_least);
 

@@ -5,7 +5,8 @@ namespace velmora::portable {
 
 namespace {
 
-/** Media of a kind that has no tag that others read, or none at all (a side file): the program's own tag stands
+/** Media of a kind that has no tag that others read, or none at all (a side file): the program's own tag
+   stands
     behind it. */
 class OwnTagFile : public TaggedFile {
 public:

@@ -21,7 +21,8 @@ struct InfoCode {
     Field field;
 };
 
-/* In the order in which new items are put behind the others. Of films the director is in IART and the cast in ISTR. */
+/* In the order in which new items are put behind the others. Of films the director is in IART and the cast in
+ISTR. */
 constexpr std::array film_codes = {
     InfoCode{make_fourcc("INAM"), Field::title},    InfoCode{make_fourcc("ISTR"), Field::artist},
     InfoCode{make_fourcc("ICMT"), Field::synopsis}, InfoCode{make_fourcc("IART"), Field::director},

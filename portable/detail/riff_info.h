@@ -11,8 +11,8 @@ struct InfoItem {
     Bytes data;
 };
 
-/** The text that DATA are, up to a zero, as UTF-8. Nothing in the file says in what it is written: what is no UTF-8 is
-   most often Latin-1. */
+/** The text that DATA are, up to a zero, as UTF-8. Nothing in the file says in what it is written: what is no
+   UTF-8 is most often Latin-1. */
 [[nodiscard]] std::string info_text(std::span<const std::uint8_t> data);
 
 class RiffInfo {

@@ -3,7 +3,8 @@
 #include "byte_appending.h"
 #include "tagged_file.h"
 
-/** A file as the old one with changes: for containers in which a tag lies between boxes or chunks that stay. */
+/** A file as the old one with changes: for containers in which a tag lies between boxes or chunks that
+   stay. */
 namespace velmora::portable {
 
 /** Replacements of parts of a file, which don't overlap. Positions are those of the old file. */

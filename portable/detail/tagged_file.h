@@ -32,7 +32,8 @@ struct TagItem {
     /** Which tag, and which item of it, such as "ID3v2 TIT2" or "INFO INAM". Items may share it. */
     std::string name;
     /** Its bytes, header included, as far as they have to go over unchanged: without what its place decides
-       (a size of padding, an offset that is mended). A size that the rest of the bytes tells may be left out. */
+       (a size of padding, an offset that is mended). A size that the rest of the bytes tells may be left
+       out. */
     std::vector<std::uint8_t> bytes;
     /** The field that it is a place of; nothing for all others. */
     std::optional<Field> field;
@@ -63,15 +64,15 @@ public:
     /** The media: what must be the same bytes in the same order in the new file. Ranges that lie apart here
        may lie elsewhere there; as one text they are equal. */
     [[nodiscard]] virtual std::vector<Range> payload() const = 0;
-    /** Checks, on the new file, what moved with the media, such as offsets. ORIGINAL is of the same class. Throws a
-       Refusal where something is wrong. */
+    /** Checks, on the new file, what moved with the media, such as offsets. ORIGINAL is of the same class.
+       Throws a Refusal where something is wrong. */
     virtual void check_against(const TaggedFile& original) const { static_cast<void>(original); }
 
     /** EDITS and what a save has to do besides, such as to set what a tag says that is folded into another.
        That counts as asked for. */
     [[nodiscard]] virtual TagEdits completed(const TagEdits& edits) const { return edits; }
-    /** What the file says with EDITS in it. For formats in which a place that was hidden by another shows when
-       that goes. */
+    /** What the file says with EDITS in it. For formats in which a place that was hidden by another shows
+       when that goes. */
     [[nodiscard]] virtual TagValues values_with(const TagEdits& edits) const {
         return edits.applied_to(values());
     }
@@ -82,8 +83,8 @@ public:
     [[nodiscard]] virtual Rewrite without_tags() const = 0;
 };
 
-/** Takes the file apart that is open as FILE, of KIND, SIZE bytes long. Throws a Refusal where it is damaged or
-   can't be read. */
+/** Takes the file apart that is open as FILE, of KIND, SIZE bytes long. Throws a Refusal where it is damaged
+   or can't be read. */
 [[nodiscard]] std::unique_ptr<TaggedFile> open_tagged_file(FIOFUNCSTRUCT* file, std::uint64_t size,
                                                            const MediaKind& kind);
 

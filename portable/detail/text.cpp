@@ -56,7 +56,8 @@ void append_unit(std::vector<std::uint8_t>& bytes, char32_t unit, std::endian or
     bytes.push_back(order == std::endian::little ? high : low);
 }
 
-/** The bytes of the character that LEAD begins, and its bits in LEAD; no length for a byte that begins none. */
+/** The bytes of the character that LEAD begins, and its bits in LEAD; no length for a byte that begins
+   none. */
 struct Lead {
     std::size_t length;
     char32_t bits;

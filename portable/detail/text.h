@@ -11,8 +11,8 @@
    U+FFFD. Bytes read end at the first zero, which no text of a tag has in it. */
 namespace velmora::portable {
 
-/** The UTF-8 of UTF-16 units in ORDER. A byte order mark in front is obeyed and taken off; an odd last byte counts
-   for nothing. */
+/** The UTF-8 of UTF-16 units in ORDER. A byte order mark in front is obeyed and taken off; an odd last byte
+   counts for nothing. */
 [[nodiscard]] std::string utf8_from_utf16(std::span<const std::uint8_t> bytes, std::endian order);
 
 /** The UTF-16 units of TEXT (UTF-8) in ORDER, without a byte order mark and without a terminator. */
@@ -36,7 +36,8 @@ namespace velmora::portable {
 /** Whether the two are equal when the letters A to Z and a to z are not told apart. */
 [[nodiscard]] bool equal_ignoring_case(std::string_view left, std::string_view right);
 
-/** Several values of one field as one text: in their order, each once, without empty ones, with "; " between. */
+/** Several values of one field as one text: in their order, each once, without empty ones, with "; "
+   between. */
 [[nodiscard]] std::string joined(std::span<const std::string> values);
 
 } // namespace velmora::portable

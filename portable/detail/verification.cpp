@@ -46,7 +46,8 @@ std::vector<const TagItem*> sorted_by_name(const std::vector<TagItem>& items) {
     return sorted;
 }
 
-/** Whether the items of FEWER that nobody asked for are among those of MORE, for each name in the same order. The first
+/** Whether the items of FEWER that nobody asked for are among those of MORE, for each name in the same order.
+   The first
     that is not is the result. */
 const TagItem* first_missing(const std::vector<TagItem>& fewer, const std::vector<TagItem>& more,
                              const TagEdits& edits) {

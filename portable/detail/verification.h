@@ -11,7 +11,8 @@ struct OpenTags {
     const TaggedFile& tags;
 };
 
-/** Throws the Refusal `would_lose` unless AFTER is BEFORE with EDITS, which are completed, in it: the values that
+/** Throws the Refusal `would_lose` unless AFTER is BEFORE with EDITS, which are completed, in it: the values
+   that
     were asked for, every other item of every tag as the bytes that it was, and the same media. */
 void verify_edits(const OpenTags& before, const OpenTags& after, const TagEdits& edits, Progress& progress);
 

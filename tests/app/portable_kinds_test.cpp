@@ -1,5 +1,5 @@
-// Every kind of file that other programs read tags of, through the window: each field set, changed, shortened and
-// emptied in the form, and read back by programs that are not ours.
+// Every kind of file that other programs read tags of, through the window: each field set, changed, shortened
+// and emptied in the form, and read back by programs that are not ours.
 
 #include "window_fixture.h"
 

@@ -4,8 +4,8 @@
 
 namespace velmora::test {
 
-/** What the file system refuses of the calls that rename, and when the process is killed in one. Programs that link
-   rename_calls.cpp with --wrap lead them through here. */
+/** What the file system refuses of the calls that rename, and when the process is killed in one. Programs
+   that link rename_calls.cpp with --wrap lead them through here. */
 struct RenameCalls {
     bool noReplaceIsUnknown = false; ///< as in network file systems
     bool exchangeIsUnknown = false;

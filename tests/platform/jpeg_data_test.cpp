@@ -1,5 +1,5 @@
-// Which JPEG streams are pictures, each told by markers, tables and headers alone: none has any coded data. The
-// library that decodes takes missing data for grey, and gives up over the rest.
+// Which JPEG streams are pictures, each told by markers, tables and headers alone: none has any coded data.
+// The library that decodes takes missing data for grey, and gives up over the rest.
 
 #include "platform/detail/jpeg_stream.h"
 #include "platform/image.h"

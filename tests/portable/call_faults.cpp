@@ -23,7 +23,8 @@ CallFaults* watching = nullptr;
     }
 }
 
-/** Makes CALL, which takes the bytes that it may move, unless a fault is in its way: then FAILED is returned. */
+/** Makes CALL, which takes the bytes that it may move, unless a fault is in its way: then FAILED is
+   returned. */
 template <typename Call, typename Result>
 Result watched(const char* name, std::size_t length, Result failed, Call call) {
     if (!watching) {

@@ -34,7 +34,8 @@ std::string new_tag(const std::string& title) {
     return test::hex("49443304 0000 00000810 54495432 00000006 0000 03") + title + std::string(1024, '\0');
 }
 
-/** A tag of version 2.3 with TITLE, five letters in Latin-1, a frame that nobody knows, and without padding. */
+/** A tag of version 2.3 with TITLE, five letters in Latin-1, a frame that nobody knows, and without
+   padding. */
 std::string old_tag(const std::string& title) {
     return test::hex("49443303 0000 0000001E 54495432 00000006 0000 00") + title +
            test::hex("58595A57 00000004 0000 01020304");

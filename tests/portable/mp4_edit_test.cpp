@@ -147,7 +147,8 @@ TEST(Mp4Edit, OffsetsIntoOtherFilesStay) {
     EXPECT_EQ(to_hex(with(list)), to_hex(edited(with(""), "mov", set(Field::title, "Title"))));
 }
 
-/** A film in fragments, with offsets that count from the file's beginning in their headers and behind them. */
+/** A film in fragments, with offsets that count from the file's beginning in their headers and behind
+   them. */
 std::string fragments(const std::string& list) {
     const std::string moov = box("moov", list);
     const std::string index =

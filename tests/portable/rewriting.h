@@ -14,8 +14,8 @@ namespace velmora::test {
 /** What BYTES, a file named with EXTENSION, say. Throws a Refusal. */
 [[nodiscard]] portable::TagValues values_in(std::string_view bytes, std::string_view extension);
 
-/** BYTES, a file named with EXTENSION, with EDITS in it. Fails the test unless the new file says what was asked for,
-   has every other item, and the same media, where its offsets find them. Throws a Refusal. */
+/** BYTES, a file named with EXTENSION, with EDITS in it. Fails the test unless the new file says what was
+   asked for, has every other item, and the same media, where its offsets find them. Throws a Refusal. */
 [[nodiscard]] std::string edited(std::string_view bytes, std::string_view extension,
                                  const portable::TagEdits& edits);
 

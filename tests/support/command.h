@@ -8,12 +8,13 @@ namespace velmora::test {
  */
 std::string run_command(const std::string& command);
 
-/** Makes the file at PATH by COMMAND, behind which the path comes and which has nothing to say. A file that the process has
-   made by the same command is written again instead: what others make takes longer than what is done with it. */
+/** Makes the file at PATH by COMMAND, behind which the path comes and which has nothing to say. A file that
+   the process has made by the same command is written again instead: what others make takes longer than what
+   is done with it. */
 void make_file(const std::string& command, const std::string& path);
 
-/** What FRONT, the path and BEHIND print as one command about the file at PATH. The command runs once in a process for each
-   contents of a file. */
+/** What FRONT, the path and BEHIND print as one command about the file at PATH. The command runs once in a
+   process for each contents of a file. */
 std::string run_on_file(const std::string& front, const std::string& path, const std::string& behind);
 
 /** TEXT as one word of a shell command. */

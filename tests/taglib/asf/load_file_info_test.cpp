@@ -311,8 +311,8 @@ TEST_F(AsfLoadFileInfo, CostsTenCalls) {
     const StreamCapture log;
     const SystemCallFaults watch;
     ASSERT_EQ(1, asf_load_file_info(path_.c_str(), &info_));
-    // Open and close; the file's length; what the header begins with, the large attribute from there on, and what
-    // follows it. The length is asked for behind the first piece, hence a seek.
+    // Open and close; the file's length; what the header begins with, the large attribute from there on, and
+    // what follows it. The length is asked for behind the first piece, hence a seek.
     EXPECT_LE(watch.count(), 10);
     EXPECT_EQ(8, watch.count());
     EXPECT_EQ(0, watch.open_descriptors());

@@ -50,8 +50,8 @@ std::map<std::string, std::string> probed_tags(const std::string& path) {
     return tags;
 }
 
-/** Decodes the whole file: the checksum of the audio and that of the pictures where HAS_VIDEO. ffmpeg must have nothing else
-   to say. */
+/** Decodes the whole file: the checksum of the audio and that of the pictures where HAS_VIDEO. ffmpeg must
+   have nothing else to say. */
 std::string decoded(const std::string& path, bool has_video) {
     std::string sums =
         run_on_file("ffmpeg -v error -nostdin -i", path,
