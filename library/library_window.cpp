@@ -65,7 +65,7 @@ void LibraryWindow::showStatus() {
     const auto number = [&locale](std::size_t count) {
         return locale.toString(static_cast<qulonglong>(count));
     };
-    QStringList parts{localised("%@ files", number(model_.listed()))};
+    QStringList parts{localised("%Ln file(s)", static_cast<int>(model_.listed()))};
     const std::size_t shown = model_.shownFiles().size();
     if (shown < model_.listed()) {
         parts += localised("%@ shown", number(shown));

@@ -36,7 +36,13 @@ QString localised(const char* englishText, const QString& argument) {
     return place < 0 ? text : text.replace(place, 2, argument);
 }
 
+QString localised(const char* englishText, int count) {
+    return QCoreApplication::translate("Velmora", englishText, nullptr, count);
+}
+
 void installLocalisation() {
+    // The English plural forms, which hold where there is no other table.
+    installTable(QLocale(QLocale::English), QStringLiteral("velmora"), QStringLiteral(":/translations"));
     const QString language =
         installTable(QLocale(), QStringLiteral("velmora"), QStringLiteral(":/translations"));
     if (language.isEmpty()) {

@@ -743,9 +743,12 @@
         <source>There is no field in the pattern.</source>
         <translation>Im Muster ist kein Feld.</translation>
     </message>
-    <message>
-        <source>%@ files</source>
-        <translation>%@ Dateien</translation>
+    <message numerus="yes">
+        <source>%Ln file(s)</source>
+        <translation>
+            <numerusform>%Ln Datei</numerusform>
+            <numerusform>%Ln Dateien</numerusform>
+        </translation>
     </message>
     <message>
         <source>%@ not applied</source>
@@ -1051,8 +1054,8 @@
         <translation>Die Datei wieder öffnen, deren Änderungen nicht gespeichert werden konnten, und sie wieder eintragen</translation>
     </message>
     <message>
-        <source>Library Table</source>
-        <translation>Bibliothekstabelle</translation>
+        <source>&amp;Library Table</source>
+        <translation>&amp;Bibliothekstabelle</translation>
     </message>
     <message>
         <source>Show all files of the list with their tags, and edit many at once</source>
@@ -1076,7 +1079,7 @@
     </message>
     <message>
         <source>&amp;Remember This Layout</source>
-        <translation>&amp;Dieses Layout merken</translation>
+        <translation>Dieses &amp;Layout merken</translation>
     </message>
     <message>
         <source>Start with this size, division, column widths and sorting from now on</source>

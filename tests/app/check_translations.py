@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Every text that the program shows stands in every translation table, with its placeholders, and no table holds a text
-that is not shown any more. In no language does the window give one letter to two controls: the Alt key would then only
-move between them. Usage: check_translations.py SOURCE_FOLDER"""
+that is not shown any more. In no language does the window, or a menu, give one letter to two controls: the Alt key would
+then only move between them. Usage: check_translations.py SOURCE_FOLDER"""
 
 import pathlib
 import re
@@ -9,6 +9,10 @@ import sys
 import xml.etree.ElementTree as xml
 
 FOLDERS = ["app", "browser", "imaging", "library", "model", "platform", "weblookup"]
+LANGUAGES = ["de", "en"]
+PLURAL_FORMS = {"ja": 1, "zh_CN": 1}  # two in the others
+# Their own letters are on no key, so that their captions have a Latin one in brackets.
+SCRIPTS_WITHOUT_KEYS = ["ja", "zh_CN"]
 LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
 
 
@@ -48,38 +52,90 @@ def texts_with_letters(root):
                     yield (context, text)
 
 
+def menus(root):
+    """The texts of each menu's commands that have a letter."""
+    for context, layout in layouts(root):
+        texts = {action.get("name"): entry.findtext("string") for action in layout.iter("action")
+                 for entry in action.findall("property") if entry.get("name") == "text"}
+        for widget in layout.iter("widget"):
+            if widget.get("class") == "QMenu":
+                commands = [texts.get(command.get("name")) or "" for command in widget.findall("addaction")]
+                yield [(context, text) for text in commands if "&" in text]
+
+
 def letters_given_twice(texts):
     letters = [letter.lower() for text in texts for letter in re.findall(r"(?:&|^Alt\+)(.)", text)]
     return sorted({letter for letter in letters if letters.count(letter) > 1})
 
 
-def texts_of_table(table):
-    for context in xml.parse(table).iter("context"):
-        for message in context.iter("message"):
-            yield (context.findtext("name"), message.findtext("source")), message.findtext("translation")
+class Table:
+    """A translation table: each text with its forms, one but for plurals."""
+
+    def __init__(self, path):
+        self.name = path.name
+        self.language = path.stem.removeprefix("velmora_")
+        self.forms = {}
+        self.unfinished = []
+        for context in xml.parse(path).iter("context"):
+            for message in context.iter("message"):
+                text = (context.findtext("name"), message.findtext("source"))
+                translation = message.find("translation")
+                plurals = [form.text or "" for form in translation.iter("numerusform")]
+                self.forms[text] = plurals or [translation.text or ""]
+                if translation.get("type"):
+                    self.unfinished.append(text)
+
+    def letters(self, texts):
+        return [self.forms.get(text, [""])[0] for text in texts]
+
+
+def wrong_translations(table, text, is_plural):
+    forms = table.forms.get(text, [""])
+    if not all(forms):
+        return [f"no translation of {text}"]
+    wrong = []
+    if len(forms) != (PLURAL_FORMS.get(table.language, 2) if is_plural else 1):
+        wrong.append(f"{len(forms)} forms of {text}")
+    for mark in ("%@", "%1", "%2"):
+        if any(form.count(mark) != text[1].count(mark) for form in forms):
+            wrong.append(f"placeholders differ in {text}")
+    # A single one may be a word.
+    if is_plural and "%Ln" not in forms[-1]:
+        wrong.append(f"no number in {text}")
+    if table.language in SCRIPTS_WITHOUT_KEYS and "&" in text[1].replace("&&", "") and not re.search(r"\(&[A-Z]\)", forms[0]):
+        wrong.append(f"no letter in brackets: {text}")
+    if table.language not in SCRIPTS_WITHOUT_KEYS and "(&" in forms[0]:
+        wrong.append(f"letter in brackets: {text}")
+    return wrong
+
+
+def wrong_in_table(table, shown, lettered):
+    wrong = [f"unfinished: {text}" for text in table.unfinished]
+    for text in sorted(shown):
+        is_plural = "%Ln" in text[1]
+        if is_plural or table.language != "en":  # whose table has plurals alone
+            wrong += wrong_translations(table, text, is_plural)
+    for group in lettered:
+        if table.language != "en":
+            wrong += [f"letter given twice: {letter}" for letter in letters_given_twice(table.letters(group))]
+    wrong += [f"not shown any more: {text}" for text in sorted(set(table.forms) - shown)]
+    return [f"{table.name}: {what}" for what in wrong]
 
 
 def main():
     root = pathlib.Path(sys.argv[1])
     shown = set(texts_of_code(root)) | set(texts_of_layouts(root))
     failures = [] if len(shown) > 100 else [f"only {len(shown)} texts were found in the program"]
-    lettered = list(texts_with_letters(root))
-    failures += [] if len(lettered) > 15 else [f"only {len(lettered)} letters were found in the window"]
-    failures += [f"letter given twice: {letter}" for letter in letters_given_twice([text for _, text in lettered])]
-    for table in sorted((root / "app" / "translations").glob("*.ts")):
-        translated = dict(texts_of_table(table))
-        for text in sorted(shown):
-            translation = translated.get(text)
-            if not translation:
-                failures.append(f"{table.name}: no translation of {text}")
-            elif translation.count("%@") != text[1].count("%@"):
-                failures.append(f"{table.name}: placeholders differ in {text}")
-        twice = letters_given_twice([translated.get(text) or "" for text in lettered])
-        failures += [f"{table.name}: letter given twice: {letter}" for letter in twice]
-        # A letter in brackets is for scripts whose own letters are on no key.
-        failures += [f"{table.name}: letter in brackets: {text}" for text in sorted(translated.values()) if "(&" in text]
-        failures += [f"{table.name}: not shown any more: {text}" for text in sorted(set(translated) - shown)]
-    print("\n".join(failures) or f"{len(shown)} texts checked")
+    window = list(texts_with_letters(root))
+    failures += [] if len(window) > 15 else [f"only {len(window)} letters were found in the window"]
+    lettered = [window, *menus(root)]
+    failures += [] if len(lettered) > 4 else [f"only {len(lettered) - 1} menus were found"]
+    for group in lettered:
+        failures += [f"letter given twice: {letter}" for letter in letters_given_twice([text for _, text in group])]
+    for language in LANGUAGES:
+        table = Table(root / "app" / "translations" / f"velmora_{language}.ts")
+        failures += wrong_in_table(table, shown, lettered)
+    print("\n".join(failures) or f"{len(shown)} texts checked in {len(LANGUAGES)} languages")
     return 1 if failures else 0
 
 

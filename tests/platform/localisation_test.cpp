@@ -72,8 +72,53 @@ TEST_F(LocalisationTest, AWebPagesMenuIsGermanForAGerman) {
     EXPECT_EQ("Neu laden", QCoreApplication::translate("RenderViewContextMenuQt", "Reload"));
 }
 
+TEST_F(LocalisationTest, LanguageOfTheToolkitFollowsTheProgramsInEach) {
+    const std::pair<QLocale::Language, const char*> words[] = {
+        {QLocale::French, "Coller"},     {QLocale::Spanish, "Pegar"}, {QLocale::Italian, "Incolla"},
+        {QLocale::Japanese, "貼り付け"}, {QLocale::Chinese, "粘贴"},
+    };
+    for (const auto& [language, paste] : words) {
+        speak(language);
+        const QString menu = fieldMenu().join(u'|');
+        EXPECT_TRUE(menu.contains(QString::fromUtf8(paste))) << menu.toStdString();
+    }
+}
+
+TEST_F(LocalisationTest, SimplifiedChineseIsNotForReadersOfTheTraditionalScript) {
+    QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::TraditionalHanScript, QLocale::Taiwan));
+    installLocalisation();
+    EXPECT_EQ("Search Done.", localised("Search Done."));
+}
+
+TEST_F(LocalisationTest, EachLanguageHasItsPluralForms) {
+    struct Forms {
+        QLocale::Language language;
+        const char* none;
+        const char* one;
+        const char* two;
+        const char* many;
+    };
+    const Forms all[] = {
+        {QLocale::English, "0 files", "1 file", "2 files", "12,345 files"},
+        {QLocale::Welsh, "0 files", "1 file", "2 files", "12,345 files"},
+        {QLocale::German, "0 Dateien", "1 Datei", "2 Dateien", "12.345 Dateien"},
+        {QLocale::French, "0 fichier", "1 fichier", "2 fichiers", "12\u202f345 fichiers"},
+        {QLocale::Spanish, "0 archivos", "1 archivo", "2 archivos", "12.345 archivos"},
+        {QLocale::Italian, "0 file", "1 file", "2 file", "12.345 file"},
+        {QLocale::Japanese, "0 個のファイル", "1 個のファイル", "2 個のファイル", "12,345 個のファイル"},
+        {QLocale::Chinese, "0 个文件", "1 个文件", "2 个文件", "12,345 个文件"},
+    };
+    for (const Forms& forms : all) {
+        speak(forms.language);
+        EXPECT_EQ(QString::fromUtf8(forms.none), localised("%Ln file(s)", 0));
+        EXPECT_EQ(QString::fromUtf8(forms.one), localised("%Ln file(s)", 1));
+        EXPECT_EQ(QString::fromUtf8(forms.two), localised("%Ln file(s)", 2));
+        EXPECT_EQ(QString::fromUtf8(forms.many), localised("%Ln file(s)", 12345));
+    }
+}
+
 TEST_F(LocalisationTest, WithoutATableOfItsOwnTheWholeProgramIsEnglishFromLeftToRight) {
-    for (const QLocale::Language language : {QLocale::Welsh, QLocale::French, QLocale::Arabic}) {
+    for (const QLocale::Language language : {QLocale::Welsh, QLocale::Dutch, QLocale::Arabic}) {
         speak(language);
         EXPECT_THAT(fieldMenu(), testing::Contains(QString("Paste"))) << language;
         EXPECT_EQ("Look in:", panelLabel()) << language;

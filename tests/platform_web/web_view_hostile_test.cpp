@@ -1,12 +1,15 @@
 // Pages that want more than to be looked at. Each is clicked first, as pages may do more once they were.
 
+#include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "web_view_fixture.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QImage>
 #include <QMouseEvent>
 #include <QStandardPaths>
 #include <QTest>
@@ -261,6 +264,53 @@ TEST_F(WebViewHostile, PageShowsNothingOfThisProgram) {
     load("/hostile");
     waitFor(800);
     EXPECT_EQ(shownTitle(), "nothing");
+}
+
+TEST_F(WebViewHostile, PageShowsNoFileOfThisMachine) {
+    const ScratchFolder folder;
+    ASSERT_TRUE(QImage(8, 8, QImage::Format_RGB32).save(QString::fromStdString(folder / "picture.png")));
+    write_file(folder / "script.js", "document.title = 'run';");
+    write_file(folder / "page.html", "<title>file</title>");
+    const QByteArray base = "file://" + QByteArray::fromStdString(folder / "");
+    showAndClick("const show = (what) => () => { document.title = what; };"
+                 "const i = new Image(); i.onload = show('seen'); i.src = '" +
+                 base + "picture.png'; fetch('" + base +
+                 "script.js').then((r) => r.text()).then((t) => { document.title = t; }).catch(() => {});"
+                 "const s = document.createElement('script'); s.src = '" +
+                 base +
+                 "script.js'; s.onload = show('run'); document.body.append(s);"
+                 "const f = document.createElement('iframe'); f.src = '" +
+                 base +
+                 "page.html'; f.onload = () => { if (f.contentDocument === null) show('framed')(); };"
+                 "document.body.append(f);"
+                 "addEventListener('click', () => { window.open('" +
+                 base + "page.html'); location = '" + base + "page.html'; });");
+    click(Qt::LeftButton);
+    waitFor(800);
+    EXPECT_EQ(shownTitle(), "hostile");
+}
+
+TEST_F(WebViewHostile, ServerSendsThePageToNoFileOfThisMachine) {
+    const ScratchFolder folder;
+    write_file(folder / "page.html", "<title>file</title>");
+    server.serve("/moved", Answer{.status = 302,
+                                  .extraHeaders = "Location: file://" +
+                                                  QByteArray::fromStdString(folder / "page.html") + "\r\n"});
+    load("/moved");
+    EXPECT_TRUE(events.contains("fail main"));
+    EXPECT_NE(shownTitle(), "file");
+}
+
+TEST_F(WebViewHostile, PageAsksForNoPassword) {
+    server.serve("/secret", Answer{.body = "<title>refused</title>",
+                                   .status = 401,
+                                   .extraHeaders = "WWW-Authenticate: Basic realm=\"Your bank\"\r\n"});
+    const auto windows = QApplication::topLevelWidgets().size();
+    load("/secret");
+    waitFor(500);
+    EXPECT_EQ(shownTitle(), "refused");
+    EXPECT_EQ(QApplication::topLevelWidgets().size(), windows);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(WebViewHostile, PageGetsNoPermission) {

@@ -1,0 +1,1377 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="en">
+<context>
+    <name>Velmora</name>
+    <message>
+        <source>Unable to open file &quot;%@&quot;.</source>
+        <translation>Impossibile aprire il file “%@”.</translation>
+    </message>
+    <message>
+        <source>KORVANE Velmora</source>
+        <translation>KORVANE Velmora</translation>
+    </message>
+    <message>
+        <source>Velmora can only open local files.</source>
+        <translation>Velmora può aprire solo file locali.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Il file non esiste.</translation>
+    </message>
+    <message>
+        <source>Please ensure the file is readable and is a valid media file.</source>
+        <translation>Verificare che il file sia leggibile e che sia un file multimediale valido.</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes you made?</source>
+        <translation>Salvare le modifiche apportate?</translation>
+    </message>
+    <message>
+        <source>Your changes to &quot;%@&quot; will be lost if you don&#x27;t save them.</source>
+        <translation>Le modifiche a “%@” andranno perse se non vengono salvate.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Don&#x27;t Save</source>
+        <translation>Non salvare</translation>
+    </message>
+    <message>
+        <source>Add Files</source>
+        <translation>Aggiungi file</translation>
+    </message>
+    <message>
+        <source>Add Folders</source>
+        <translation>Aggiungi cartelle</translation>
+    </message>
+    <message>
+        <source>Load Cover Art</source>
+        <translation>Carica copertina</translation>
+    </message>
+    <message>
+        <source>Search Done.</source>
+        <translation>Ricerca terminata.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dimensione</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Azione</translation>
+    </message>
+    <message>
+        <source>Adults Only</source>
+        <translation>Solo adulti</translation>
+    </message>
+    <message>
+        <source>Animated</source>
+        <translation>Animazione</translation>
+    </message>
+    <message>
+        <source>Art</source>
+        <translation>Arte</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automobili</translation>
+    </message>
+    <message>
+        <source>Business / Financial</source>
+        <translation>Affari / Finanza</translation>
+    </message>
+    <message>
+        <source>Children</source>
+        <translation>Bambini</translation>
+    </message>
+    <message>
+        <source>Comedy</source>
+        <translation>Commedia</translation>
+    </message>
+    <message>
+        <source>Consumer</source>
+        <translation>Consumatori</translation>
+    </message>
+    <message>
+        <source>Cooking</source>
+        <translation>Cucina</translation>
+    </message>
+    <message>
+        <source>Crime</source>
+        <translation>Poliziesco</translation>
+    </message>
+    <message>
+        <source>Documentary</source>
+        <translation>Documentario</translation>
+    </message>
+    <message>
+        <source>Drama</source>
+        <translation>Drammatico</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>Educativo</translation>
+    </message>
+    <message>
+        <source>Game Show</source>
+        <translation>Gioco a premi</translation>
+    </message>
+    <message>
+        <source>Gay / Lesbian</source>
+        <translation>Gay / Lesbico</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Salute</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Festività</translation>
+    </message>
+    <message>
+        <source>House / Garden</source>
+        <translation>Casa / Giardino</translation>
+    </message>
+    <message>
+        <source>Mystery</source>
+        <translation>Giallo</translation>
+    </message>
+    <message>
+        <source>Nature</source>
+        <translation>Natura</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Notizie</translation>
+    </message>
+    <message>
+        <source>Performing Arts</source>
+        <translation>Arti dello spettacolo</translation>
+    </message>
+    <message>
+        <source>Reality</source>
+        <translation>Reality</translation>
+    </message>
+    <message>
+        <source>Romance</source>
+        <translation>Sentimentale</translation>
+    </message>
+    <message>
+        <source>Science Fiction</source>
+        <translation>Fantascienza</translation>
+    </message>
+    <message>
+        <source>Self Improvement</source>
+        <translation>Crescita personale</translation>
+    </message>
+    <message>
+        <source>Soap</source>
+        <translation>Soap opera</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Spagnolo</translation>
+    </message>
+    <message>
+        <source>Special</source>
+        <translation>Speciale</translation>
+    </message>
+    <message>
+        <source>Sports</source>
+        <translation>Sport</translation>
+    </message>
+    <message>
+        <source>Talk</source>
+        <translation>Talk show</translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation>Viaggi</translation>
+    </message>
+    <message>
+        <source>Western</source>
+        <translation>Western</translation>
+    </message>
+    <message>
+        <source>Artist:</source>
+        <translation>Artista:</translation>
+    </message>
+    <message>
+        <source>Album:</source>
+        <translation>Album:</translation>
+    </message>
+    <message>
+        <source>Cast:</source>
+        <translation>Cast:</translation>
+    </message>
+    <message>
+        <source>Director:</source>
+        <translation>Regia:</translation>
+    </message>
+    <message>
+        <source>Cover art</source>
+        <translation>Copertina</translation>
+    </message>
+    <message>
+        <source>Cover art: drop an image here to store it</source>
+        <translation>Copertina: trascina qui un’immagine per memorizzarla</translation>
+    </message>
+    <message>
+        <source>too large to show</source>
+        <translation>troppo grande per essere mostrata</translation>
+    </message>
+    <message>
+        <source>Drop an image here</source>
+        <translation>Trascina qui un’immagine</translation>
+    </message>
+    <message>
+        <source>Unable to write tags to file &quot;%@&quot;.</source>
+        <translation>Impossibile scrivere i tag nel file “%@”.</translation>
+    </message>
+    <message>
+        <source>Be sure you have permissions to write to the file, and that it is a valid media file.</source>
+        <translation>Verificare di avere il permesso di scrivere nel file e che sia un file multimediale valido.</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>Preview picture</source>
+        <translation>Immagine dell’anteprima</translation>
+    </message>
+    <message>
+        <source>Preview of the selected file</source>
+        <translation>Anteprima del file selezionato</translation>
+    </message>
+    <message>
+        <source>Play or pause the preview</source>
+        <translation>Riproduci o metti in pausa l’anteprima</translation>
+    </message>
+    <message>
+        <source>Position in the preview</source>
+        <translation>Posizione nell’anteprima</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Taglia</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Incolla</translation>
+    </message>
+    <message>
+        <source>Search a site to see its pages here</source>
+        <translation>Cerca in un sito per vederne qui le pagine</translation>
+    </message>
+    <message>
+        <source>The web browser component is not installed.</source>
+        <translation>Il componente del browser web non è installato.</translation>
+    </message>
+    <message>
+        <source>Waiting for the cover …</source>
+        <translation>In attesa della copertina…</translation>
+    </message>
+    <message>
+        <source>Waiting for the cover from %1 …</source>
+        <translation>In attesa della copertina da %1…</translation>
+    </message>
+    <message>
+        <source>Web pages are not shown when the program is run by the system administrator.</source>
+        <translation>Le pagine web non vengono mostrate quando il programma è eseguito dall’amministratore di sistema.</translation>
+    </message>
+    <message>
+        <source>Looking for films and music…</source>
+        <translation>Ricerca di film e musica…</translation>
+    </message>
+    <message>
+        <source>No media files yet. Add files, or a folder to search, with the buttons above.</source>
+        <translation>Ancora nessun file multimediale. Aggiungere dei file, o una cartella in cui cercare, con i pulsanti qui sopra.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>Clear the field</source>
+        <translation>Cancella il campo</translation>
+    </message>
+    <message>
+        <source>Parts of the window</source>
+        <translation>Parti della finestra</translation>
+    </message>
+    <message>
+        <source>Divider</source>
+        <translation>Divisore</translation>
+    </message>
+    <message>
+        <source>Gives the parts of the window more or less room</source>
+        <translation>Dà più o meno spazio alle parti della finestra</translation>
+    </message>
+    <message>
+        <source>No cover art; drop an image here</source>
+        <translation>Nessuna copertina; trascina qui un’immagine</translation>
+    </message>
+    <message>
+        <source>An image of %@ pixels</source>
+        <translation>Un’immagine di %@ pixel</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Immagine</translation>
+    </message>
+    <message>
+        <source>Song</source>
+        <translation>Brano</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>Other file</source>
+        <translation>Altro file</translation>
+    </message>
+    <message>
+        <source>Alt+J</source>
+        <translation>Alt+J</translation>
+    </message>
+    <message>
+        <source>Alt+Q</source>
+        <translation>Alt+Q</translation>
+    </message>
+    <message>
+        <source>Alt+X</source>
+        <translation>Alt+X</translation>
+    </message>
+    <message>
+        <source>Alt+Z</source>
+        <translation>Alt+Y</translation>
+    </message>
+    <message>
+        <source>Alt+W</source>
+        <translation>Alt+K</translation>
+    </message>
+    <message>
+        <source>Usage: velmora [FILE|FOLDER]...</source>
+        <translation>Uso: velmora [FILE|CARTELLA]...</translation>
+    </message>
+    <message>
+        <source>Edits titles, artists, covers and more of films and music.</source>
+        <translation>Modifica titoli, artisti, copertine e altro di film e musica.</translation>
+    </message>
+    <message>
+        <source>  FILE       is listed; a single one is opened</source>
+        <translation>  FILE       viene aggiunto all’elenco; se è uno solo viene aperto</translation>
+    </message>
+    <message>
+        <source>  FOLDER     is searched for films and music</source>
+        <translation>  CARTELLA   viene esaminata alla ricerca di film e musica</translation>
+    </message>
+    <message>
+        <source>  --help     prints this and ends</source>
+        <translation>  --help     mostra questo testo ed esce</translation>
+    </message>
+    <message>
+        <source>  --version  prints the version and ends</source>
+        <translation>  --version  mostra la versione ed esce</translation>
+    </message>
+    <message>
+        <source>velmora: unknown option %@; --help tells the others</source>
+        <translation>velmora: opzione sconosciuta %@; --help elenca le altre</translation>
+    </message>
+    <message>
+        <source>Files of this kind carry no tag</source>
+        <translation>I file di questo tipo non contengono tag</translation>
+    </message>
+    <message>
+        <source>Files of this kind have no such field</source>
+        <translation>I file di questo tipo non hanno questo campo</translation>
+    </message>
+    <message>
+        <source>The file is damaged</source>
+        <translation>Il file è danneggiato</translation>
+    </message>
+    <message>
+        <source>The file is of a sort that can&#x27;t be saved safely</source>
+        <translation>Questo genere di file non può essere salvato in modo sicuro</translation>
+    </message>
+    <message>
+        <source>Something is too large for this kind of file</source>
+        <translation>Qualcosa è troppo grande per questo tipo di file</translation>
+    </message>
+    <message>
+        <source>It is no ordinary file</source>
+        <translation>Non è un file normale</translation>
+    </message>
+    <message>
+        <source>The file is write-protected</source>
+        <translation>Il file è protetto da scrittura</translation>
+    </message>
+    <message>
+        <source>The file has further hard links, which would keep the old contents</source>
+        <translation>Il file ha altri collegamenti fisici, che manterrebbero il vecchio contenuto</translation>
+    </message>
+    <message>
+        <source>Another program changed the file meanwhile</source>
+        <translation>Nel frattempo un altro programma ha modificato il file</translation>
+    </message>
+    <message>
+        <source>No space is left for the new file</source>
+        <translation>Non c’è più spazio per il nuovo file</translation>
+    </message>
+    <message>
+        <source>The new file would have lost something</source>
+        <translation>Il nuovo file avrebbe perso qualcosa</translation>
+    </message>
+    <message>
+        <source>The system could not confirm that the folder is on the disk</source>
+        <translation>Il sistema non ha potuto confermare che la cartella sia sul disco</translation>
+    </message>
+    <message>
+        <source>The save was cancelled</source>
+        <translation>Il salvataggio è stato annullato</translation>
+    </message>
+    <message>
+        <source>Its tag can&#x27;t be changed in place</source>
+        <translation>Il suo tag non può essere modificato sul posto</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Close this notice</source>
+        <translation>Chiudi questo avviso</translation>
+    </message>
+    <message>
+        <source>Saving &quot;%@&quot;…</source>
+        <translation>Salvataggio di “%@”…</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>Leave the file as it was</source>
+        <translation>Lascia il file com’era</translation>
+    </message>
+    <message>
+        <source>The portable tags of &quot;%@&quot; can&#x27;t be read.</source>
+        <translation>I tag portabili di “%@” non possono essere letti.</translation>
+    </message>
+    <message>
+        <source>Other programs see more in this file</source>
+        <translation>Altri programmi vedono di più in questo file</translation>
+    </message>
+    <message>
+        <source>Show It</source>
+        <translation>Mostra</translation>
+    </message>
+    <message>
+        <source>Switch to the tags that other programs read</source>
+        <translation>Passa ai tag che leggono gli altri programmi</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Sempre</translation>
+    </message>
+    <message>
+        <source>Switch to these tags, now and at each start</source>
+        <translation>Passa a questi tag, ora e a ogni avvio</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; was not saved.</source>
+        <translation>“%@” non è stato salvato.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; was saved, but not all of it can be read back.</source>
+        <translation>“%@” è stato salvato, ma non tutto può essere riletto.</translation>
+    </message>
+    <message>
+        <source>Save With Portable Tags</source>
+        <translation>Salva con tag portabili</translation>
+    </message>
+    <message>
+        <source>Write the changes into the tags that other programs read, and replace the file in one step</source>
+        <translation>Scrive le modifiche nei tag che leggono gli altri programmi e sostituisce il file in un solo passaggio</translation>
+    </message>
+    <message>
+        <source>Save so, and do so from now on, also after the next start</source>
+        <translation>Salva così, d’ora in poi e anche dopo il prossimo avvio</translation>
+    </message>
+    <message>
+        <source>Saved. Other programs see it: %@</source>
+        <translation>Salvato. Gli altri programmi lo vedono: %@</translation>
+    </message>
+    <message>
+        <source>Saved. Other programs read no tag in files of this kind: %@</source>
+        <translation>Salvato. Gli altri programmi non leggono tag in file di questo tipo: %@</translation>
+    </message>
+    <message>
+        <source>Replace Anyway</source>
+        <translation>Sostituisci comunque</translation>
+    </message>
+    <message>
+        <source>The other links keep the old contents</source>
+        <translation>Gli altri collegamenti mantengono il vecchio contenuto</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; was not saved; its edits are kept.</source>
+        <translation>“%@” non è stato salvato; le sue modifiche sono conservate.</translation>
+    </message>
+    <message>
+        <source>Restore Unsaved Edits</source>
+        <translation>Recupera le modifiche non salvate</translation>
+    </message>
+    <message>
+        <source>Open the file again whose edits could not be saved, and put them back</source>
+        <translation>Riapri il file le cui modifiche non si sono potute salvare e ripristinale</translation>
+    </message>
+    <message>
+        <source>The edits of &quot;%@&quot; are back, and not saved yet.</source>
+        <translation>Le modifiche di “%@” sono state recuperate e non sono ancora salvate.</translation>
+    </message>
+    <message>
+        <source>A percent sign stands alone. Write %% for a percent sign.</source>
+        <translation>C’è un segno di percentuale isolato. Scrivere %% per un segno di percentuale.</translation>
+    </message>
+    <message>
+        <source>There is no field &quot;%@&quot;.</source>
+        <translation>Non esiste un campo “%@”.</translation>
+    </message>
+    <message>
+        <source>The name does not fit the pattern</source>
+        <translation>Il nome non corrisponde al modello</translation>
+    </message>
+    <message>
+        <source>Files of this kind have no such field: %@</source>
+        <translation>I file di questo tipo non hanno questo campo: %@</translation>
+    </message>
+    <message>
+        <source>It says so already</source>
+        <translation>È già così</translation>
+    </message>
+    <message>
+        <source>It has that name already</source>
+        <translation>Ha già questo nome</translation>
+    </message>
+    <message>
+        <source>The name is cut: it would be too long</source>
+        <translation>Il nome viene accorciato: sarebbe troppo lungo</translation>
+    </message>
+    <message>
+        <source>No value: %@</source>
+        <translation>Nessun valore: %@</translation>
+    </message>
+    <message>
+        <source>No name is left of the values</source>
+        <translation>Dai valori non resta alcun nome</translation>
+    </message>
+    <message>
+        <source>The file keeps its name: its tag lies in another file that goes by it</source>
+        <translation>Il file mantiene il suo nome: il suo tag si trova in un altro file che ne dipende</translation>
+    </message>
+    <message>
+        <source>Another row has that name or is to get it</source>
+        <translation>Un’altra riga ha questo nome o sta per riceverlo</translation>
+    </message>
+    <message>
+        <source>There is a file of that name</source>
+        <translation>Esiste già un file con questo nome</translation>
+    </message>
+    <message>
+        <source>Its tags have not been read yet</source>
+        <translation>I suoi tag non sono ancora stati letti</translation>
+    </message>
+    <message>
+        <source>Its tags can&#x27;t be read</source>
+        <translation>I suoi tag non possono essere letti</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Tags from Names</source>
+        <translation>Tag dai nomi</translation>
+    </message>
+    <message>
+        <source>Names from Tags</source>
+        <translation>Nomi dai tag</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation>&amp;Modello:</translation>
+    </message>
+    <message>
+        <source>Fields between percent signs, and the text between them</source>
+        <translation>I campi tra segni di percentuale e il testo che li separa</translation>
+    </message>
+    <message>
+        <source>&amp;Insert Field</source>
+        <translation>Inserisci &amp;campo</translation>
+    </message>
+    <message>
+        <source>Put a field into the pattern</source>
+        <translation>Inserisci un campo nel modello</translation>
+    </message>
+    <message>
+        <source>%skip% stands for text that is left out, a slash for a folder.</source>
+        <translation>%skip% indica testo da tralasciare, una barra una cartella.</translation>
+    </message>
+    <message>
+        <source>%folder% stands for the name of the file&#x27;s folder.</source>
+        <translation>%folder% indica il nome della cartella del file.</translation>
+    </message>
+    <message>
+        <source>What becomes of every file</source>
+        <translation>Che cosa diventa ogni file</translation>
+    </message>
+    <message>
+        <source>Show only files that something is &amp;wrong with</source>
+        <translation>Mostra solo i &amp;file con qualche problema</translation>
+    </message>
+    <message>
+        <source>Hide the files that the pattern fits</source>
+        <translation>Nascondi i file a cui il modello si adatta</translation>
+    </message>
+    <message>
+        <source>&amp;Set Tags</source>
+        <translation>&amp;Imposta tag</translation>
+    </message>
+    <message>
+        <source>&amp;Set Names</source>
+        <translation>Imposta &amp;nomi</translation>
+    </message>
+    <message>
+        <source>Make these edits of the table; no file changes before they are applied</source>
+        <translation>Rendile modifiche della tabella; nessun file cambia prima che vengano applicate</translation>
+    </message>
+    <message>
+        <source>Leave everything as it is</source>
+        <translation>Lascia tutto com’è</translation>
+    </message>
+    <message>
+        <source>New Name</source>
+        <translation>Nuovo nome</translation>
+    </message>
+    <message>
+        <source>The preview is being made.</source>
+        <translation>L’anteprima è in preparazione.</translation>
+    </message>
+    <message>
+        <source>Files that change: %@.</source>
+        <translation>File che cambiano: %@.</translation>
+    </message>
+    <message>
+        <source>Files that something is wrong with: %@; they are left alone.</source>
+        <translation>File con qualche problema: %@; restano come sono.</translation>
+    </message>
+    <message>
+        <source>&amp;Tags from Names...</source>
+        <translation>&amp;Tag dai nomi…</translation>
+    </message>
+    <message>
+        <source>Take the tags of the selected files from their names, by a pattern</source>
+        <translation>Ricava i tag dei file selezionati dai loro nomi, secondo un modello</translation>
+    </message>
+    <message>
+        <source>&amp;Names from Tags...</source>
+        <translation>&amp;Nomi dai tag…</translation>
+    </message>
+    <message>
+        <source>Give the selected files names made of their tags, by a pattern</source>
+        <translation>Dà ai file selezionati nomi formati dai loro tag, secondo un modello</translation>
+    </message>
+    <message>
+        <source>&amp;Names</source>
+        <translation>&amp;Nomi</translation>
+    </message>
+    <message>
+        <source>The pattern is empty.</source>
+        <translation>Il modello è vuoto.</translation>
+    </message>
+    <message>
+        <source>There is nothing beside a slash.</source>
+        <translation>Non c’è nulla accanto a una barra.</translation>
+    </message>
+    <message>
+        <source>Nothing divides one field from the next.</source>
+        <translation>Nulla separa un campo dal successivo.</translation>
+    </message>
+    <message>
+        <source>A field comes twice.</source>
+        <translation>Un campo compare due volte.</translation>
+    </message>
+    <message>
+        <source>%skip% has no place in a new name.</source>
+        <translation>%skip% non può stare in un nuovo nome.</translation>
+    </message>
+    <message>
+        <source>A name has no slash: files stay in their folders.</source>
+        <translation>Un nome non contiene barre: i file restano nelle loro cartelle.</translation>
+    </message>
+    <message>
+        <source>There is no field in the pattern.</source>
+        <translation>Il modello non contiene alcun campo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s)</source>
+        <translation>
+            <numerusform>%Ln file</numerusform>
+            <numerusform>%Ln file</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%@ not applied</source>
+        <translation>Non applicati: %@</translation>
+    </message>
+    <message>
+        <source>%@ selected</source>
+        <translation>Selezionati: %@</translation>
+    </message>
+    <message>
+        <source>%@ shown</source>
+        <translation>Mostrati: %@</translation>
+    </message>
+    <message>
+        <source>%@ to be read</source>
+        <translation>Da leggere: %@</translation>
+    </message>
+    <message>
+        <source>%@, not applied</source>
+        <translation>%@, non applicato</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>&amp;Ordina per</translation>
+    </message>
+    <message>
+        <source>&amp;Then By</source>
+        <translation>&amp;Poi per</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>Album / Director</source>
+        <translation>Album / Regia</translation>
+    </message>
+    <message>
+        <source>Artist / Cast</source>
+        <translation>Artista / Cast</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Copertina</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genere</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>Libreria</translation>
+    </message>
+    <message>
+        <source>Library Table</source>
+        <translation>Tabella della libreria</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Classificazione</translation>
+    </message>
+    <message>
+        <source>Synopsis / Comment</source>
+        <translation>Sinossi / Commento</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titolo</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Anno</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Guida per l’utente</translation>
+    </message>
+    <message>
+        <source>The guide&#x27;s text</source>
+        <translation>Il testo della guida</translation>
+    </message>
+    <message>
+        <source>&amp;Go to:</source>
+        <translation>&amp;Vai a:</translation>
+    </message>
+    <message>
+        <source>Go to a heading of the guide</source>
+        <translation>Vai a un titolo della guida</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Trova:</translation>
+    </message>
+    <message>
+        <source>Find words in the guide; Return goes to the next place</source>
+        <translation>Cerca parole nella guida; Invio passa al risultato successivo</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Non trovato</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>La guida per l’utente non è installata.</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Tastiera</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tasto</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Che cosa fa</translation>
+    </message>
+    <message>
+        <source>Every key and what it does</source>
+        <translation>Tutti i tasti e che cosa fanno</translation>
+    </message>
+    <message>
+        <source>Close this window</source>
+        <translation>Chiudi questa finestra</translation>
+    </message>
+    <message>
+        <source>%@ menu</source>
+        <translation>Menu %@</translation>
+    </message>
+    <message>
+        <source>Letters, in the list</source>
+        <translation>Lettere, nell’elenco</translation>
+    </message>
+    <message>
+        <source>The next name that begins with them</source>
+        <translation>Il prossimo nome che inizia così</translation>
+    </message>
+    <message>
+        <source>In the list: the file above, below</source>
+        <translation>Nell’elenco: il file sopra, sotto</translation>
+    </message>
+    <message>
+        <source>On the cover: cut it</source>
+        <translation>Sulla copertina: tagliarla</translation>
+    </message>
+    <message>
+        <source>On the cover: copy it</source>
+        <translation>Sulla copertina: copiarla</translation>
+    </message>
+    <message>
+        <source>On the cover: paste one</source>
+        <translation>Sulla copertina: incollarne una</translation>
+    </message>
+    <message>
+        <source>The next control</source>
+        <translation>Il controllo successivo</translation>
+    </message>
+    <message>
+        <source>The control before</source>
+        <translation>Il controllo precedente</translation>
+    </message>
+    <message>
+        <source>The menus</source>
+        <translation>I menu</translation>
+    </message>
+    <message>
+        <source>The buttons of the line above the form</source>
+        <translation>I pulsanti della riga sopra il modulo</translation>
+    </message>
+    <message>
+        <source>Ends the wait for a page or a cover; closes the line above the form</source>
+        <translation>Termina l’attesa di una pagina o di una copertina; chiude la riga sopra il modulo</translation>
+    </message>
+    <message>
+        <source>About Velmora</source>
+        <translation>Informazioni su Velmora</translation>
+    </message>
+    <message>
+        <source>MIT licence: free to use, to change and to pass on, without any warranty.</source>
+        <translation>Licenza MIT: libero uso, modifica e ridistribuzione, senza alcuna garanzia.</translation>
+    </message>
+    <message>
+        <source>Built on Qt %@ with its web engine and multimedia, TagLib, GStreamer, libjpeg and libpng, each under its own licence.</source>
+        <translation>Basato su Qt %@ con il suo motore web e multimedia, TagLib, GStreamer, libjpeg e libpng, ciascuno con la propria licenza.</translation>
+    </message>
+    <message>
+        <source>What Velmora is and what it is built on</source>
+        <translation>Che cos’è Velmora e su che cosa si basa</translation>
+    </message>
+    <message>
+        <source>The window will look like this at each start.</source>
+        <translation>La finestra avrà questo aspetto a ogni avvio.</translation>
+    </message>
+    <message>
+        <source>The layout can&#x27;t be remembered: the settings file can&#x27;t be written.</source>
+        <translation>La disposizione non può essere ricordata: il file delle impostazioni non può essere scritto.</translation>
+    </message>
+    <message>
+        <source>Nothing is remembered any more: there is no settings file.</source>
+        <translation>Non è più ricordato nulla: non c’è alcun file delle impostazioni.</translation>
+    </message>
+    <message>
+        <source>The settings file can&#x27;t be removed.</source>
+        <translation>Il file delle impostazioni non può essere rimosso.</translation>
+    </message>
+</context>
+<context>
+    <name>MyDocument</name>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>Aggiungi &amp;file…</translation>
+    </message>
+    <message>
+        <source>Add F&amp;older…</source>
+        <translation>&amp;Aggiungi cartella…</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Ripristina</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+    <message>
+        <source>&amp;Find in List</source>
+        <translation>&amp;Trova nell’elenco</translation>
+    </message>
+    <message>
+        <source>&amp;Load Cover Art…</source>
+        <translation>&amp;Carica copertina…</translation>
+    </message>
+    <message>
+        <source>Look &amp;Up on the Web</source>
+        <translation>Cerca &amp;sul web</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Visualizza</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Name</source>
+        <translation>Ordina per &amp;nome</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Size</source>
+        <translation>Ordina &amp;per dimensione</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Date</source>
+        <translation>&amp;Ordina per data</translation>
+    </message>
+    <message>
+        <source>&amp;Portable Tags</source>
+        <translation>&amp;Tag portabili</translation>
+    </message>
+    <message>
+        <source>Open and save with the tags that other programs read</source>
+        <translation>Apri e salva con i tag che leggono gli altri programmi</translation>
+    </message>
+    <message>
+        <source>Restore Unsaved &amp;Edits</source>
+        <translation>&amp;Recupera le modifiche non salvate</translation>
+    </message>
+    <message>
+        <source>Open the file again whose edits could not be saved, and put them back</source>
+        <translation>Riapri il file le cui modifiche non si sono potute salvare e ripristinale</translation>
+    </message>
+    <message>
+        <source>&amp;Library Table</source>
+        <translation>&amp;Tabella della libreria</translation>
+    </message>
+    <message>
+        <source>Show all files of the list with their tags, and edit many at once</source>
+        <translation>Mostra tutti i file dell’elenco con i loro tag e modificane molti insieme</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>&amp;Guida per l’utente</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation>&amp;Tastiera</translation>
+    </message>
+    <message>
+        <source>&amp;About Velmora</source>
+        <translation>&amp;Informazioni su Velmora</translation>
+    </message>
+    <message>
+        <source>&amp;Remember This Layout</source>
+        <translation>&amp;Ricorda questa disposizione</translation>
+    </message>
+    <message>
+        <source>Start with this size, division, column widths and sorting from now on</source>
+        <translation>Avvia d’ora in poi con queste dimensioni, divisioni, larghezze delle colonne e ordinamento</translation>
+    </message>
+    <message>
+        <source>&amp;Forget Everything</source>
+        <translation>&amp;Dimentica tutto</translation>
+    </message>
+    <message>
+        <source>Remove the settings file, with the layout and the choice of portable tags</source>
+        <translation>Rimuovi il file delle impostazioni, con la disposizione e la scelta dei tag portabili</translation>
+    </message>
+</context>
+<context>
+    <name>MediaList</name>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>Aggiu&amp;ngi file…</translation>
+    </message>
+    <message>
+        <source>Add files to the list</source>
+        <translation>Aggiungi file all’elenco</translation>
+    </message>
+    <message>
+        <source>Add F&amp;older…</source>
+        <translation>Aggiungi carte&amp;lla…</translation>
+    </message>
+    <message>
+        <source>Search a folder for media files</source>
+        <translation>Cerca file multimediali in una cartella</translation>
+    </message>
+    <message>
+        <source>Turns while folders are searched</source>
+        <translation>Gira durante la ricerca nelle cartelle</translation>
+    </message>
+    <message>
+        <source>Search in progress</source>
+        <translation>Ricerca in corso</translation>
+    </message>
+    <message>
+        <source>The folder that is being searched</source>
+        <translation>La cartella in cui si sta cercando</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>&amp;Interrompi</translation>
+    </message>
+    <message>
+        <source>Stop the search</source>
+        <translation>Interrompi la ricerca</translation>
+    </message>
+    <message>
+        <source>The media files found; type a name to find one</source>
+        <translation>I file multimediali trovati; digitare un nome per cercarne uno</translation>
+    </message>
+    <message>
+        <source>Media files</source>
+        <translation>File multimediali</translation>
+    </message>
+</context>
+<context>
+    <name>TagForm</name>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titolo:</translation>
+    </message>
+    <message>
+        <source>The title of the film or song</source>
+        <translation>Il titolo del film o del brano</translation>
+    </message>
+    <message>
+        <source>&amp;Year:</source>
+        <translation>&amp;Anno:</translation>
+    </message>
+    <message>
+        <source>The year of release</source>
+        <translation>L’anno di uscita</translation>
+    </message>
+    <message>
+        <source>Artist:</source>
+        <translation>Artista:</translation>
+    </message>
+    <message>
+        <source>The artist of a song, the cast of a film</source>
+        <translation>L’artista di un brano, il cast di un film</translation>
+    </message>
+    <message>
+        <source>&amp;Genre:</source>
+        <translation>&amp;Genere:</translation>
+    </message>
+    <message>
+        <source>The genre: choose one or type your own</source>
+        <translation>Il genere: sceglierne uno o digitarne uno proprio</translation>
+    </message>
+    <message>
+        <source>Album:</source>
+        <translation>Album:</translation>
+    </message>
+    <message>
+        <source>The album of a song, the director of a film</source>
+        <translation>L’album di un brano, la regia di un film</translation>
+    </message>
+    <message>
+        <source>Rat&amp;ing:</source>
+        <translation>Classifica&amp;zione:</translation>
+    </message>
+    <message>
+        <source>The parental rating of a film</source>
+        <translation>La classificazione per età di un film</translation>
+    </message>
+    <message>
+        <source>Sy&amp;nopsis:</source>
+        <translation>&amp;Sinossi:</translation>
+    </message>
+    <message>
+        <source>What the film is about</source>
+        <translation>Di che cosa parla il film</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Data:</translation>
+    </message>
+    <message>
+        <source>The date, for information: it is not written into the file</source>
+        <translation>La data, a titolo informativo: non viene scritta nel file</translation>
+    </message>
+    <message>
+        <source>&amp;Cover Art:</source>
+        <translation>Co&amp;pertina:</translation>
+    </message>
+    <message>
+        <source>The cover art; drop an image here</source>
+        <translation>La copertina; trascina qui un’immagine</translation>
+    </message>
+    <message>
+        <source>&amp;Load…</source>
+        <translation>&amp;Carica…</translation>
+    </message>
+    <message>
+        <source>Load cover art from an image file</source>
+        <translation>Carica la copertina da un file immagine</translation>
+    </message>
+    <message>
+        <source>Tri&amp;m</source>
+        <translation>Ritaglia &amp;bordo</translation>
+    </message>
+    <message>
+        <source>Trim a border of one colour off the cover art</source>
+        <translation>Ritaglia dalla copertina un bordo di un solo colore</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Tag</source>
+        <translation>Rimuovi etic&amp;hetta</translation>
+    </message>
+    <message>
+        <source>Forget the changes without writing them</source>
+        <translation>Dimentica le modifiche senza scriverle</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Ripristina</translation>
+    </message>
+    <message>
+        <source>Read the file again and drop the changes</source>
+        <translation>Rileggi il file e scarta le modifiche</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>Sal&amp;va</translation>
+    </message>
+    <message>
+        <source>Write the changes into the file</source>
+        <translation>Scrivi le modifiche nel file</translation>
+    </message>
+    <message>
+        <source>for information only</source>
+        <translation>solo a titolo informativo</translation>
+    </message>
+</context>
+<context>
+    <name>MoviePreview</name>
+    <message>
+        <source>Preview:</source>
+        <translation>Anteprima:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>A preview of the file</source>
+        <translation>Un’anteprima del file</translation>
+    </message>
+    <message>
+        <source>This file can’t be previewed.</source>
+        <translation>Anteprima non disponibile per questo file.</translation>
+    </message>
+    <message>
+        <source>Ta&amp;ke Frame</source>
+        <translation>&amp;Usa fotogramma</translation>
+    </message>
+    <message>
+        <source>Take the frame shown as cover art</source>
+        <translation>Usa il fotogramma mostrato come copertina</translation>
+    </message>
+</context>
+<context>
+    <name>TagWebBrowser</name>
+    <message>
+        <source>Look &amp;up:</source>
+        <translation>Sul &amp;web:</translation>
+    </message>
+    <message>
+        <source>The site to search</source>
+        <translation>Il sito in cui cercare</translation>
+    </message>
+    <message>
+        <source>The text to search for</source>
+        <translation>Il testo da cercare</translation>
+    </message>
+    <message>
+        <source>Searc&amp;h</source>
+        <translation>C&amp;erca</translation>
+    </message>
+    <message>
+        <source>Search the site for the text</source>
+        <translation>Cerca il testo nel sito</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>Indietr&amp;o</translation>
+    </message>
+    <message>
+        <source>Go back to the page before</source>
+        <translation>Torna alla pagina precedente</translation>
+    </message>
+    <message>
+        <source>Turns while a page loads</source>
+        <translation>Gira durante il caricamento di una pagina</translation>
+    </message>
+    <message>
+        <source>Page loading</source>
+        <translation>Caricamento della pagina</translation>
+    </message>
+    <message>
+        <source>Fill Form</source>
+        <translation>Compila modulo</translation>
+    </message>
+    <message>
+        <source>Fill the form from the page shown</source>
+        <translation>Compila il modulo dalla pagina mostrata</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Indirizzo:</translation>
+    </message>
+    <message>
+        <source>The address of the page shown</source>
+        <translation>L’indirizzo della pagina mostrata</translation>
+    </message>
+    <message>
+        <source>Address of the page</source>
+        <translation>Indirizzo della pagina</translation>
+    </message>
+    <message>
+        <source>What the form fill waits for</source>
+        <translation>Che cosa attende la compilazione del modulo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Fill the form without the cover (Esc)</source>
+        <translation>Compila il modulo senza la copertina (Esc)</translation>
+    </message>
+    <message>
+        <source>The page</source>
+        <translation>La pagina</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Pagina web</translation>
+    </message>
+    <message>
+        <source>The page could not be loaded.</source>
+        <translation>Impossibile caricare la pagina.</translation>
+    </message>
+    <message>
+        <source>Site:</source>
+        <translation>Sito:</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1376 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en">
+<context>
+    <name>Velmora</name>
+    <message>
+        <source>Unable to open file &quot;%@&quot;.</source>
+        <translation>ファイル「%@」を開けません。</translation>
+    </message>
+    <message>
+        <source>KORVANE Velmora</source>
+        <translation>KORVANE Velmora</translation>
+    </message>
+    <message>
+        <source>Velmora can only open local files.</source>
+        <translation>Velmora で開けるのはローカルのファイルだけです。</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>ファイルが存在しません。</translation>
+    </message>
+    <message>
+        <source>Please ensure the file is readable and is a valid media file.</source>
+        <translation>ファイルが読み取り可能で、正しいメディアファイルであることを確認してください。</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes you made?</source>
+        <translation>変更を保存しますか？</translation>
+    </message>
+    <message>
+        <source>Your changes to &quot;%@&quot; will be lost if you don&#x27;t save them.</source>
+        <translation>保存しないと、「%@」への変更は失われます。</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Don&#x27;t Save</source>
+        <translation>保存しない</translation>
+    </message>
+    <message>
+        <source>Add Files</source>
+        <translation>ファイルを追加</translation>
+    </message>
+    <message>
+        <source>Add Folders</source>
+        <translation>フォルダを追加</translation>
+    </message>
+    <message>
+        <source>Load Cover Art</source>
+        <translation>カバーアートを読み込む</translation>
+    </message>
+    <message>
+        <source>Search Done.</source>
+        <translation>検索が完了しました。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>アクション</translation>
+    </message>
+    <message>
+        <source>Adults Only</source>
+        <translation>成人向け</translation>
+    </message>
+    <message>
+        <source>Animated</source>
+        <translation>アニメ</translation>
+    </message>
+    <message>
+        <source>Art</source>
+        <translation>芸術</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自動車</translation>
+    </message>
+    <message>
+        <source>Business / Financial</source>
+        <translation>ビジネス / 金融</translation>
+    </message>
+    <message>
+        <source>Children</source>
+        <translation>子供向け</translation>
+    </message>
+    <message>
+        <source>Comedy</source>
+        <translation>コメディ</translation>
+    </message>
+    <message>
+        <source>Consumer</source>
+        <translation>消費生活</translation>
+    </message>
+    <message>
+        <source>Cooking</source>
+        <translation>料理</translation>
+    </message>
+    <message>
+        <source>Crime</source>
+        <translation>犯罪</translation>
+    </message>
+    <message>
+        <source>Documentary</source>
+        <translation>ドキュメンタリー</translation>
+    </message>
+    <message>
+        <source>Drama</source>
+        <translation>ドラマ</translation>
+    </message>
+    <message>
+        <source>Educational</source>
+        <translation>教育</translation>
+    </message>
+    <message>
+        <source>Game Show</source>
+        <translation>クイズ番組</translation>
+    </message>
+    <message>
+        <source>Gay / Lesbian</source>
+        <translation>ゲイ / レズビアン</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>健康</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>祝祭日</translation>
+    </message>
+    <message>
+        <source>House / Garden</source>
+        <translation>住まい / 園芸</translation>
+    </message>
+    <message>
+        <source>Mystery</source>
+        <translation>ミステリー</translation>
+    </message>
+    <message>
+        <source>Nature</source>
+        <translation>自然</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>ニュース</translation>
+    </message>
+    <message>
+        <source>Performing Arts</source>
+        <translation>舞台芸術</translation>
+    </message>
+    <message>
+        <source>Reality</source>
+        <translation>リアリティ番組</translation>
+    </message>
+    <message>
+        <source>Romance</source>
+        <translation>恋愛</translation>
+    </message>
+    <message>
+        <source>Science Fiction</source>
+        <translation>SF</translation>
+    </message>
+    <message>
+        <source>Self Improvement</source>
+        <translation>自己啓発</translation>
+    </message>
+    <message>
+        <source>Soap</source>
+        <translation>連続メロドラマ</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>スペイン語</translation>
+    </message>
+    <message>
+        <source>Special</source>
+        <translation>特別番組</translation>
+    </message>
+    <message>
+        <source>Sports</source>
+        <translation>スポーツ</translation>
+    </message>
+    <message>
+        <source>Talk</source>
+        <translation>トーク</translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation>旅行</translation>
+    </message>
+    <message>
+        <source>Western</source>
+        <translation>西部劇</translation>
+    </message>
+    <message>
+        <source>Artist:</source>
+        <translation>アーティスト:</translation>
+    </message>
+    <message>
+        <source>Album:</source>
+        <translation>アルバム:</translation>
+    </message>
+    <message>
+        <source>Cast:</source>
+        <translation>出演者:</translation>
+    </message>
+    <message>
+        <source>Director:</source>
+        <translation>監督:</translation>
+    </message>
+    <message>
+        <source>Cover art</source>
+        <translation>カバーアート</translation>
+    </message>
+    <message>
+        <source>Cover art: drop an image here to store it</source>
+        <translation>カバーアート: 画像をここにドロップすると保存できます</translation>
+    </message>
+    <message>
+        <source>too large to show</source>
+        <translation>大きすぎて表示できません</translation>
+    </message>
+    <message>
+        <source>Drop an image here</source>
+        <translation>画像をここにドロップ</translation>
+    </message>
+    <message>
+        <source>Unable to write tags to file &quot;%@&quot;.</source>
+        <translation>ファイル「%@」にタグを書き込めません。</translation>
+    </message>
+    <message>
+        <source>Be sure you have permissions to write to the file, and that it is a valid media file.</source>
+        <translation>ファイルへの書き込み権限があり、正しいメディアファイルであることを確認してください。</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Preview picture</source>
+        <translation>プレビュー画像</translation>
+    </message>
+    <message>
+        <source>Preview of the selected file</source>
+        <translation>選択したファイルのプレビュー</translation>
+    </message>
+    <message>
+        <source>Play or pause the preview</source>
+        <translation>プレビューを再生または一時停止</translation>
+    </message>
+    <message>
+        <source>Position in the preview</source>
+        <translation>プレビューの再生位置</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Search a site to see its pages here</source>
+        <translation>サイトを検索すると、ここにページが表示されます</translation>
+    </message>
+    <message>
+        <source>The web browser component is not installed.</source>
+        <translation>ウェブブラウザのコンポーネントがインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Waiting for the cover …</source>
+        <translation>カバーを待っています…</translation>
+    </message>
+    <message>
+        <source>Waiting for the cover from %1 …</source>
+        <translation>%1 からのカバーを待っています…</translation>
+    </message>
+    <message>
+        <source>Web pages are not shown when the program is run by the system administrator.</source>
+        <translation>システム管理者がプログラムを実行している場合、ウェブページは表示されません。</translation>
+    </message>
+    <message>
+        <source>Looking for films and music…</source>
+        <translation>映画と音楽を探しています…</translation>
+    </message>
+    <message>
+        <source>No media files yet. Add files, or a folder to search, with the buttons above.</source>
+        <translation>メディアファイルはまだありません。上のボタンでファイルや検索するフォルダを追加してください。</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Clear the field</source>
+        <translation>入力欄を消去</translation>
+    </message>
+    <message>
+        <source>Parts of the window</source>
+        <translation>ウィンドウの区画</translation>
+    </message>
+    <message>
+        <source>Divider</source>
+        <translation>区切り</translation>
+    </message>
+    <message>
+        <source>Gives the parts of the window more or less room</source>
+        <translation>ウィンドウの各区画の広さを変えます</translation>
+    </message>
+    <message>
+        <source>No cover art; drop an image here</source>
+        <translation>カバーアートはありません。画像をここにドロップしてください</translation>
+    </message>
+    <message>
+        <source>An image of %@ pixels</source>
+        <translation>%@ ピクセルの画像</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Song</source>
+        <translation>曲</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>映画</translation>
+    </message>
+    <message>
+        <source>Other file</source>
+        <translation>その他のファイル</translation>
+    </message>
+    <message>
+        <source>Alt+J</source>
+        <translation>Alt+J</translation>
+    </message>
+    <message>
+        <source>Alt+Q</source>
+        <translation>Alt+Q</translation>
+    </message>
+    <message>
+        <source>Alt+X</source>
+        <translation>Alt+X</translation>
+    </message>
+    <message>
+        <source>Alt+Z</source>
+        <translation>Alt+Z</translation>
+    </message>
+    <message>
+        <source>Alt+W</source>
+        <translation>Alt+W</translation>
+    </message>
+    <message>
+        <source>Usage: velmora [FILE|FOLDER]...</source>
+        <translation>使い方: velmora [ファイル|フォルダ]...</translation>
+    </message>
+    <message>
+        <source>Edits titles, artists, covers and more of films and music.</source>
+        <translation>映画や音楽のタイトル、アーティスト、カバーなどを編集します。</translation>
+    </message>
+    <message>
+        <source>  FILE       is listed; a single one is opened</source>
+        <translation>  ファイル   一覧に加えます。ひとつだけなら開きます</translation>
+    </message>
+    <message>
+        <source>  FOLDER     is searched for films and music</source>
+        <translation>  フォルダ   映画と音楽を検索します</translation>
+    </message>
+    <message>
+        <source>  --help     prints this and ends</source>
+        <translation>  --help     この説明を表示して終了します</translation>
+    </message>
+    <message>
+        <source>  --version  prints the version and ends</source>
+        <translation>  --version  バージョンを表示して終了します</translation>
+    </message>
+    <message>
+        <source>velmora: unknown option %@; --help tells the others</source>
+        <translation>velmora: 不明なオプション %@。--help で使えるものを表示します</translation>
+    </message>
+    <message>
+        <source>Files of this kind carry no tag</source>
+        <translation>この種類のファイルはタグを持ちません</translation>
+    </message>
+    <message>
+        <source>Files of this kind have no such field</source>
+        <translation>この種類のファイルにはこの項目がありません</translation>
+    </message>
+    <message>
+        <source>The file is damaged</source>
+        <translation>ファイルが壊れています</translation>
+    </message>
+    <message>
+        <source>The file is of a sort that can&#x27;t be saved safely</source>
+        <translation>この種のファイルは安全に保存できません</translation>
+    </message>
+    <message>
+        <source>Something is too large for this kind of file</source>
+        <translation>この種類のファイルには大きすぎるものがあります</translation>
+    </message>
+    <message>
+        <source>It is no ordinary file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>The file is write-protected</source>
+        <translation>ファイルは書き込み禁止です</translation>
+    </message>
+    <message>
+        <source>The file has further hard links, which would keep the old contents</source>
+        <translation>ファイルには他のハードリンクがあり、そちらには古い内容が残ります</translation>
+    </message>
+    <message>
+        <source>Another program changed the file meanwhile</source>
+        <translation>その間に別のプログラムがファイルを変更しました</translation>
+    </message>
+    <message>
+        <source>No space is left for the new file</source>
+        <translation>新しいファイルを置く空き容量がありません</translation>
+    </message>
+    <message>
+        <source>The new file would have lost something</source>
+        <translation>新しいファイルから失われるものがあるところでした</translation>
+    </message>
+    <message>
+        <source>The system could not confirm that the folder is on the disk</source>
+        <translation>フォルダがディスクに書き込まれたことを、システムが確認できませんでした</translation>
+    </message>
+    <message>
+        <source>The save was cancelled</source>
+        <translation>保存は取り消されました</translation>
+    </message>
+    <message>
+        <source>Its tag can&#x27;t be changed in place</source>
+        <translation>タグをその場で書き換えられません</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Close this notice</source>
+        <translation>この通知を閉じる</translation>
+    </message>
+    <message>
+        <source>Saving &quot;%@&quot;…</source>
+        <translation>「%@」を保存しています…</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>Leave the file as it was</source>
+        <translation>ファイルを元のままにする</translation>
+    </message>
+    <message>
+        <source>The portable tags of &quot;%@&quot; can&#x27;t be read.</source>
+        <translation>「%@」のポータブルタグを読み取れません。</translation>
+    </message>
+    <message>
+        <source>Other programs see more in this file</source>
+        <translation>他のプログラムでは、このファイルにより多くの情報が表示されます</translation>
+    </message>
+    <message>
+        <source>Show It</source>
+        <translation>表示する</translation>
+    </message>
+    <message>
+        <source>Switch to the tags that other programs read</source>
+        <translation>他のプログラムが読むタグに切り替える</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>常に</translation>
+    </message>
+    <message>
+        <source>Switch to these tags, now and at each start</source>
+        <translation>今すぐ、そして起動するたびに、このタグに切り替える</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; was not saved.</source>
+        <translation>「%@」は保存されませんでした。</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; was saved, but not all of it can be read back.</source>
+        <translation>「%@」は保存されましたが、一部は読み戻せません。</translation>
+    </message>
+    <message>
+        <source>Save With Portable Tags</source>
+        <translation>ポータブルタグで保存</translation>
+    </message>
+    <message>
+        <source>Write the changes into the tags that other programs read, and replace the file in one step</source>
+        <translation>他のプログラムが読むタグに変更を書き込み、ファイルを一度に置き換えます</translation>
+    </message>
+    <message>
+        <source>Save so, and do so from now on, also after the next start</source>
+        <translation>この方法で保存し、今後も、次の起動後もそうする</translation>
+    </message>
+    <message>
+        <source>Saved. Other programs see it: %@</source>
+        <translation>保存しました。他のプログラムでも見えます: %@</translation>
+    </message>
+    <message>
+        <source>Saved. Other programs read no tag in files of this kind: %@</source>
+        <translation>保存しました。他のプログラムはこの種類のファイルのタグを読みません: %@</translation>
+    </message>
+    <message>
+        <source>Replace Anyway</source>
+        <translation>それでも置き換える</translation>
+    </message>
+    <message>
+        <source>The other links keep the old contents</source>
+        <translation>他のリンクには古い内容が残ります</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; was not saved; its edits are kept.</source>
+        <translation>「%@」は保存されませんでした。編集内容は残してあります。</translation>
+    </message>
+    <message>
+        <source>Restore Unsaved Edits</source>
+        <translation>保存されなかった編集を復元</translation>
+    </message>
+    <message>
+        <source>Open the file again whose edits could not be saved, and put them back</source>
+        <translation>編集を保存できなかったファイルを開き直し、編集内容を戻す</translation>
+    </message>
+    <message>
+        <source>The edits of &quot;%@&quot; are back, and not saved yet.</source>
+        <translation>「%@」の編集内容を戻しました。まだ保存されていません。</translation>
+    </message>
+    <message>
+        <source>A percent sign stands alone. Write %% for a percent sign.</source>
+        <translation>パーセント記号が単独で使われています。パーセント記号は %% と書いてください。</translation>
+    </message>
+    <message>
+        <source>There is no field &quot;%@&quot;.</source>
+        <translation>「%@」という項目はありません。</translation>
+    </message>
+    <message>
+        <source>The name does not fit the pattern</source>
+        <translation>名前がパターンに合いません</translation>
+    </message>
+    <message>
+        <source>Files of this kind have no such field: %@</source>
+        <translation>この種類のファイルにはこの項目がありません: %@</translation>
+    </message>
+    <message>
+        <source>It says so already</source>
+        <translation>すでにそうなっています</translation>
+    </message>
+    <message>
+        <source>It has that name already</source>
+        <translation>すでにその名前です</translation>
+    </message>
+    <message>
+        <source>The name is cut: it would be too long</source>
+        <translation>名前が長すぎるため短縮されます</translation>
+    </message>
+    <message>
+        <source>No value: %@</source>
+        <translation>値がありません: %@</translation>
+    </message>
+    <message>
+        <source>No name is left of the values</source>
+        <translation>値から名前が作れません</translation>
+    </message>
+    <message>
+        <source>The file keeps its name: its tag lies in another file that goes by it</source>
+        <translation>ファイルの名前は変わりません: タグは、その名前に従う別のファイルにあります</translation>
+    </message>
+    <message>
+        <source>Another row has that name or is to get it</source>
+        <translation>別の行がその名前であるか、その名前になる予定です</translation>
+    </message>
+    <message>
+        <source>There is a file of that name</source>
+        <translation>その名前のファイルがすでにあります</translation>
+    </message>
+    <message>
+        <source>Its tags have not been read yet</source>
+        <translation>タグはまだ読み取られていません</translation>
+    </message>
+    <message>
+        <source>Its tags can&#x27;t be read</source>
+        <translation>タグを読み取れません</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>備考</translation>
+    </message>
+    <message>
+        <source>Tags from Names</source>
+        <translation>名前からタグを作成</translation>
+    </message>
+    <message>
+        <source>Names from Tags</source>
+        <translation>タグから名前を作成</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation>パターン(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Fields between percent signs, and the text between them</source>
+        <translation>パーセント記号で囲んだ項目と、その間の文字</translation>
+    </message>
+    <message>
+        <source>&amp;Insert Field</source>
+        <translation>項目を挿入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Put a field into the pattern</source>
+        <translation>パターンに項目を入れる</translation>
+    </message>
+    <message>
+        <source>%skip% stands for text that is left out, a slash for a folder.</source>
+        <translation>%skip% は読み飛ばす文字、スラッシュはフォルダを表します。</translation>
+    </message>
+    <message>
+        <source>%folder% stands for the name of the file&#x27;s folder.</source>
+        <translation>%folder% はファイルのあるフォルダの名前を表します。</translation>
+    </message>
+    <message>
+        <source>What becomes of every file</source>
+        <translation>各ファイルがどうなるか</translation>
+    </message>
+    <message>
+        <source>Show only files that something is &amp;wrong with</source>
+        <translation>問題のあるファイルだけを表示(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Hide the files that the pattern fits</source>
+        <translation>パターンに合うファイルを隠す</translation>
+    </message>
+    <message>
+        <source>&amp;Set Tags</source>
+        <translation>タグを設定(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Set Names</source>
+        <translation>名前を設定(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Make these edits of the table; no file changes before they are applied</source>
+        <translation>表の編集にする。適用するまでファイルは変わりません</translation>
+    </message>
+    <message>
+        <source>Leave everything as it is</source>
+        <translation>すべてそのままにする</translation>
+    </message>
+    <message>
+        <source>New Name</source>
+        <translation>新しい名前</translation>
+    </message>
+    <message>
+        <source>The preview is being made.</source>
+        <translation>プレビューを作成しています。</translation>
+    </message>
+    <message>
+        <source>Files that change: %@.</source>
+        <translation>変わるファイル: %@。</translation>
+    </message>
+    <message>
+        <source>Files that something is wrong with: %@; they are left alone.</source>
+        <translation>問題のあるファイル: %@。これらはそのままにします。</translation>
+    </message>
+    <message>
+        <source>&amp;Tags from Names...</source>
+        <translation>名前からタグを作成(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Take the tags of the selected files from their names, by a pattern</source>
+        <translation>選択したファイルのタグを、パターンに従って名前から取る</translation>
+    </message>
+    <message>
+        <source>&amp;Names from Tags...</source>
+        <translation>タグから名前を作成(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>Give the selected files names made of their tags, by a pattern</source>
+        <translation>選択したファイルに、パターンに従ってタグから作った名前を付ける</translation>
+    </message>
+    <message>
+        <source>&amp;Names</source>
+        <translation>名前(&amp;N)</translation>
+    </message>
+    <message>
+        <source>The pattern is empty.</source>
+        <translation>パターンが空です。</translation>
+    </message>
+    <message>
+        <source>There is nothing beside a slash.</source>
+        <translation>スラッシュの隣に何もありません。</translation>
+    </message>
+    <message>
+        <source>Nothing divides one field from the next.</source>
+        <translation>項目と項目の間に区切りがありません。</translation>
+    </message>
+    <message>
+        <source>A field comes twice.</source>
+        <translation>同じ項目が二度使われています。</translation>
+    </message>
+    <message>
+        <source>%skip% has no place in a new name.</source>
+        <translation>%skip% は新しい名前には使えません。</translation>
+    </message>
+    <message>
+        <source>A name has no slash: files stay in their folders.</source>
+        <translation>名前にスラッシュは使えません。ファイルは元のフォルダに残ります。</translation>
+    </message>
+    <message>
+        <source>There is no field in the pattern.</source>
+        <translation>パターンに項目がありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s)</source>
+        <translation>
+            <numerusform>%Ln 個のファイル</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%@ not applied</source>
+        <translation>未適用: %@</translation>
+    </message>
+    <message>
+        <source>%@ selected</source>
+        <translation>選択: %@</translation>
+    </message>
+    <message>
+        <source>%@ shown</source>
+        <translation>表示: %@</translation>
+    </message>
+    <message>
+        <source>%@ to be read</source>
+        <translation>未読み取り: %@</translation>
+    </message>
+    <message>
+        <source>%@, not applied</source>
+        <translation>%@、未適用</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>並べ替え(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Then By</source>
+        <translation>次の並べ替え(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Album / Director</source>
+        <translation>アルバム / 監督</translation>
+    </message>
+    <message>
+        <source>Artist / Cast</source>
+        <translation>アーティスト / 出演者</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>カバー</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダ</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>ジャンル</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>ライブラリ</translation>
+    </message>
+    <message>
+        <source>Library Table</source>
+        <translation>ライブラリの表</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>レーティング</translation>
+    </message>
+    <message>
+        <source>Synopsis / Comment</source>
+        <translation>あらすじ / コメント</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>ユーザーガイド</translation>
+    </message>
+    <message>
+        <source>The guide&#x27;s text</source>
+        <translation>ガイドの本文</translation>
+    </message>
+    <message>
+        <source>&amp;Go to:</source>
+        <translation>移動先(&amp;G):</translation>
+    </message>
+    <message>
+        <source>Go to a heading of the guide</source>
+        <translation>ガイドの見出しへ移動</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>検索(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Find words in the guide; Return goes to the next place</source>
+        <translation>ガイドの中の言葉を探します。Enter キーで次の箇所へ移ります</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed.</source>
+        <translation>ユーザーガイドがインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>キーボード</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>働き</translation>
+    </message>
+    <message>
+        <source>Every key and what it does</source>
+        <translation>すべてのキーとその働き</translation>
+    </message>
+    <message>
+        <source>Close this window</source>
+        <translation>このウィンドウを閉じる</translation>
+    </message>
+    <message>
+        <source>%@ menu</source>
+        <translation>%@メニュー</translation>
+    </message>
+    <message>
+        <source>Letters, in the list</source>
+        <translation>文字（一覧で）</translation>
+    </message>
+    <message>
+        <source>The next name that begins with them</source>
+        <translation>その文字で始まる次の名前へ</translation>
+    </message>
+    <message>
+        <source>In the list: the file above, below</source>
+        <translation>一覧で: 上のファイル、下のファイル</translation>
+    </message>
+    <message>
+        <source>On the cover: cut it</source>
+        <translation>カバーで: 切り取る</translation>
+    </message>
+    <message>
+        <source>On the cover: copy it</source>
+        <translation>カバーで: コピーする</translation>
+    </message>
+    <message>
+        <source>On the cover: paste one</source>
+        <translation>カバーで: 貼り付ける</translation>
+    </message>
+    <message>
+        <source>The next control</source>
+        <translation>次の部品へ</translation>
+    </message>
+    <message>
+        <source>The control before</source>
+        <translation>前の部品へ</translation>
+    </message>
+    <message>
+        <source>The menus</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>The buttons of the line above the form</source>
+        <translation>フォームの上の行のボタン</translation>
+    </message>
+    <message>
+        <source>Ends the wait for a page or a cover; closes the line above the form</source>
+        <translation>ページやカバーを待つのをやめます。フォームの上の行を閉じます</translation>
+    </message>
+    <message>
+        <source>About Velmora</source>
+        <translation>Velmora について</translation>
+    </message>
+    <message>
+        <source>MIT licence: free to use, to change and to pass on, without any warranty.</source>
+        <translation>MIT ライセンス: 自由に使用、変更、再配布できます。保証はありません。</translation>
+    </message>
+    <message>
+        <source>Built on Qt %@ with its web engine and multimedia, TagLib, GStreamer, libjpeg and libpng, each under its own licence.</source>
+        <translation>Qt %@（ウェブエンジンとマルチメディアを含む）、TagLib、GStreamer、libjpeg、libpng を使用しています。それぞれ独自のライセンスに従います。</translation>
+    </message>
+    <message>
+        <source>What Velmora is and what it is built on</source>
+        <translation>Velmora の概要と、使われているもの</translation>
+    </message>
+    <message>
+        <source>The window will look like this at each start.</source>
+        <translation>起動するたびに、ウィンドウはこの配置になります。</translation>
+    </message>
+    <message>
+        <source>The layout can&#x27;t be remembered: the settings file can&#x27;t be written.</source>
+        <translation>配置を記憶できません: 設定ファイルに書き込めません。</translation>
+    </message>
+    <message>
+        <source>Nothing is remembered any more: there is no settings file.</source>
+        <translation>何も記憶していません。設定ファイルはありません。</translation>
+    </message>
+    <message>
+        <source>The settings file can&#x27;t be removed.</source>
+        <translation>設定ファイルを削除できません。</translation>
+    </message>
+</context>
+<context>
+    <name>MyDocument</name>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>ファイルを追加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Add F&amp;older…</source>
+        <translation>フォルダを追加(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>元に戻す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Find in List</source>
+        <translation>一覧で検索(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Load Cover Art…</source>
+        <translation>カバーアートを読み込む(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>Look &amp;Up on the Web</source>
+        <translation>ウェブで調べる(&amp;U)</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Name</source>
+        <translation>名前で並べ替え(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Size</source>
+        <translation>サイズで並べ替え(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;Date</source>
+        <translation>日付で並べ替え(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Portable Tags</source>
+        <translation>ポータブルタグ(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Open and save with the tags that other programs read</source>
+        <translation>他のプログラムが読むタグで開き、保存する</translation>
+    </message>
+    <message>
+        <source>Restore Unsaved &amp;Edits</source>
+        <translation>保存されなかった編集を復元(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Open the file again whose edits could not be saved, and put them back</source>
+        <translation>編集を保存できなかったファイルを開き直し、編集内容を戻す</translation>
+    </message>
+    <message>
+        <source>&amp;Library Table</source>
+        <translation>ライブラリの表(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Show all files of the list with their tags, and edit many at once</source>
+        <translation>一覧のすべてのファイルをタグとともに表示し、まとめて編集する</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>ユーザーガイド(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation>キーボード(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;About Velmora</source>
+        <translation>Velmora について(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Remember This Layout</source>
+        <translation>この配置を記憶(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Start with this size, division, column widths and sorting from now on</source>
+        <translation>今後はこのサイズ、区画、列の幅、並べ替えで起動する</translation>
+    </message>
+    <message>
+        <source>&amp;Forget Everything</source>
+        <translation>すべて忘れる(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Remove the settings file, with the layout and the choice of portable tags</source>
+        <translation>配置とポータブルタグの選択を含む設定ファイルを削除する</translation>
+    </message>
+</context>
+<context>
+    <name>MediaList</name>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>ファイルを追加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Add files to the list</source>
+        <translation>一覧にファイルを追加する</translation>
+    </message>
+    <message>
+        <source>Add F&amp;older…</source>
+        <translation>フォルダを追加(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Search a folder for media files</source>
+        <translation>フォルダ内のメディアファイルを検索する</translation>
+    </message>
+    <message>
+        <source>Turns while folders are searched</source>
+        <translation>フォルダを検索している間、回ります</translation>
+    </message>
+    <message>
+        <source>Search in progress</source>
+        <translation>検索中</translation>
+    </message>
+    <message>
+        <source>The folder that is being searched</source>
+        <translation>検索中のフォルダ</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>停止(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Stop the search</source>
+        <translation>検索を停止する</translation>
+    </message>
+    <message>
+        <source>The media files found; type a name to find one</source>
+        <translation>見つかったメディアファイル。名前を入力すると探せます</translation>
+    </message>
+    <message>
+        <source>Media files</source>
+        <translation>メディアファイル</translation>
+    </message>
+</context>
+<context>
+    <name>TagForm</name>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>タイトル(&amp;T):</translation>
+    </message>
+    <message>
+        <source>The title of the film or song</source>
+        <translation>映画または曲のタイトル</translation>
+    </message>
+    <message>
+        <source>&amp;Year:</source>
+        <translation>年(&amp;Y):</translation>
+    </message>
+    <message>
+        <source>The year of release</source>
+        <translation>公開・発売された年</translation>
+    </message>
+    <message>
+        <source>Artist:</source>
+        <translation>アーティスト:</translation>
+    </message>
+    <message>
+        <source>The artist of a song, the cast of a film</source>
+        <translation>曲のアーティスト、映画の出演者</translation>
+    </message>
+    <message>
+        <source>&amp;Genre:</source>
+        <translation>ジャンル(&amp;G):</translation>
+    </message>
+    <message>
+        <source>The genre: choose one or type your own</source>
+        <translation>ジャンル: 選ぶか、自由に入力してください</translation>
+    </message>
+    <message>
+        <source>Album:</source>
+        <translation>アルバム:</translation>
+    </message>
+    <message>
+        <source>The album of a song, the director of a film</source>
+        <translation>曲のアルバム、映画の監督</translation>
+    </message>
+    <message>
+        <source>Rat&amp;ing:</source>
+        <translation>レーティング(&amp;I):</translation>
+    </message>
+    <message>
+        <source>The parental rating of a film</source>
+        <translation>映画の年齢制限</translation>
+    </message>
+    <message>
+        <source>Sy&amp;nopsis:</source>
+        <translation>あらすじ(&amp;N):</translation>
+    </message>
+    <message>
+        <source>What the film is about</source>
+        <translation>映画の内容</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>日付(&amp;D):</translation>
+    </message>
+    <message>
+        <source>The date, for information: it is not written into the file</source>
+        <translation>日付（参考）: ファイルには書き込まれません</translation>
+    </message>
+    <message>
+        <source>&amp;Cover Art:</source>
+        <translation>カバーアート(&amp;C):</translation>
+    </message>
+    <message>
+        <source>The cover art; drop an image here</source>
+        <translation>カバーアート。画像をここにドロップできます</translation>
+    </message>
+    <message>
+        <source>&amp;Load…</source>
+        <translation>読み込む(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>Load cover art from an image file</source>
+        <translation>画像ファイルからカバーアートを読み込む</translation>
+    </message>
+    <message>
+        <source>Tri&amp;m</source>
+        <translation>トリミング(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Trim a border of one colour off the cover art</source>
+        <translation>カバーアートから単色の縁を切り取る</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Tag</source>
+        <translation>タグを外す(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Forget the changes without writing them</source>
+        <translation>変更を書き込まずに忘れる</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>元に戻す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Read the file again and drop the changes</source>
+        <translation>ファイルを読み直し、変更を破棄する</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Write the changes into the file</source>
+        <translation>変更をファイルに書き込む</translation>
+    </message>
+    <message>
+        <source>for information only</source>
+        <translation>参考のみ</translation>
+    </message>
+</context>
+<context>
+    <name>MoviePreview</name>
+    <message>
+        <source>Preview:</source>
+        <translation>プレビュー:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>A preview of the file</source>
+        <translation>ファイルのプレビュー</translation>
+    </message>
+    <message>
+        <source>This file can’t be previewed.</source>
+        <translation>このファイルはプレビューできません。</translation>
+    </message>
+    <message>
+        <source>Ta&amp;ke Frame</source>
+        <translation>コマを使う(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Take the frame shown as cover art</source>
+        <translation>表示中のコマをカバーアートにする</translation>
+    </message>
+</context>
+<context>
+    <name>TagWebBrowser</name>
+    <message>
+        <source>Look &amp;up:</source>
+        <translation>調べる(&amp;U):</translation>
+    </message>
+    <message>
+        <source>The site to search</source>
+        <translation>検索するサイト</translation>
+    </message>
+    <message>
+        <source>The text to search for</source>
+        <translation>検索する文字</translation>
+    </message>
+    <message>
+        <source>Searc&amp;h</source>
+        <translation>検索(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Search the site for the text</source>
+        <translation>サイトで文字を検索する</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>戻る(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Go back to the page before</source>
+        <translation>前のページに戻る</translation>
+    </message>
+    <message>
+        <source>Turns while a page loads</source>
+        <translation>ページを読み込んでいる間、回ります</translation>
+    </message>
+    <message>
+        <source>Page loading</source>
+        <translation>ページを読み込み中</translation>
+    </message>
+    <message>
+        <source>Fill Form</source>
+        <translation>フォームに入力</translation>
+    </message>
+    <message>
+        <source>Fill the form from the page shown</source>
+        <translation>表示中のページからフォームに入力する</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>アドレス:</translation>
+    </message>
+    <message>
+        <source>The address of the page shown</source>
+        <translation>表示中のページのアドレス</translation>
+    </message>
+    <message>
+        <source>Address of the page</source>
+        <translation>ページのアドレス</translation>
+    </message>
+    <message>
+        <source>What the form fill waits for</source>
+        <translation>フォームの入力が待っているもの</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Fill the form without the cover (Esc)</source>
+        <translation>カバーなしでフォームに入力する (Esc)</translation>
+    </message>
+    <message>
+        <source>The page</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>ウェブページ</translation>
+    </message>
+    <message>
+        <source>The page could not be loaded.</source>
+        <translation>ページを読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>Site:</source>
+        <translation>サイト:</translation>
+    </message>
+</context>
+</TS>
