@@ -305,12 +305,13 @@ TEST_F(WebViewHostile, PageAsksForNoPassword) {
     server.serve("/secret", Answer{.body = "<title>refused</title>",
                                    .status = 401,
                                    .extraHeaders = "WWW-Authenticate: Basic realm=\"Your bank\"\r\n"});
-    const auto windows = QApplication::topLevelWidgets().size();
     load("/secret");
     waitFor(500);
-    EXPECT_EQ(shownTitle(), "refused");
-    EXPECT_EQ(QApplication::topLevelWidgets().size(), windows);
+    EXPECT_FALSE(server.requests().isEmpty());
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        EXPECT_TRUE(window->isHidden() || window == view.get()) << window->metaObject()->className();
+    }
 }
 
 TEST_F(WebViewHostile, PageGetsNoPermission) {
