@@ -9,7 +9,7 @@ import sys
 import xml.etree.ElementTree as xml
 
 FOLDERS = ["app", "browser", "imaging", "library", "model", "platform", "weblookup"]
-LANGUAGES = ["de", "en"]
+LANGUAGES = ["de", "en", "es", "fr", "it", "ja", "zh_CN"]
 PLURAL_FORMS = {"ja": 1, "zh_CN": 1}  # two in the others
 # Their own letters are on no key, so that their captions have a Latin one in brackets.
 SCRIPTS_WITHOUT_KEYS = ["ja", "zh_CN"]
