@@ -41,13 +41,13 @@ protected:
 };
 
 TEST_F(BitmapTrimWithoutMemory, TellsTheSizeAndTheReasonOnStandardError) {
-    EXPECT_EQ(errors_, "malloc(16756) failed: Cannot allocate memory\n");
+    EXPECT_EQ("malloc(16756) failed: Cannot allocate memory\n", errors_);
 }
 
 TEST_F(BitmapTrimWithoutMemory, GivesNullAndLeavesTheSizeUnchanged) {
     EXPECT_FALSE(outcome_.bitmap);
-    EXPECT_EQ(outcome_.width, 90U);
-    EXPECT_EQ(outcome_.height, 90U);
+    EXPECT_EQ(90U, outcome_.width);
+    EXPECT_EQ(90U, outcome_.height);
 }
 
 TEST_F(BitmapTrimWithoutMemory, PrintsNoNewSize) {

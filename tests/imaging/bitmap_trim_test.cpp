@@ -21,24 +21,24 @@ TEST(BitmapTrim, NullPixelsGiveNullAndPrintNothing) {
     StreamCapture output(stdout);
     std::uint32_t width = 2;
     std::uint32_t height = 2;
-    EXPECT_EQ(bitmap_trim(nullptr, &width, &height), nullptr);
-    EXPECT_EQ(output.text(), "");
+    EXPECT_EQ(nullptr, bitmap_trim(nullptr, &width, &height));
+    EXPECT_EQ("", output.text());
 }
 
 TEST(BitmapTrim, ANullWidthGivesNullAndPrintsNothing) {
     StreamCapture output(stdout);
     const std::uint32_t pixel = black;
     std::uint32_t height = 1;
-    EXPECT_EQ(bitmap_trim(&pixel, nullptr, &height), nullptr);
-    EXPECT_EQ(output.text(), "");
+    EXPECT_EQ(nullptr, bitmap_trim(&pixel, nullptr, &height));
+    EXPECT_EQ("", output.text());
 }
 
 TEST(BitmapTrim, ANullHeightGivesNullAndPrintsNothing) {
     StreamCapture output(stdout);
     const std::uint32_t pixel = black;
     std::uint32_t width = 1;
-    EXPECT_EQ(bitmap_trim(&pixel, &width, nullptr), nullptr);
-    EXPECT_EQ(output.text(), "");
+    EXPECT_EQ(nullptr, bitmap_trim(&pixel, &width, nullptr));
+    EXPECT_EQ("", output.text());
 }
 
 TEST(BitmapTrim, AWidthOfZeroGivesNullAndPrintsNothing) {
@@ -46,9 +46,9 @@ TEST(BitmapTrim, AWidthOfZeroGivesNullAndPrintsNothing) {
     const std::uint32_t pixel = black;
     std::uint32_t width = 0;
     std::uint32_t height = 7;
-    EXPECT_EQ(bitmap_trim(&pixel, &width, &height), nullptr);
-    EXPECT_EQ(output.text(), "");
-    EXPECT_EQ(height, 7U);
+    EXPECT_EQ(nullptr, bitmap_trim(&pixel, &width, &height));
+    EXPECT_EQ("", output.text());
+    EXPECT_EQ(7U, height);
 }
 
 TEST(BitmapTrim, AHeightOfZeroGivesNullAndPrintsNothing) {
@@ -56,9 +56,9 @@ TEST(BitmapTrim, AHeightOfZeroGivesNullAndPrintsNothing) {
     const std::uint32_t pixel = black;
     std::uint32_t width = 7;
     std::uint32_t height = 0;
-    EXPECT_EQ(bitmap_trim(&pixel, &width, &height), nullptr);
-    EXPECT_EQ(output.text(), "");
-    EXPECT_EQ(width, 7U);
+    EXPECT_EQ(nullptr, bitmap_trim(&pixel, &width, &height));
+    EXPECT_EQ("", output.text());
+    EXPECT_EQ(7U, width);
 }
 
 // Corners
@@ -75,11 +75,12 @@ TestBitmap withCorners(std::uint32_t tl, std::uint32_t tr, std::uint32_t bl, std
 
 TEST(BitmapTrim, CornersWithin37OfTheTopLeftOneInEveryLaneAreABorder) {
     const TrimOutcome outcome = trim(withCorners(0x000000ff, 0x141e0aff, 0x250000da, 0x002525ff));
-    EXPECT_EQ(outcome.output, "width=4, height=4\n"
-                              "corners: 0x000000ff  0x141e0aff  0x250000da  0x002525ff\n"
-                              "corners match (0x000000ff)\n"
-                              "x0=1, x1=2, y0=1, y1=2\n"
-                              "new size: width=2, height=2\n");
+    EXPECT_EQ("width=4, height=4\n"
+              "corners: 0x000000ff  0x141e0aff  0x250000da  0x002525ff\n"
+              "corners match (0x000000ff)\n"
+              "x0=1, x1=2, y0=1, y1=2\n"
+              "new size: width=2, height=2\n",
+              outcome.output);
 }
 
 TEST(BitmapTrim, CornersNeedNotMatchOneAnother) {
@@ -111,15 +112,16 @@ INSTANTIATE_TEST_SUITE_P(EveryCornerAndLane, CornerLane,
 
 TEST(BitmapTrim, AnImageWithoutABorderPrintsItsCornersAndNoBounds) {
     const TrimOutcome outcome = trim(withCorners(0x00000000, 0x00000000, 0x00000000, 0x26000000));
-    EXPECT_EQ(outcome.output, "width=4, height=4\n"
-                              "corners: 0x00000000  0x00000000  0x00000000  0x26000000\n"
-                              "no border on image\n");
+    EXPECT_EQ("width=4, height=4\n"
+              "corners: 0x00000000  0x00000000  0x00000000  0x26000000\n"
+              "no border on image\n",
+              outcome.output);
 }
 
 TEST(BitmapTrim, AFailedTrimLeavesTheSizeUnchanged) {
     const TrimOutcome outcome = trim(withCorners(0x00000000, 0xffffffff, 0x00000000, 0x00000000));
-    EXPECT_EQ(outcome.width, 4U);
-    EXPECT_EQ(outcome.height, 4U);
+    EXPECT_EQ(4U, outcome.width);
+    EXPECT_EQ(4U, outcome.height);
 }
 
 // Lanes: a difference is neither wrapped nor summed
@@ -137,7 +139,7 @@ TEST(BitmapTrim, DifferencesOfSeveralLanesAreNotAddedUp) {
     bitmap.fill(2, 2, 2, 2, 0xff404040);
     bitmap.at(0, 1) = 0x65656565; // 37 in all four lanes: border
     ASSERT_TRUE(trim(bitmap).bitmap);
-    EXPECT_EQ(trim(bitmap).width, 2U);
+    EXPECT_EQ(2U, trim(bitmap).width);
 }
 
 TEST(BitmapTrim, AlphaIsALaneLikeTheOthers) {
@@ -164,10 +166,11 @@ TEST(BitmapTrim, TheBorderColourIsTheTopLeftPixelAndNoAverage) {
 TEST(BitmapTrim, AUniformImageGivesNullAfterTheBoundsLine) {
     const TrimOutcome outcome = trim(TestBitmap(5, 3, red));
     EXPECT_FALSE(outcome.bitmap);
-    EXPECT_EQ(outcome.output, "width=5, height=3\n"
-                              "corners: 0xff0000ff  0xff0000ff  0xff0000ff  0xff0000ff\n"
-                              "corners match (0xff0000ff)\n"
-                              "x0=4, x1=0, y0=2, y1=0\n");
+    EXPECT_EQ("width=5, height=3\n"
+              "corners: 0xff0000ff  0xff0000ff  0xff0000ff  0xff0000ff\n"
+              "corners match (0xff0000ff)\n"
+              "x0=4, x1=0, y0=2, y1=0\n",
+              outcome.output);
 }
 
 TEST(BitmapTrim, AUniformRowGivesNull) {
@@ -182,11 +185,12 @@ TEST(BitmapTrim, AnImageOfOnePixelComesBackAsACopy) {
     const TrimOutcome outcome = trim(TestBitmap(1, 1, 0x12345678));
     ASSERT_TRUE(outcome.bitmap);
     EXPECT_EQ(*outcome.bitmap, TestBitmap(1, 1, 0x12345678));
-    EXPECT_EQ(outcome.output, "width=1, height=1\n"
-                              "corners: 0x12345678  0x12345678  0x12345678  0x12345678\n"
-                              "corners match (0x12345678)\n"
-                              "x0=0, x1=0, y0=0, y1=0\n"
-                              "new size: width=1, height=1\n");
+    EXPECT_EQ("width=1, height=1\n"
+              "corners: 0x12345678  0x12345678  0x12345678  0x12345678\n"
+              "corners match (0x12345678)\n"
+              "x0=0, x1=0, y0=0, y1=0\n"
+              "new size: width=1, height=1\n",
+              outcome.output);
 }
 
 TEST(BitmapTrim, ABorderOnEverySideIsCutOff) {
@@ -232,8 +236,8 @@ TEST(BitmapTrim, AFrameOnTheLeftOnlyIsCutOff) {
     bitmap.fill(5, 0, 14, 20, red);
     bitmap.fill(19, 1, 1, 18, red);
     const TrimOutcome outcome = trim(bitmap);
-    EXPECT_EQ(outcome.width, 15U);
-    EXPECT_EQ(outcome.height, 20U);
+    EXPECT_EQ(15U, outcome.width);
+    EXPECT_EQ(20U, outcome.height);
 }
 
 TEST(BitmapTrim, ASpeckInTheBorderWidensTheBox) {
@@ -265,7 +269,7 @@ TEST(BitmapTrim, ABoxOfTheWholeImageIsASuccessWithABufferOfItsOwn) {
     std::uint32_t height = 3;
     StreamCapture output(stdout);
     std::uint32_t* trimmed = bitmap_trim(bitmap.pixels.data(), &width, &height);
-    ASSERT_NE(trimmed, nullptr);
+    ASSERT_NE(nullptr, trimmed);
     EXPECT_NE(trimmed, bitmap.pixels.data());
     EXPECT_EQ(std::vector<std::uint32_t>(trimmed, trimmed + 9), before.pixels);
     std::free(trimmed);
@@ -295,8 +299,8 @@ TEST(BitmapTrim, ABoxUnderASixteenthGivesNullAfterTheBoundsLine) {
     const TrimOutcome outcome = trim(bitmap);
     EXPECT_FALSE(outcome.bitmap);
     EXPECT_THAT(outcome.output, testing::EndsWith("x0=30, x1=55, y0=30, y1=53\n"));
-    EXPECT_EQ(outcome.width, 100U);
-    EXPECT_EQ(outcome.height, 100U);
+    EXPECT_EQ(100U, outcome.width);
+    EXPECT_EQ(100U, outcome.height);
 }
 
 TEST(BitmapTrim, ASmallSquareInALargeImageIsNotKept) {
@@ -334,7 +338,7 @@ TEST(BitmapTrim, AreasAreCountedIn32Bits) {
     std::uint32_t width = side;
     std::uint32_t height = side;
     StreamCapture output(stdout);
-    EXPECT_EQ(bitmap_trim(pixels, &width, &height), nullptr);
+    EXPECT_EQ(nullptr, bitmap_trim(pixels, &width, &height));
     EXPECT_THAT(output.text(), testing::EndsWith("x0=1, x1=65536, y0=1, y1=65536\n"));
     ::munmap(memory, size);
 }

@@ -63,7 +63,7 @@ TEST_F(CoverArtViewClipboard, PasteTakesAFileCopiedInAFileManager) {
     data->setUrls({QUrl::fromLocalFile(path)});
     QApplication::clipboard()->setMimeData(data);
     view->paste();
-    EXPECT_EQ(view->image().pixelColor(0, 0), QColor(Qt::red));
+    EXPECT_EQ(QColor(Qt::red), view->image().pixelColor(0, 0));
 }
 
 TEST_F(CoverArtViewClipboard, PasteOfTextChangesNothing) {
@@ -84,8 +84,8 @@ TEST_F(CoverArtViewClipboard, CutAndCopyOfNothingLeaveTheClipboardAlone) {
     QSignalSpy changes(view, &CoverArtView::imageChanged);
     view->cut();
     view->copy();
-    EXPECT_EQ(QApplication::clipboard()->text(), "some text");
-    EXPECT_EQ(changes.count(), 0);
+    EXPECT_EQ("some text", QApplication::clipboard()->text());
+    EXPECT_EQ(0, changes.count());
 }
 
 TEST_F(CoverArtViewClipboard, TheControllerIsNotToldAndNothingIsLogged) {
@@ -94,7 +94,7 @@ TEST_F(CoverArtViewClipboard, TheControllerIsNotToldAndNothingIsLogged) {
     view->cut();
     view->paste();
     EXPECT_TRUE(receiver.calls.empty());
-    EXPECT_EQ(log->text(), "");
+    EXPECT_EQ("", log->text());
 }
 
 TEST_F(CoverArtViewClipboard, TheStandardKeysWork) {
@@ -134,15 +134,15 @@ QStringList enabledEntries(CoverArtView& view) {
 }
 
 TEST_F(CoverArtViewClipboard, TheContextMenuOffersWhatCanBeDone) {
-    EXPECT_EQ(enabledEntries(*view), QStringList());
+    EXPECT_EQ(QStringList(), enabledEntries(*view));
     view->setImage(plain(Qt::red));
-    EXPECT_EQ(enabledEntries(*view), QStringList({"Cu&t", "&Copy"}));
+    EXPECT_EQ(QStringList({"Cu&t", "&Copy"}), enabledEntries(*view));
     view->copy();
-    EXPECT_EQ(enabledEntries(*view), QStringList({"Cu&t", "&Copy", "&Paste"}));
+    EXPECT_EQ(QStringList({"Cu&t", "&Copy", "&Paste"}), enabledEntries(*view));
 }
 
 TEST_F(CoverArtViewClipboard, PasteByKeyWorksAgainAfterAMenuThatHadNothingToPaste) {
-    EXPECT_EQ(enabledEntries(*view), QStringList());
+    EXPECT_EQ(QStringList(), enabledEntries(*view));
     QApplication::clipboard()->setImage(plain(Qt::green));
     QTest::keySequence(view, QKeySequence::Paste);
     EXPECT_FALSE(view->image().isNull());

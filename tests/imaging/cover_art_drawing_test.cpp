@@ -88,7 +88,7 @@ TEST_F(CoverArtViewDrawing, ADropLeavesNoFrameBehind) {
     DragSession drag(*view, data);
     ASSERT_TRUE(drag.enter());
     ASSERT_TRUE(drag.drop());
-    EXPECT_EQ(count(picture(), QColor(60, 120, 30)), 0);
+    EXPECT_EQ(0, count(picture(), QColor(60, 120, 30)));
 }
 
 TEST_F(CoverArtViewDrawing, TheKeyboardFocusDrawsNoFrame) {
@@ -102,7 +102,7 @@ TEST_F(CoverArtViewDrawing, TheKeyboardFocusDrawsNoFrame) {
 TEST_F(CoverArtViewDrawing, AnImageThatFitsIsShownAtItsNominalSizeInTheMiddle) {
     view->setImage(plain(Qt::red, QSize(60, 40)));
     const QRect shown = area(picture(), Qt::red);
-    EXPECT_EQ(shown.size(), QSize(60, 40));
+    EXPECT_EQ(QSize(60, 40), shown.size());
     EXPECT_LE((shown.center() - view->rect().center()).manhattanLength(), 2);
 }
 
@@ -110,7 +110,7 @@ TEST_F(CoverArtViewDrawing, TheDevicePixelRatioGivesTheNominalSize) {
     QImage image = plain(Qt::red, QSize(640, 480));
     image.setDevicePixelRatio(8);
     view->setImage(image);
-    EXPECT_EQ(area(picture(), Qt::red).size(), QSize(80, 60));
+    EXPECT_EQ(QSize(80, 60), area(picture(), Qt::red).size());
 }
 
 TEST_F(CoverArtViewDrawing, AnImageThatIsTooLargeIsShownWholeWithItsProportions) {
@@ -134,7 +134,7 @@ TEST_F(CoverArtViewDrawing, ANewImageReplacesTheOneDrawnBefore) {
     view->setImage(plain(Qt::red));
     EXPECT_GT(count(picture(), Qt::red), 0);
     view->setImage(plain(Qt::blue));
-    EXPECT_EQ(count(picture(), Qt::red), 0);
+    EXPECT_EQ(0, count(picture(), Qt::red));
     EXPECT_GT(count(picture(), Qt::blue), 0);
 }
 
@@ -168,12 +168,12 @@ TEST_F(CoverArtViewDrawing, ThePlaceholderIsReadableInLightAndDark) {
 TEST_F(CoverArtViewDrawing, SettingTheImageTellsWhoeverListensButNotTheController) {
     QSignalSpy changes(view, &CoverArtView::imageChanged);
     view->setImage(plain(Qt::red));
-    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(1, changes.count());
     EXPECT_TRUE(receiver.calls.empty());
 }
 
 TEST_F(CoverArtViewDrawing, TheViewIsNamedAndReachableByTab) {
-    EXPECT_EQ(view->accessibleName(), "Cover art");
+    EXPECT_EQ("Cover art", view->accessibleName());
     EXPECT_FALSE(view->toolTip().isEmpty());
     EXPECT_TRUE(view->focusPolicy() & Qt::TabFocus);
 }

@@ -60,7 +60,7 @@ TEST_F(CoverArtViewDrag, ADragOfFilesEntersAndIsLogged) {
     data.setUrls(fileUrls({"/nowhere/a.jpg"}));
     DragSession drag(*view, data);
     EXPECT_TRUE(drag.enter());
-    EXPECT_EQ(log->text(), "in draggingEntered:\n");
+    EXPECT_EQ("in draggingEntered:\n", log->text());
     EXPECT_EQ(view->focusRingType(), Ring::Default);
 }
 
@@ -69,11 +69,11 @@ TEST_F(CoverArtViewDrag, AnswersWithACopyWhateverTheSourceProposes) {
     data.setUrls(fileUrls({"/nowhere/a.jpg"}));
     DragSession drag(*view, data, Qt::CopyAction | Qt::MoveAction | Qt::LinkAction, Qt::MoveAction);
     ASSERT_TRUE(drag.enter());
-    EXPECT_EQ(drag.action(), Qt::CopyAction);
+    EXPECT_EQ(Qt::CopyAction, drag.action());
     ASSERT_TRUE(drag.move());
-    EXPECT_EQ(drag.action(), Qt::CopyAction);
+    EXPECT_EQ(Qt::CopyAction, drag.action());
     ASSERT_TRUE(drag.drop());
-    EXPECT_EQ(drag.action(), Qt::CopyAction);
+    EXPECT_EQ(Qt::CopyAction, drag.action());
 }
 
 TEST_F(CoverArtViewDrag, FilesOfAnyKindMayEnter) {
@@ -104,7 +104,7 @@ TEST_F(CoverArtViewDrag, TextMayNotEnterAndIsNotLogged) {
     QMimeData data;
     data.setText("some text");
     EXPECT_FALSE(DragSession(*view, data).enter());
-    EXPECT_EQ(log->text(), "");
+    EXPECT_EQ("", log->text());
     EXPECT_EQ(view->focusRingType(), Ring::None);
 }
 
@@ -119,14 +119,14 @@ TEST_F(CoverArtViewDrag, ASourceThatOnlyMovesItsDataMayEnterAndIsNotRobbed) {
     data.setUrls(fileUrls({imageFile("a.png", Qt::red)}));
     DragSession drag(*view, data, Qt::MoveAction);
     EXPECT_TRUE(drag.enter());
-    EXPECT_EQ(log->text(), "in draggingEntered:\n");
+    EXPECT_EQ("in draggingEntered:\n", log->text());
     EXPECT_EQ(view->focusRingType(), Ring::Default);
     EXPECT_TRUE(drag.move());
-    EXPECT_NE(drag.action(), Qt::MoveAction);
+    EXPECT_NE(Qt::MoveAction, drag.action());
     EXPECT_TRUE(drag.drop());
-    EXPECT_NE(drag.action(), Qt::MoveAction) << "the source would delete its file";
-    EXPECT_EQ(view->image().pixelColor(0, 0), QColor(Qt::red));
-    EXPECT_EQ(receiver.calls.size(), 1U);
+    EXPECT_NE(Qt::MoveAction, drag.action()) << "the source would delete its file";
+    EXPECT_EQ(QColor(Qt::red), view->image().pixelColor(0, 0));
+    EXPECT_EQ(1U, receiver.calls.size());
     EXPECT_EQ(view->focusRingType(), Ring::None);
 }
 
@@ -144,7 +144,7 @@ TEST_F(CoverArtViewDrag, LeavingIsLoggedAndEndsTheHovering) {
     ASSERT_TRUE(drag.enter());
     ASSERT_TRUE(drag.move());
     drag.leave();
-    EXPECT_EQ(log->text(), "in draggingEntered:\nin draggingExited:\n");
+    EXPECT_EQ("in draggingEntered:\nin draggingExited:\n", log->text());
     EXPECT_EQ(view->focusRingType(), Ring::None);
     EXPECT_TRUE(receiver.calls.empty());
 }
@@ -153,7 +153,7 @@ TEST_F(CoverArtViewDrag, LeavingIsLoggedAndEndsTheHovering) {
 
 TEST_F(CoverArtViewDrag, ADropIsLoggedStageByStage) {
     dropFiles({imageFile("a.png", Qt::red)});
-    EXPECT_EQ(log->text(), "in draggingEntered:\nin prepareForDragOperation:\nin performDragOperation:\n");
+    EXPECT_EQ("in draggingEntered:\nin prepareForDragOperation:\nin performDragOperation:\n", log->text());
 }
 
 TEST_F(CoverArtViewDrag, ADroppedImageFileIsShown) {
@@ -163,8 +163,8 @@ TEST_F(CoverArtViewDrag, ADroppedImageFileIsShown) {
 
 TEST_F(CoverArtViewDrag, ADropTellsTheNewCoverOnceAfterImageAndStateAreSet) {
     dropFiles({imageFile("a.png", Qt::red)});
-    ASSERT_EQ(receiver.calls.size(), 1U);
-    EXPECT_EQ(receiver.calls[0].image.pixelColor(0, 0), QColor(Qt::red));
+    ASSERT_EQ(1U, receiver.calls.size());
+    EXPECT_EQ(QColor(Qt::red), receiver.calls[0].image.pixelColor(0, 0));
     EXPECT_EQ(receiver.calls[0].shown, receiver.calls[0].image);
     EXPECT_EQ(receiver.calls[0].ring, Ring::None);
 }
@@ -186,13 +186,13 @@ TEST_F(CoverArtViewDrag, AFileThatIsNoImageLeavesTheImageAndStillTellsIt) {
     dropFiles({folder / "a.txt"});
     EXPECT_EQ(view->image(), plain(Qt::blue));
     EXPECT_EQ(view->focusRingType(), Ring::None);
-    ASSERT_EQ(receiver.calls.size(), 1U);
+    ASSERT_EQ(1U, receiver.calls.size());
     EXPECT_EQ(receiver.calls[0].image, plain(Qt::blue));
 }
 
 TEST_F(CoverArtViewDrag, ADropWithoutAnImageOnAnEmptyViewTellsOfNone) {
     dropFiles({folder / "missing.png"});
-    ASSERT_EQ(receiver.calls.size(), 1U);
+    ASSERT_EQ(1U, receiver.calls.size());
     EXPECT_TRUE(receiver.calls[0].image.isNull());
 }
 
@@ -200,8 +200,8 @@ TEST_F(CoverArtViewDrag, TheFirstFileThatLoadsAsAnImageIsTaken) {
     write_file(folder / "a.txt", "no image");
     dropFiles({folder / "missing.png", folder / "a.txt", imageFile("b.png", Qt::green),
                imageFile("c.png", Qt::red)});
-    EXPECT_EQ(view->image().pixelColor(0, 0), QColor(Qt::green));
-    EXPECT_EQ(receiver.calls.size(), 1U);
+    EXPECT_EQ(QColor(Qt::green), view->image().pixelColor(0, 0));
+    EXPECT_EQ(1U, receiver.calls.size());
 }
 
 TEST_F(CoverArtViewDrag, AnImageIsToldByItsContentNotItsName) {
@@ -216,14 +216,14 @@ TEST_F(CoverArtViewDrag, PathsMayHoldBytesThatAreNoText) {
     data.setData("text/uri-list",
                  "file://" + QByteArray::fromStdString(path).toPercentEncoding("/") + "\r\n");
     dropAll(data);
-    EXPECT_EQ(view->image().pixelColor(0, 0), QColor(Qt::red));
+    EXPECT_EQ(QColor(Qt::red), view->image().pixelColor(0, 0));
 }
 
 TEST_F(CoverArtViewDrag, FoldersPipesAndDevicesAreNoImagesAndDoNotBlock) {
-    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    ASSERT_EQ(0, ::mkfifo((folder / "pipe").c_str(), 0600));
     dropFiles({folder.path(), folder / "pipe", "/dev/zero", "/dev/tty"});
     EXPECT_TRUE(view->image().isNull());
-    EXPECT_EQ(receiver.calls.size(), 1U);
+    EXPECT_EQ(1U, receiver.calls.size());
 }
 
 TEST_F(CoverArtViewDrag, AnEmptyFileAndACutImageLeaveTheViewEmpty) {
@@ -231,7 +231,7 @@ TEST_F(CoverArtViewDrag, AnEmptyFileAndACutImageLeaveTheViewEmpty) {
     write_file(folder / "cut.png", encoded(plain(Qt::red), "PNG").left(30).toStdString());
     dropFiles({folder / "empty.png", folder / "cut.png"});
     EXPECT_TRUE(view->image().isNull());
-    EXPECT_EQ(receiver.calls.size(), 1U);
+    EXPECT_EQ(1U, receiver.calls.size());
 }
 
 TEST_F(CoverArtViewDrag, AnImageOfAbsurdSizeIsNotLoaded) {
@@ -242,12 +242,12 @@ TEST_F(CoverArtViewDrag, AnImageOfAbsurdSizeIsNotLoaded) {
                                         "00 00 00 00 00 00 00 00"));
     dropFiles({folder / "huge.bmp"});
     EXPECT_TRUE(view->image().isNull());
-    EXPECT_EQ(receiver.calls.size(), 1U);
+    EXPECT_EQ(1U, receiver.calls.size());
 }
 
 TEST_F(CoverArtViewDrag, AnImageSetAsTheNewCoverIsShownAndTold) {
     view->changeImage(plain(Qt::red));
-    ASSERT_EQ(receiver.calls.size(), 1U);
+    ASSERT_EQ(1U, receiver.calls.size());
     EXPECT_EQ(receiver.calls[0].image, plain(Qt::red));
     EXPECT_EQ(receiver.calls[0].shown, plain(Qt::red));
 }
@@ -262,7 +262,7 @@ TEST_F(CoverArtViewDrag, TiffDataIsShown) {
     data.setData("image/tiff", encoded(plain(Qt::red), "TIFF"));
     dropAll(data);
     EXPECT_EQ(view->image().convertToFormat(QImage::Format_RGB32), plain(Qt::red));
-    EXPECT_EQ(receiver.calls.size(), 1U);
+    EXPECT_EQ(1U, receiver.calls.size());
 }
 
 TEST_F(CoverArtViewDrag, AnImageOfTheDesktopIsShown) {
@@ -270,7 +270,7 @@ TEST_F(CoverArtViewDrag, AnImageOfTheDesktopIsShown) {
     data.setImageData(plain(Qt::red));
     dropAll(data);
     EXPECT_EQ(view->image(), plain(Qt::red));
-    EXPECT_EQ(receiver.calls.size(), 1U);
+    EXPECT_EQ(1U, receiver.calls.size());
 }
 
 TEST_F(CoverArtViewDrag, DataThatIsNoImageLeavesTheImageAndStillTellsIt) {
@@ -280,14 +280,14 @@ TEST_F(CoverArtViewDrag, DataThatIsNoImageLeavesTheImageAndStillTellsIt) {
     data.setData("image/tiff", QByteArray("II*\0\xff\xff\xff\xff", 8));
     dropAll(data);
     EXPECT_EQ(view->image(), plain(Qt::blue));
-    EXPECT_EQ(receiver.calls.size(), 1U);
+    EXPECT_EQ(1U, receiver.calls.size());
 }
 
 TEST_F(CoverArtViewDrag, DropsAreTakenAgainAndAgain) {
     dropFiles({imageFile("a.png", Qt::red)});
     dropFiles({imageFile("b.png", Qt::green)});
-    EXPECT_EQ(view->image().pixelColor(0, 0), QColor(Qt::green));
-    EXPECT_EQ(receiver.calls.size(), 2U);
+    EXPECT_EQ(QColor(Qt::green), view->image().pixelColor(0, 0));
+    EXPECT_EQ(2U, receiver.calls.size());
 }
 
 } // namespace

@@ -31,28 +31,28 @@ TEST(ImageData, AFileComesBeforeImageData) {
     QMimeData data;
     data.setData("image/tiff", encoded(Qt::blue, "TIFF"));
     data.setUrls({QUrl::fromLocalFile(path)});
-    EXPECT_EQ(colourOf(data), QColor(Qt::red));
+    EXPECT_EQ(QColor(Qt::red), colourOf(data));
 }
 
 TEST(ImageData, ImageDataStandsInForFilesThatAreNoImages) {
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile("/nowhere/a.png"), QUrl("http://localhost/a.png")});
     data.setData("image/tiff", encoded(Qt::blue, "TIFF"));
-    EXPECT_EQ(colourOf(data), QColor(Qt::blue));
+    EXPECT_EQ(QColor(Qt::blue), colourOf(data));
 }
 
 TEST(ImageData, TiffComesBeforeOtherImageData) {
     QMimeData data;
     data.setData("image/png", encoded(Qt::red, "PNG"));
     data.setData("image/tiff", encoded(Qt::blue, "TIFF"));
-    EXPECT_EQ(colourOf(data), QColor(Qt::blue));
+    EXPECT_EQ(QColor(Qt::blue), colourOf(data));
 }
 
 TEST(ImageData, OtherImageDataIsTakenWhenTheDesktopReadsIt) {
     QMimeData data;
     data.setData("image/x-unheard-of", "nothing");
     data.setData("image/png", encoded(Qt::red, "PNG"));
-    EXPECT_EQ(colourOf(data), QColor(Qt::red));
+    EXPECT_EQ(QColor(Qt::red), colourOf(data));
 }
 
 TEST(ImageData, NothingIsOfferedByTextAlone) {

@@ -56,13 +56,13 @@ TEST(TrimBorder, CutsTheBorderOff) {
 }
 
 TEST(TrimBorder, LogsNothingOnSuccess) {
-    EXPECT_EQ(trim(framed(Qt::black, Qt::red)).log, "");
+    EXPECT_EQ("", trim(framed(Qt::black, Qt::red)).log);
 }
 
 TEST(TrimBorder, DoesNothingWithoutAnImage) {
     const TrimRun run = trim(QImage());
     EXPECT_FALSE(run.image);
-    EXPECT_EQ(run.log + run.output, "");
+    EXPECT_EQ("", run.log + run.output);
 }
 
 TEST(TrimBorder, AnImageThatIsPictureThroughoutGivesThatImageAnew) {
@@ -83,14 +83,14 @@ TEST(TrimBorder, AnImageWithoutABorderIsLoggedAndGivesNothing) {
     cover.setPixelColor(11, 9, Qt::white);
     const TrimRun run = trim(cover);
     EXPECT_FALSE(run.image);
-    EXPECT_EQ(run.log, "didn't get trimmed data\n");
+    EXPECT_EQ("didn't get trimmed data\n", run.log);
     EXPECT_THAT(run.output, HasSubstr("no border on image\n"));
 }
 
 TEST(TrimBorder, AnImageThatIsAllBorderIsLoggedAndGivesNothing) {
     const TrimRun run = trim(filled(20, 20, Qt::blue));
     EXPECT_FALSE(run.image);
-    EXPECT_EQ(run.log, "didn't get trimmed data\n");
+    EXPECT_EQ("didn't get trimmed data\n", run.log);
 }
 
 TEST(TrimBorder, ABoxUnderASixteenthIsLoggedAndGivesNothing) {
@@ -98,7 +98,7 @@ TEST(TrimBorder, ABoxUnderASixteenthIsLoggedAndGivesNothing) {
     cover.setPixelColor(50, 50, Qt::black);
     const TrimRun run = trim(cover);
     EXPECT_FALSE(run.image);
-    EXPECT_EQ(run.log, "didn't get trimmed data\n");
+    EXPECT_EQ("didn't get trimmed data\n", run.log);
 }
 
 // Pixels
@@ -155,8 +155,8 @@ TEST(TrimBorder, TheNominalSizePlaysNoPart) {
     cover.setDevicePixelRatio(4);
     const TrimRun run = trim(cover);
     ASSERT_TRUE(run.image);
-    EXPECT_EQ(run.image->size(), QSize(8, 4));
-    EXPECT_EQ(run.image->devicePixelRatio(), 1);
+    EXPECT_EQ(QSize(8, 4), run.image->size());
+    EXPECT_EQ(1, run.image->devicePixelRatio());
     EXPECT_THAT(run.output, HasSubstr("width=12, height=10\n"));
 }
 
@@ -184,8 +184,8 @@ TEST(TrimBorder, AnImageWiderThanAPainterReachesIsReadToItsEnd) {
     }
     const TrimRun run = trim(cover);
     ASSERT_TRUE(run.image);
-    EXPECT_EQ(run.image->size(), QSize(39998, 1));
-    EXPECT_EQ(run.image->pixelColor(39997, 0), QColor(Qt::white));
+    EXPECT_EQ(QSize(39998, 1), run.image->size());
+    EXPECT_EQ(QColor(Qt::white), run.image->pixelColor(39997, 0));
 }
 
 // Steps that fail
@@ -214,35 +214,35 @@ TrimRun trimWith() {
 TEST(TrimBorder, AMissingImageSourceIsLogged) {
     const TrimRun run = trimWith<NoSource>();
     EXPECT_FALSE(run.image);
-    EXPECT_EQ(run.log, "failed to create image source\n");
-    EXPECT_EQ(run.output, "");
+    EXPECT_EQ("failed to create image source\n", run.log);
+    EXPECT_EQ("", run.output);
 }
 
 TEST(TrimBorder, AMissingImageIsLogged) {
     const TrimRun run = trimWith<NoImage>();
     EXPECT_FALSE(run.image);
-    EXPECT_EQ(run.log, "failed to create image\n");
-    EXPECT_EQ(run.output, "");
+    EXPECT_EQ("failed to create image\n", run.log);
+    EXPECT_EQ("", run.output);
 }
 
 TEST(TrimBorder, AMissingContextIsLogged) {
     const TrimRun run = trimWith<NoContext>();
     EXPECT_FALSE(run.image);
-    EXPECT_EQ(run.log, "failed to create context\n");
-    EXPECT_EQ(run.output, "");
+    EXPECT_EQ("failed to create context\n", run.log);
+    EXPECT_EQ("", run.output);
 }
 
 TEST(TrimBorder, MissingBitmapDataIsLogged) {
     const TrimRun run = trimWith<NoData>();
     EXPECT_FALSE(run.image);
-    EXPECT_EQ(run.log, "failed to get bitmap data\n");
-    EXPECT_EQ(run.output, "");
+    EXPECT_EQ("failed to get bitmap data\n", run.log);
+    EXPECT_EQ("", run.output);
 }
 
 TEST(TrimBorder, AMissingRepresentationGivesNothingWithoutAMessage) {
     const TrimRun run = trimWith<NoRepresentation>();
     EXPECT_FALSE(run.image);
-    EXPECT_EQ(run.log, "");
+    EXPECT_EQ("", run.log);
     EXPECT_THAT(run.output, HasSubstr("new size: width=8, height=4\n"));
 }
 
@@ -272,7 +272,7 @@ TEST(TrimBorder, TheRestOfAPaddedRowIsZero) {
     const PaddedRepresentation steps(8 * 4 + 12);
     ASSERT_TRUE(trim(framed(Qt::black, Qt::red), steps).image);
     for (int y = 0; y < 4; ++y) {
-        EXPECT_EQ(steps.bytes(y, 8 * 4, 12), std::vector<uchar>(12, 0)) << "row " << y;
+        EXPECT_EQ(std::vector<uchar>(12, 0), steps.bytes(y, 8 * 4, 12)) << "row " << y;
     }
 }
 
@@ -293,7 +293,7 @@ TEST(TrimBorder, ARowAsLongAsTheWholeImageTakesAllPixelsAndLeavesTheOtherRowsAlo
     }
     EXPECT_EQ(steps.bytes(0, 0, whole), red);
     for (int y = 1; y < 4; ++y) {
-        EXPECT_EQ(steps.bytes(y, 0, whole), std::vector<uchar>(whole, 0xee)) << "row " << y;
+        EXPECT_EQ(std::vector<uchar>(whole, 0xee), steps.bytes(y, 0, whole)) << "row " << y;
     }
 }
 

@@ -71,7 +71,7 @@ private:
         QProcess process;
         process.start(QStringLiteral("xdotool"), arguments);
         EXPECT_TRUE(QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, patience));
-        EXPECT_EQ(process.exitCode(), 0) << arguments.join(' ').toStdString();
+        EXPECT_EQ(0, process.exitCode()) << arguments.join(' ').toStdString();
     }
 };
 
@@ -87,10 +87,10 @@ TEST_F(CoverArtViewOnX11, AnImageFileIsDroppedWithTheMouse) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return !receiver.calls.empty(); }, patience));
     QTest::qWait(200);
     takeScreenshot("drag_dropped.png");
-    EXPECT_EQ(receiver.calls.size(), 1U);
+    EXPECT_EQ(1U, receiver.calls.size());
     EXPECT_EQ(view->focusRingType(), Ring::None);
     EXPECT_FALSE(view->image().isNull());
-    EXPECT_EQ(log->text(), "in draggingEntered:\nin prepareForDragOperation:\nin performDragOperation:\n");
+    EXPECT_EQ("in draggingEntered:\nin prepareForDragOperation:\nin performDragOperation:\n", log->text());
 }
 
 TEST_F(CoverArtViewOnX11, AnImageWithoutAFileIsDroppedWithTheMouse) {
@@ -100,7 +100,7 @@ TEST_F(CoverArtViewOnX11, AnImageWithoutAFileIsDroppedWithTheMouse) {
     release();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !receiver.calls.empty(); }, patience));
     ASSERT_FALSE(view->image().isNull());
-    EXPECT_EQ(view->image().pixelColor(5, 5), QColor(Qt::green));
+    EXPECT_EQ(QColor(Qt::green), view->image().pixelColor(5, 5));
 }
 
 TEST_F(CoverArtViewOnX11, AFileThatIsOnlyOfferedToBeMovedIsCopied) {
@@ -126,7 +126,7 @@ TEST_F(CoverArtViewOnX11, ADragThatLeavesAgainChangesNothing) {
     release();
     QTest::qWait(200);
     EXPECT_TRUE(receiver.calls.empty());
-    EXPECT_EQ(log->text(), "in draggingEntered:\nin draggingExited:\n");
+    EXPECT_EQ("in draggingEntered:\nin draggingExited:\n", log->text());
 }
 
 } // namespace

@@ -6,9 +6,9 @@ namespace velmora {
 namespace {
 
 TEST(CellBlock, CellsAreDividedByTabsAndRowsByLineFeeds) {
-    EXPECT_EQ(blockText({{"a", "b"}, {"c", ""}}), "a\tb\nc\t\n");
+    EXPECT_EQ("a\tb\nc\t\n", blockText({{"a", "b"}, {"c", ""}}));
     EXPECT_EQ(blockFromText("a\tb\nc\t\n"), (CellBlock{{"a", "b"}, {"c", ""}}));
-    EXPECT_EQ(blockText({}), "");
+    EXPECT_EQ("", blockText({}));
     EXPECT_EQ(blockFromText(""), CellBlock{});
 }
 
@@ -26,8 +26,8 @@ TEST(CellBlock, AnEmptyRowIsARowOfOneEmptyCell) {
 }
 
 TEST(CellBlock, WhatWouldDivideIsQuoted) {
-    EXPECT_EQ(blockText({{"one\ntwo", "a\tb", "say \"so\""}}),
-              "\"one\ntwo\"\t\"a\tb\"\t\"say \"\"so\"\"\"\n");
+    EXPECT_EQ("\"one\ntwo\"\t\"a\tb\"\t\"say \"\"so\"\"\"\n",
+              blockText({{"one\ntwo", "a\tb", "say \"so\""}}));
     EXPECT_EQ(blockFromText("\"one\ntwo\"\t\"a\tb\"\t\"say \"\"so\"\"\"\n"),
               (CellBlock{{"one\ntwo", "a\tb", "say \"so\""}}));
 }
@@ -41,12 +41,12 @@ TEST(CellBlock, AQuotationMarkThatIsNeverClosedEndsWithTheText) {
 }
 
 TEST(CellBlock, AFormulaIsMadeHarmless) {
-    EXPECT_EQ(withoutFormula("=HYPERLINK(\"x\")"), "'=HYPERLINK(\"x\")");
-    EXPECT_EQ(withoutFormula("+1+cmd"), "'+1+cmd");
-    EXPECT_EQ(withoutFormula("-x"), "'-x");
-    EXPECT_EQ(withoutFormula("@SUM"), "'@SUM");
-    EXPECT_EQ(withoutFormula("\t=1"), "'\t=1");
-    EXPECT_EQ(blockText({{"=1", "a=1"}}), "'=1\ta=1\n");
+    EXPECT_EQ("'=HYPERLINK(\"x\")", withoutFormula("=HYPERLINK(\"x\")"));
+    EXPECT_EQ("'+1+cmd", withoutFormula("+1+cmd"));
+    EXPECT_EQ("'-x", withoutFormula("-x"));
+    EXPECT_EQ("'@SUM", withoutFormula("@SUM"));
+    EXPECT_EQ("'\t=1", withoutFormula("\t=1"));
+    EXPECT_EQ("'=1\ta=1\n", blockText({{"=1", "a=1"}}));
 }
 
 TEST(CellBlock, WhatIsNoFormulaStays) {
@@ -57,10 +57,10 @@ TEST(CellBlock, WhatIsNoFormulaStays) {
 }
 
 TEST(CellBlock, HarmlessFormulasComeBackAsTheyWere) {
-    EXPECT_EQ(withFormula("'=1"), "=1");
-    EXPECT_EQ(withFormula("=1"), "=1");
-    EXPECT_EQ(withoutFormula("'=1"), "''=1");
-    EXPECT_EQ(withFormula("''=1"), "'=1");
+    EXPECT_EQ("=1", withFormula("'=1"));
+    EXPECT_EQ("=1", withFormula("=1"));
+    EXPECT_EQ("''=1", withoutFormula("'=1"));
+    EXPECT_EQ("'=1", withFormula("''=1"));
     EXPECT_EQ(blockFromText("'=1\t'tis\n"), (CellBlock{{"=1", "'tis"}}));
 }
 

@@ -13,57 +13,56 @@ QByteArray nameOf(const char* text, const QByteArray& extension = ".mp3") {
 }
 
 TEST(FileName, AnOrdinaryTextIsTheName) {
-    EXPECT_EQ(nameOf("ABBA - Dancing Queen"), "ABBA - Dancing Queen.mp3");
-    EXPECT_EQ(nameOf("Łódź 東京"), "Łódź 東京.mp3");
-    EXPECT_EQ(nameOf("Vol. 2.5"), "Vol. 2.5.mp3");
+    EXPECT_EQ("ABBA - Dancing Queen.mp3", nameOf("ABBA - Dancing Queen"));
+    EXPECT_EQ("Łódź 東京.mp3", nameOf("Łódź 東京"));
+    EXPECT_EQ("Vol. 2.5.mp3", nameOf("Vol. 2.5"));
     EXPECT_FALSE(fileNameOf("a", ".mp3")->shortened);
 }
 
 TEST(FileName, TheExtensionIsKeptByteForByte) {
-    EXPECT_EQ(nameOf("a", ".MP3"), "a.MP3");
-    EXPECT_EQ(nameOf("a", ".m\xff"), "a.m\xff");
-    EXPECT_EQ(nameOf("a", ""), "a");
+    EXPECT_EQ("a.MP3", nameOf("a", ".MP3"));
+    EXPECT_EQ("a.m\xff", nameOf("a", ".m\xff"));
+    EXPECT_EQ("a", nameOf("a", ""));
 }
 
 TEST(FileName, WhatFileSystemsRefuseIsReplaced) {
-    EXPECT_EQ(nameOf("AC/DC"), "AC_DC.mp3");
-    EXPECT_EQ(nameOf("a\\b:c*d?e\"f<g>h|i"), "a_b_c_d_e_f_g_h_i.mp3");
-    EXPECT_EQ(nameOf("a\x01\x1f\x7f"
-                     "b"),
-              "a___b.mp3");
-    EXPECT_EQ(fileNameOf(QString("a") + QChar(0) + "b", ".mp3")->bytes, "a_b.mp3");
+    EXPECT_EQ("AC_DC.mp3", nameOf("AC/DC"));
+    EXPECT_EQ("a_b_c_d_e_f_g_h_i.mp3", nameOf("a\\b:c*d?e\"f<g>h|i"));
+    EXPECT_EQ("a___b.mp3", nameOf("a\x01\x1f\x7f"
+                                  "b"));
+    EXPECT_EQ("a_b.mp3", fileNameOf(QString("a") + QChar(0) + "b", ".mp3")->bytes);
 }
 
 TEST(FileName, LineBreaksAndTabsAreBlanks) {
-    EXPECT_EQ(nameOf("one\ntwo\tthree"), "one two three.mp3");
+    EXPECT_EQ("one two three.mp3", nameOf("one\ntwo\tthree"));
 }
 
 TEST(FileName, NoNameIsHidden) {
-    EXPECT_EQ(nameOf(".hack"), "_hack.mp3");
-    EXPECT_EQ(nameOf("..."), "_.mp3");
-    EXPECT_EQ(nameOf("../../etc/passwd"), "_._.._etc_passwd.mp3");
+    EXPECT_EQ("_hack.mp3", nameOf(".hack"));
+    EXPECT_EQ("_.mp3", nameOf("..."));
+    EXPECT_EQ("_._.._etc_passwd.mp3", nameOf("../../etc/passwd"));
 }
 
 TEST(FileName, BlanksAroundItAndDotsBehindItGo) {
-    EXPECT_EQ(nameOf("  a  "), "a.mp3");
-    EXPECT_EQ(nameOf("wait..."), "wait.mp3");
-    EXPECT_EQ(nameOf("wait. . "), "wait.mp3");
+    EXPECT_EQ("a.mp3", nameOf("  a  "));
+    EXPECT_EQ("wait.mp3", nameOf("wait..."));
+    EXPECT_EQ("wait.mp3", nameOf("wait. . "));
 }
 
 TEST(FileName, NoNameIsADevice) {
-    EXPECT_EQ(nameOf("con"), "_con.mp3");
-    EXPECT_EQ(nameOf("Aux.live"), "_Aux.live.mp3");
-    EXPECT_EQ(nameOf("LPT1"), "_LPT1.mp3");
-    EXPECT_EQ(nameOf("com¹"), "_com¹.mp3");
-    EXPECT_EQ(nameOf("nul", ""), "_nul");
-    EXPECT_EQ(nameOf("contact"), "contact.mp3");
-    EXPECT_EQ(nameOf("COM10"), "COM10.mp3");
+    EXPECT_EQ("_con.mp3", nameOf("con"));
+    EXPECT_EQ("_Aux.live.mp3", nameOf("Aux.live"));
+    EXPECT_EQ("_LPT1.mp3", nameOf("LPT1"));
+    EXPECT_EQ("_com¹.mp3", nameOf("com¹"));
+    EXPECT_EQ("_nul", nameOf("nul", ""));
+    EXPECT_EQ("contact.mp3", nameOf("contact"));
+    EXPECT_EQ("COM10.mp3", nameOf("COM10"));
 }
 
 TEST(FileName, NoTextIsNoName) {
-    EXPECT_EQ(nameOf(""), "(none)");
-    EXPECT_EQ(nameOf("   "), "(none)");
-    EXPECT_EQ(nameOf("\n"), "(none)");
+    EXPECT_EQ("(none)", nameOf(""));
+    EXPECT_EQ("(none)", nameOf("   "));
+    EXPECT_EQ("(none)", nameOf("\n"));
 }
 
 TEST(FileName, TwoHundredAndFiftyFiveBytesHaveRoom) {
@@ -89,20 +88,20 @@ TEST(FileName, WhatIsCutHasASoundEnd) {
 }
 
 TEST(FileName, WithoutRoomBesideTheExtensionThereIsNone) {
-    EXPECT_EQ(nameOf("é", "." + QByteArray(253, 'x')), "(none)");
+    EXPECT_EQ("(none)", nameOf("é", "." + QByteArray(253, 'x')));
     EXPECT_EQ(nameOf("e", "." + QByteArray(253, 'x')), "e." + QByteArray(253, 'x'));
 }
 
 TEST(FileName, BytesThatAreNoTextStay) {
     const QString text = pathFromBytes("caf\xe9");
-    EXPECT_EQ(fileNameOf(text, ".mp3")->bytes, "caf\xe9.mp3");
+    EXPECT_EQ("caf\xe9.mp3", fileNameOf(text, ".mp3")->bytes);
 }
 
 TEST(ExtensionOf, IsWhatStandsBehindTheLastDot) {
-    EXPECT_EQ(extensionOf("/a.b/c.tar.MP3"), ".MP3");
-    EXPECT_EQ(extensionOf("/a.b/c"), "");
-    EXPECT_EQ(extensionOf("/a/.hidden"), "");
-    EXPECT_EQ(extensionOf("c.\xff"), ".\xff");
+    EXPECT_EQ(".MP3", extensionOf("/a.b/c.tar.MP3"));
+    EXPECT_EQ("", extensionOf("/a.b/c"));
+    EXPECT_EQ("", extensionOf("/a/.hidden"));
+    EXPECT_EQ(".\xff", extensionOf("c.\xff"));
 }
 
 } // namespace

@@ -173,7 +173,7 @@ portable::ReadOutcome readOutcome(portable::Media media) {
 
 TEST(MissingIn, AFieldThatTheKindDoesNotHaveIsNotMissing) {
     EXPECT_EQ(missingIn(readOutcome(portable::Media::audio)), 0b11'1011'0111 & ~missingBit(Field::director));
-    EXPECT_EQ(missingIn(readOutcome(portable::Media::video)), 0b11'1111'1011);
+    EXPECT_EQ(0b11'1111'1011, missingIn(readOutcome(portable::Media::video)));
 }
 
 TEST(MissingIn, WhatIsThereIsNotMissing) {
@@ -187,14 +187,14 @@ TEST(MissingIn, WhatIsThereIsNotMissing) {
     read.values.year = 1;
     EXPECT_EQ(missingIn(read), missingBit(Field::cover));
     read.values.cover = portable::Cover{};
-    EXPECT_EQ(missingIn(read), 0);
+    EXPECT_EQ(0, missingIn(read));
 }
 
 TEST(MissingIn, OfAFileThatCanNotBeReadNothingIsKnown) {
     portable::ReadOutcome read = readOutcome(portable::Media::audio);
     read.failure = portable::Reason{};
-    EXPECT_EQ(missingIn(read), 0);
-    EXPECT_EQ(missingIn(portable::ReadOutcome{}), 0);
+    EXPECT_EQ(0, missingIn(read));
+    EXPECT_EQ(0, missingIn(portable::ReadOutcome{}));
 }
 
 } // namespace

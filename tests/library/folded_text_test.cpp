@@ -6,38 +6,38 @@ namespace velmora {
 namespace {
 
 TEST(FoldedText, LettersHaveNoCase) {
-    EXPECT_EQ(foldedText("ABBA abba"), "abba abba");
-    EXPECT_EQ(foldedText("ΣΙΣΥΦΟΣ МОСКВА"), "σισυφοσ москва");
+    EXPECT_EQ("abba abba", foldedText("ABBA abba"));
+    EXPECT_EQ("σισυφοσ москва", foldedText("ΣΙΣΥΦΟΣ МОСКВА"));
 }
 
 TEST(FoldedText, LettersHaveNoAccents) {
-    EXPECT_EQ(foldedText("Beyoncé Dvořák Çiçek"), "beyonce dvorak cicek");
-    EXPECT_EQ(foldedText("e\u0301"), "e");
-    EXPECT_EQ(foldedText("Ёлка Май Σίσυφος"), "елка маи σισυφοσ");
+    EXPECT_EQ("beyonce dvorak cicek", foldedText("Beyoncé Dvořák Çiçek"));
+    EXPECT_EQ("e", foldedText("e\u0301"));
+    EXPECT_EQ("елка маи σισυφοσ", foldedText("Ёлка Май Σίσυφος"));
 }
 
 TEST(FoldedText, LettersWithoutADecompositionAreSpeltPlainly) {
-    EXPECT_EQ(foldedText("Straße STRASSE Øre Łódź Æon þorn"), "strasse strasse ore lodz aeon thorn");
+    EXPECT_EQ("strasse strasse ore lodz aeon thorn", foldedText("Straße STRASSE Øre Łódź Æon þorn"));
 }
 
 TEST(FoldedText, FormsOfASignAreOne) {
-    EXPECT_EQ(foldedText("don’t – “so” ＡＢＣ ﬁn"), "don't - \"so\" abc fin");
+    EXPECT_EQ("don't - \"so\" abc fin", foldedText("don’t – “so” ＡＢＣ ﬁn"));
 }
 
 TEST(FoldedText, MarksThatMakeAnotherLetterStay) {
-    EXPECT_EQ(foldedText("が"), "が");
-    EXPECT_EQ(foldedText("か\u3099"), "が");
-    EXPECT_EQ(foldedText("한글"), "한글");
+    EXPECT_EQ("が", foldedText("が"));
+    EXPECT_EQ("が", foldedText("か\u3099"));
+    EXPECT_EQ("한글", foldedText("한글"));
     EXPECT_NE(foldedText("की"), foldedText("क"));
 }
 
 TEST(FoldedText, LineBreaksAreBlanks) {
-    EXPECT_EQ(foldedText("a\nb\r\nc"), "a b  c");
-    EXPECT_EQ(foldedText("é\nb"), "e b");
+    EXPECT_EQ("a b  c", foldedText("a\nb\r\nc"));
+    EXPECT_EQ("e b", foldedText("é\nb"));
 }
 
 TEST(FoldedText, BytesThatAreNoTextDoNotDisturb) {
-    EXPECT_EQ(foldedText(QString("a") + QChar(0xDCFF) + "B"), "a?b");
+    EXPECT_EQ("a?b", foldedText(QString("a") + QChar(0xDCFF) + "B"));
 }
 
 } // namespace

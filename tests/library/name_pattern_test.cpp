@@ -148,19 +148,19 @@ TEST(TagsFromNames, ALongNameThatAlmostFitsIsLookedThroughOnce) {
 
 TEST(NamePattern, TellsWhatIsWrong) {
     for (const Use use : {Use::read, Use::write}) {
-        EXPECT_EQ(mistakeIn("", use), "The pattern is empty.");
-        EXPECT_EQ(mistakeIn("%title% 50%", use), "A percent sign stands alone. Write %% for a percent sign.");
-        EXPECT_EQ(mistakeIn("%track%", use), "There is no field \"track\".");
-        EXPECT_EQ(mistakeIn("name", use), "There is no field in the pattern.");
-        EXPECT_EQ(mistakeIn("%artist%/", use), "There is nothing beside a slash.");
-        EXPECT_EQ(mistakeIn("%artist% - %title%", use), "");
+        EXPECT_EQ("The pattern is empty.", mistakeIn("", use));
+        EXPECT_EQ("A percent sign stands alone. Write %% for a percent sign.", mistakeIn("%title% 50%", use));
+        EXPECT_EQ("There is no field \"track\".", mistakeIn("%track%", use));
+        EXPECT_EQ("There is no field in the pattern.", mistakeIn("name", use));
+        EXPECT_EQ("There is nothing beside a slash.", mistakeIn("%artist%/", use));
+        EXPECT_EQ("", mistakeIn("%artist% - %title%", use));
     }
-    EXPECT_EQ(mistakeIn("%artist%%title%", Use::read), "Nothing divides one field from the next.");
-    EXPECT_EQ(mistakeIn("%artist%%title%", Use::write), "");
-    EXPECT_EQ(mistakeIn("%title%/%title%", Use::read), "A field comes twice.");
-    EXPECT_EQ(mistakeIn("%title% %title%", Use::write), "");
-    EXPECT_EQ(mistakeIn("%skip% %title%", Use::write), "%skip% has no place in a new name.");
-    EXPECT_EQ(mistakeIn("%artist%/%title%", Use::write), "A name has no slash: files stay in their folders.");
+    EXPECT_EQ("Nothing divides one field from the next.", mistakeIn("%artist%%title%", Use::read));
+    EXPECT_EQ("", mistakeIn("%artist%%title%", Use::write));
+    EXPECT_EQ("A field comes twice.", mistakeIn("%title%/%title%", Use::read));
+    EXPECT_EQ("", mistakeIn("%title% %title%", Use::write));
+    EXPECT_EQ("%skip% has no place in a new name.", mistakeIn("%skip% %title%", Use::write));
+    EXPECT_EQ("A name has no slash: files stay in their folders.", mistakeIn("%artist%/%title%", Use::write));
 }
 
 TEST(NamePattern, KnowsItsFields) {
@@ -179,7 +179,7 @@ portable::TagValues someValues() {
 TEST(NamesFromTags, ValuesTakeTheirPlaces) {
     const auto name = writing("%artist% - %title% (%year%) 100%% %folder%").nameFrom(someValues(), "x/y");
     ASSERT_TRUE(std::holds_alternative<QString>(name));
-    EXPECT_EQ(std::get<QString>(name), "ABBA - Waterloo (1974) 100% x/y");
+    EXPECT_EQ("ABBA - Waterloo (1974) 100% x/y", std::get<QString>(name));
 }
 
 TEST(NamesFromTags, TellWhichValueIsMissing) {

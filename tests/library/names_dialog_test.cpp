@@ -84,28 +84,28 @@ TEST_F(NamesDialogTest, NamesBecomeTagsThatAreNotAppliedYet) {
     add("ABBA - Waterloo.mp3", song("x", "y"));
     add("Waterloo.mp3", song("x", "y"));
     NamesDialog* const dialog = openedForTags();
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(nullptr, dialog);
     type(*dialog, "%artist% - %title%");
-    EXPECT_EQ(row(*dialog, 0), QStringList({"ABBA - Waterloo.mp3", "ABBA", "Waterloo", ""}));
-    EXPECT_EQ(row(*dialog, 1), QStringList({"Waterloo.mp3", "", "", "The name does not fit the pattern"}));
+    EXPECT_EQ(QStringList({"ABBA - Waterloo.mp3", "ABBA", "Waterloo", ""}), row(*dialog, 0));
+    EXPECT_EQ(QStringList({"Waterloo.mp3", "", "", "The name does not fit the pattern"}), row(*dialog, 1));
     QTest::keyClick(lineOf(*dialog), Qt::Key_Return);
     closed(dialog);
-    EXPECT_EQ(shown(0, LibraryColumn::artist), "ABBA");
-    EXPECT_EQ(shown(0, LibraryColumn::title), "Waterloo");
-    EXPECT_EQ(shown(1, LibraryColumn::title), "x");
-    EXPECT_EQ(window_.model().rows().editedCount(), 1U);
+    EXPECT_EQ("ABBA", shown(0, LibraryColumn::artist));
+    EXPECT_EQ("Waterloo", shown(0, LibraryColumn::title));
+    EXPECT_EQ("x", shown(1, LibraryColumn::title));
+    EXPECT_EQ(1U, window_.model().rows().editedCount());
     EXPECT_EQ(test::read_file(folder_ / "ABBA - Waterloo.mp3"), song("x", "y"));
 }
 
 TEST_F(NamesDialogTest, TagsBecomeNamesThatAreNotAppliedYet) {
     add("1.mp3", song("Waterloo", "AC/DC"));
     NamesDialog* const dialog = openedForNames();
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(nullptr, dialog);
     type(*dialog, "%artist% - %title%");
-    EXPECT_EQ(row(*dialog, 0), QStringList({"1.mp3", "AC_DC - Waterloo.mp3", ""}));
+    EXPECT_EQ(QStringList({"1.mp3", "AC_DC - Waterloo.mp3", ""}), row(*dialog, 0));
     QTest::keyClick(lineOf(*dialog), Qt::Key_Return);
     closed(dialog);
-    EXPECT_EQ(shown(0, LibraryColumn::name), "AC_DC - Waterloo.mp3");
+    EXPECT_EQ("AC_DC - Waterloo.mp3", shown(0, LibraryColumn::name));
     EXPECT_TRUE(std::filesystem::exists(folder_ / "1.mp3"));
 }
 
@@ -118,22 +118,22 @@ TEST_F(NamesDialogTest, WhatIsWrongWithANameIsTold) {
     add("6.mp3", song("Six", "F"));
     test::write_file(folder_ / "Taken.mp3", "");
     NamesDialog* const dialog = openedForNames();
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(nullptr, dialog);
     type(*dialog, "%title%");
-    EXPECT_EQ(row(*dialog, 0),
-              QStringList({"1.mp3", "One.mp3", "Another row has that name or is to get it"}));
-    EXPECT_EQ(cell(*dialog, 1, 2), "Another row has that name or is to get it");
-    EXPECT_EQ(row(*dialog, 2), QStringList({"3.mp3", "", "No value: Title"}));
-    EXPECT_EQ(cell(*dialog, 3, 2), "There is a file of that name");
-    EXPECT_EQ(row(*dialog, 4), QStringList({"Five.mp3", "Five.mp3", "It has that name already"}));
-    EXPECT_EQ(row(*dialog, 5), QStringList({"6.mp3", "Six.mp3", ""}));
+    EXPECT_EQ(QStringList({"1.mp3", "One.mp3", "Another row has that name or is to get it"}),
+              row(*dialog, 0));
+    EXPECT_EQ("Another row has that name or is to get it", cell(*dialog, 1, 2));
+    EXPECT_EQ(QStringList({"3.mp3", "", "No value: Title"}), row(*dialog, 2));
+    EXPECT_EQ("There is a file of that name", cell(*dialog, 3, 2));
+    EXPECT_EQ(QStringList({"Five.mp3", "Five.mp3", "It has that name already"}), row(*dialog, 4));
+    EXPECT_EQ(QStringList({"6.mp3", "Six.mp3", ""}), row(*dialog, 5));
     // Alt+W, the box's letter, hides what is right.
     QTest::keyClick(lineOf(*dialog), Qt::Key_W, Qt::AltModifier);
     EXPECT_TRUE(waitUntil([&] { return dialog->findChild<QTableView*>()->model()->rowCount() == 4; }));
     QTest::keyClick(lineOf(*dialog), Qt::Key_Return);
     closed(dialog);
-    EXPECT_EQ(window_.model().rows().editedCount(), 1U);
-    EXPECT_EQ(shown(5, LibraryColumn::name), "Six.mp3");
+    EXPECT_EQ(1U, window_.model().rows().editedCount());
+    EXPECT_EQ("Six.mp3", shown(5, LibraryColumn::name));
 }
 
 TEST_F(NamesDialogTest, OnlySelectedFilesAreMeant) {
@@ -141,31 +141,31 @@ TEST_F(NamesDialogTest, OnlySelectedFilesAreMeant) {
     add("2.mp3", song("Two", "B"));
     window_.view().selectRow(1);
     NamesDialog* const dialog = openedForNames();
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(nullptr, dialog);
     type(*dialog, "%title%");
-    EXPECT_EQ(dialog->findChild<QTableView*>()->model()->rowCount(), 1);
+    EXPECT_EQ(1, dialog->findChild<QTableView*>()->model()->rowCount());
     QTest::keyClick(lineOf(*dialog), Qt::Key_Return);
     closed(dialog);
-    EXPECT_EQ(shown(0, LibraryColumn::name), "1.mp3");
-    EXPECT_EQ(shown(1, LibraryColumn::name), "Two.mp3");
+    EXPECT_EQ("1.mp3", shown(0, LibraryColumn::name));
+    EXPECT_EQ("Two.mp3", shown(1, LibraryColumn::name));
 }
 
 TEST_F(NamesDialogTest, EscapeLeavesEverythingAsItIs) {
     add("A - B.mp3", song("x", "y"));
     NamesDialog* const dialog = openedForTags();
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(nullptr, dialog);
     type(*dialog, "%artist% - %title%");
     QTest::keyClick(lineOf(*dialog), Qt::Key_Escape);
     closed(dialog);
-    EXPECT_EQ(window_.model().rows().editedCount(), 0U);
+    EXPECT_EQ(0U, window_.model().rows().editedCount());
 }
 
 TEST_F(NamesDialogTest, AWrongPatternIsToldAndCanNotBeAccepted) {
     add("A - B.mp3", song("x", "y"));
     NamesDialog* const dialog = openedForTags();
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(nullptr, dialog);
     type(*dialog, "%track%");
-    EXPECT_EQ(dialog->findChild<QComboBox*>()->accessibleDescription(), "There is no field \"track\".");
+    EXPECT_EQ("There is no field \"track\".", dialog->findChild<QComboBox*>()->accessibleDescription());
     QTest::keyClick(lineOf(*dialog), Qt::Key_Return);
     EXPECT_TRUE(dialog->isVisible());
     QTest::keyClick(lineOf(*dialog), Qt::Key_Escape);
@@ -175,15 +175,15 @@ TEST_F(NamesDialogTest, AWrongPatternIsToldAndCanNotBeAccepted) {
 TEST_F(NamesDialogTest, PatternsOfThisRunComeFirst) {
     add("A - B.mp3", song("x", "y"));
     NamesDialog* first = openedForTags();
-    ASSERT_NE(first, nullptr);
+    ASSERT_NE(nullptr, first);
     type(*first, "%title% - %artist%");
     QTest::keyClick(lineOf(*first), Qt::Key_Return);
     closed(first);
     NamesDialog* const second = openedForTags();
-    ASSERT_NE(second, nullptr);
-    EXPECT_EQ(lineOf(*second)->text(), "%title% - %artist%");
+    ASSERT_NE(nullptr, second);
+    EXPECT_EQ("%title% - %artist%", lineOf(*second)->text());
     QTest::keyClick(lineOf(*second), Qt::Key_Down);
-    EXPECT_EQ(lineOf(*second)->text(), "%artist% - %title%");
+    EXPECT_EQ("%artist% - %title%", lineOf(*second)->text());
     QTest::keyClick(lineOf(*second), Qt::Key_Escape);
     closed(second);
 }
@@ -191,14 +191,14 @@ TEST_F(NamesDialogTest, PatternsOfThisRunComeFirst) {
 TEST_F(NamesDialogTest, ANameThatIsNotAppliedYetIsTheOneThatIsRead) {
     add("x.mp3", song("Waterloo", "ABBA"));
     NamesDialog* const names = openedForNames();
-    ASSERT_NE(names, nullptr);
+    ASSERT_NE(nullptr, names);
     type(*names, "%title% by %artist%");
     QTest::keyClick(lineOf(*names), Qt::Key_Return);
     closed(names);
     NamesDialog* const tags = openedForTags();
-    ASSERT_NE(tags, nullptr);
+    ASSERT_NE(nullptr, tags);
     type(*tags, "%title% by %album%");
-    EXPECT_EQ(row(*tags, 0), QStringList({"Waterloo by ABBA.mp3", "Waterloo", "ABBA", ""}));
+    EXPECT_EQ(QStringList({"Waterloo by ABBA.mp3", "Waterloo", "ABBA", ""}), row(*tags, 0));
     QTest::keyClick(lineOf(*tags), Qt::Key_Escape);
     closed(tags);
 }
@@ -206,9 +206,9 @@ TEST_F(NamesDialogTest, ANameThatIsNotAppliedYetIsTheOneThatIsRead) {
 TEST_F(NamesDialogTest, AFieldThatTheKindDoesNotHaveIsTold) {
     add("A - B.mp3", song("x", "y"));
     NamesDialog* const dialog = openedForTags();
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(nullptr, dialog);
     type(*dialog, "%director% - %title%");
-    EXPECT_EQ(cell(*dialog, 0, 3), "Files of this kind have no such field: Album / Director");
+    EXPECT_EQ("Files of this kind have no such field: Album / Director", cell(*dialog, 0, 3));
     QTest::keyClick(lineOf(*dialog), Qt::Key_Escape);
     closed(dialog);
 }
@@ -221,18 +221,18 @@ TEST_F(NamesDialogTest, ManyRowsAreMadeBesideTheWindow) {
     ASSERT_TRUE(
         waitUntil([&] { return window_.model().rowCount() == 400 && window_.model().unread() == 0; }));
     NamesDialog* const dialog = openedForTags();
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(nullptr, dialog);
     type(*dialog, "%artist% - %title%");
     EXPECT_TRUE(waitUntil([&] { return dialog->rows().size() == 400 && dialog->rows().front().applies; }));
     QTest::keyClick(lineOf(*dialog), Qt::Key_Return);
     closed(dialog);
-    EXPECT_EQ(window_.model().rows().editedCount(), 400U);
+    EXPECT_EQ(400U, window_.model().rows().editedCount());
 }
 
 TEST_F(NamesDialogTest, EveryControlHasANameATipAndAPlaceForTheTabKey) {
     add("A - B.mp3", song("x", "y"));
     NamesDialog* const dialog = openedForTags();
-    ASSERT_NE(dialog, nullptr);
+    ASSERT_NE(nullptr, dialog);
     type(*dialog, "%title%");
     int controls = 0;
     for (QWidget* const control : dialog->findChildren<QWidget*>()) {
@@ -246,9 +246,9 @@ TEST_F(NamesDialogTest, EveryControlHasANameATipAndAPlaceForTheTabKey) {
         EXPECT_FALSE(control->accessibleName().isEmpty() && (!button || button->text().isEmpty()))
             << control->metaObject()->className();
         EXPECT_FALSE(control->toolTip().isEmpty()) << control->metaObject()->className();
-        EXPECT_NE(control->focusPolicy() & Qt::TabFocus, 0) << control->metaObject()->className();
+        EXPECT_NE(0, control->focusPolicy() & Qt::TabFocus) << control->metaObject()->className();
     }
-    EXPECT_EQ(controls, 6);
+    EXPECT_EQ(6, controls);
     QTest::keyClick(lineOf(*dialog), Qt::Key_Escape);
     closed(dialog);
 }

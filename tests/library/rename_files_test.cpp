@@ -129,7 +129,7 @@ TEST_F(RenameFilesTest, TwoFilesExchangeTheirNames) {
     make("b");
     EXPECT_THAT(run({{"a", "b"}, {"b", "a"}}), ElementsAre(0, 0));
     EXPECT_THAT(contents(), ElementsAre(Pair("a", "of b"), Pair("b", "of a")));
-    EXPECT_EQ(renameCalls.callsMade, 1U);
+    EXPECT_EQ(1U, renameCalls.callsMade);
 }
 
 TEST_F(RenameFilesTest, NamesGoRoundInACircle) {

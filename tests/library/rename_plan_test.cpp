@@ -102,7 +102,7 @@ TEST_F(RenamePlanTest, AFileThatIsNoRowKeepsItsName) {
 }
 
 TEST_F(RenamePlanTest, ALinkToNowhereIsAFileToo) {
-    ASSERT_EQ(::symlink("nowhere", (folder_ / "x.mp3").c_str()), 0);
+    ASSERT_EQ(0, ::symlink("nowhere", (folder_ / "x.mp3").c_str()));
     EXPECT_THAT(marks({row("a.mp3", "x")}), ElementsAre(RenameMark::clashesWithFile));
 }
 
@@ -136,7 +136,7 @@ TEST_F(RenamePlanTest, NamesOfAnyBytesAreRenamed) {
 
 TEST_F(RenamePlanTest, WhatIsDoneIsWhatIsMarkedAsRenamed) {
     const auto renames = renamesOf(plan({row("a.mp3", "x"), row("b.mp3", ""), row("c.mp3", "c")}));
-    ASSERT_EQ(renames.size(), 1U);
+    ASSERT_EQ(1U, renames.size());
     EXPECT_EQ(renames[0].from, path("a.mp3"));
     EXPECT_EQ(renames[0].to, path("x.mp3"));
     EXPECT_EQ(renames[0].identity, identityOf(path("a.mp3")));

@@ -36,44 +36,44 @@ QByteArray jsonOf(const ExportTable& table) {
 TEST(ExportCsv, HasTitlesAndARowALine) {
     ExportTable table = oneRow({"a", 1976, QVariant(), "é"});
     table.rows = 2;
-    EXPECT_EQ(csvOf(table), "\xEF\xBB\xBFTitle 0,Title 1,Title 2,Title 3\r\na,1976,,é\r\na,1976,,é\r\n");
+    EXPECT_EQ("\xEF\xBB\xBFTitle 0,Title 1,Title 2,Title 3\r\na,1976,,é\r\na,1976,,é\r\n", csvOf(table));
 }
 
 TEST(ExportCsv, WhatWouldDivideIsQuoted) {
     EXPECT_EQ(
-        csvOf(oneRow({"a,b", "say \"so\"", "one\ntwo", "a\tb"})),
-        "\xEF\xBB\xBFTitle 0,Title 1,Title 2,Title 3\r\n\"a,b\",\"say \"\"so\"\"\",\"one\ntwo\",a\tb\r\n");
+        "\xEF\xBB\xBFTitle 0,Title 1,Title 2,Title 3\r\n\"a,b\",\"say \"\"so\"\"\",\"one\ntwo\",a\tb\r\n",
+        csvOf(oneRow({"a,b", "say \"so\"", "one\ntwo", "a\tb"})));
 }
 
 TEST(ExportCsv, FormulasAreHarmlessAndNumbersAreNumbers) {
-    EXPECT_EQ(csvOf(oneRow({"=1+1", "@x", -5, "-5"})),
-              "\xEF\xBB\xBFTitle 0,Title 1,Title 2,Title 3\r\n'=1+1,'@x,-5,-5\r\n");
+    EXPECT_EQ("\xEF\xBB\xBFTitle 0,Title 1,Title 2,Title 3\r\n'=1+1,'@x,-5,-5\r\n",
+              csvOf(oneRow({"=1+1", "@x", -5, "-5"})));
 }
 
 TEST(ExportCsv, BytesThatAreNoTextAreMarked) {
-    EXPECT_EQ(csvOf(oneRow({pathFromBytes("caf\xe9")})), "\xEF\xBB\xBFTitle 0\r\ncaf?\r\n");
+    EXPECT_EQ("\xEF\xBB\xBFTitle 0\r\ncaf?\r\n", csvOf(oneRow({pathFromBytes("caf\xe9")})));
 }
 
 TEST(ExportJson, HasAnObjectARow) {
     ExportTable table = oneRow({"a", 1976, QVariant(), true});
     table.rows = 2;
     const QByteArray row = R"({"key0":"a","key1":1976,"key2":null,"key3":true})";
-    EXPECT_EQ(jsonOf(table), "[\n" + row + ",\n" + row + "\n]\n");
+    EXPECT_EQ("[\n" + row + ",\n" + row + "\n]\n", jsonOf(table));
 }
 
 TEST(ExportJson, TextsAreExact) {
-    EXPECT_EQ(jsonOf(oneRow({"=1", "say \"so\"\né"})),
-              "[\n{\"key0\":\"=1\",\"key1\":\"say \\\"so\\\"\\né\"}\n]\n");
+    EXPECT_EQ("[\n{\"key0\":\"=1\",\"key1\":\"say \\\"so\\\"\\né\"}\n]\n",
+              jsonOf(oneRow({"=1", "say \"so\"\né"})));
 }
 
 TEST(ExportJson, LargeNumbersAreExact) {
-    EXPECT_EQ(jsonOf(oneRow({QVariant(qlonglong{9007199254740991})})), "[\n{\"key0\":9007199254740991}\n]\n");
+    EXPECT_EQ("[\n{\"key0\":9007199254740991}\n]\n", jsonOf(oneRow({QVariant(qlonglong{9007199254740991})})));
 }
 
 TEST(ExportJson, NoRowIsAnEmptyArray) {
     ExportTable table = oneRow({"a"});
     table.rows = 0;
-    EXPECT_EQ(jsonOf(table), "[]\n");
+    EXPECT_EQ("[]\n", jsonOf(table));
 }
 
 /** A device that takes so many bytes and no more. */

@@ -113,7 +113,7 @@ TEST(LegibleStyle, SelectionThatStandsOutAlreadyIsLeftAlone) {
 }
 
 TEST(LegibleColour, IsTheColourItselfWhereItStandsOut) {
-    EXPECT_EQ(legibleOn(Qt::black, QColor(200, 0, 0), 3), QColor(200, 0, 0));
+    EXPECT_EQ(QColor(200, 0, 0), legibleOn(Qt::black, QColor(200, 0, 0), 3));
 }
 
 TEST(LegibleColour, MovesAwayFromTheGroundUntilItStandsOut) {
@@ -123,7 +123,7 @@ TEST(LegibleColour, MovesAwayFromTheGroundUntilItStandsOut) {
 }
 
 TEST(LegibleColour, IsWhiteOrBlackWhereNothingStandsOutEnough) {
-    EXPECT_EQ(legibleOn(QColor(0x60, 0x60, 0x60), Qt::red, 21), QColor(Qt::white));
+    EXPECT_EQ(QColor(Qt::white), legibleOn(QColor(0x60, 0x60, 0x60), Qt::red, 21));
 }
 
 } // namespace

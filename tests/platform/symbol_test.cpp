@@ -44,9 +44,9 @@ TEST_F(SymbolTest, EveryDrawingIsReadAndDrawnInTheColourAskedFor) {
     EXPECT_GE(drawings.size(), 20);
     for (const QString& drawing : drawings) {
         const QImage picture = drawnSymbol(drawing.chopped(4), 32, Qt::red).toImage();
-        EXPECT_EQ(picture.size(), QSize(32, 32));
+        EXPECT_EQ(QSize(32, 32), picture.size());
         EXPECT_GT(pixelsOf(picture, Qt::red), 20) << drawing.toStdString();
-        EXPECT_EQ(picture.pixelColor(0, 0).alpha(), 0) << drawing.toStdString();
+        EXPECT_EQ(0, picture.pixelColor(0, 0).alpha()) << drawing.toStdString();
     }
 }
 
@@ -78,8 +78,8 @@ TEST_F(SymbolTest, ThemesIconComesFirst) {
     const QStringList paths = QIcon::themeSearchPaths();
     QIcon::setThemeSearchPaths({QDir().absoluteFilePath("symbol_theme")});
     QIcon::setThemeName("own");
-    EXPECT_EQ(pixelsOf(symbol("document-save").pixmap(16).toImage(), Qt::magenta), 256);
-    EXPECT_EQ(pixelsOf(symbol("edit-find").pixmap(16).toImage(), Qt::magenta), 0);
+    EXPECT_EQ(256, pixelsOf(symbol("document-save").pixmap(16).toImage(), Qt::magenta));
+    EXPECT_EQ(0, pixelsOf(symbol("edit-find").pixmap(16).toImage(), Qt::magenta));
     QIcon::setThemeSearchPaths(paths);
 }
 

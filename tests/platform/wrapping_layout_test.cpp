@@ -46,36 +46,36 @@ protected:
 TEST_F(WrappingLayoutTest, PutsAllInOneRowWhereThereIsRoom) {
     EXPECT_EQ(placesAt(260),
               (std::vector{QRect(0, 0, 100, 20), QRect(110, 0, 60, 30), QRect(180, 0, 80, 20)}));
-    EXPECT_EQ(layout_->heightAt(260), 30);
-    EXPECT_EQ(layout_->sizeHint(), QSize(260, 30));
+    EXPECT_EQ(30, layout_->heightAt(260));
+    EXPECT_EQ(QSize(260, 30), layout_->sizeHint());
 }
 
 TEST_F(WrappingLayoutTest, BeginsAnotherRowBelowTheHighestOfTheLast) {
     EXPECT_EQ(placesAt(259),
               (std::vector{QRect(0, 0, 100, 20), QRect(110, 0, 60, 30), QRect(0, 40, 80, 20)}));
-    EXPECT_EQ(layout_->heightAt(259), 60);
+    EXPECT_EQ(60, layout_->heightAt(259));
 }
 
 TEST_F(WrappingLayoutTest, NeedsTheHeightOfItsRowsAtItsPresentWidth) {
     (void)placesAt(259);
-    EXPECT_EQ(layout_->minimumSize().height(), 60);
-    EXPECT_EQ(layout_->sizeHint().height(), 60);
+    EXPECT_EQ(60, layout_->minimumSize().height());
+    EXPECT_EQ(60, layout_->sizeHint().height());
     (void)placesAt(260);
-    EXPECT_EQ(layout_->minimumSize().height(), 30);
+    EXPECT_EQ(30, layout_->minimumSize().height());
 }
 
 TEST_F(WrappingLayoutTest, NeedsTheWidthOfItsWidestWidgetOnly) {
-    EXPECT_EQ(layout_->minimumSize().width(), 100);
+    EXPECT_EQ(100, layout_->minimumSize().width());
     EXPECT_EQ(layout_->heightAt(100), 20 + 10 + 30 + 10 + 20);
 }
 
 TEST(ElidedLabel, NeedsNoWidthAndKeepsItsText) {
     ElidedLabel label;
     label.setText(QString(400, u'x'));
-    EXPECT_EQ(label.minimumSizeHint().width(), 0);
+    EXPECT_EQ(0, label.minimumSizeHint().width());
     label.resize(80, 20);
-    EXPECT_EQ(label.grab().size(), QSize(80, 20));
-    EXPECT_EQ(label.text(), QString(400, u'x'));
+    EXPECT_EQ(QSize(80, 20), label.grab().size());
+    EXPECT_EQ(QString(400, u'x'), label.text());
 }
 
 } // namespace

@@ -23,12 +23,12 @@ class MovieFormat : public MovieTest, public testing::WithParamInterface<Film> {
 TEST_P(MovieFormat, OpensWithVideoAndShowsItsFirstFrame) {
     const Film& film = GetParam();
     open(film.sound ? files.filmWithSound(film.name, film.encoding) : files.film(film.name, film.encoding));
-    ASSERT_EQ(opened.count(), 1);
+    ASSERT_EQ(1, opened.count());
     EXPECT_TRUE(opened[0][0].toBool());
     EXPECT_TRUE(movie.isOpen());
     EXPECT_TRUE(movie.hasVideo());
     EXPECT_TRUE(waitForFrame(isFirstFrame));
-    EXPECT_EQ(failed.count(), 0);
+    EXPECT_EQ(0, failed.count());
 }
 
 std::string nameOfFilm(const testing::TestParamInfo<Film>& film) {
@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(MovieTest, SoundAloneOpensWithoutVideo) {
     open(mp3());
-    ASSERT_EQ(opened.count(), 1);
+    ASSERT_EQ(1, opened.count());
     EXPECT_FALSE(opened[0][0].toBool());
     EXPECT_TRUE(movie.isOpen());
     EXPECT_FALSE(movie.hasVideo());
@@ -63,21 +63,21 @@ TEST_F(MovieTest, SoundAloneOpensWithoutVideo) {
 
 TEST_F(MovieTest, WindowsMediaSoundOpensWithoutVideo) {
     open(files.sound("sound.wma", {"-c:a", "wmav2"}));
-    ASSERT_EQ(opened.count(), 1);
+    ASSERT_EQ(1, opened.count());
     EXPECT_FALSE(opened[0][0].toBool());
 }
 
 TEST_F(MovieTest, ThePictureInASoundFileIsNoVideo) {
     open(files.soundWithPicture("picture.mp3"));
-    ASSERT_EQ(opened.count(), 1);
+    ASSERT_EQ(1, opened.count());
     EXPECT_FALSE(opened[0][0].toBool());
 }
 
 TEST_F(MovieTest, AnErrorAfterASuccessChangesNothing) {
     open(mp3()); // the player reports an error for its sound once it has opened the file
     QTest::qWait(silence);
-    EXPECT_EQ(opened.count(), 1);
-    EXPECT_EQ(failed.count(), 0);
+    EXPECT_EQ(1, opened.count());
+    EXPECT_EQ(0, failed.count());
     EXPECT_TRUE(movie.isOpen());
 }
 
@@ -88,8 +88,8 @@ protected:
     void expectFailure(const QString& path) {
         open(path);
         QTest::qWait(silence);
-        EXPECT_EQ(failed.count(), 1);
-        EXPECT_EQ(opened.count(), 0);
+        EXPECT_EQ(1, failed.count());
+        EXPECT_EQ(0, opened.count());
         EXPECT_FALSE(movie.isOpen());
         EXPECT_FALSE(movie.hasVideo());
         EXPECT_TRUE(movie.currentFrame().isNull());
@@ -143,14 +143,14 @@ TEST_F(NoMovie, AFolderFails) {
 
 TEST_F(NoMovie, APipeFailsAndDoesNotBlock) {
     const std::string pipe = files.folder() / "pipe.avi";
-    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    ASSERT_EQ(0, ::mkfifo(pipe.c_str(), 0600));
     expectFailure(QString::fromStdString(pipe));
 }
 
 TEST_F(NoMovie, AMovieOpensAfterOneThatFailed) {
     expectFailure(files.file("empty.avi", ""));
     open(avi());
-    EXPECT_EQ(opened.count(), 1);
+    EXPECT_EQ(1, opened.count());
     EXPECT_TRUE(waitForFrame(isFirstFrame));
 }
 
@@ -158,7 +158,7 @@ TEST_F(MovieTest, HalfAFilmOpensWithWhatThereIs) {
     const QString film = files.film("frames.avi", {"-c:v", "mjpeg", "-q:v", "2", "-pix_fmt", "yuvj420p"});
     const std::string whole = read_file(film.toStdString());
     open(files.file("half.avi", whole.substr(0, whole.size() / 2)));
-    EXPECT_EQ(opened.count(), 1);
+    EXPECT_EQ(1, opened.count());
     EXPECT_TRUE(waitForFrame(isFirstFrame));
 }
 
@@ -166,7 +166,7 @@ TEST_F(MovieTest, PathsMayHoldBytesThatAreNoTextAndSignsOfAddresses) {
     const std::string path = files.folder() / "caf\xe9 100%25 #1?.avi";
     write_file(path, read_file(avi().toStdString()));
     open(pathFromBytes(QByteArray::fromStdString(path)));
-    EXPECT_EQ(opened.count(), 1);
+    EXPECT_EQ(1, opened.count());
     EXPECT_TRUE(waitForFrame(isFirstFrame));
 }
 
@@ -174,7 +174,7 @@ TEST_F(MovieTest, PathsMayHoldBytesThatAreNoTextAndSignsOfAddresses) {
 
 TEST_F(MovieTest, OpenReturnsBeforeAnythingIsKnown) {
     movie.open(avi());
-    EXPECT_EQ(opened.count() + failed.count(), 0);
+    EXPECT_EQ(0, opened.count() + failed.count());
     EXPECT_FALSE(movie.isOpen());
     waitForDecision();
 }
@@ -189,9 +189,9 @@ TEST_F(MovieTest, OfFilesOpenedInQuickSuccessionOnlyTheLastIsHeardOf) {
     movie.open(film);
     waitForDecision();
     QTest::qWait(silence);
-    ASSERT_EQ(opened.count(), 1);
+    ASSERT_EQ(1, opened.count());
     EXPECT_TRUE(opened[0][0].toBool());
-    EXPECT_EQ(failed.count(), 0);
+    EXPECT_EQ(0, failed.count());
 }
 
 TEST_F(MovieTest, AFileThatIsStillLoadingIsLetGo) {
@@ -203,7 +203,7 @@ TEST_F(MovieTest, AFileThatIsStillLoadingIsLetGo) {
         movie.open(film);
         QTest::qWait(wait);
         open(sound);
-        ASSERT_EQ(opened.count(), 1) << "after " << wait << " ms";
+        ASSERT_EQ(1, opened.count()) << "after " << wait << " ms";
         ASSERT_FALSE(opened[0][0].toBool()) << "after " << wait << " ms";
     }
 }
@@ -212,7 +212,7 @@ TEST_F(MovieTest, TheSameFileCanBeOpenedAgain) {
     const QString film = avi();
     for (int i = 0; i < 3; ++i) {
         open(film);
-        ASSERT_EQ(opened.count(), 1);
+        ASSERT_EQ(1, opened.count());
         ASSERT_TRUE(waitForFrame(isFirstFrame));
     }
 }
@@ -227,10 +227,10 @@ TEST_F(MovieTest, NothingIsHeardOfAFileThatWasClosed) {
         EXPECT_FALSE(movie.isOpen());
         EXPECT_TRUE(movie.currentFrame().isNull());
         QTest::qWait(30);
-        ASSERT_EQ(opened.count() + failed.count(), 0) << "after " << wait << " ms";
+        ASSERT_EQ(0, opened.count() + failed.count()) << "after " << wait << " ms";
     }
     QTest::qWait(silence);
-    EXPECT_EQ(opened.count() + failed.count(), 0);
+    EXPECT_EQ(0, opened.count() + failed.count());
 }
 
 TEST_F(MovieTest, ClosingAnOpenMovieTellsThatTheFrameIsGone) {
@@ -258,7 +258,7 @@ TEST_F(MovieTest, AMovieMayBeClosedByWhoeverIsToldThatItIsOpen) {
     open(avi());
     EXPECT_FALSE(movie.isOpen());
     QTest::qWait(silence);
-    EXPECT_EQ(opened.count(), 1);
+    EXPECT_EQ(1, opened.count());
 }
 
 TEST_F(MovieTest, TheEventLoopIsNotHeldUp) {

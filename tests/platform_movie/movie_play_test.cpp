@@ -11,7 +11,7 @@ class MoviePlaying : public MovieTest {
 protected:
     void SetUp() override {
         open(avi());
-        ASSERT_EQ(opened.count(), 1);
+        ASSERT_EQ(1, opened.count());
         ASSERT_TRUE(waitForFrame(isFirstFrame));
     }
 };
@@ -19,7 +19,7 @@ protected:
 TEST_F(MoviePlaying, AnOpenedMovieStandsStillAtItsFirstFrame) {
     QTest::qWait(silence);
     EXPECT_FALSE(movie.isPlaying());
-    EXPECT_EQ(movie.position(), 0);
+    EXPECT_EQ(0, movie.position());
     EXPECT_TRUE(isFirstFrame(movie.currentFrame()));
 }
 
@@ -76,7 +76,7 @@ TEST_F(MoviePlaying, AnotherFileOpenedWhilePlayingStandsStill) {
 
 TEST_F(MovieTest, ASongsPositionRunsToItsEnd) {
     open(mp3());
-    ASSERT_EQ(opened.count(), 1);
+    ASSERT_EQ(1, opened.count());
     EXPECT_FALSE(movie.isPlaying());
     movie.play();
     EXPECT_TRUE(QTest::qWaitFor([this] { return movie.position() > 0; }, patience));
@@ -118,8 +118,8 @@ TEST_F(MovieTest, WithoutAFileNothingPlays) {
     movie.pause();
     movie.setPosition(100);
     EXPECT_FALSE(movie.isPlaying());
-    EXPECT_EQ(movie.position(), 0);
-    EXPECT_EQ(movie.duration(), 0);
+    EXPECT_EQ(0, movie.position());
+    EXPECT_EQ(0, movie.duration());
     EXPECT_TRUE(movie.currentFrame().isNull());
 }
 
@@ -130,7 +130,7 @@ TEST_F(MovieTest, AFilmTakenOnItsSideIsUpright) {
     film.replace(matrix, 36,
                  hex("00000000 00010000 00000000  ffff0000 00000000 00000000  00f00000 00000000 40000000"));
     open(files.file("upright.mp4", film));
-    ASSERT_EQ(opened.count(), 1);
+    ASSERT_EQ(1, opened.count());
     EXPECT_TRUE(waitForFrame([](const QImage& frame) {
         return frame.size() == QSize(240, 320) && frame.pixelColor(60, 80).blue() > 200 &&
                frame.pixelColor(180, 80).red() > 200 && frame.pixelColor(180, 80).green() < 60;

@@ -19,7 +19,7 @@ protected:
 
     void openFilm() {
         open(avi());
-        ASSERT_EQ(opened.count(), 1);
+        ASSERT_EQ(1, opened.count());
         view.setMovie(&movie);
         ASSERT_TRUE(waitForFrame(isFirstFrame));
     }
@@ -52,7 +52,7 @@ protected:
 };
 
 TEST_F(MovieViewTest, IsBlackAndOutOfUseWithoutAMovie) {
-    EXPECT_EQ(view.movie(), nullptr);
+    EXPECT_EQ(nullptr, view.movie());
     EXPECT_GT(share(Qt::black), 70);
     EXPECT_FALSE(button()->isEnabled());
     EXPECT_FALSE(slider()->isEnabled());
@@ -70,16 +70,16 @@ TEST_F(MovieViewTest, ShowsTheFirstFrame) {
 TEST_F(MovieViewTest, AMovieThatIsTakenAwayLeavesNothing) {
     openFilm();
     view.setMovie(nullptr);
-    EXPECT_EQ(share(Qt::red), 0);
+    EXPECT_EQ(0, share(Qt::red));
     EXPECT_FALSE(button()->isEnabled());
     EXPECT_FALSE(slider()->isEnabled());
-    EXPECT_EQ(slider()->value(), 0);
+    EXPECT_EQ(0, slider()->value());
 }
 
 TEST_F(MovieViewTest, AMovieThatIsClosedLeavesNothing) {
     openFilm();
     movie.close();
-    EXPECT_EQ(share(Qt::red), 0);
+    EXPECT_EQ(0, share(Qt::red));
 }
 
 TEST_F(MovieViewTest, AMovieThatIsDestroyedLeavesNothing) {
@@ -91,9 +91,9 @@ TEST_F(MovieViewTest, AMovieThatIsDestroyedLeavesNothing) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return isFirstFrame(other->currentFrame()); }, patience));
     EXPECT_TRUE(button()->isEnabled());
     delete other;
-    EXPECT_EQ(view.movie(), nullptr);
+    EXPECT_EQ(nullptr, view.movie());
     EXPECT_FALSE(button()->isEnabled());
-    EXPECT_EQ(share(Qt::red), 0);
+    EXPECT_EQ(0, share(Qt::red));
 }
 
 TEST_F(MovieViewTest, SoundAloneIsPlayedAndPausedToo) {
@@ -113,14 +113,14 @@ TEST_F(MovieViewTest, SoundAloneShowsItsCover) {
     cover.fill(Qt::red);
     open(mp3());
     view.setCover(cover);
-    EXPECT_EQ(share(Qt::red), 0) << "not before there is sound to show it for";
+    EXPECT_EQ(0, share(Qt::red)) << "not before there is sound to show it for";
     view.setMovie(&movie);
     EXPECT_GT(share(Qt::red), 40);
     view.setCover(QImage());
-    EXPECT_EQ(share(Qt::red), 0);
+    EXPECT_EQ(0, share(Qt::red));
     view.setCover(cover);
     movie.close();
-    EXPECT_EQ(share(Qt::red), 0);
+    EXPECT_EQ(0, share(Qt::red));
 }
 
 TEST_F(MovieViewTest, SoundWithoutACoverShowsANote) {
@@ -134,7 +134,7 @@ TEST_F(MovieViewTest, AFilmShowsItsFramesAndNotItsCover) {
     cover.fill(Qt::cyan);
     view.setCover(cover);
     openFilm();
-    EXPECT_EQ(share(Qt::cyan), 0);
+    EXPECT_EQ(0, share(Qt::cyan));
 }
 
 TEST_F(MovieViewTest, TheButtonPlaysAndPauses) {

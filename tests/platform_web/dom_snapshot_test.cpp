@@ -14,43 +14,43 @@ TEST(DomSnapshot, GivesTheTreeInOrder) {
     const auto document =
         readNodes(R"([[-1,0,"HTML",null,1],[0,1,"#text","a"],[0,0,"B",null,1],[2,1,"#text","b"],
                                         [0,1,"#text","c"]])");
-    ASSERT_NE(document, nullptr);
+    ASSERT_NE(nullptr, document);
     const DomNode* const html = document->root()->firstChild;
-    EXPECT_EQ(html->nodeName, "HTML");
-    EXPECT_EQ(html->nextSibling, nullptr);
-    EXPECT_EQ(html->firstChild->data, QString("a"));
-    EXPECT_EQ(html->firstChild->nextSibling->firstChild->data, QString("b"));
-    EXPECT_EQ(html->firstChild->nextSibling->firstChild->parentNode->nodeName, "B");
-    EXPECT_EQ(html->lastChild->data, QString("c"));
-    EXPECT_EQ(document->url, "http://x/");
+    EXPECT_EQ("HTML", html->nodeName);
+    EXPECT_EQ(nullptr, html->nextSibling);
+    EXPECT_EQ(QString("a"), html->firstChild->data);
+    EXPECT_EQ(QString("b"), html->firstChild->nextSibling->firstChild->data);
+    EXPECT_EQ("B", html->firstChild->nextSibling->firstChild->parentNode->nodeName);
+    EXPECT_EQ(QString("c"), html->lastChild->data);
+    EXPECT_EQ("http://x/", document->url);
 }
 
 TEST(DomSnapshot, GivesEveryColumn) {
     const auto document = readNodes(R"([[-1,5,"IMG",null,1,"a b",["id","x","alt",""],"n","http://x/s"]])");
-    ASSERT_NE(document, nullptr);
+    ASSERT_NE(nullptr, document);
     const DomNode* const node = document->root()->firstChild;
     EXPECT_EQ(node->domClass, DomClass::DOMHTMLImageElement);
     EXPECT_TRUE(node->isHTMLElement);
-    EXPECT_EQ(node->data, std::nullopt);
-    EXPECT_EQ(node->className, "a b");
-    EXPECT_EQ(node->getAttribute(u"id"), QString("x"));
-    EXPECT_EQ(node->getAttribute(u"alt"), QString(""));
-    EXPECT_EQ(node->getAttribute(u"src"), std::nullopt);
-    EXPECT_EQ(node->name, "n");
-    EXPECT_EQ(node->src, "http://x/s");
+    EXPECT_EQ(std::nullopt, node->data);
+    EXPECT_EQ("a b", node->className);
+    EXPECT_EQ(QString("x"), node->getAttribute(u"id"));
+    EXPECT_EQ(QString(""), node->getAttribute(u"alt"));
+    EXPECT_EQ(std::nullopt, node->getAttribute(u"src"));
+    EXPECT_EQ("n", node->name);
+    EXPECT_EQ("http://x/s", node->src);
 }
 
 TEST(DomSnapshot, TellsElementsFromOtherNodes) {
     const auto document =
         readNodes(R"([[-1,0,"title"],[-1,0,"svg",null,0],[-1,0,"TITLE",null,1],[-1,0,"b","x"]])");
-    ASSERT_NE(document, nullptr);
+    ASSERT_NE(nullptr, document);
     const DomNode* const type = document->root()->firstChild;
     EXPECT_FALSE(type->isElement);
     EXPECT_TRUE(type->nextSibling->isElement);
     EXPECT_FALSE(type->nextSibling->isHTMLElement);
     EXPECT_TRUE(type->nextSibling->nextSibling->isElement);
     EXPECT_FALSE(document->root()->lastChild->isElement);
-    EXPECT_EQ(document->getElementsByTagName(u"title").size(), 1U);
+    EXPECT_EQ(1U, document->getElementsByTagName(u"title").size());
     EXPECT_TRUE(document->getElementsByTagName(u"b").empty());
 }
 
@@ -58,7 +58,7 @@ TEST(DomSnapshot, ReadsTheNumberOfEachClass) {
     const auto document =
         readNodes(R"([[-1,0,"x"],[-1,1,"x"],[-1,2,"x"],[-1,3,"x"],[-1,4,"x"],[-1,5,"x"],[-1,6,"x"],
                                         [-1,7,"x"]])");
-    ASSERT_NE(document, nullptr);
+    ASSERT_NE(nullptr, document);
     const DomClass expected[] = {DomClass::Other,
                                  DomClass::DOMText,
                                  DomClass::DOMHTMLAnchorElement,
@@ -69,7 +69,7 @@ TEST(DomSnapshot, ReadsTheNumberOfEachClass) {
                                  DomClass::DOMHTMLBRElement};
     const DomNode* node = document->root()->firstChild;
     for (const DomClass domClass : expected) {
-        ASSERT_NE(node, nullptr);
+        ASSERT_NE(nullptr, node);
         EXPECT_EQ(node->domClass, domClass);
         node = node->nextSibling;
     }
@@ -77,20 +77,20 @@ TEST(DomSnapshot, ReadsTheNumberOfEachClass) {
 
 TEST(DomSnapshot, KeepsTextThatIsEmptyAndTextBeyondTheBasicPlane) {
     const auto document = readNodes(R"([[-1,1,"#text",""],[-1,1,"#text","\ud83d\ude00 \u0000"]])");
-    ASSERT_NE(document, nullptr);
-    EXPECT_EQ(document->root()->firstChild->data, QString(""));
+    ASSERT_NE(nullptr, document);
+    EXPECT_EQ(QString(""), document->root()->firstChild->data);
     EXPECT_EQ(document->root()->lastChild->data, QString::fromUtf8("\xF0\x9F\x98\x80 \0", 6));
 }
 
 TEST(DomSnapshot, OfAPageWithoutNodesIsADocument) {
-    EXPECT_NE(readNodes("[]"), nullptr);
+    EXPECT_NE(nullptr, readNodes("[]"));
 }
 
 TEST(DomSnapshot, OfAnotherFormIsNone) {
     for (const char* const text :
          {"", "x", "[]", "{}", R"({"url":"x"})", R"({"nodes":[]})", R"({"url":1,"nodes":[]})",
           R"({"url":"x","nodes":{}})", R"({"url":"x","nodes":[)"}) {
-        EXPECT_EQ(readDomSnapshot(QString::fromUtf8(text)), nullptr) << text;
+        EXPECT_EQ(nullptr, readDomSnapshot(QString::fromUtf8(text))) << text;
     }
 }
 
@@ -98,7 +98,7 @@ TEST(DomSnapshot, WithABadNodeIsNone) {
     for (const char* const nodes : {"[5]", "[[]]", R"([[0,1,"#text","own parent"]])", R"([[-2,1,"#text"]])",
                                     R"([[-1,1,"#text"],[1,1,"#text"]])", R"([[-1,8,"x"]])",
                                     R"([[-1,-1,"x"]])", R"([["-1",1,"x"]])", R"([[-1,1,5]])"}) {
-        EXPECT_EQ(readNodes(nodes), nullptr) << nodes;
+        EXPECT_EQ(nullptr, readNodes(nodes)) << nodes;
     }
 }
 

@@ -36,32 +36,32 @@ protected:
 
 TEST_F(ImageFetch, GivesThePictureWhateverItsNameAndTypeSay) {
     server.serve("/a.txt", Answer{.body = picture(7, "JPEG"), .type = "text/plain"});
-    EXPECT_EQ(fetchedWidth("/a.txt"), 7);
+    EXPECT_EQ(7, fetchedWidth("/a.txt"));
 }
 
 TEST_F(ImageFetch, WaitsForASlowServer) {
     server.serve("/slow", Answer{.body = picture(7), .delayMilliseconds = 700});
-    EXPECT_EQ(fetchedWidth("/slow"), 7);
+    EXPECT_EQ(7, fetchedWidth("/slow"));
 }
 
 TEST_F(ImageFetch, TakesTheBodyThatComesWithAnErrorStatus) {
     server.serve("/404", Answer{.body = picture(7), .status = 404});
     server.serve("/503", Answer{.body = picture(8), .status = 503});
-    EXPECT_EQ(fetchedWidth("/404"), 7);
-    EXPECT_EQ(fetchedWidth("/503"), 8);
+    EXPECT_EQ(7, fetchedWidth("/404"));
+    EXPECT_EQ(8, fetchedWidth("/503"));
 }
 
 TEST_F(ImageFetch, OfWhatIsNoPictureIsNone) {
     server.serve("/page", "<p>Not a picture</p>");
     server.serve("/empty", "");
-    EXPECT_EQ(fetchedWidth("/page"), 0);
-    EXPECT_EQ(fetchedWidth("/empty"), 0);
-    EXPECT_EQ(fetchedWidth("/unknown"), 0);
+    EXPECT_EQ(0, fetchedWidth("/page"));
+    EXPECT_EQ(0, fetchedWidth("/empty"));
+    EXPECT_EQ(0, fetchedWidth("/unknown"));
 }
 
 TEST_F(ImageFetch, OfAConnectionThatBreaksIsNoneEvenWhenAPictureCame) {
     server.serve("/broken", Answer{.body = picture(7, "JPEG"), .end = Answer::End::Broken});
-    EXPECT_EQ(fetchedWidth("/broken"), 0);
+    EXPECT_EQ(0, fetchedWidth("/broken"));
 }
 
 TEST_F(ImageFetch, OfAServerThatIsNotThereIsNone) {
@@ -75,19 +75,19 @@ TEST_F(ImageFetch, OfAServerThatIsNotThereIsNone) {
 TEST_F(ImageFetch, FollowsARedirection) {
     server.serve("/moved", Answer{.status = 302, .extraHeaders = "Location: /there\r\n"});
     server.serve("/there", Answer{.body = picture(7)});
-    EXPECT_EQ(fetchedWidth("/moved"), 7);
+    EXPECT_EQ(7, fetchedWidth("/moved"));
 }
 
 TEST_F(ImageFetch, AsksTheServerEveryTime) {
     server.serve("/a", Answer{.body = picture(7), .extraHeaders = "Cache-Control: max-age=3600\r\n"});
-    EXPECT_EQ(fetchedWidth("/a"), 7);
-    EXPECT_EQ(fetchedWidth("/a"), 7);
-    EXPECT_EQ(server.requests(), QStringList({"/a", "/a"}));
+    EXPECT_EQ(7, fetchedWidth("/a"));
+    EXPECT_EQ(7, fetchedWidth("/a"));
+    EXPECT_EQ(QStringList({"/a", "/a"}), server.requests());
 }
 
 TEST_F(ImageFetch, ReadsDataAddresses) {
     const QUrl url("data:image/png;base64," + QString::fromLatin1(picture(6).toBase64()));
-    EXPECT_EQ(fetchImage(url, &context)->size().width(), 6);
+    EXPECT_EQ(6, fetchImage(url, &context)->size().width());
 }
 
 TEST_F(ImageFetch, ReadsFiles) {
@@ -97,22 +97,22 @@ TEST_F(ImageFetch, ReadsFiles) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(picture(5));
     file.close();
-    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(path), &context)->size().width(), 5);
-    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(path + "x"), &context)->size().width(), 0);
+    EXPECT_EQ(5, fetchImage(QUrl::fromLocalFile(path), &context)->size().width());
+    EXPECT_EQ(0, fetchImage(QUrl::fromLocalFile(path + "x"), &context)->size().width());
 }
 
 TEST_F(ImageFetch, DoesNotWaitForAPipeOrADevice) {
     const ScratchFolder folder;
     const std::string path = folder / "pipe";
-    ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
-    EXPECT_EQ(fetchImage(QUrl::fromLocalFile(QString::fromStdString(path)), &context)->size().width(), 0);
-    EXPECT_EQ(fetchImage(QUrl("file:///dev/zero"), &context)->size().width(), 0);
+    ASSERT_EQ(0, ::mkfifo(path.c_str(), 0600));
+    EXPECT_EQ(0, fetchImage(QUrl::fromLocalFile(QString::fromStdString(path)), &context)->size().width());
+    EXPECT_EQ(0, fetchImage(QUrl("file:///dev/zero"), &context)->size().width());
 }
 
 TEST_F(ImageFetch, KnowsNoOtherSchemes) {
     for (const char* const address :
          {"ftp://127.0.0.1/x", "javascript:1", "qrc:/x", "x.png", "//127.0.0.1/x"}) {
-        EXPECT_EQ(fetchImage(QUrl(address), &context)->size().width(), 0) << address;
+        EXPECT_EQ(0, fetchImage(QUrl(address), &context)->size().width()) << address;
     }
 }
 
@@ -120,7 +120,7 @@ TEST_F(ImageFetch, HandlesEventsWhileItWaits) {
     server.serve("/slow", Answer{.body = picture(7), .delayMilliseconds = 200});
     bool handled = false;
     QTimer::singleShot(0, &context, [&handled] { handled = true; });
-    EXPECT_EQ(fetchedWidth("/slow"), 7);
+    EXPECT_EQ(7, fetchedWidth("/slow"));
     EXPECT_TRUE(handled);
 }
 
@@ -131,10 +131,10 @@ TEST_F(ImageFetch, KeepsAPersonsInputOutWhileItWaits) {
     int clicks = 0;
     QObject::connect(&button, &QPushButton::clicked, &button, [&clicks] { ++clicks; });
     QTimer::singleShot(20, &button, [&button] { QTest::mouseClick(&button, Qt::LeftButton); });
-    EXPECT_EQ(fetchedWidth("/slow"), 7);
-    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(7, fetchedWidth("/slow"));
+    EXPECT_EQ(0, clicks);
     QTest::mouseClick(&button, Qt::LeftButton);
-    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(1, clicks);
 }
 
 TEST_F(ImageFetch, FailsWhenItIsCancelled) {
@@ -142,7 +142,7 @@ TEST_F(ImageFetch, FailsWhenItIsCancelled) {
     QPushButton cancel;
     QTimer::singleShot(50, &cancel, &QPushButton::click);
     const std::optional<ImageRef> image = fetchImage(server.url("/never"), &context, &cancel);
-    ASSERT_NE(image, std::nullopt);
+    ASSERT_NE(std::nullopt, image);
     EXPECT_TRUE(image->isNull());
 }
 
@@ -150,7 +150,7 @@ TEST_F(ImageFetch, EndsWithoutAResultWhenTheContextGoesAway) {
     server.serve("/never", Answer{.end = Answer::End::Silent});
     auto* const window = new QWidget;
     QTimer::singleShot(50, window, [window] { delete window; });
-    EXPECT_EQ(fetchImage(server.url("/never"), window), std::nullopt);
+    EXPECT_EQ(std::nullopt, fetchImage(server.url("/never"), window));
 }
 
 } // namespace

@@ -40,12 +40,12 @@ TEST_F(InputBlockTest, KeepsKeysAndClicksFromTheProgramWhileItLives) {
         type();
         click();
     }
-    EXPECT_EQ(field.text().toStdString(), "");
-    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ("", field.text().toStdString());
+    EXPECT_EQ(0, clicks);
     type();
     click();
-    EXPECT_EQ(field.text().toStdString(), "a");
-    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ("a", field.text().toStdString());
+    EXPECT_EQ(1, clicks);
 }
 
 TEST_F(InputBlockTest, KeepsShortcutsFromTheProgram) {
@@ -56,9 +56,9 @@ TEST_F(InputBlockTest, KeepsShortcutsFromTheProgram) {
         const InputBlock block;
         QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
     }
-    EXPECT_EQ(uses, 0);
+    EXPECT_EQ(0, uses);
     QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(uses, 1);
+    EXPECT_EQ(1, uses);
 }
 
 TEST_F(InputBlockTest, LetsAWindowBeClosed) {
@@ -81,7 +81,7 @@ TEST_F(InputBlockTest, LetsAQuestionBeAnswered) {
     QTest::mouseClick(&answer, Qt::LeftButton);
     EXPECT_EQ(question.result(), QDialog::Accepted);
     click();
-    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(0, clicks);
 }
 
 // The way out
@@ -101,11 +101,11 @@ TEST_F(InputBlockTest, LetsTheWayOutBeClickedAndNothingElse) {
     };
     clickOn(button);
     clickOn(field);
-    EXPECT_EQ(clicks, 0);
-    EXPECT_EQ(ways, 0);
+    EXPECT_EQ(0, clicks);
+    EXPECT_EQ(0, ways);
     clickOn(wayOut);
-    EXPECT_EQ(ways, 1);
-    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(1, ways);
+    EXPECT_EQ(0, clicks);
 }
 
 TEST_F(InputBlockTest, EscapeTakesTheWayOut) {
@@ -115,14 +115,14 @@ TEST_F(InputBlockTest, EscapeTakesTheWayOut) {
     {
         const InputBlock block(&wayOut);
         QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
-        EXPECT_EQ(ways, 1);
+        EXPECT_EQ(1, ways);
         QTest::keyClick(window.windowHandle(), Qt::Key_A);
         QTest::keyClick(window.windowHandle(), Qt::Key_Return);
     }
-    EXPECT_EQ(ways, 1);
-    EXPECT_EQ(field.text().toStdString(), "");
+    EXPECT_EQ(1, ways);
+    EXPECT_EQ("", field.text().toStdString());
     QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
-    EXPECT_EQ(ways, 1);
+    EXPECT_EQ(1, ways);
 }
 
 } // namespace

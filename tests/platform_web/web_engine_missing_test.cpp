@@ -13,9 +13,9 @@ TEST(WebEngineMissing, IsSaidInPlaceOfThePages) {
     view.loadRequest(QUrl("http://127.0.0.1:9/"));
     view.loadRequest(QUrl("http://127.0.0.1:9/"));
     const auto labels = view.findChildren<QLabel*>();
-    ASSERT_EQ(labels.size(), 1);
-    EXPECT_EQ(labels.first()->text(), "The web browser component is not installed.");
-    EXPECT_EQ(view.mainFrame()->domDocument(), nullptr);
+    ASSERT_EQ(1, labels.size());
+    EXPECT_EQ("The web browser component is not installed.", labels.first()->text());
+    EXPECT_EQ(nullptr, view.mainFrame()->domDocument());
 }
 
 } // namespace

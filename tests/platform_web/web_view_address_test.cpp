@@ -91,8 +91,8 @@ TEST_F(WebViewAddress, OfAPageWithAUserNameIsThatOfItsServer) {
     QUrl url = server.url("/a");
     url.setUserName("www.imdb.com");
     loadUrl(url);
-    EXPECT_EQ(address.host(), "127.0.0.1");
-    EXPECT_EQ(address.path(), "/a");
+    EXPECT_EQ("127.0.0.1", address.host());
+    EXPECT_EQ("/a", address.path());
 }
 
 } // namespace

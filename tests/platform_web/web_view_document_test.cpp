@@ -28,16 +28,16 @@ QString outline(const DomNode* node) {
 TEST_F(WebViewDocument, HasCommentsAndWhiteSpaceAndAdjacentTexts) {
     const auto document = documentOf("<p> <!--note-->a<b>c</b>\n</p>"
                                      "<script>document.querySelector('p').append('x', 'y')</script>");
-    ASSERT_NE(one(document, u"p"), nullptr);
-    EXPECT_EQ(outline(one(document, u"p")),
-              "#text=  #comment=note #text=a B(#text=c) #text=\n #text=x #text=y");
+    ASSERT_NE(nullptr, one(document, u"p"));
+    EXPECT_EQ("#text=  #comment=note #text=a B(#text=c) #text=\n #text=x #text=y",
+              outline(one(document, u"p")));
 }
 
 TEST_F(WebViewDocument, HasTheExactClassOfEachNode) {
     const auto document =
         documentOf("<a>t</a><table><tr><td></td><th></th></tr></table><img><ul><li></li></ul><br>"
                    "<b></b><svg><a></a></svg>");
-    ASSERT_NE(document, nullptr);
+    ASSERT_NE(nullptr, document);
     EXPECT_EQ(one(document, u"a")->domClass, DomClass::DOMHTMLAnchorElement);
     EXPECT_EQ(one(document, u"a")->firstChild->domClass, DomClass::DOMText);
     EXPECT_EQ(one(document, u"tr")->domClass, DomClass::DOMHTMLTableRowElement);
@@ -57,53 +57,53 @@ TEST_F(WebViewDocument, TakesACdataSectionForNoText) {
         documentOf("<html xmlns='http://www.w3.org/1999/xhtml'><body><p><![CDATA[c]]>t</p></body></html>",
                    "application/xhtml+xml");
     const DomNode* const p = one(document, u"p");
-    ASSERT_NE(p, nullptr);
+    ASSERT_NE(nullptr, p);
     EXPECT_EQ(p->firstChild->domClass, DomClass::Other);
-    EXPECT_EQ(p->firstChild->data, QString("c"));
+    EXPECT_EQ(QString("c"), p->firstChild->data);
     EXPECT_EQ(p->lastChild->domClass, DomClass::DOMText);
 }
 
 TEST_F(WebViewDocument, HasClassNamesAsTheyStand) {
     const auto document = documentOf("<div class=' info '></div><svg class='info'></svg>");
-    ASSERT_NE(document, nullptr);
-    EXPECT_EQ(one(document, u"div")->className, " info ");
-    EXPECT_EQ(one(document, u"svg")->className, "");
+    ASSERT_NE(nullptr, document);
+    EXPECT_EQ(" info ", one(document, u"div")->className);
+    EXPECT_EQ("", one(document, u"svg")->className);
     EXPECT_FALSE(one(document, u"svg")->isHTMLElement);
 }
 
 TEST_F(WebViewDocument, HasNamesAndAttributes) {
     const auto document = documentOf("<a name='poster' ID='x' title=''></a>");
     const DomNode* const anchor = one(document, u"a");
-    ASSERT_NE(anchor, nullptr);
-    EXPECT_EQ(anchor->name, "poster");
-    EXPECT_EQ(anchor->getAttribute(u"id"), QString("x"));
-    EXPECT_EQ(anchor->getAttribute(u"title"), QString(""));
-    EXPECT_EQ(anchor->getAttribute(u"href"), std::nullopt);
+    ASSERT_NE(nullptr, anchor);
+    EXPECT_EQ("poster", anchor->name);
+    EXPECT_EQ(QString("x"), anchor->getAttribute(u"id"));
+    EXPECT_EQ(QString(""), anchor->getAttribute(u"title"));
+    EXPECT_EQ(std::nullopt, anchor->getAttribute(u"href"));
 }
 
 TEST_F(WebViewDocument, HasAddressesAsThePageResolvesThem) {
     const auto document = documentOf("<base href='http://films.example/dir/'><img src='a b.jpg'><img><img "
                                      "src=''><img src='http://[bad/'>");
-    ASSERT_NE(document, nullptr);
+    ASSERT_NE(nullptr, document);
     const auto images = document->getElementsByTagName(u"img");
-    ASSERT_EQ(images.size(), 4U);
-    EXPECT_EQ(images[0]->src, "http://films.example/dir/a%20b.jpg");
-    EXPECT_EQ(images[1]->src, "");
-    EXPECT_EQ(images[3]->src, "http://[bad/");
+    ASSERT_EQ(4U, images.size());
+    EXPECT_EQ("http://films.example/dir/a%20b.jpg", images[0]->src);
+    EXPECT_EQ("", images[1]->src);
+    EXPECT_EQ("http://[bad/", images[3]->src);
 }
 
 TEST_F(WebViewDocument, HasTheTitleAsItStands) {
     documentOf("<title>\n  A   film (2005) \n</title>");
-    EXPECT_EQ(shownTitle(), "\n  A   film (2005) \n");
+    EXPECT_EQ("\n  A   film (2005) \n", shownTitle());
 }
 
 TEST_F(WebViewDocument, HasATbodyThatTheParserMadeAndNoneInAScriptsTable) {
     const auto document =
         documentOf("<table id=a><tr><td></table><table id=b></table><script>"
                    "document.getElementById('b').append(document.createElement('tr'))</script>");
-    ASSERT_NE(document, nullptr);
-    EXPECT_EQ(outline(document->getElementsByTagName(u"table").at(0)), "TBODY(TR(TD()))");
-    EXPECT_EQ(outline(document->getElementsByTagName(u"table").at(1)), "TR()");
+    ASSERT_NE(nullptr, document);
+    EXPECT_EQ("TBODY(TR(TD()))", outline(document->getElementsByTagName(u"table").at(0)));
+    EXPECT_EQ("TR()", outline(document->getElementsByTagName(u"table").at(1)));
 }
 
 TEST_F(WebViewDocument, HasLettersOfAnyScript) {
@@ -118,8 +118,8 @@ TEST_F(WebViewDocument, KnowsItsAddress) {
 TEST_F(WebViewDocument, IsAsTheScriptsHaveMadeIt) {
     const auto document = documentOf("<title>one</title><div></div><script>document.title = 'two';"
                                      "document.querySelector('div').className = 'info'</script>");
-    EXPECT_EQ(shownTitle(), "two");
-    EXPECT_EQ(one(document, u"div")->className, "info");
+    EXPECT_EQ("two", shownTitle());
+    EXPECT_EQ("info", one(document, u"div")->className);
 }
 
 // Hostile pages
@@ -136,10 +136,10 @@ TEST_F(WebViewDocument, IsTrueOnAPageThatReplacesPrototypes) {
         JSON.stringify = () => 'false'; Object.getPrototypeOf = () => null; Array.prototype.push = () => 0;
         Map.prototype.get = () => 1; window.Node = window.Text = window.HTMLElement = function () {};
         </script>)");
-    EXPECT_EQ(shownTitle(), "true");
-    ASSERT_NE(one(document, u"div"), nullptr);
-    EXPECT_EQ(one(document, u"div")->className, "info");
-    EXPECT_EQ(outline(one(document, u"div")), "#text=a");
+    EXPECT_EQ("true", shownTitle());
+    ASSERT_NE(nullptr, one(document, u"div"));
+    EXPECT_EQ("info", one(document, u"div")->className);
+    EXPECT_EQ("#text=a", outline(one(document, u"div")));
 }
 
 TEST_F(WebViewDocument, IsTrueOnAPageThatNamesItsElementsLikeProperties) {
@@ -151,12 +151,12 @@ TEST_F(WebViewDocument, IsTrueOnAPageThatNamesItsElementsLikeProperties) {
         "<img name=documentElement><img name=firstChild><img name=URL><form name=getElementsByTagName></form>"
         "<embed name=createTreeWalker><img id=Node><img id=Text><img id=JSON><img id=Object><p>end</p>");
     const DomNode* const form = one(document, u"form");
-    ASSERT_NE(form, nullptr);
-    EXPECT_EQ(form->nodeName, "FORM");
-    EXPECT_EQ(form->className, "info");
-    EXPECT_EQ(form->firstChild->getAttribute(u"name"), QString("firstChild"));
-    EXPECT_EQ(document->getElementsByTagName(u"input").size(), 10U);
-    EXPECT_EQ(outline(one(document, u"p")), "#text=end");
+    ASSERT_NE(nullptr, form);
+    EXPECT_EQ("FORM", form->nodeName);
+    EXPECT_EQ("info", form->className);
+    EXPECT_EQ(QString("firstChild"), form->firstChild->getAttribute(u"name"));
+    EXPECT_EQ(10U, document->getElementsByTagName(u"input").size());
+    EXPECT_EQ("#text=end", outline(one(document, u"p")));
     EXPECT_EQ(document->url, server.url("/page").toString());
 }
 
@@ -170,10 +170,10 @@ QByteArray deepPage(const char* style, int depth) {
 
 TEST_F(WebViewDocument, OfTenThousandLevelsIsWhole) {
     const auto document = documentOf(deepPage("display: none", 10000));
-    ASSERT_NE(document, nullptr);
+    ASSERT_NE(nullptr, document);
     const auto levels = document->getElementsByTagName(u"div");
-    ASSERT_EQ(levels.size(), 10000U);
-    EXPECT_EQ(levels.back()->firstChild->data, QString("bottom"));
+    ASSERT_EQ(10000U, levels.size());
+    EXPECT_EQ(QString("bottom"), levels.back()->firstChild->data);
 }
 
 TEST_F(WebViewDocument, OfAPageThatTheEngineBreaksOnIsNoneAndTheNextOneIsWhole) {
@@ -183,13 +183,13 @@ TEST_F(WebViewDocument, OfAPageThatTheEngineBreaksOnIsNoneAndTheNextOneIsWhole) 
     (void)document();
     server.serve("/next", "<title>next</title>");
     load("/next");
-    EXPECT_EQ(shownTitle(), "next");
+    EXPECT_EQ("next", shownTitle());
 }
 
 TEST_F(WebViewDocument, OfMegabytesOfTextIsWhole) {
     // Hidden, since the engine takes its time to lay such a text out.
     const auto document = documentOf("<p hidden>" + QByteArray(8 << 20, 'x') + "</p>");
-    ASSERT_NE(one(document, u"p"), nullptr);
+    ASSERT_NE(nullptr, one(document, u"p"));
     qsizetype length = 0;
     for (const DomNode* part = one(document, u"p")->firstChild; part != nullptr; part = part->nextSibling) {
         length += part->data->size();
@@ -198,9 +198,8 @@ TEST_F(WebViewDocument, OfMegabytesOfTextIsWhole) {
 }
 
 TEST_F(WebViewDocument, OfAPageBeyondAllMeasureIsNone) {
-    EXPECT_EQ(documentOf("<p></p><script>const t = 'x'.repeat(1 << 20); for (let i = 0; i < 65; ++i)"
-                         "document.querySelector('p').append(document.createComment(t));</script>"),
-              nullptr);
+    EXPECT_EQ(nullptr, documentOf("<p></p><script>const t = 'x'.repeat(1 << 20); for (let i = 0; i < 65; ++i)"
+                                  "document.querySelector('p').append(document.createComment(t));</script>"));
 }
 
 TEST_F(WebViewDocument, OfAPageWhoseScriptsNeverRestIsNoneAfterTheTimeLimit) {
@@ -210,12 +209,12 @@ TEST_F(WebViewDocument, OfAPageWhoseScriptsNeverRestIsNoneAfterTheTimeLimit) {
     view->setDocumentTimeLimit(std::chrono::milliseconds(300));
     QElapsedTimer time;
     time.start();
-    EXPECT_EQ(document(), nullptr);
+    EXPECT_EQ(nullptr, document());
     EXPECT_LT(time.elapsed(), 10000);
     server.serve("/next", "<title>next</title>");
     load("/next");
     view->setDocumentTimeLimit(std::chrono::seconds(20));
-    EXPECT_EQ(shownTitle(), "next");
+    EXPECT_EQ("next", shownTitle());
 }
 
 TEST_F(WebViewDocument, OfADeadPageIsNone) {
@@ -223,10 +222,10 @@ TEST_F(WebViewDocument, OfADeadPageIsNone) {
     view->loadRequest(QUrl("chrome://crash"));
     waitFor(1000);
     view->setDocumentTimeLimit(std::chrono::seconds(600));
-    EXPECT_EQ(document(), nullptr);
+    EXPECT_EQ(nullptr, document());
     server.serve("/next", "<title>next</title>");
     load("/next");
-    EXPECT_EQ(shownTitle(), "next");
+    EXPECT_EQ("next", shownTitle());
 }
 
 TEST_F(WebViewDocument, OfTwentyThousandNodesIsWhole) {
@@ -241,8 +240,8 @@ TEST_F(WebViewDocument, OfTwentyThousandNodesIsWhole) {
         time.start();
         const auto taken = document();
         std::printf("20,000 nodes copied in %lld ms\n", static_cast<long long>(time.elapsed()));
-        ASSERT_NE(taken, nullptr);
-        EXPECT_EQ(taken->getElementsByTagName(u"b").size(), 5000U);
+        ASSERT_NE(nullptr, taken);
+        EXPECT_EQ(5000U, taken->getElementsByTagName(u"b").size());
     }
 }
 

@@ -14,8 +14,8 @@ class WebViewLoad : public WebViewTest {};
 TEST_F(WebViewLoad, OfAPageStartsAndFinishesItsMainFrame) {
     server.serve("/a", "<title>A</title>");
     load("/a");
-    EXPECT_EQ(events, QStringList({"start main", "finish main"}));
-    EXPECT_EQ(shownTitle(), "A");
+    EXPECT_EQ(QStringList({"start main", "finish main"}), events);
+    EXPECT_EQ("A", shownTitle());
 }
 
 TEST_F(WebViewLoad, ShowsThePage) {
@@ -27,15 +27,15 @@ TEST_F(WebViewLoad, ShowsThePage) {
 
 TEST_F(WebViewLoad, OfAServersErrorPageIsAFinishedLoad) {
     load("/unknown");
-    EXPECT_EQ(events, QStringList({"start main", "finish main"}));
-    EXPECT_NE(document(), nullptr);
+    EXPECT_EQ(QStringList({"start main", "finish main"}), events);
+    EXPECT_NE(nullptr, document());
 }
 
 TEST_F(WebViewLoad, OfAnErrorStatusWithoutAPageFails) {
     server.serve("/gone", Answer{.status = 410});
     load("/gone");
-    EXPECT_EQ(events, QStringList({"start main", "fail main"}));
-    EXPECT_EQ(document(), nullptr);
+    EXPECT_EQ(QStringList({"start main", "fail main"}), events);
+    EXPECT_EQ(nullptr, document());
 }
 
 TEST_F(WebViewLoad, ThatAServerAnswersWithNoContentFailsAndKeepsThePage) {
@@ -43,8 +43,8 @@ TEST_F(WebViewLoad, ThatAServerAnswersWithNoContentFailsAndKeepsThePage) {
     server.serve("/nothing", Answer{.status = 204});
     load("/a");
     load("/nothing");
-    EXPECT_EQ(events, QStringList({"start main", "fail main"}));
-    EXPECT_EQ(shownTitle(), "A");
+    EXPECT_EQ(QStringList({"start main", "fail main"}), events);
+    EXPECT_EQ("A", shownTitle());
 }
 
 TEST_F(WebViewLoad, FromAServerThatIsNotThereFails) {
@@ -52,10 +52,10 @@ TEST_F(WebViewLoad, FromAServerThatIsNotThereFails) {
     load("/a");
     server.close();
     load("/b");
-    EXPECT_EQ(events, QStringList({"start main", "fail main"}));
+    EXPECT_EQ(QStringList({"start main", "fail main"}), events);
     waitFor(300);
-    EXPECT_EQ(events, QStringList({"start main", "fail main"}));
-    EXPECT_EQ(document(), nullptr);
+    EXPECT_EQ(QStringList({"start main", "fail main"}), events);
+    EXPECT_EQ(nullptr, document());
 }
 
 TEST_F(WebViewLoad, OfADownloadFailsAndKeepsThePage) {
@@ -63,15 +63,15 @@ TEST_F(WebViewLoad, OfADownloadFailsAndKeepsThePage) {
     server.serve("/file", Answer{.body = "x", .type = "application/octet-stream"});
     load("/a");
     load("/file");
-    EXPECT_EQ(events, QStringList({"start main", "fail main"}));
-    EXPECT_EQ(shownTitle(), "A");
+    EXPECT_EQ(QStringList({"start main", "fail main"}), events);
+    EXPECT_EQ("A", shownTitle());
 }
 
 TEST_F(WebViewLoad, ThatNeverEndsIsNeverFinished) {
     server.serve("/never", Answer{.body = "<title>Half</title><p>there</p>", .end = Answer::End::Never});
     view->loadRequest(server.url("/never"));
     EXPECT_TRUE(waitUntil([this] { return shownTitle() == "Half"; }));
-    EXPECT_EQ(events, QStringList({"start main"}));
+    EXPECT_EQ(QStringList({"start main"}), events);
 }
 
 TEST_F(WebViewLoad, ThatIsReplacedByAnotherLeavesTheOther) {
@@ -81,7 +81,7 @@ TEST_F(WebViewLoad, ThatIsReplacedByAnotherLeavesTheOther) {
     ASSERT_TRUE(waitUntil([this] { return server.wasAskedFor("/never"); }));
     view->loadRequest(server.url("/a"));
     ASSERT_TRUE(waitUntil([this] { return events.contains("finish main"); }));
-    EXPECT_EQ(shownTitle(), "A");
+    EXPECT_EQ("A", shownTitle());
 }
 
 TEST_F(WebViewLoad, OfALateSubframeStartsAfterTheMainFrameHasFinished) {
@@ -91,7 +91,7 @@ TEST_F(WebViewLoad, OfALateSubframeStartsAfterTheMainFrameHasFinished) {
                  "document.body.append(f); }, 300)</script><body>outside");
     load("/a");
     EXPECT_TRUE(waitUntil([this] { return events.last() == "start sub"; }));
-    EXPECT_EQ(events, QStringList({"start main", "finish main", "start sub"}));
+    EXPECT_EQ(QStringList({"start main", "finish main", "start sub"}), events);
 }
 
 TEST_F(WebViewLoad, OfPagesMakesAHistory) {
@@ -105,7 +105,7 @@ TEST_F(WebViewLoad, OfPagesMakesAHistory) {
     events.clear();
     view->goBack();
     ASSERT_TRUE(waitUntil([this] { return events.contains("finish main"); }));
-    EXPECT_EQ(shownTitle(), "A");
+    EXPECT_EQ("A", shownTitle());
     EXPECT_FALSE(view->canGoBack());
 }
 
@@ -121,7 +121,7 @@ TEST_F(WebViewLoad, OfAPageThatOpensDialogsIsNotHeldUp) {
     server.serve("/a", "<script>alert(1); const c = confirm(2); const p = prompt(3);"
                        "document.write('<title>' + c + ' ' + p + '</title>');</script>");
     load("/a");
-    EXPECT_EQ(shownTitle(), "false null");
+    EXPECT_EQ("false null", shownTitle());
 }
 
 TEST_F(WebViewLoad, FromAFileIsAllowedToTheProgram) {
@@ -132,8 +132,8 @@ TEST_F(WebViewLoad, FromAFileIsAllowedToTheProgram) {
     file.write("<title>From a file</title>");
     file.close();
     loadUrl(QUrl::fromLocalFile(path));
-    EXPECT_EQ(events, QStringList({"start main", "finish main"}));
-    EXPECT_EQ(shownTitle(), "From a file");
+    EXPECT_EQ(QStringList({"start main", "finish main"}), events);
+    EXPECT_EQ("From a file", shownTitle());
 }
 
 TEST_F(WebViewLoad, OfWebContentCanNotReachLocalFiles) {
@@ -149,7 +149,7 @@ TEST_F(WebViewLoad, OfWebContentCanNotReachLocalFiles) {
                            address + "'; }, 200);</script>");
     load("/a");
     waitFor(800);
-    EXPECT_EQ(shownTitle(), "open");
+    EXPECT_EQ("open", shownTitle());
 }
 
 TEST_F(WebViewLoad, LeavesOnlyItsOwnWordsInTheDocumentOfAnEarlierPage) {
@@ -157,7 +157,7 @@ TEST_F(WebViewLoad, LeavesOnlyItsOwnWordsInTheDocumentOfAnEarlierPage) {
     server.serve("/b", "<p>no title</p>");
     load("/a");
     load("/b");
-    EXPECT_EQ(shownTitle(), "");
+    EXPECT_EQ("", shownTitle());
 }
 
 TEST(WebViewStart, WaitsForTheFirstPage) {
@@ -165,10 +165,10 @@ TEST(WebViewStart, WaitsForTheFirstPage) {
     view.show();
     waitFor(50);
     const auto labels = view.findChildren<QLabel*>();
-    ASSERT_EQ(labels.size(), 1);
-    EXPECT_EQ(labels.first()->text(), "Search a site to see its pages here");
-    EXPECT_EQ(view.children().size(), 2) << "only the layout and the hint";
-    EXPECT_EQ(view.mainFrame()->domDocument(), nullptr);
+    ASSERT_EQ(1, labels.size());
+    EXPECT_EQ("Search a site to see its pages here", labels.first()->text());
+    EXPECT_EQ(2, view.children().size()) << "only the layout and the hint";
+    EXPECT_EQ(nullptr, view.mainFrame()->domDocument());
     EXPECT_FALSE(view.canGoBack());
     view.goBack();
 }
@@ -184,10 +184,10 @@ TEST(WebViewStart, IsRefusedToRootWithItsSandboxOnAndSaysSo) {
     view.loadRequest(QUrl("http://127.0.0.1:9/"));
     qputenv("QTWEBENGINE_DISABLE_SANDBOX", setting);
     const auto labels = view.findChildren<QLabel*>();
-    ASSERT_EQ(labels.size(), 1);
-    EXPECT_EQ(labels.first()->text(),
-              "Web pages are not shown when the program is run by the system administrator.");
-    EXPECT_EQ(view.mainFrame()->domDocument(), nullptr);
+    ASSERT_EQ(1, labels.size());
+    EXPECT_EQ("Web pages are not shown when the program is run by the system administrator.",
+              labels.first()->text());
+    EXPECT_EQ(nullptr, view.mainFrame()->domDocument());
 }
 
 } // namespace

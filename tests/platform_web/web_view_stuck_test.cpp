@@ -30,7 +30,7 @@ protected:
     void askInVain(std::chrono::milliseconds limit) {
         view->setLeaveTimeLimit(std::chrono::minutes(1));
         view->setDocumentTimeLimit(limit);
-        EXPECT_EQ(document(), nullptr);
+        EXPECT_EQ(nullptr, document());
         view->setDocumentTimeLimit(std::chrono::seconds(20));
     }
 };
@@ -41,7 +41,7 @@ TEST_F(WebViewStuck, IsLeftByALoad) {
     getStuck();
     view->loadRequest(server.url("/b"));
     ASSERT_TRUE(finished());
-    EXPECT_EQ(shownTitle(), "B");
+    EXPECT_EQ("B", shownTitle());
 }
 
 TEST_F(WebViewStuck, IsLeftByTheLastOfSeveralLoads) {
@@ -52,7 +52,7 @@ TEST_F(WebViewStuck, IsLeftByTheLastOfSeveralLoads) {
     view->loadRequest(server.url("/b"));
     ASSERT_TRUE(finished());
     waitFor(500);
-    EXPECT_EQ(shownTitle(), "B");
+    EXPECT_EQ("B", shownTitle());
 }
 
 TEST_F(WebViewStuck, IsLeftByGoingBackOnePage) {
@@ -62,7 +62,7 @@ TEST_F(WebViewStuck, IsLeftByGoingBackOnePage) {
     getStuck();
     view->goBack();
     ASSERT_TRUE(finished());
-    EXPECT_EQ(shownTitle(), "B");
+    EXPECT_EQ("B", shownTitle());
     EXPECT_TRUE(view->canGoBack());
 }
 
@@ -74,7 +74,7 @@ TEST_F(WebViewStuck, IsLeftAtOnceByALoadWhenItHasNotGivenItsDocument) {
     view->loadRequest(server.url("/b"));
     ASSERT_TRUE(finished());
     EXPECT_LT(time.elapsed(), 4000);
-    EXPECT_EQ(shownTitle(), "B");
+    EXPECT_EQ("B", shownTitle());
 }
 
 TEST_F(WebViewStuck, IsLeftAtOnceByGoingBackWhenItHasNotGivenItsDocument) {
@@ -87,7 +87,7 @@ TEST_F(WebViewStuck, IsLeftAtOnceByGoingBackWhenItHasNotGivenItsDocument) {
     view->goBack();
     ASSERT_TRUE(finished());
     EXPECT_LT(time.elapsed(), 4000);
-    EXPECT_EQ(shownTitle(), "B");
+    EXPECT_EQ("B", shownTitle());
     EXPECT_TRUE(view->canGoBack());
 }
 
@@ -98,9 +98,9 @@ protected:
         view->setLeaveTimeLimit(std::chrono::milliseconds(2000));
         server.serve("/slow", Answer{.body = "<title>slow</title>", .delayMilliseconds = 3000});
         load("/slow");
-        EXPECT_EQ(events, QStringList({"start main", "finish main"}));
-        EXPECT_EQ(server.requests().count("/slow"), 1);
-        EXPECT_EQ(shownTitle(), "slow");
+        EXPECT_EQ(QStringList({"start main", "finish main"}), events);
+        EXPECT_EQ(1, server.requests().count("/slow"));
+        EXPECT_EQ("slow", shownTitle());
     }
 };
 
@@ -112,7 +112,7 @@ TEST_F(WebViewSlow, ServerIsWaitedForBehindAPage) {
 
 TEST_F(WebViewSlow, ServerIsWaitedForBehindAFailedPage) {
     loadUrl(QUrl("http://127.0.0.1:1/"));
-    ASSERT_EQ(events, QStringList({"start main", "fail main"}));
+    ASSERT_EQ(QStringList({"start main", "fail main"}), events);
     loadSlowly();
 }
 

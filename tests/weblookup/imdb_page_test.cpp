@@ -33,23 +33,23 @@ TEST(ImdbPage, WithoutAnythingKnownLeavesEverySlotEmpty) {
 }
 
 TEST(ImdbPage, WithoutATitleElementLogsNothing) {
-    EXPECT_EQ(logOf({element("P", {text("x")})}), "");
+    EXPECT_EQ("", logOf({element("P", {text("x")})}));
 }
 
 // Title
 
 TEST(ImdbTitle, EndsBeforeTheLastBracketAndKeepsItsTrailingBlank) {
-    EXPECT_EQ(read({title("Some Film (2005)")}).title, QString("Some Film "));
-    EXPECT_EQ(read({title("Film (Vol. 2) (2005)")}).title, QString("Film (Vol. 2) "));
-    EXPECT_EQ(read({title("Alpha (1999) (V)")}).title, QString("Alpha (1999) "));
+    EXPECT_EQ(QString("Some Film "), read({title("Some Film (2005)")}).title);
+    EXPECT_EQ(QString("Film (Vol. 2) "), read({title("Film (Vol. 2) (2005)")}).title);
+    EXPECT_EQ(QString("Alpha (1999) "), read({title("Alpha (1999) (V)")}).title);
 }
 
 TEST(ImdbTitle, WithoutABracketIsTheWholeText) {
-    EXPECT_EQ(read({title("\n Some Film \n")}).title, QString("\n Some Film \n"));
+    EXPECT_EQ(QString("\n Some Film \n"), read({title("\n Some Film \n")}).title);
 }
 
 TEST(ImdbTitle, OfOnlyAYearIsAnEmptyText) {
-    EXPECT_EQ(read({title("(1984)")}).title, QString(""));
+    EXPECT_EQ(QString(""), read({title("(1984)")}).title);
 }
 
 TEST(ImdbTitle, KeepsLettersOfAnyScript) {
@@ -58,122 +58,122 @@ TEST(ImdbTitle, KeepsLettersOfAnyScript) {
 }
 
 TEST(ImdbTitle, IsThatOfTheFirstTitleElementEvenWhenItHasNoChild) {
-    EXPECT_EQ(read({title("One"), title("Two")}).title, QString("One"));
-    EXPECT_EQ(read({element("TITLE"), title("Two")}).title, std::nullopt);
+    EXPECT_EQ(QString("One"), read({title("One"), title("Two")}).title);
+    EXPECT_EQ(std::nullopt, read({element("TITLE"), title("Two")}).title);
 }
 
 TEST(ImdbTitle, IsNothingWhenTheFirstChildHasNoText) {
-    EXPECT_EQ(read({element("TITLE", {element("B", {text("x")}), text("y")})}).title, std::nullopt);
-    EXPECT_EQ(logOf({element("TITLE", {element("B", {text("x")}), text("y")})}), "");
+    EXPECT_EQ(std::nullopt, read({element("TITLE", {element("B", {text("x")}), text("y")})}).title);
+    EXPECT_EQ("", logOf({element("TITLE", {element("B", {text("x")}), text("y")})}));
 }
 
 TEST(ImdbTitle, IsOnlyTheFirstOfTwoTextNodes) {
-    EXPECT_EQ(read({element("TITLE", {text("One "), text("Two (2005)")})}).title, QString("One "));
+    EXPECT_EQ(QString("One "), read({element("TITLE", {text("One "), text("Two (2005)")})}).title);
 }
 
 TEST(ImdbTitle, IsLoggedAsThePageHasIt) {
-    EXPECT_EQ(logOf({title("Some %1 %s Film (2005)")}), "<title> tag has \"Some %1 %s Film (2005)\"\n");
+    EXPECT_EQ("<title> tag has \"Some %1 %s Film (2005)\"\n", logOf({title("Some %1 %s Film (2005)")}));
 }
 
 // Information sections
 
 TEST(ImdbSection, NeedsTheExactClass) {
     for (const char* const name : {"info main", " info", "info ", "Info", "information", ""}) {
-        EXPECT_EQ(read({div(name, {h5("Genre:"), a("Drama")})}).genres, std::nullopt) << name;
+        EXPECT_EQ(std::nullopt, read({div(name, {h5("Genre:"), a("Drama")})}).genres) << name;
     }
 }
 
 TEST(ImdbSection, IsAnHtmlElement) {
-    EXPECT_EQ(read({withClass(foreignElement("div", {h5("Genre:"), a("Drama")}), "info")}).genres,
-              std::nullopt);
+    EXPECT_EQ(std::nullopt,
+              read({withClass(foreignElement("div", {h5("Genre:"), a("Drama")}), "info")}).genres);
 }
 
 TEST(ImdbSection, IsADivOnly) {
-    EXPECT_EQ(read({withClass(element("SPAN", {h5("Genre:"), a("Drama")}), "info")}).genres, std::nullopt);
+    EXPECT_EQ(std::nullopt, read({withClass(element("SPAN", {h5("Genre:"), a("Drama")}), "info")}).genres);
 }
 
 TEST(ImdbSection, IsFoundInsideOthers) {
-    EXPECT_EQ(read({div("x", {div("info", {div("info", {h5("Genre:"), a("Drama")})})})}).genres,
-              QStringList({"Drama"}));
+    EXPECT_EQ(QStringList({"Drama"}),
+              read({div("x", {div("info", {div("info", {h5("Genre:"), a("Drama")})})})}).genres);
 }
 
 TEST(ImdbSection, LooksAtDirectChildrenOnly) {
-    EXPECT_EQ(readInfo({element("P", {h5("Genre:"), a("Drama")})}).genres, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({element("P", {h5("Genre:"), a("Drama")})}).genres);
 }
 
 TEST(ImdbSection, HeadingMayBeWrittenInAnyCase) {
-    EXPECT_EQ(readInfo({element("h5", {text("Genre:")}), a("Drama")}).genres, QStringList({"Drama"}));
+    EXPECT_EQ(QStringList({"Drama"}), readInfo({element("h5", {text("Genre:")}), a("Drama")}).genres);
 }
 
 TEST(ImdbSection, OtherHeadingsAreIgnored) {
-    EXPECT_EQ(readInfo({element("H4", {text("Genre:")}), a("Drama")}).genres, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({element("H4", {text("Genre:")}), a("Drama")}).genres);
 }
 
 TEST(ImdbHeading, IsSkippedUnlessItsFirstChildIsExactlyText) {
-    EXPECT_EQ(readInfo({element("H5", {b("Genre:")}), a("Drama")}).genres, std::nullopt);
-    EXPECT_EQ(readInfo({element("H5", {comment(""), text("Genre:")}), a("Drama")}).genres, std::nullopt);
-    EXPECT_EQ(readInfo({element("H5", {cdata("Genre:")}), a("Drama")}).genres, std::nullopt);
-    EXPECT_EQ(readInfo({element("H5"), a("Drama")}).genres, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({element("H5", {b("Genre:")}), a("Drama")}).genres);
+    EXPECT_EQ(std::nullopt, readInfo({element("H5", {comment(""), text("Genre:")}), a("Drama")}).genres);
+    EXPECT_EQ(std::nullopt, readInfo({element("H5", {cdata("Genre:")}), a("Drama")}).genres);
+    EXPECT_EQ(std::nullopt, readInfo({element("H5"), a("Drama")}).genres);
 }
 
 TEST(ImdbHeading, LabelMayStandAnywhereInTheText) {
-    EXPECT_EQ(readInfo({h5("\n The Genre: of it"), a("Drama")}).genres, QStringList({"Drama"}));
+    EXPECT_EQ(QStringList({"Drama"}), readInfo({h5("\n The Genre: of it"), a("Drama")}).genres);
 }
 
 TEST(ImdbHeading, LabelIsCaseSensitive) {
-    EXPECT_EQ(readInfo({h5("genre:"), a("Drama")}).genres, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({h5("genre:"), a("Drama")}).genres);
 }
 
 TEST(ImdbHeading, FirstLabelInTheOrderOfTheRulesDecidesNotTheFirstInTheText) {
     const FormFillInfo both = readInfo({h5("Genre: Director:"), a("A")});
-    EXPECT_EQ(both.directors, QStringList({"A"}));
-    EXPECT_EQ(both.genres, std::nullopt);
+    EXPECT_EQ(QStringList({"A"}), both.directors);
+    EXPECT_EQ(std::nullopt, both.genres);
     const FormFillInfo date = readInfo({h5("Genre: Release Date:"), text("1 May 2005"), a("A")});
-    EXPECT_EQ(date.releaseDate, QDate(2005, 5, 1));
-    EXPECT_EQ(date.genres, std::nullopt);
+    EXPECT_EQ(QDate(2005, 5, 1), date.releaseDate);
+    EXPECT_EQ(std::nullopt, date.genres);
     const FormFillInfo genre = readInfo({h5("Plot Outline: Genre:"), text("t"), a("A")});
-    EXPECT_EQ(genre.genres, QStringList({"A"}));
-    EXPECT_EQ(genre.description, std::nullopt);
+    EXPECT_EQ(QStringList({"A"}), genre.genres);
+    EXPECT_EQ(std::nullopt, genre.description);
     const FormFillInfo plot = readInfo({h5("Certification: Plot Outline:"), text("t"), a("USA:R")});
-    EXPECT_EQ(plot.description, QString("t"));
-    EXPECT_EQ(plot.rating, std::nullopt);
+    EXPECT_EQ(QString("t"), plot.description);
+    EXPECT_EQ(std::nullopt, plot.rating);
 }
 
 TEST(ImdbDirectors, AreTrimmedNames) {
-    EXPECT_EQ(readInfo({h5("Director:"), a(" One "), a("Two\n")}).directors, QStringList({"One", "Two"}));
+    EXPECT_EQ(QStringList({"One", "Two"}), readInfo({h5("Director:"), a(" One "), a("Two\n")}).directors);
 }
 
 TEST(ImdbDirectors, ArePluralNever) {
-    EXPECT_EQ(readInfo({h5("Directors:"), a("One")}).directors, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({h5("Directors:"), a("One")}).directors);
 }
 
 TEST(ImdbDirectors, RunOnOverTheNextHeading) {
-    EXPECT_EQ(readInfo({h5("Director:"), a("One"), h5("Genre:"), a("Drama")}).directors,
-              QStringList({"One", "Drama"}));
+    EXPECT_EQ(QStringList({"One", "Drama"}),
+              readInfo({h5("Director:"), a("One"), h5("Genre:"), a("Drama")}).directors);
 }
 
 TEST(ImdbDirectors, LastHeadingWinsEvenWithNothing) {
-    EXPECT_EQ(readInfo({h5("Director:"), a("One"), h5("Director:")}).directors, std::nullopt);
-    EXPECT_EQ(readInfo({h5("Director:"), h5("Director:"), a("Two")}).directors, QStringList({"Two"}));
+    EXPECT_EQ(std::nullopt, readInfo({h5("Director:"), a("One"), h5("Director:")}).directors);
+    EXPECT_EQ(QStringList({"Two"}), readInfo({h5("Director:"), h5("Director:"), a("Two")}).directors);
 }
 
 // Release date
 
 TEST(ImdbReleaseDate, TakesTheFirstThreePartsAndTheYearOfThem) {
     const FormFillInfo info = readInfo({h5("Release Date:"), text("\n12 May 2005 (USA)\n"), a("more")});
-    EXPECT_EQ(info.releaseDate, QDate(2005, 5, 12));
-    EXPECT_EQ(info.year, QString("2005"));
+    EXPECT_EQ(QDate(2005, 5, 12), info.releaseDate);
+    EXPECT_EQ(QString("2005"), info.year);
 }
 
 TEST(ImdbReleaseDate, IsTheSameInAnyLocaleOfTheProgram) {
     QLocale::setDefault(QLocale(QLocale::German));
     const FormFillInfo info = readInfo({h5("Release Date:"), text("3 October 1990")});
     QLocale::setDefault(QLocale::c());
-    EXPECT_EQ(info.releaseDate, QDate(1990, 10, 3));
+    EXPECT_EQ(QDate(1990, 10, 3), info.releaseDate);
 }
 
 TEST(ImdbReleaseDate, AcceptsALeadingZeroAndASmallMonth) {
-    EXPECT_EQ(readInfo({h5("Release Date:"), text("05 may 2005")}).releaseDate, QDate(2005, 5, 5));
+    EXPECT_EQ(QDate(2005, 5, 5), readInfo({h5("Release Date:"), text("05 may 2005")}).releaseDate);
 }
 
 TEST(ImdbReleaseDate, RefusesWhatIsNoDate) {
@@ -181,130 +181,129 @@ TEST(ImdbReleaseDate, RefusesWhatIsNoDate) {
          {"May 2005", "12 Mai 2005", "31 February 2005", "12 May 05", "0 May 2005", "12  May 2005",
           "12 May, 2005", "May 12 2005", "12 Dec 2005", "12 May -2005", ""}) {
         const FormFillInfo info = readInfo({h5("Release Date:"), text(bad)});
-        EXPECT_EQ(info.releaseDate, std::nullopt) << bad;
-        EXPECT_EQ(info.year, std::nullopt) << bad;
+        EXPECT_EQ(std::nullopt, info.releaseDate) << bad;
+        EXPECT_EQ(std::nullopt, info.year) << bad;
     }
 }
 
 TEST(ImdbReleaseDate, SplitsAtBlanksOnly) {
-    EXPECT_EQ(readInfo({h5("Release Date:"), text("12\tMay 2005")}).releaseDate, std::nullopt);
-    EXPECT_EQ(readInfo({h5("Release Date:"), text(QString("12\u00a0May 2005 x"))}).releaseDate, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({h5("Release Date:"), text("12\tMay 2005")}).releaseDate);
+    EXPECT_EQ(std::nullopt, readInfo({h5("Release Date:"), text(QString("12\u00a0May 2005 x"))}).releaseDate);
 }
 
 TEST(ImdbReleaseDate, ReadsOnlyTheFirstTextNodeEvenWhenItIsBlank) {
-    EXPECT_EQ(readInfo({h5("Release Date:"), text("\n"), element("I"), text("12 May 2005")}).releaseDate,
-              std::nullopt);
+    EXPECT_EQ(std::nullopt,
+              readInfo({h5("Release Date:"), text("\n"), element("I"), text("12 May 2005")}).releaseDate);
 }
 
 TEST(ImdbReleaseDate, FindsTheTextBehindElements) {
-    EXPECT_EQ(readInfo({h5("Release Date:"), br(), comment("x"), text("12 May 2005")}).releaseDate,
-              QDate(2005, 5, 12));
+    EXPECT_EQ(QDate(2005, 5, 12),
+              readInfo({h5("Release Date:"), br(), comment("x"), text("12 May 2005")}).releaseDate);
 }
 
 TEST(ImdbReleaseDate, BadLaterDateClearsTheDateAndKeepsTheYear) {
     const FormFillInfo info =
         readInfo({h5("Release Date:"), text("12 May 2005"), h5("Release Date:"), text("May 2006")});
-    EXPECT_EQ(info.releaseDate, std::nullopt);
-    EXPECT_EQ(info.year, QString("2005"));
+    EXPECT_EQ(std::nullopt, info.releaseDate);
+    EXPECT_EQ(QString("2005"), info.year);
 }
 
 TEST(ImdbReleaseDate, WithoutAnyTextClearsTheDateAndKeepsTheYear) {
     const FormFillInfo info =
         readInfo({h5("Release Date:"), text("12 May 2005"), h5("Release Date:"), a("12 May 2006")});
-    EXPECT_EQ(info.releaseDate, std::nullopt);
-    EXPECT_EQ(info.year, QString("2005"));
+    EXPECT_EQ(std::nullopt, info.releaseDate);
+    EXPECT_EQ(QString("2005"), info.year);
 }
 
 TEST(ImdbReleaseDate, LaterGoodDateWins) {
     const FormFillInfo info =
         readInfo({h5("Release Date:"), text("12 May 2005"), h5("Release Date:"), text("1 June 2006")});
-    EXPECT_EQ(info.releaseDate, QDate(2006, 6, 1));
-    EXPECT_EQ(info.year, QString("2006"));
+    EXPECT_EQ(QDate(2006, 6, 1), info.releaseDate);
+    EXPECT_EQ(QString("2006"), info.year);
 }
 
 // Genres
 
 TEST(ImdbGenres, AreUntrimmedWithoutMore) {
-    EXPECT_EQ(readInfo({h5("Genre:"), a("Drama"), text(" / "), a(" Thriller "), a("more")}).genres,
-              QStringList({"Drama", " Thriller "}));
+    EXPECT_EQ(QStringList({"Drama", " Thriller "}),
+              readInfo({h5("Genre:"), a("Drama"), text(" / "), a(" Thriller "), a("more")}).genres);
 }
 
 TEST(ImdbGenres, SkipOnlyTheExactWord) {
-    EXPECT_EQ(readInfo({h5("Genre:"), a("More"), a(" more"), a("more"), a("more...")}).genres,
-              QStringList({"More", " more", "more..."}));
+    EXPECT_EQ(QStringList({"More", " more", "more..."}),
+              readInfo({h5("Genre:"), a("More"), a(" more"), a("more"), a("more...")}).genres);
 }
 
 TEST(ImdbGenres, OfOnlyMoreAreNothing) {
-    EXPECT_EQ(readInfo({h5("Genre:"), a("more")}).genres, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({h5("Genre:"), a("more")}).genres);
 }
 
 TEST(ImdbGenres, RunOnOverTheNextHeading) {
-    EXPECT_EQ(readInfo({h5("Genre:"), a("Drama"), h5("Certification:"), a("USA:R")}).genres,
-              QStringList({"Drama", "USA:R"}));
+    EXPECT_EQ(QStringList({"Drama", "USA:R"}),
+              readInfo({h5("Genre:"), a("Drama"), h5("Certification:"), a("USA:R")}).genres);
 }
 
 TEST(ImdbGenres, TakeTheFirstDirectTextOfAnAnchor) {
     EXPECT_EQ(
-        readInfo({h5("Genre:"), element("A", {b("no"), text("Drama")}), element("A", {b("no")})}).genres,
-        QStringList({"Drama"}));
+        QStringList({"Drama"}),
+        readInfo({h5("Genre:"), element("A", {b("no"), text("Drama")}), element("A", {b("no")})}).genres);
 }
 
 TEST(ImdbGenres, LastHeadingWinsEvenWithNothing) {
-    EXPECT_EQ(readInfo({h5("Genre:"), a("Drama"), h5("Genre:")}).genres, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({h5("Genre:"), a("Drama"), h5("Genre:")}).genres);
 }
 
 // Plot
 
 TEST(ImdbPlot, IsTheFirstTextTrimmed) {
-    EXPECT_EQ(readInfo({h5("Plot Outline:"), a("x"), text("\n A man. \n"), text("More")}).description,
-              QString("A man."));
+    EXPECT_EQ(QString("A man."),
+              readInfo({h5("Plot Outline:"), a("x"), text("\n A man. \n"), text("More")}).description);
 }
 
 TEST(ImdbPlot, OfBlanksIsAnEmptyText) {
-    EXPECT_EQ(readInfo({h5("Plot Outline:"), text(" \n"), a("x"), text("A man.")}).description, QString(""));
+    EXPECT_EQ(QString(""), readInfo({h5("Plot Outline:"), text(" \n"), a("x"), text("A man.")}).description);
 }
 
 TEST(ImdbPlot, IsNothingWithoutText) {
-    EXPECT_EQ(readInfo({h5("Plot Outline:"), a("A man."), cdata("x")}).description, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({h5("Plot Outline:"), a("A man."), cdata("x")}).description);
 }
 
 TEST(ImdbPlot, LastHeadingWinsEvenWithNothing) {
-    EXPECT_EQ(readInfo({h5("Plot Outline:"), text("A man."), h5("Plot Outline:")}).description, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({h5("Plot Outline:"), text("A man."), h5("Plot Outline:")}).description);
 }
 
 // Certification
 
 TEST(ImdbCertification, IsTheFirstOfTheCountry) {
-    EXPECT_EQ(readInfo({h5("Certification:"), a("Canada:14A"), a("USA:PG-13"), a("USA:R")}).rating,
-              QString("PG-13"));
+    EXPECT_EQ(QString("PG-13"),
+              readInfo({h5("Certification:"), a("Canada:14A"), a("USA:PG-13"), a("USA:R")}).rating);
 }
 
 TEST(ImdbCertification, IsUntrimmedAndMayBeEmpty) {
-    EXPECT_EQ(readInfo({h5("Certification:"), a("USA: R ")}).rating, QString(" R "));
-    EXPECT_EQ(readInfo({h5("Certification:"), a("USA:")}).rating, QString(""));
+    EXPECT_EQ(QString(" R "), readInfo({h5("Certification:"), a("USA: R ")}).rating);
+    EXPECT_EQ(QString(""), readInfo({h5("Certification:"), a("USA:")}).rating);
 }
 
 TEST(ImdbCertification, UnratedIsNotRated) {
-    EXPECT_EQ(readInfo({h5("Certification:"), a("USA:Unrated")}).rating, QString("NR"));
-    EXPECT_EQ(readInfo({h5("Certification:"), a("USA:unrated")}).rating, QString("unrated"));
-    EXPECT_EQ(readInfo({h5("Certification:"), a("USA:Unrated "), a("USA:R")}).rating, QString("Unrated "));
+    EXPECT_EQ(QString("NR"), readInfo({h5("Certification:"), a("USA:Unrated")}).rating);
+    EXPECT_EQ(QString("unrated"), readInfo({h5("Certification:"), a("USA:unrated")}).rating);
+    EXPECT_EQ(QString("Unrated "), readInfo({h5("Certification:"), a("USA:Unrated "), a("USA:R")}).rating);
 }
 
 TEST(ImdbCertification, MustStartWithTheCountry) {
-    EXPECT_EQ(readInfo({h5("Certification:"), a(" USA:R"), a("usa:R"), a("Canada USA:R")}).rating,
-              std::nullopt);
+    EXPECT_EQ(std::nullopt,
+              readInfo({h5("Certification:"), a(" USA:R"), a("usa:R"), a("Canada USA:R")}).rating);
 }
 
 TEST(ImdbCertification, LooksAtEveryAnchorsFirstDirectText) {
-    EXPECT_EQ(
-        readInfo({h5("Certification:"), element("A", {b("USA:PG")}), element("A", {b("x"), text("USA:R")})})
-            .rating,
-        QString("R"));
+    EXPECT_EQ(QString("R"), readInfo({h5("Certification:"), element("A", {b("USA:PG")}),
+                                      element("A", {b("x"), text("USA:R")})})
+                                .rating);
 }
 
 TEST(ImdbCertification, LastHeadingWinsEvenWithNothing) {
-    EXPECT_EQ(readInfo({h5("Certification:"), a("USA:R"), h5("Certification:"), a("UK:15")}).rating,
-              std::nullopt);
+    EXPECT_EQ(std::nullopt,
+              readInfo({h5("Certification:"), a("USA:R"), h5("Certification:"), a("UK:15")}).rating);
 }
 
 // Cast
@@ -330,71 +329,72 @@ TEST(ImdbCast, IsTheSameWithAndWithoutATbody) {
 }
 
 TEST(ImdbCast, TableNeedsTheExactClassAndPlace) {
-    EXPECT_EQ(readInfo({withClass(element("TABLE", {actorRow("One")}), "cast list")}).cast, std::nullopt);
-    EXPECT_EQ(readInfo({element("P", {castTable({actorRow("One")})})}).cast, std::nullopt);
-    EXPECT_EQ(read({castTable({actorRow("One")})}).cast, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({withClass(element("TABLE", {actorRow("One")}), "cast list")}).cast);
+    EXPECT_EQ(std::nullopt, readInfo({element("P", {castTable({actorRow("One")})})}).cast);
+    EXPECT_EQ(std::nullopt, read({castTable({actorRow("One")})}).cast);
 }
 
 TEST(ImdbCast, NamesAreUntrimmed) {
-    EXPECT_EQ(readInfo({castTable({actorRow(" One\n")})}).cast, QStringList({" One\n"}));
+    EXPECT_EQ(QStringList({" One\n"}), readInfo({castTable({actorRow(" One\n")})}).cast);
 }
 
 TEST(ImdbCast, ReadsEveryAnchorOfTheSecondCellOnly) {
     EXPECT_EQ(
+        QStringList({"2a", "2b"}),
         readInfo({castTable({row({cell({a("1")}), cell({a("2a"), text("/"), a("2b")}), cell({a("3")})})})})
-            .cast,
-        QStringList({"2a", "2b"}));
+            .cast);
 }
 
 TEST(ImdbCast, SkipsRowsWithFewerThanTwoCells) {
-    EXPECT_EQ(readInfo({castTable({row({cell({a("1")})}), row({}), actorRow("One")})}).cast,
-              QStringList({"One"}));
+    EXPECT_EQ(QStringList({"One"}),
+              readInfo({castTable({row({cell({a("1")})}), row({}), actorRow("One")})}).cast);
 }
 
 TEST(ImdbCast, CountsHeaderCells) {
-    EXPECT_EQ(readInfo({castTable({row({element("TH", {a("h")}), cell({a("One")}), cell({a("no")})})})}).cast,
-              QStringList({"One"}));
-    EXPECT_EQ(readInfo({castTable({row({cell({a("1")}), element("TH", {a("h")}), cell({a("no")})})})}).cast,
-              QStringList({"h"}));
+    EXPECT_EQ(
+        QStringList({"One"}),
+        readInfo({castTable({row({element("TH", {a("h")}), cell({a("One")}), cell({a("no")})})})}).cast);
+    EXPECT_EQ(QStringList({"h"}),
+              readInfo({castTable({row({cell({a("1")}), element("TH", {a("h")}), cell({a("no")})})})}).cast);
 }
 
 TEST(ImdbCast, AnchorNeedsTextAsItsFirstChild) {
     const Doms anchors = {element("A", {b("no")}), element("A", {comment(""), text("no")}), element("A"),
                           element("A", {text("yes"), b("x")}), element("SPAN", {a("no")})};
-    EXPECT_EQ(readInfo({castTable({row({cell({}), cell(anchors)})})}).cast, QStringList({"yes"}));
+    EXPECT_EQ(QStringList({"yes"}), readInfo({castTable({row({cell({}), cell(anchors)})})}).cast);
 }
 
 TEST(ImdbCast, OfNobodyIsNothing) {
-    EXPECT_EQ(readInfo({castTable({row({cell({}), cell({})})})}).cast, std::nullopt);
+    EXPECT_EQ(std::nullopt, readInfo({castTable({row({cell({}), cell({})})})}).cast);
 }
 
 TEST(ImdbCast, WalkMovesIntoTheFirstTbodyForGood) {
-    EXPECT_EQ(readInfo({castTable({actorRow("before"), element("tbody", {actorRow("in")}), actorRow("behind"),
+    EXPECT_EQ(QStringList({"before", "in"}),
+              readInfo({castTable({actorRow("before"), element("tbody", {actorRow("in")}), actorRow("behind"),
                                    element("TBODY", {actorRow("second")})})})
-                  .cast,
-              QStringList({"before", "in"}));
+                  .cast);
 }
 
 TEST(ImdbCast, EndsAtATbodyWithoutChildren) {
-    EXPECT_EQ(readInfo({castTable({actorRow("before"), element("TBODY"), actorRow("behind")})}).cast,
-              QStringList({"before"}));
+    EXPECT_EQ(QStringList({"before"}),
+              readInfo({castTable({actorRow("before"), element("TBODY"), actorRow("behind")})}).cast);
 }
 
 TEST(ImdbCast, GoesOneTbodyDeep) {
     EXPECT_EQ(
+        QStringList({"in"}),
         readInfo({castTable({element("TBODY", {element("TBODY", {actorRow("deep")}), actorRow("in")})})})
-            .cast,
-        QStringList({"in"}));
+            .cast);
 }
 
 TEST(ImdbCast, IgnoresRowsInOtherSections) {
-    EXPECT_EQ(readInfo({castTable({element("THEAD", {actorRow("head")}), actorRow("One")})}).cast,
-              QStringList({"One"}));
+    EXPECT_EQ(QStringList({"One"}),
+              readInfo({castTable({element("THEAD", {actorRow("head")}), actorRow("One")})}).cast);
 }
 
 TEST(ImdbCast, LastTableWinsEvenWithNothing) {
-    EXPECT_EQ(read({div("info", {castTable({actorRow("One")})}), div("info", {castTable({})})}).cast,
-              std::nullopt);
+    EXPECT_EQ(std::nullopt,
+              read({div("info", {castTable({actorRow("One")})}), div("info", {castTable({})})}).cast);
 }
 
 // Poster
@@ -405,9 +405,9 @@ Dom poster(const Doms& children) {
 
 TEST(ImdbPoster, IsFetchedFromItsResolvedAddress) {
     FetchScript script{{{"http://x/1.jpg", FetchScript::picture(1)}}, {}};
-    EXPECT_EQ(read({element("P", {poster({img("http://x/1.jpg")})})}, script.fetch()).coverArt.size().width(),
-              1);
-    EXPECT_EQ(script.asked, QStringList({"http://x/1.jpg"}));
+    EXPECT_EQ(
+        1, read({element("P", {poster({img("http://x/1.jpg")})})}, script.fetch()).coverArt.size().width());
+    EXPECT_EQ(QStringList({"http://x/1.jpg"}), script.asked);
 }
 
 TEST(ImdbPoster, AnchorNeedsTheExactName) {
@@ -415,33 +415,31 @@ TEST(ImdbPoster, AnchorNeedsTheExactName) {
     read({element("A", {img("http://x/1")}, {{"name", "Poster"}}), element("A", {img("http://x/2")}),
           element("A", {img("http://x/3")}, {{"id", "poster"}})},
          script.fetch());
-    EXPECT_EQ(script.asked, QStringList());
+    EXPECT_EQ(QStringList(), script.asked);
 }
 
 TEST(ImdbPoster, LooksAtDirectImagesOnly) {
     FetchScript script;
     read({poster({element("SPAN", {img("http://x/1")}), text("x")})}, script.fetch());
-    EXPECT_EQ(script.asked, QStringList());
+    EXPECT_EQ(QStringList(), script.asked);
 }
 
 TEST(ImdbPoster, FailedFetchGoesOnToTheNextImageAndSuccessLeavesTheAnchor) {
     FetchScript script{{{"http://x/2", FetchScript::picture(2)}}, {}};
-    EXPECT_EQ(
-        read({poster({img("http://x/1"), text(" "), img("http://x/2"), img("http://x/3")})}, script.fetch())
-            .coverArt.size()
-            .width(),
-        2);
-    EXPECT_EQ(script.asked, QStringList({"http://x/1", "http://x/2"}));
+    EXPECT_EQ(2, read({poster({img("http://x/1"), text(" "), img("http://x/2"), img("http://x/3")})},
+                      script.fetch())
+                     .coverArt.size()
+                     .width());
+    EXPECT_EQ(QStringList({"http://x/1", "http://x/2"}), script.asked);
 }
 
 TEST(ImdbPoster, EveryAnchorIsTriedAndTheLastPictureStays) {
     FetchScript script{{{"http://x/1", FetchScript::picture(1)}, {"http://x/2", FetchScript::picture(2)}},
                        {}};
-    EXPECT_EQ(read({poster({img("http://x/1")}), poster({img("http://x/2")})}, script.fetch())
-                  .coverArt.size()
-                  .width(),
-              2);
-    EXPECT_EQ(script.asked, QStringList({"http://x/1", "http://x/2"}));
+    EXPECT_EQ(2, read({poster({img("http://x/1")}), poster({img("http://x/2")})}, script.fetch())
+                     .coverArt.size()
+                     .width());
+    EXPECT_EQ(QStringList({"http://x/1", "http://x/2"}), script.asked);
 }
 
 TEST(ImdbPoster, LaterFailureDropsAnEarlierPicture) {
@@ -452,16 +450,15 @@ TEST(ImdbPoster, LaterFailureDropsAnEarlierPicture) {
 
 TEST(ImdbPoster, AddressThatMakesNoUrlIsNoFetchAndKeepsTheEarlierPicture) {
     FetchScript script{{{"http://x/1", FetchScript::picture(1)}}, {}};
-    EXPECT_EQ(read({poster({img("http://x/1")}), poster({img("http://[bad/"), img("")})}, script.fetch())
-                  .coverArt.size()
-                  .width(),
-              1);
-    EXPECT_EQ(script.asked, QStringList({"http://x/1"}));
+    EXPECT_EQ(1, read({poster({img("http://x/1")}), poster({img("http://[bad/"), img("")})}, script.fetch())
+                     .coverArt.size()
+                     .width());
+    EXPECT_EQ(QStringList({"http://x/1"}), script.asked);
 }
 
 TEST(ImdbPoster, AddressThatMakesNoUrlGoesOnToTheNextImage) {
     FetchScript script{{{"http://x/2", FetchScript::picture(2)}}, {}};
-    EXPECT_EQ(read({poster({img(""), img("http://x/2")})}, script.fetch()).coverArt.size().width(), 2);
+    EXPECT_EQ(2, read({poster({img(""), img("http://x/2")})}, script.fetch()).coverArt.size().width());
 }
 
 TEST(ImdbPage, ReadsAllOfATitlePage) {
@@ -474,15 +471,15 @@ TEST(ImdbPage, ReadsAllOfATitlePage) {
                                     div("info", {h5("Certification:"), a("USA:PG")}),
                                     div("info", {castTable({actorRow("A. One"), actorRow("B. Two")})})},
                                    script.fetch());
-    EXPECT_EQ(info.title, QString("Harbour Lights "));
-    EXPECT_EQ(info.cast, QStringList({"A. One", "B. Two"}));
-    EXPECT_EQ(info.directors, QStringList({"D. One"}));
-    EXPECT_EQ(info.description, QString("Ships."));
-    EXPECT_EQ(info.year, QString("2005"));
-    EXPECT_EQ(info.genres, QStringList({"Drama"}));
-    EXPECT_EQ(info.rating, QString("PG"));
-    EXPECT_EQ(info.coverArt.size().width(), 9);
-    EXPECT_EQ(info.releaseDate, QDate(2005, 5, 12));
+    EXPECT_EQ(QString("Harbour Lights "), info.title);
+    EXPECT_EQ(QStringList({"A. One", "B. Two"}), info.cast);
+    EXPECT_EQ(QStringList({"D. One"}), info.directors);
+    EXPECT_EQ(QString("Ships."), info.description);
+    EXPECT_EQ(QString("2005"), info.year);
+    EXPECT_EQ(QStringList({"Drama"}), info.genres);
+    EXPECT_EQ(QString("PG"), info.rating);
+    EXPECT_EQ(9, info.coverArt.size().width());
+    EXPECT_EQ(QDate(2005, 5, 12), info.releaseDate);
 }
 
 TEST(ImdbPage, TakesNoOtherNodeForAnElement) {
@@ -493,9 +490,9 @@ TEST(ImdbPage, TakesNoOtherNodeForAnElement) {
                    withClass(element("TABLE", {noElement("tbody"),
                                                element("TR", {element("TD"), element("TD", {a("A. One")})})}),
                              "cast")})});
-    EXPECT_EQ(info.title, QString("True "));
-    EXPECT_EQ(info.cast, QStringList({"A. One"}));
-    EXPECT_EQ(info.genres, std::nullopt);
+    EXPECT_EQ(QString("True "), info.title);
+    EXPECT_EQ(QStringList({"A. One"}), info.cast);
+    EXPECT_EQ(std::nullopt, info.genres);
 }
 
 } // namespace

@@ -34,7 +34,7 @@ public:
     template <class Widget>
     [[nodiscard]] Widget* named(const char* name) {
         auto* const found = panel->findChild<Widget*>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
+        EXPECT_NE(nullptr, found) << name;
         return found;
     }
 

@@ -45,21 +45,21 @@ QStringList itemsOf(const QComboBox& box) {
 TEST_F(Panel, AwakeningFillsThePopupWithTheThreeSites) {
     window->combo_search->addItem("left over");
     panel->awakeFromNib();
-    EXPECT_EQ(itemsOf(*window->combo_search), QStringList({"IMDb", "Amazon", "Google"}));
+    EXPECT_EQ(QStringList({"IMDb", "Amazon", "Google"}), itemsOf(*window->combo_search));
 }
 
 TEST_F(Panel, AwakeningTwiceSearchesOncePerPress) {
     panel->awakeFromNib();
     window->entry_search->setText("x");
     window->btn_search->click();
-    EXPECT_EQ(engine.loaded.size(), 1);
+    EXPECT_EQ(1, engine.loaded.size());
 }
 
 TEST_F(Panel, SettingTheSearchFieldIsLogged) {
     StreamCapture log;
     panel->setSearchField("My Film %1 (2)");
-    EXPECT_EQ(log.text(), "set search field to My Film %1 (2)\n");
-    EXPECT_EQ(window->entry_search->text(), "My Film %1 (2)");
+    EXPECT_EQ("set search field to My Film %1 (2)\n", log.text());
+    EXPECT_EQ("My Film %1 (2)", window->entry_search->text());
 }
 
 // Search
@@ -70,17 +70,18 @@ TEST_F(Panel, SearchHandsTheAddressOfTheChosenSiteToTheView) {
         window->combo_search->setCurrentIndex(site);
         panel->search();
     }
-    ASSERT_EQ(engine.loaded.size(), 3);
-    EXPECT_EQ(engine.loaded[0].toEncoded(), "http://www.imdb.com/find?q=it's%20&%20%3Cb%3E");
-    EXPECT_EQ(engine.loaded[1].toEncoded(), "http://www.amazon.com/exec/obidos/search-handle-url/"
-                                            "index%3Dblended%26field-keywords%3Dit's%20&%20%3Cb%3E");
-    EXPECT_EQ(engine.loaded[2].toEncoded(), "http://www.google.com/search?q=it's%20&%20%3Cb%3E");
+    ASSERT_EQ(3, engine.loaded.size());
+    EXPECT_EQ("http://www.imdb.com/find?q=it's%20&%20%3Cb%3E", engine.loaded[0].toEncoded());
+    EXPECT_EQ("http://www.amazon.com/exec/obidos/search-handle-url/"
+              "index%3Dblended%26field-keywords%3Dit's%20&%20%3Cb%3E",
+              engine.loaded[1].toEncoded());
+    EXPECT_EQ("http://www.google.com/search?q=it's%20&%20%3Cb%3E", engine.loaded[2].toEncoded());
 }
 
 TEST_F(Panel, SearchForNothingLoadsNothingAndChangesNoControl) {
     window->btn_formFill->setEnabled(true);
     panel->search();
-    EXPECT_EQ(engine.made, 0);
+    EXPECT_EQ(0, engine.made);
     EXPECT_TRUE(window->btn_formFill->isEnabled());
     EXPECT_FALSE(window->btn_searchBack->isEnabled());
     EXPECT_FALSE(window->progress_search->isAnimating());
@@ -89,8 +90,8 @@ TEST_F(Panel, SearchForNothingLoadsNothingAndChangesNoControl) {
 TEST_F(Panel, SearchForABlankLoads) {
     window->entry_search->setText(" ");
     panel->search();
-    ASSERT_EQ(engine.loaded.size(), 1);
-    EXPECT_EQ(engine.loaded[0].toEncoded(), "http://www.imdb.com/find?q=%20");
+    ASSERT_EQ(1, engine.loaded.size());
+    EXPECT_EQ("http://www.imdb.com/find?q=%20", engine.loaded[0].toEncoded());
 }
 
 TEST_F(Panel, SearchWithoutASiteLoadsNothing) {
@@ -103,23 +104,23 @@ TEST_F(Panel, SearchWithoutASiteLoadsNothing) {
 TEST_F(Panel, SearchAsksTheHostsOfItsTable) {
     panel->searchHosts = {"127.0.0.1:99", "b", "c"};
     load();
-    EXPECT_EQ(engine.loaded.value(0).toEncoded(), "http://127.0.0.1:99/find?q=x");
+    EXPECT_EQ("http://127.0.0.1:99/find?q=x", engine.loaded.value(0).toEncoded());
 }
 
 TEST_F(Panel, ReturnInTheSearchFieldSearches) {
     window->entry_search->setText("x");
     emit window->entry_search->returnPressed();
-    EXPECT_EQ(engine.loaded.size(), 1);
+    EXPECT_EQ(1, engine.loaded.size());
 }
 
 TEST_F(Panel, EngineIsMadeByTheFirstSearchAndKept) {
     window->show();
     QApplication::processEvents();
-    EXPECT_EQ(engine.made, 0);
+    EXPECT_EQ(0, engine.made);
     EXPECT_FALSE(view->canGoBack());
     load();
     load();
-    EXPECT_EQ(engine.made, 1);
+    EXPECT_EQ(1, engine.made);
 }
 
 // Load notifications
@@ -215,10 +216,10 @@ TEST_F(Panel, BackButtonGoesBackWhereTheViewCan) {
     load();
     window->btn_searchBack->setEnabled(true);
     window->btn_searchBack->click();
-    EXPECT_EQ(engine.wentBack, 0);
+    EXPECT_EQ(0, engine.wentBack);
     engine.canGoBack = true;
     window->btn_searchBack->click();
-    EXPECT_EQ(engine.wentBack, 1);
+    EXPECT_EQ(1, engine.wentBack);
 }
 
 // Form fill
@@ -227,17 +228,17 @@ TEST_F(Panel, FormFillHandsTheRecordToTheController) {
     loadPage("Film (2005)");
     StreamCapture log;
     window->btn_formFill->click();
-    EXPECT_EQ(log.text(), "in formFill\n<title> tag has \"Film (2005)\"\ngot FormFillInfo struct\n");
-    ASSERT_EQ(records().size(), 1U);
-    EXPECT_EQ(records()[0].title, QString("Film "));
+    EXPECT_EQ("in formFill\n<title> tag has \"Film (2005)\"\ngot FormFillInfo struct\n", log.text());
+    ASSERT_EQ(1U, records().size());
+    EXPECT_EQ(QString("Film "), records()[0].title);
 }
 
 TEST_F(Panel, FormFillReadsThePageAsOneOfTheSiteInThePopup) {
     loadPage("Shop: Film (2005)");
     window->combo_search->setCurrentIndex(1);
     panel->formFill();
-    ASSERT_EQ(records().size(), 1U);
-    EXPECT_EQ(records()[0].title, QString("Film (2005)"));
+    ASSERT_EQ(1U, records().size());
+    EXPECT_EQ(QString("Film (2005)"), records()[0].title);
 }
 
 TEST_F(Panel, FormFillOfASearchEngineIsLoggedAndChangesNothing) {
@@ -245,15 +246,15 @@ TEST_F(Panel, FormFillOfASearchEngineIsLoggedAndChangesNothing) {
     window->combo_search->setCurrentIndex(2);
     StreamCapture log;
     panel->formFill();
-    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_EQ("in formFill\n", log.text());
     EXPECT_TRUE(records().empty());
 }
 
 TEST_F(Panel, FormFillBeforeTheFirstLoadIsLoggedAndStartsNoEngine) {
     StreamCapture log;
     panel->formFill();
-    EXPECT_EQ(log.text(), "in formFill\n");
-    EXPECT_EQ(engine.made, 0);
+    EXPECT_EQ("in formFill\n", log.text());
+    EXPECT_EQ(0, engine.made);
     EXPECT_TRUE(records().empty());
 }
 
@@ -264,7 +265,7 @@ TEST_F(Panel, FormFillWithoutADocumentIsLoggedAndChangesNothing) {
         engine.snapshot = QString(text);
         panel->formFill();
     }
-    EXPECT_EQ(log.text(), "in formFill\nin formFill\nin formFill\nin formFill\n");
+    EXPECT_EQ("in formFill\nin formFill\nin formFill\nin formFill\n", log.text());
     EXPECT_TRUE(records().empty());
 }
 
@@ -292,24 +293,24 @@ TEST_F(Panel, PressWhileWaitingDoesNothing) {
         window->btn_formFill->click();
         engine.waitingTaker(snapshotText("Film"));
     });
-    EXPECT_EQ(engine.snapshotsAsked, 1);
-    EXPECT_EQ(records().size(), 1U);
-    EXPECT_EQ(log.text(), "in formFill\n<title> tag has \"Film\"\ngot FormFillInfo struct\n");
+    EXPECT_EQ(1, engine.snapshotsAsked);
+    EXPECT_EQ(1U, records().size());
+    EXPECT_EQ("in formFill\n<title> tag has \"Film\"\ngot FormFillInfo struct\n", log.text());
 }
 
 TEST_F(Panel, CanFillAgainAfterAWait) {
     load();
     fillWhile(*panel, [this] { engine.waitingTaker(snapshotText("One")); });
     fillWhile(*panel, [this] { engine.waitingTaker(snapshotText("Two")); });
-    ASSERT_EQ(records().size(), 2U);
-    EXPECT_EQ(records()[1].title, QString("Two"));
+    ASSERT_EQ(2U, records().size());
+    EXPECT_EQ(QString("Two"), records()[1].title);
 }
 
 TEST_F(Panel, DeathOfThePageEndsTheWaitWithoutADocument) {
     load();
     StreamCapture log;
     fillWhile(*panel, [this] { engine.listener->pageLost(); });
-    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_EQ("in formFill\n", log.text());
     EXPECT_TRUE(records().empty());
 }
 
@@ -317,7 +318,7 @@ TEST_F(Panel, NextPageEndsTheWaitWithoutADocument) {
     load();
     StreamCapture log;
     fillWhile(*panel, [this] { engine.listener->loadStarted(FrameKind::Main); });
-    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_EQ("in formFill\n", log.text());
 }
 
 TEST_F(Panel, SubframeThatLoadsDoesNotEndTheWait) {
@@ -326,7 +327,7 @@ TEST_F(Panel, SubframeThatLoadsDoesNotEndTheWait) {
         engine.listener->loadStarted(FrameKind::Sub);
         engine.waitingTaker(snapshotText("Film"));
     });
-    EXPECT_EQ(records().size(), 1U);
+    EXPECT_EQ(1U, records().size());
 }
 
 TEST_F(Panel, DocumentThatComesAfterTheWaitIsDropped) {
@@ -341,21 +342,21 @@ TEST_F(Panel, PageThatNeverAnswersHasNoDocumentAfterTheTimeLimit) {
     view->setDocumentTimeLimit(std::chrono::milliseconds(20));
     StreamCapture log;
     panel->formFill();
-    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_EQ("in formFill\n", log.text());
 }
 
 TEST_F(Panel, WindowThatGoesAwayDuringTheWaitEndsIt) {
     load();
     StreamCapture log;
     fillWhile(*panel, [this] { delete window; });
-    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_EQ("in formFill\n", log.text());
 }
 
 TEST_F(Panel, ViewThatGoesAwayDuringTheWaitEndsIt) {
     load();
     StreamCapture log;
     fillWhile(*panel, [this] { delete view; });
-    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_EQ("in formFill\n", log.text());
     EXPECT_TRUE(records().empty());
 }
 
@@ -375,7 +376,7 @@ TEST_F(Panel, SearchDuringTheWaitLoads) {
         load();
         engine.listener->loadStarted(FrameKind::Main);
     });
-    EXPECT_EQ(engine.loaded.size(), 2);
+    EXPECT_EQ(2, engine.loaded.size());
     EXPECT_TRUE(records().empty());
 }
 

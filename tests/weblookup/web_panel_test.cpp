@@ -111,20 +111,20 @@ TEST_F(WebPanel, LooksUpFollowsALinkGoesBackAndFillsTheForm) {
     ASSERT_TRUE(finished());
     EXPECT_TRUE(window->btn_searchBack->isEnabled());
     const FormFillInfo info = fill();
-    EXPECT_EQ(info.title, QString("Harbour Lights "));
-    EXPECT_EQ(info.cast, QStringList({"A. One", "B. Two"}));
-    EXPECT_EQ(info.directors, QStringList({"D. One"}));
-    EXPECT_EQ(info.description, QString("Ships come and go."));
-    EXPECT_EQ(info.year, QString("2005"));
-    EXPECT_EQ(info.genres, QStringList({"Drama", "Thriller"}));
-    EXPECT_EQ(info.rating, QString("PG-13"));
-    EXPECT_EQ(info.coverArt.size().width(), 9);
-    EXPECT_EQ(info.releaseDate, QDate(2005, 5, 12));
+    EXPECT_EQ(QString("Harbour Lights "), info.title);
+    EXPECT_EQ(QStringList({"A. One", "B. Two"}), info.cast);
+    EXPECT_EQ(QStringList({"D. One"}), info.directors);
+    EXPECT_EQ(QString("Ships come and go."), info.description);
+    EXPECT_EQ(QString("2005"), info.year);
+    EXPECT_EQ(QStringList({"Drama", "Thriller"}), info.genres);
+    EXPECT_EQ(QString("PG-13"), info.rating);
+    EXPECT_EQ(9, info.coverArt.size().width());
+    EXPECT_EQ(QDate(2005, 5, 12), info.releaseDate);
 
     window->btn_searchBack->click();
     ASSERT_TRUE(finished());
     EXPECT_FALSE(window->btn_searchBack->isEnabled());
-    EXPECT_EQ(fill().title, QString("Results"));
+    EXPECT_EQ(QString("Results"), fill().title);
 }
 
 TEST_F(WebPanel, FillsTheFormFromAProductPage) {
@@ -135,23 +135,24 @@ TEST_F(WebPanel, FillsTheFormFromAProductPage) {
     ASSERT_TRUE(finished());
     StreamCapture log;
     const FormFillInfo info = fill();
-    EXPECT_EQ(log.text(), "in formFill\nlooking for actors\ngetting cover art from http://" +
-                              server.host().toStdString() + "/cover._SS500_.jpg\ngot FormFillInfo struct\n");
-    EXPECT_EQ(info.title, QString("Harbour Lights"));
-    EXPECT_EQ(info.cast, QStringList({"A. One", "B. Two"}));
-    EXPECT_EQ(info.directors, QStringList({"D. One"}));
-    EXPECT_EQ(info.rating, QString("PG-13"));
-    EXPECT_EQ(info.year, QString("2005"));
-    EXPECT_EQ(info.releaseDate, QDate(2005, 5, 3));
-    EXPECT_EQ(info.description, QString("First line.\nSecond line.\n"));
-    EXPECT_EQ(info.coverArt.size().width(), 11);
-    EXPECT_EQ(info.genres, std::nullopt);
+    EXPECT_EQ("in formFill\nlooking for actors\ngetting cover art from http://" +
+                  server.host().toStdString() + "/cover._SS500_.jpg\ngot FormFillInfo struct\n",
+              log.text());
+    EXPECT_EQ(QString("Harbour Lights"), info.title);
+    EXPECT_EQ(QStringList({"A. One", "B. Two"}), info.cast);
+    EXPECT_EQ(QStringList({"D. One"}), info.directors);
+    EXPECT_EQ(QString("PG-13"), info.rating);
+    EXPECT_EQ(QString("2005"), info.year);
+    EXPECT_EQ(QDate(2005, 5, 3), info.releaseDate);
+    EXPECT_EQ(QString("First line.\nSecond line.\n"), info.description);
+    EXPECT_EQ(11, info.coverArt.size().width());
+    EXPECT_EQ(std::nullopt, info.genres);
 }
 
 TEST_F(WebPanel, SendsTheSearchTextAsTheSiteIsToSeeIt) {
     search("a & b=c+d 50%");
     ASSERT_TRUE(finished());
-    EXPECT_EQ(server.requests().value(0), "/find?q=a%20&%20b=c+d%2050%25");
+    EXPECT_EQ("/find?q=a%20&%20b=c+d%2050%25", server.requests().value(0));
 }
 
 TEST_F(WebPanel, FillsNothingFromAPageOfAnotherStructure) {
@@ -165,7 +166,7 @@ TEST_F(WebPanel, FillsNothingFromAPageOfAnotherStructure) {
 TEST_F(WebPanel, WaitsForASlowPoster) {
     server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png", .delayMilliseconds = 600});
     show(titlePage);
-    EXPECT_EQ(fill().coverArt.size().width(), 9);
+    EXPECT_EQ(9, fill().coverArt.size().width());
 }
 
 TEST_F(WebPanel, FillsTheRestWhenThePosterFails) {
@@ -173,15 +174,15 @@ TEST_F(WebPanel, FillsTheRestWhenThePosterFails) {
     show(titlePage);
     const FormFillInfo info = fill();
     EXPECT_TRUE(info.coverArt.isNull());
-    EXPECT_EQ(info.title, QString("Harbour Lights "));
+    EXPECT_EQ(QString("Harbour Lights "), info.title);
 }
 
 TEST_F(WebPanel, PosterWithoutAnAddressIsPassedOver) {
     server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png"});
     show("<a name='poster'><img src=''><img src=' '><img src='/poster.jpg'></a>"
          "<a name='poster'><img src=''><img></a>");
-    EXPECT_EQ(fill().coverArt.size().width(), 9);
-    EXPECT_EQ(server.requests().count("/find?q=x"), 1) << "the page itself is no picture";
+    EXPECT_EQ(9, fill().coverArt.size().width());
+    EXPECT_EQ(1, server.requests().count("/find?q=x")) << "the page itself is no picture";
 }
 
 TEST_F(WebPanel, OnlyElementsAreReadFromAPage) {
@@ -194,8 +195,8 @@ TEST_F(WebPanel, OnlyElementsAreReadFromAPage) {
     search("x");
     ASSERT_TRUE(finished());
     const FormFillInfo info = fill();
-    EXPECT_EQ(info.title, QString("True "));
-    EXPECT_EQ(info.cast, QStringList({"A. One"}));
+    EXPECT_EQ(QString("True "), info.title);
+    EXPECT_EQ(QStringList({"A. One"}), info.cast);
 }
 
 TEST_F(WebPanel, FillsTheRestWhenThePosterIsNoPicture) {
@@ -203,7 +204,7 @@ TEST_F(WebPanel, FillsTheRestWhenThePosterIsNoPicture) {
     show(titlePage);
     const FormFillInfo info = fill();
     EXPECT_TRUE(info.coverArt.isNull());
-    EXPECT_EQ(info.rating, QString("PG-13"));
+    EXPECT_EQ(QString("PG-13"), info.rating);
 }
 
 TEST_F(WebPanel, LateSubframeStopsTheFormFillUntilTheNextPage) {
@@ -260,7 +261,7 @@ TEST_F(WebPanel, FailedPageFillsNothing) {
     ASSERT_TRUE(waitUntil([this] { return !window->progress_search->isAnimating(); }));
     StreamCapture log;
     panel->formFill();
-    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_EQ("in formFill\n", log.text());
 }
 
 TEST_F(WebPanel, JumpInsideThePageLeavesTheControlsAlone) {
@@ -291,7 +292,7 @@ TEST_F(WebPanel, LinkThatWouldOpenAWindowIsFollowedInThePanel) {
     ASSERT_TRUE(clickPageUntil([this] { return server.wasAskedFor("/title"); }));
     ASSERT_TRUE(finished());
     EXPECT_TRUE(window->btn_searchBack->isEnabled());
-    EXPECT_EQ(fill().title, QString("Harbour Lights "));
+    EXPECT_EQ(QString("Harbour Lights "), fill().title);
 }
 
 TEST_F(WebPanel, HostilePageFillsOnlyWhatItShows) {
@@ -302,8 +303,8 @@ TEST_F(WebPanel, HostilePageFillsOnlyWhatItShows) {
             Object.prototype.toJSON = () => 'Wrong'; Node.prototype.firstChild = null;
             Object.defineProperty(Element.prototype, 'className', {get: () => 'cast'});</script>)");
     const FormFillInfo info = fill();
-    EXPECT_EQ(info.title, QString("True "));
-    EXPECT_EQ(info.genres, QStringList({"Drama"}));
+    EXPECT_EQ(QString("True "), info.title);
+    EXPECT_EQ(QStringList({"Drama"}), info.genres);
     EXPECT_FALSE(info.cast || info.directors || info.description || info.year || info.rating ||
                  info.releaseDate);
 }
@@ -316,7 +317,7 @@ TEST_F(WebPanel, FillsFromAPageOfTwentyThousandNodes) {
     show(html);
     QElapsedTimer time;
     time.start();
-    EXPECT_EQ(fill().rating, QString("PG-13"));
+    EXPECT_EQ(QString("PG-13"), fill().rating);
     std::printf("a page of 20,000 nodes was copied and read in %lld ms\n",
                 static_cast<long long>(time.elapsed()));
 }
@@ -335,9 +336,9 @@ TEST_F(WebPanel, FillsFromAPageOfVeryManyHeadingsAndAVeryLongText) {
     QElapsedTimer time;
     time.start();
     const FormFillInfo info = fill();
-    EXPECT_EQ(info.genres.value_or(QStringList()).size(),
-              5461); // of six characters each, with what stands between
-    EXPECT_EQ(info.description, QString(32767, 'x'));
+    EXPECT_EQ(5461,
+              info.genres.value_or(QStringList()).size()); // of six characters each, with what stands between
+    EXPECT_EQ(QString(32767, 'x'), info.description);
     std::printf("a page of %d headings and a text of 20 MB was copied and read in %lld ms\n", count,
                 static_cast<long long>(time.elapsed()));
 }
@@ -379,10 +380,10 @@ protected:
 
 TEST_F(WebPanelWaiting, EscapeEndsTheWaitAndFillsTheRest) {
     const FormFillInfo info = fillUntil([this] { QTest::keyClick(window->windowHandle(), Qt::Key_Escape); });
-    EXPECT_EQ(text, "Waiting for the cover from 127.0.0.1 …");
-    EXPECT_EQ(info.rating, QString("PG-13"));
+    EXPECT_EQ("Waiting for the cover from 127.0.0.1 …", text);
+    EXPECT_EQ(QString("PG-13"), info.rating);
     EXPECT_TRUE(info.coverArt.isNull());
-    EXPECT_EQ(requestsOfTheFill(), QStringList({"/poster.jpg"})) << "no other cover is asked for";
+    EXPECT_EQ(QStringList({"/poster.jpg"}), requestsOfTheFill()) << "no other cover is asked for";
 }
 
 TEST_F(WebPanelWaiting, CancelEndsTheWaitAndFillsTheRest) {
@@ -391,21 +392,21 @@ TEST_F(WebPanelWaiting, CancelEndsTheWaitAndFillsTheRest) {
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
                           cancel.mapTo(window, cancel.rect().center()));
     });
-    EXPECT_EQ(info.rating, QString("PG-13"));
+    EXPECT_EQ(QString("PG-13"), info.rating);
     EXPECT_TRUE(info.coverArt.isNull());
-    EXPECT_EQ(requestsOfTheFill(), QStringList({"/poster.jpg"}));
+    EXPECT_EQ(QStringList({"/poster.jpg"}), requestsOfTheFill());
 }
 
 TEST_F(WebPanelWaiting, NextFillAsksForTheCoverAgain) {
     fillUntil([this] { QTest::keyClick(window->windowHandle(), Qt::Key_Escape); });
     server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png"});
-    EXPECT_EQ(fill().coverArt.size().width(), 9);
+    EXPECT_EQ(9, fill().coverArt.size().width());
 }
 
 TEST_F(WebPanel, AsksForNoMoreCoversWhenItHasWorkedForTooLong) {
     server.serve("/poster.jpg", Answer{.body = png(9), .type = "image/png"});
     show("<a name='poster'><img src='/none.jpg'></a><a name='poster'><img src='/poster.jpg'></a>");
-    EXPECT_EQ(fill().coverArt.size().width(), 9);
+    EXPECT_EQ(9, fill().coverArt.size().width());
     panel->setCoverWorkLimit(std::chrono::milliseconds(0));
     EXPECT_TRUE(fill().coverArt.isNull());
 }
@@ -444,8 +445,8 @@ TEST_F(WebPanel, WindowCanGoAwayDuringAFetch) {
     poll.start(10);
     StreamCapture log;
     panel->formFill();
-    EXPECT_EQ(window, nullptr);
-    EXPECT_EQ(log.text(), "in formFill\n<title> tag has \"Harbour Lights (2005)\"\n");
+    EXPECT_EQ(nullptr, window);
+    EXPECT_EQ("in formFill\n<title> tag has \"Harbour Lights (2005)\"\n", log.text());
 }
 
 TEST_F(WebPanel, QuittingDuringAFetchEndsIt) {
@@ -465,7 +466,7 @@ TEST_F(WebPanel, WindowCanGoAwayDuringAFormFill) {
     QElapsedTimer time;
     time.start();
     panel->formFill();
-    EXPECT_EQ(window, nullptr);
+    EXPECT_EQ(nullptr, window);
     EXPECT_LT(time.elapsed(), 10000);
 }
 
@@ -500,10 +501,10 @@ TEST_F(WebPanel, DeathOfThePagesProcessEndsAWaitingFormFill) {
     time.start();
     StreamCapture log;
     panel->formFill();
-    EXPECT_EQ(log.text(), "in formFill\n");
+    EXPECT_EQ("in formFill\n", log.text());
     EXPECT_LT(time.elapsed(), 10000);
     show(titlePage);
-    EXPECT_EQ(fill().rating, QString("PG-13"));
+    EXPECT_EQ(QString("PG-13"), fill().rating);
 }
 
 } // namespace
