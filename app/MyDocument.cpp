@@ -93,7 +93,8 @@ bool MyDocument::saveMediaFile(Error* error) {
         return savePortably(false);
     }
     const bool saved = saveInPlace(error);
-    emit saveEnded({saved, std::nullopt});
+    emit saveEnded(
+        {saved, std::nullopt, mediaFile_->filename(), saved ? SaveObstacle() : mediaFile_->whyNotSaved()});
     return saved;
 }
 

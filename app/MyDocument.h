@@ -20,6 +20,7 @@ namespace velmora {
 
 class LibraryWindow;
 class MediaList;
+class StatusLine;
 class TagForm;
 class TagWebBrowser;
 class VelmoraController;
@@ -58,6 +59,7 @@ public:
     bool setPortableTags(bool portable) override;
     [[nodiscard]] QString portableObstacle() const override { return portableObstacle_; }
     bool savePortably(bool breakLinks) override;
+    bool saveCopy(const QString& path) override;
     [[nodiscard]] bool hasUnsavedEdits() const override { return !unsavedEdits_.empty(); }
     bool restoreUnsavedEdits(Error* error) override;
     /** The menu's switch. What the user switches off is not remembered any more. */
@@ -129,6 +131,7 @@ private:
     TagForm* form_ = nullptr;
     TagWebBrowser* webBrowser_ = nullptr;
     bool showsPage_ = false;
+    StatusLine* status_ = nullptr;
     QList<int> sizesWithPage_; ///< how the window was divided when the page was last shown
     std::unique_ptr<VelmoraController> controller_;
     std::unique_ptr<LibraryWindow> library_;

@@ -9,6 +9,15 @@
 
 namespace velmora {
 
+namespace {
+
+SaveObstacle obstacleOf(const PortableSaveResult& result) {
+    return {result.reason,
+            result.anotherPlaceHelps ? SaveObstacle::Remedy::AnotherPlace : SaveObstacle::Remedy::None};
+}
+
+} // namespace
+
 bool MyDocument::savePortably(bool breakLinks) {
     if (!mediaFile_ || saveRun_.isRunning()) {
         return false;
@@ -23,7 +32,24 @@ bool MyDocument::savePortably(bool breakLinks) {
         mediaFile_->settleChanges();
         updateChangeCount(ChangeType::Cleared);
     }
-    emit saveEnded({saved, result});
+    emit saveEnded({saved, result, mediaFile_->filename(), obstacleOf(result)});
+    return saved;
+}
+
+bool MyDocument::saveCopy(const QString& path) {
+    if (!mediaFile_ || saveRun_.isRunning()) {
+        return false;
+    }
+    if (form_) {
+        form_->storeShownValues();
+    }
+    const PortableSaveResult result =
+        saveRun_.run(mediaFile_->portableCopy(path), lastPathComponent(path), windowForSheet());
+    const bool saved = result.isSaved();
+    if (saved) {
+        updateChangeCount(ChangeType::Cleared);
+    }
+    emit saveEnded({saved, result, path, obstacleOf(result)});
     return saved;
 }
 

@@ -13,7 +13,7 @@ void MyDocument::keepEdits() {
         return;
     }
     const QString path = mediaFile_->filename();
-    const QString reason = mediaFile_->whyNotSaved();
+    const QString reason = mediaFile_->whyNotSaved().reason;
     unsavedEdits_.push_back({std::move(mediaFile_), *openUrl_});
     emit hasUnsavedEditsChanged(true);
     emit editsKept(path, reason);

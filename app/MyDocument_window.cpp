@@ -6,6 +6,7 @@
 
 #include "browser/VelmoraController.h"
 #include "browser/media_list.h"
+#include "browser/status_line.h"
 #include "browser/tag_form.h"
 #include "platform/accessibility.h"
 #include "platform/alt_letters.h"
@@ -34,6 +35,8 @@ void MyDocument::makeWindow() {
     portableTags_ = remembersPortableTags();
     controller_ = std::make_unique<VelmoraController>(*list_, *form_, *webBrowser_, *this);
     connectCommands();
+    connect(&controller_->search(), &MediaSearch::searched, status_, &StatusLine::tellSearch);
+    connect(&controller_->search(), &MediaSearch::searched, list_, &MediaList::setSearched);
     connect(new FileDrops(*window_), &FileDrops::dropped, controller_.get(), &VelmoraController::addPaths);
     new HelpMenu(*window_, *ui_->action_userGuide, *ui_->action_keyboard, *ui_->action_about);
     setSymbols();
@@ -50,6 +53,9 @@ void MyDocument::makeForms() {
     ui_->split_upper->addWidget(form_);
     ui_->split_upper->setSizes({400, 600}); // a proportion, whatever the window's width
     ui_->split_main->addWidget(webBrowser_);
+    status_ = new StatusLine;
+    window_->setStatusBar(status_);
+    connect(this, &MediaDocument::saveEnded, status_, &StatusLine::tellSave);
     connect(webBrowser_, &TagWebBrowser::pageShown, this, &MyDocument::makeRoomForWebPage);
 }
 

@@ -86,6 +86,7 @@ void VelmoraController::connectForm() {
 void VelmoraController::connectPortableTags() {
     connect(&document_, &MediaDocument::saveEnded, this, &VelmoraController::saveEnded);
     connect(&document_, &MediaDocument::openedAgain, this, &VelmoraController::showFileAgain);
+    connect(&notices_, &PortableNotices::copyWanted, this, &VelmoraController::saveCopy);
     connect(&notices_, &PortableNotices::restoreWanted, this, &VelmoraController::restoreUnsavedEdits);
 }
 
@@ -197,6 +198,31 @@ void VelmoraController::restoreUnsavedEdits() {
         notices_.editsRestored();
     } else if (!error.domain.isEmpty()) {
         showOpenError(error);
+    }
+}
+
+void VelmoraController::saveCopy() {
+    const MediaFile* const file = document_.mediaFile();
+    if (!file) {
+        return;
+    }
+    beginSavePanelSheet(localised("Save as a Copy"), file->path(), document_.windowForSheet(),
+                        [this](int code, const QStringList& paths) { copyPlaceSelected(code, paths); });
+}
+
+void VelmoraController::copyPlaceSelected(int returnCode, const QStringList& paths) {
+    const MediaFile* const file = document_.mediaFile();
+    if (returnCode == openPanelCancelled || paths.size() != 1 || !file) {
+        return;
+    }
+    const QString extension = u'.' + pathExtension(file->path());
+    const QString copy =
+        paths.first().endsWith(extension, Qt::CaseInsensitive) ? paths.first() : paths.first() + extension;
+    if (document_.saveCopy(copy) && document_.readFromURL(fileUrlFromPath(copy), QString(), nullptr)) {
+        addMediaFile(copy);
+        clearUI();
+        fillUI();
+        table().showAsOpen(copy);
     }
 }
 

@@ -42,6 +42,10 @@ public:
        sheet; the edits stay kept then. */
     void restoreUnsavedEdits();
 
+    /** Asks for a place, and saves the open file there with its changes. The copy is listed and opened. */
+    void saveCopy();
+    void copyPlaceSelected(int returnCode, const QStringList& paths);
+
     void addFile();
     void addFileSelected(int returnCode, const QStringList& paths);
     void addFolder();

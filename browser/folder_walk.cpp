@@ -4,6 +4,7 @@
 #include "platform/file_path.h"
 
 #include <array>
+#include <cerrno>
 #include <memory>
 #include <optional>
 #include <string>
@@ -32,10 +33,13 @@ struct Entry {
     bool isPlainFile = false;
 };
 
-std::vector<Entry> listFolder(const QByteArray& folder) {
+std::vector<Entry> listFolder(const QByteArray& folder, FolderWalkListener& listener) {
     std::vector<Entry> entries;
     const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.constData()), closedir);
     if (!listing) {
+        if (errno != ENOENT && errno != ENOTDIR) { // what is not there is not unreadable
+            listener.unreadableFolder(folder);
+        }
         return entries;
     }
     while (const dirent* entry = readdir(listing.get())) {
@@ -101,7 +105,7 @@ bool NSArray_binary_search_string(ExtensionList list, std::string_view candidate
 }
 
 void searchFolder(const QByteArray& folder, FolderWalkListener& listener) {
-    const std::vector<Entry> entries = listFolder(folder);
+    const std::vector<Entry> entries = listFolder(folder, listener);
     listener.enteringFolder(folder);
     for (const Entry& entry : entries) {
         if (!listener.searchRunning()) {

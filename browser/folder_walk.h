@@ -30,6 +30,8 @@ public:
     /** The walk has listed FOLDER and will now look at its entries. */
     virtual void enteringFolder(const QByteArray& folder) = 0;
     virtual void foundFile(const QByteArray& path) = 0;
+    /** FOLDER is there and could not be listed. It is told as entered, too. */
+    virtual void unreadableFolder(const QByteArray& folder) { static_cast<void>(folder); }
 };
 
 /** Walks FOLDER depth first and tells LISTENER of each file that is larger than 100 KiB and has a supported

@@ -36,6 +36,13 @@ public:
         return false;
     }
 
+    /** Makes a copy of the open file at PATH, in place of what is there, and writes the open file's changes into the
+       copy's portable tags; the open file is only read. They are settled then. False when that failed, or no file is
+       open. */
+    virtual bool saveCopy(const QString& path) {
+        static_cast<void>(path);
+        return false;
+    }
     /** Whether there are edits of a file that could not be saved before another one took its place. They are kept
        until the program ends. */
     [[nodiscard]] virtual bool hasUnsavedEdits() const { return false; }

@@ -1,11 +1,33 @@
 #include "media_list.h"
 
+#include "search_summary.h"
+
+#include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "platform/symbol.h"
 #include "platform/wrapping_layout.h"
 #include "ui_media_list.h"
 
+#include <algorithm>
+
 namespace velmora {
+
+namespace {
+
+/** Says where was looked, a folder a line; of many, the first ones. */
+QString searchedFolders(const QStringList& folders) {
+    constexpr int most = 6;
+    QStringList lines = {localised("Looked in:")};
+    for (const QString& folder : folders.first(std::min<qsizetype>(folders.size(), most))) {
+        lines += fileExists(folder) ? folder : localised("%@ (not there)", folder);
+    }
+    if (folders.size() > most) {
+        lines += QString(QChar(0x2026));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
 
 MediaList::MediaList(MediaDocument& document, QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::MediaList>()) {
@@ -32,8 +54,11 @@ MediaList::~MediaList() = default;
 
 /** An empty list says what it is for. */
 void MediaList::setUpHint() {
-    ui_->lbl_noFiles->setAttribute(Qt::WA_TransparentForMouseEvents);
-    ui_->lbl_noFiles->setForegroundRole(QPalette::Text);
+    ui_->box_noFiles->setAttribute(Qt::WA_TransparentForMouseEvents);
+    for (QLabel* const label : {ui_->lbl_noFiles, ui_->lbl_searchedFolders}) {
+        label->setAttribute(Qt::WA_TransparentForMouseEvents);
+        label->setForegroundRole(QPalette::Text);
+    }
     const QAbstractItemModel* const model = ui_->tbl_mediaFiles->model();
     connect(model, &QAbstractItemModel::modelReset, this, &MediaList::updateHint);
     connect(model, &QAbstractItemModel::rowsInserted, this, &MediaList::updateHint);
@@ -41,7 +66,8 @@ void MediaList::setUpHint() {
 }
 
 void MediaList::updateHint() {
-    ui_->lbl_noFiles->setVisible(ui_->tbl_mediaFiles->model()->rowCount() == 0);
+    ui_->box_noFiles->setVisible(ui_->tbl_mediaFiles->model()->rowCount() == 0);
+    ui_->lbl_searchedFolders->setVisible(!searching_ && !ui_->lbl_searchedFolders->text().isEmpty());
     ui_->lbl_noFiles->setText(
         searching_
             ? localised("Looking for films and music…")
@@ -60,6 +86,12 @@ void MediaList::setSearchAnimated(bool animated) {
 
 void MediaList::setStopEnabled(bool enabled) {
     ui_->btn_stop->setEnabled(enabled);
+}
+
+void MediaList::setSearched(const SearchSummary& summary) {
+    ui_->lbl_searchedFolders->setText(summary.folders.isEmpty() ? QString()
+                                                                : searchedFolders(summary.folders));
+    updateHint();
 }
 
 void MediaList::setScanStatus(const QString& text) {

@@ -13,6 +13,8 @@ class MediaList;
 
 namespace velmora {
 
+struct SearchSummary;
+
 /** The window's list: the table of media files with the buttons that add to it, and what there is to see of
    the search. It owns its controls; whoever carries the buttons out connects the signals. */
 class MediaList : public QWidget {
@@ -30,6 +32,8 @@ public:
     void setSearchAnimated(bool animated);
     void setStopEnabled(bool enabled);
     void setScanStatus(const QString& text);
+    /** A search is done. An empty list says where it looked. */
+    void setSearched(const SearchSummary& summary);
 
 signals:
     void addFileClicked();

@@ -13,7 +13,8 @@ namespace {
 /** Passes on what a walk meets: to the log and to the main thread. */
 class WalkReporter : public FolderWalkListener {
 public:
-    WalkReporter(const std::atomic<bool>& running, const PortSender& port) : running_(running), port_(port) {}
+    WalkReporter(const std::atomic<bool>& running, std::atomic<int>& unreadFolders, const PortSender& port)
+        : running_(running), unreadFolders_(unreadFolders), port_(port) {}
 
     bool searchRunning() const override { return running_; }
 
@@ -26,8 +27,11 @@ public:
         send_port_message_simple(port_, SearchMessage::FoundFile, path, QDeadlineTimer::Forever);
     }
 
+    void unreadableFolder(const QByteArray& /*folder*/) override { ++unreadFolders_; }
+
 private:
     const std::atomic<bool>& running_;
+    std::atomic<int>& unreadFolders_;
     const PortSender& port_;
 };
 
@@ -64,6 +68,7 @@ void MediaSearch::queueFolders(const QStringList& folders) {
     if (folders.isEmpty()) {
         return;
     }
+    addedFolders_ += folders;
     if (!foldersKeptAside_.isEmpty() || !folderQueue_.tryAppend(folders)) {
         // A worker that has looked for the last time holds the queue until its last message is handled.
         foldersKeptAside_ += folders;
@@ -91,6 +96,8 @@ void MediaSearch::startMediaSearch() {
     mainThreadPort_->setDelegate([this](const PortMessage& message) { handlePortMessage(message); });
     mainThreadPort_->addToMainLoop();
     searchRunning_ = true;
+    summary_.filesFound = 0;
+    unreadFolders_ = 0;
     emit progressAnimationChanged(true);
     workerUnderWay_ = true;
     worker_ = std::thread([this, port = mainThreadPort_->sender()] { mediaSearchThread(port); });
@@ -107,7 +114,7 @@ void MediaSearch::mediaSearchThread(const PortSender& port) {
 }
 
 void MediaSearch::searchFolder(const QString& folder, const PortSender& port) {
-    WalkReporter reporter(searchRunning_, port);
+    WalkReporter reporter(searchRunning_, unreadFolders_, port);
     velmora::searchFolder(pathBytes(folder), reporter);
 }
 
@@ -119,9 +126,10 @@ void MediaSearch::stopScan() {
 void MediaSearch::handlePortMessage(const PortMessage& message) {
     switch (static_cast<SearchMessage>(message.id)) {
     case SearchMessage::EnteringFolder:
-        emit scanStatusChanged(messagePath(message));
+        enteringFolder(messagePath(message));
         return;
     case SearchMessage::FoundFile:
+        ++summary_.filesFound;
         emit fileFound(messagePath(message));
         return;
     case SearchMessage::SearchDone:
@@ -129,6 +137,13 @@ void MediaSearch::handlePortMessage(const PortMessage& message) {
         return;
     }
     appLog(QStringLiteral("Bad msg in main thread: %1\n").arg(message.id));
+}
+
+void MediaSearch::enteringFolder(const QString& folder) {
+    if (addedFolders_.contains(folder) && !summary_.folders.contains(folder)) {
+        summary_.folders += folder;
+    }
+    emit scanStatusChanged(folder);
 }
 
 void MediaSearch::searchDone() {
@@ -141,6 +156,8 @@ void MediaSearch::searchDone() {
     emit progressAnimationChanged(false);
     emit stopEnabledChanged(false);
     emit scanStatusChanged(localised("Search Done."));
+    summary_.unreadFolders = unreadFolders_;
+    emit searched(summary_);
     folderQueue_.searchDone();
     std::puts("***** GOT SEARCH DONE MESSAGE *****");
     std::fflush(stdout);

@@ -2,6 +2,7 @@
 
 #include "browser/folder_queue.h"
 #include "browser/folder_walk.h"
+#include "browser/search_summary.h"
 #include "platform/message_port.h"
 
 #include <QByteArray>
@@ -86,10 +87,13 @@ signals:
     /** The folder being searched, and at the end the word that the search is done. */
     void scanStatusChanged(const QString& text);
     void fileFound(const QString& path);
+    /** The search is done; after the word of that. */
+    void searched(const velmora::SearchSummary& summary);
 
 private:
     void mediaSearchThread(const PortSender& port);
     void searchFolder(const QString& folder, const PortSender& port);
+    void enteringFolder(const QString& folder);
     void searchDone();
     void startWhatWaited();
 
@@ -97,6 +101,10 @@ private:
     std::atomic<bool> searchRunning_ = false;
     QPointer<MessagePort> mainThreadPort_;
     FolderQueue folderQueue_;
+    QStringList addedFolders_; ///< all since the start
+    SearchSummary summary_;
+    /** Counted by the worker, and looked at when it is done. */
+    std::atomic<int> unreadFolders_ = 0;
 
     std::thread worker_;
     /** From a worker's start until its last message was handled; outlasts searchRunning_ while the worker

@@ -30,6 +30,11 @@ QString together(const QString& first, const QString& second) {
     return first + QLatin1Char(' ') + second;
 }
 
+QString notSaved(const SaveEnd& end) {
+    return together(localised("\"%@\" was not saved.", shortened(lastPathComponent(end.path))),
+                    asSentence(end.obstacle.reason));
+}
+
 } // namespace
 
 PortableNotices::PortableNotices(MediaDocument& document, NoticeBar& bar, QObject* parent)
@@ -113,7 +118,8 @@ void PortableNotices::editsKept(const QString& path, const QString& reason) {
 }
 
 void PortableNotices::editsRestored() {
-    offerSave(localised("The edits of \"%@\" are back, and not saved yet.", fileName()));
+    offer(SaveObstacle::Remedy::PortableTags,
+          localised("The edits of \"%@\" are back, and not saved yet.", fileName()));
 }
 
 void PortableNotices::saveEnded(const SaveEnd& end) {
@@ -122,12 +128,11 @@ void PortableNotices::saveEnded(const SaveEnd& end) {
         return;
     }
     if (end.portable) {
-        end.saved ? savedPortably(*end.portable) : failedPortably(*end.portable);
+        end.saved ? savedPortably(end) : failedPortably(end);
     } else if (end.saved) {
         savedInPlace();
     } else {
-        offerSave(together(localised("\"%@\" was not saved.", fileName()),
-                           asSentence(document_.mediaFile()->whyNotSaved())));
+        offer(end.obstacle.remedy, notSaved(end));
     }
 }
 
@@ -135,13 +140,19 @@ void PortableNotices::savedInPlace() {
     if (document_.mediaFile()->isReadBackAsSaved()) {
         bar_.clear();
     } else {
-        offerSave(localised("\"%@\" was saved, but not all of it can be read back.", fileName()));
+        offer(SaveObstacle::Remedy::PortableTags,
+              localised("\"%@\" was saved, but not all of it can be read back.", fileName()));
     }
 }
 
-void PortableNotices::offerSave(const QString& text) {
+void PortableNotices::offer(SaveObstacle::Remedy remedy, const QString& text) {
     Notice notice{Notice::Kind::Warning, text, {}, {}};
-    if (document_.mediaFile()->canHavePortableTags()) {
+    const bool canBePortable = document_.mediaFile()->canHavePortableTags();
+    if (canBePortable && remedy == SaveObstacle::Remedy::AnotherPlace) {
+        notice.actions = {{localised("Save as a Copy…"),
+                           localised("Choose another place, and save the file there with the changes"),
+                           QStringLiteral("document-save-as"), [this] { emit copyWanted(); }}};
+    } else if (canBePortable && remedy == SaveObstacle::Remedy::PortableTags) {
         notice.actions = {{localised("Save With Portable Tags"),
                            localised("Write the changes into the tags that other programs read, and replace "
                                      "the file in one step"),
@@ -153,11 +164,12 @@ void PortableNotices::offerSave(const QString& text) {
     bar_.show(notice);
 }
 
-void PortableNotices::savedPortably(const PortableSaveResult& result) {
-    const QString text =
-        result.othersReadIt
-            ? localised("Saved. Other programs see it: %@", fileName())
-            : localised("Saved. Other programs read no tag in files of this kind: %@", fileName());
+void PortableNotices::savedPortably(const SaveEnd& end) {
+    const PortableSaveResult& result = *end.portable;
+    const QString name = shortened(lastPathComponent(end.path));
+    const QString text = result.othersReadIt
+                             ? localised("Saved. Other programs see it: %@", name)
+                             : localised("Saved. Other programs read no tag in files of this kind: %@", name);
     if (result.warning.isEmpty()) {
         bar_.show({Notice::Kind::Information, text, {}, savedIsShown});
     } else {
@@ -165,16 +177,15 @@ void PortableNotices::savedPortably(const PortableSaveResult& result) {
     }
 }
 
-void PortableNotices::failedPortably(const PortableSaveResult& result) {
-    Notice notice{Notice::Kind::Warning,
-                  together(localised("\"%@\" was not saved.", fileName()), asSentence(result.reason)),
-                  {},
-                  {}};
-    if (result.end == PortableSaveResult::End::MoreLinks) {
+void PortableNotices::failedPortably(const SaveEnd& end) {
+    if (end.portable->end == PortableSaveResult::End::MoreLinks) {
+        Notice notice{Notice::Kind::Warning, notSaved(end), {}, {}};
         notice.actions = {{localised("Replace Anyway"), localised("The other links keep the old contents"),
                            QStringLiteral("document-save"), [this] { document_.savePortably(true); }}};
+        bar_.show(notice);
+    } else {
+        offer(end.obstacle.remedy, notSaved(end));
     }
-    bar_.show(notice);
 }
 
 void PortableNotices::saveAlways() {

@@ -33,15 +33,17 @@ public:
 signals:
     /** The user wants the edits back that were kept. */
     void restoreWanted();
+    /** The user wants the file saved in another place. */
+    void copyWanted();
 
 private:
     void lookForMore();
     void editsKept(const QString& path, const QString& reason);
     void savedInPlace();
-    void savedPortably(const PortableSaveResult& result);
-    void failedPortably(const PortableSaveResult& result);
-    /** Offers to save with portable tags, now and always, where TEXT says why. */
-    void offerSave(const QString& text);
+    void savedPortably(const SaveEnd& end);
+    void failedPortably(const SaveEnd& end);
+    /** Offers REMEDY where TEXT says why: a save with portable tags, now or always, or a copy. */
+    void offer(SaveObstacle::Remedy remedy, const QString& text);
     void saveAlways();
     void showAlways();
     [[nodiscard]] QString fileName() const;

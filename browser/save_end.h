@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/portable_save.h"
+#include "model/save_obstacle.h"
 
 #include <optional>
 
@@ -10,6 +11,8 @@ namespace velmora {
 struct SaveEnd {
     bool saved = false;
     std::optional<PortableSaveResult> portable; ///< nothing: it was saved in place
+    QString path;                               ///< of the file
+    SaveObstacle obstacle;                      ///< of one that was not saved
 };
 
 } // namespace velmora

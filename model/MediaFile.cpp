@@ -41,14 +41,24 @@ void MediaFile::fillEmptyValues() {
     setDateTime(QDateTime::currentDateTime());
 }
 
-bool MediaFile::saveMetadata(Error* error) const {
-    if (writeTagInPlace(kind_, metadata_)) {
+bool MediaFile::saveMetadata(Error* error) {
+    failedSave_ = writeTagInPlace(kind_, metadata_);
+    if (!failedSave_) {
         return true;
     }
     if (error) {
         *error = unableToWrite(kind_.taggedFile);
     }
     return false;
+}
+
+SaveObstacle MediaFile::whyNotSaved() const {
+    const FailedSave failed = failedSave_.value_or(FailedSave());
+    if (!failed.size && kind_.taggedFile != path_) {
+        return {localised("There is no file for its tag yet, and a save in place makes none"),
+                SaveObstacle::Remedy::PortableTags};
+    }
+    return tagModuleOfExtension(kind_.extension).obstacle(kind_.taggedFile, failed);
 }
 
 void MediaFile::takeEditsOf(const MediaFile& other) {

@@ -2,6 +2,7 @@
 
 #include "model/media_type.h"
 #include "model/portable_save.h"
+#include "model/save_obstacle.h"
 #include "platform/error.h"
 #include "platform/image.h"
 
@@ -13,6 +14,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace velmora {
 
@@ -27,7 +29,7 @@ public:
 
     /** Writes the values into the file. Returns false on failure, with ERROR (may be null) filled for an
        alert; the values here stay as they are either way. */
-    bool saveMetadata(Error* error) const;
+    bool saveMetadata(Error* error);
 
     /** The same with portable tags. OBSTACLE becomes empty, or says why they can't be read, and then all values are
        empty. */
@@ -37,6 +39,9 @@ public:
     /** A save of the values that are other than those which the file was opened with, or that were settled, into its
        portable tags; what became empty is deleted. BREAK_LINKS: also where the file has further hard links. */
     [[nodiscard]] PortableSave portableSave(bool breakLinks) const;
+    /** The same for a copy of the file, made at TARGET, with its extension, in place of what is there. The file itself
+       is only read. */
+    [[nodiscard]] PortableSave portableCopy(const QString& target) const;
     /** Takes the values for those that the file was opened with. */
     void settleChanges() { opened_ = metadata_; }
     /** Makes the edits of OTHER since it was opened or last settled here, too; all other values stay. */
@@ -49,8 +54,8 @@ public:
 
     /** Whether the tag that is read in place says what the values here say. Reads the file and logs nothing. */
     [[nodiscard]] bool isReadBackAsSaved() const;
-    /** After a failed save in place: why, as one sentence of the user's language without a full stop. */
-    [[nodiscard]] QString whyNotSaved() const;
+    /** After a failed save in place: why. Looks at the file. */
+    [[nodiscard]] SaveObstacle whyNotSaved() const;
 
     /** The path of the file that carries the tag: PATH as given, or its side file for DVD folders and disc
        images. */
@@ -109,7 +114,8 @@ private:
     QString path_; ///< as given
     MediaKind kind_;
     QVariantMap metadata_;
-    QVariantMap opened_; ///< the metadata as it was opened or last settled
+    QVariantMap opened_;                   ///< the metadata as it was opened or last settled
+    std::optional<FailedSave> failedSave_; ///< the last save in place, if it failed
 };
 
 } // namespace velmora

@@ -2,6 +2,8 @@
 
 #include "MediaFile.h"
 
+#include "detail/file_copy.h"
+#include "detail/in_place_obstacle.h"
 #include "detail/portable_values.h"
 #include "detail/tag_record.h"
 #include "portable_reason.h"
@@ -12,11 +14,16 @@
 #include "taglib/trace.h"
 
 #include <cerrno>
-#include <unistd.h>
 
 namespace velmora {
 
 namespace {
+
+/** Whether it was the file's folder or disk that refused. */
+bool isOfItsPlace(const portable::Reason& reason) {
+    using Code = portable::ReasonCode;
+    return reason.code == Code::system || reason.code == Code::not_writable || reason.code == Code::no_space;
+}
 
 PortableSaveResult resultOf(const portable::SaveOutcome& outcome) {
     using End = PortableSaveResult::End;
@@ -37,6 +44,7 @@ PortableSaveResult resultOf(const portable::SaveOutcome& outcome) {
     }
     const portable::Reason reason = outcome.failure.value_or(portable::Reason());
     result.reason = localisedReason(reason);
+    result.anotherPlaceHelps = isOfItsPlace(reason);
     if (reason.code == portable::ReasonCode::more_links) {
         result.end = End::MoreLinks;
     } else if (reason.code == portable::ReasonCode::cancelled) {
@@ -44,6 +52,21 @@ PortableSaveResult resultOf(const portable::SaveOutcome& outcome) {
     }
     return result;
 }
+
+/** What a save writes, taken along to its thread. */
+struct AllEdits {
+    portable::TagEdits edits;
+    std::function<portable::Edit<portable::Cover>()> cover;
+
+    [[nodiscard]] PortableSaveResult saveInto(const std::string& path,
+                                              const portable::SaveOptions& options) const {
+        portable::TagEdits all = edits;
+        if (cover) {
+            all.cover = cover();
+        }
+        return resultOf(portable::save_tags(path, all, options));
+    }
+};
 
 /** Kinds of which other programs read a tag of their own. */
 bool hasTagOfOthers(const std::string& path) {
@@ -73,18 +96,42 @@ std::unique_ptr<MediaFile> MediaFile::initWithPortableTags(const QString& path, 
 }
 
 PortableSave MediaFile::portableSave(bool breakLinks) const {
-    portable::TagEdits edits = editsBetween(opened_, metadata_, kind_.type);
-    return [edits, cover = coverEdit(opened_, metadata_), path = pathBytes(path_).toStdString(),
-            breakLinks](const PortableProgress& progress) {
+    return [all = AllEdits{editsBetween(opened_, metadata_, kind_.type), coverEdit(opened_, metadata_)},
+            path = pathBytes(path_).toStdString(), breakLinks](const PortableProgress& progress) {
         const TraceMute mute; // the log is that of the tags in place
-        portable::TagEdits all = edits;
-        if (cover) {
-            all.cover = cover();
-        }
         portable::SaveOptions options;
         options.break_links = breakLinks;
         options.progress = progress;
-        return resultOf(portable::save_tags(path, all, options));
+        return all.saveInto(path, options);
+    };
+}
+
+PortableSave MediaFile::portableCopy(const QString& target) const {
+    return [all = AllEdits{editsBetween(opened_, metadata_, kind_.type), coverEdit(opened_, metadata_)},
+            path = pathBytes(path_).toStdString(),
+            target = pathBytes(target).toStdString()](const PortableProgress& progress) {
+        const TraceMute mute; // the log is that of the tags in place
+        FileCopy copy(path, target);
+        PortableSaveResult result;
+        if (const int error = copy.make(progress)) {
+            result.end =
+                error == ECANCELED ? PortableSaveResult::End::Cancelled : PortableSaveResult::End::Failed;
+            result.reason = copyObstacle(error);
+            result.anotherPlaceHelps = error != ECANCELED;
+            return result;
+        }
+        portable::SaveOptions options;
+        options.progress = progress;
+        result = all.saveInto(copy.path(), options);
+        if (!result.isSaved()) {
+            return result;
+        }
+        if (const int error = copy.takePlace()) {
+            result.end = PortableSaveResult::End::Failed;
+            result.reason = copyObstacle(error);
+            result.anotherPlaceHelps = true;
+        }
+        return result;
     };
 }
 
@@ -107,12 +154,6 @@ std::function<bool()> MediaFile::otherProgramsSeeMore() const {
 
 bool MediaFile::isReadBackAsSaved() const {
     return tagInPlaceSays(kind_, metadata_);
-}
-
-QString MediaFile::whyNotSaved() const {
-    const QByteArray path = pathBytes(kind_.taggedFile);
-    return ::access(path.constData(), W_OK) == 0 ? localised("Its tag can't be changed in place")
-                                                 : qt_error_string(errno);
 }
 
 } // namespace velmora

@@ -19,6 +19,8 @@ struct PortableSaveResult {
     End end = End::Failed;
     QString reason;  ///< why it was not saved: one sentence of the user's language without a full stop
     QString warning; ///< it was saved, and yet; empty for none
+    bool anotherPlaceHelps =
+        false; ///< it was the file's folder or disk that refused, and a copy elsewhere may succeed
     bool othersReadIt = true; ///< false: other programs read no tag in files of this kind
 
     [[nodiscard]] bool isSaved() const { return end == End::Saved || end == End::Unchanged; }

@@ -21,12 +21,32 @@ void allowSeveralFolders(QFileDialog& dialog) {
     }
 }
 
+void showPanel(QFileDialog& dialog, std::function<void(int returnCode, const QStringList& paths)> didEnd) {
+    dialog.setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(&dialog, &QFileDialog::finished, &dialog,
+                     [&dialog, end = std::move(didEnd)](int result) {
+                         const bool accepted = result == QFileDialog::Accepted;
+                         end(accepted ? openPanelOk : openPanelCancelled,
+                             accepted ? dialog.selectedFiles() : QStringList());
+                     });
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.open();
+}
+
 } // namespace
+
+void beginSavePanelSheet(const QString& title, const QString& start, QWidget* window,
+                         std::function<void(int returnCode, const QStringList& paths)> didEnd) {
+    auto* dialog = new QFileDialog(window, title);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDirectory(pathFolder(start));
+    dialog->selectFile(start);
+    showPanel(*dialog, std::move(didEnd));
+}
 
 void beginOpenPanelSheet(const OpenPanel& panel, QWidget* window,
                          std::function<void(int returnCode, const QStringList& paths)> didEnd) {
     auto* dialog = new QFileDialog(window, panel.title);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
     if (panel.choosesFolders) {
         dialog->setFileMode(QFileDialog::Directory);
         dialog->setOption(QFileDialog::ShowDirsOnly);
@@ -40,12 +60,7 @@ void beginOpenPanelSheet(const OpenPanel& panel, QWidget* window,
     if (!panel.startFolder.isEmpty()) {
         dialog->setDirectory(panel.startFolder);
     }
-    QObject::connect(dialog, &QFileDialog::finished, dialog, [dialog, end = std::move(didEnd)](int result) {
-        const bool accepted = result == QFileDialog::Accepted;
-        end(accepted ? openPanelOk : openPanelCancelled, accepted ? dialog->selectedFiles() : QStringList());
-    });
-    dialog->setWindowModality(Qt::WindowModal);
-    dialog->open();
+    showPanel(*dialog, std::move(didEnd));
 }
 
 } // namespace velmora

@@ -974,6 +974,94 @@
         <source>The settings file can&#x27;t be removed.</source>
         <translation>Die Einstellungsdatei lässt sich nicht löschen.</translation>
     </message>
+    <message>
+        <source>You have no permission to write to it</source>
+        <translation>Sie haben kein Recht, sie zu ändern</translation>
+    </message>
+    <message>
+        <source>It lies on a disk that can only be read</source>
+        <translation>Sie liegt auf einem Datenträger, der nur gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>No space is left on its disk</source>
+        <translation>Auf ihrem Datenträger ist kein Platz mehr</translation>
+    </message>
+    <message>
+        <source>It would become too large</source>
+        <translation>Sie würde zu groß</translation>
+    </message>
+    <message>
+        <source>It is not there any more</source>
+        <translation>Sie ist nicht mehr da</translation>
+    </message>
+    <message>
+        <source>Its header can&#x27;t be read</source>
+        <translation>Ihr Kopf kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Its tag can&#x27;t be written</source>
+        <translation>Ihr Tag kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>Sie ist leer</translation>
+    </message>
+    <message>
+        <source>Too little media lies behind its header for the header to grow or shrink</source>
+        <translation>Hinter ihrem Kopf liegen zu wenige Mediendaten, als dass er wachsen oder schrumpfen könnte</translation>
+    </message>
+    <message>
+        <source>It consists of several RIFF chunks, which a save in place can&#x27;t change</source>
+        <translation>Sie besteht aus mehreren RIFF-Blöcken, die ein Speichern an Ort und Stelle nicht ändern kann</translation>
+    </message>
+    <message>
+        <source>There is no file for its tag yet, and a save in place makes none</source>
+        <translation>Für ihren Tag gibt es noch keine Datei, und ein Speichern an Ort und Stelle legt keine an</translation>
+    </message>
+    <message>
+        <source>A copy needs another name or another folder</source>
+        <translation>Eine Kopie braucht einen anderen Namen oder einen anderen Ordner</translation>
+    </message>
+    <message>
+        <source>Save as a Copy…</source>
+        <translation>Als Kopie speichern …</translation>
+    </message>
+    <message>
+        <source>Save as a Copy</source>
+        <translation>Als Kopie speichern</translation>
+    </message>
+    <message>
+        <source>Choose another place, and save the file there with the changes</source>
+        <translation>Einen anderen Ort wählen und die Datei dort mit den Änderungen speichern</translation>
+    </message>
+    <message>
+        <source>What the last save did</source>
+        <translation>Was das letzte Speichern bewirkt hat</translation>
+    </message>
+    <message>
+        <source>What the last search found</source>
+        <translation>Was die letzte Suche gefunden hat</translation>
+    </message>
+    <message>
+        <source>Saved &quot;%@&quot;</source>
+        <translation>„%@“ gespeichert</translation>
+    </message>
+    <message>
+        <source>Files found: %@</source>
+        <translation>Gefundene Dateien: %@</translation>
+    </message>
+    <message>
+        <source>folders that could not be read: %@</source>
+        <translation>nicht lesbare Ordner: %@</translation>
+    </message>
+    <message>
+        <source>Looked in:</source>
+        <translation>Gesucht in:</translation>
+    </message>
+    <message>
+        <source>%@ (not there)</source>
+        <translation>%@ (nicht vorhanden)</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>

@@ -1,5 +1,6 @@
 #include "tag_record.h"
 
+#include "platform/file_attributes.h"
 #include "platform/file_path.h"
 #include "platform/image.h"
 #include "platform/log.h"
@@ -14,6 +15,7 @@
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
 #include <iterator>
 #include <optional>
@@ -23,10 +25,11 @@ namespace velmora {
 
 namespace {
 
-constexpr TagModule id3Module = {id3_load_file_info, id3_store_file_info};
+constexpr TagModule id3Module = {id3_load_file_info, id3_store_file_info, id3Obstacle};
 constexpr TagModule asfModule = {
-    asf_load_file_info, [](const char* path, _file_info_t* info) { return asf_store_file_info(path, info); }};
-constexpr TagModule aviModule = {avi_load_file_info, avi_store_file_info};
+    asf_load_file_info, [](const char* path, _file_info_t* info) { return asf_store_file_info(path, info); },
+    asfObstacle};
+constexpr TagModule aviModule = {avi_load_file_info, avi_store_file_info, aviObstacle};
 
 struct ModuleRow {
     const char* extension;
@@ -171,7 +174,7 @@ void readTagInPlace(const MediaKind& kind, QVariantMap& metadata) {
     }
 }
 
-bool writeTagInPlace(const MediaKind& kind, const QVariantMap& metadata) {
+std::optional<FailedSave> writeTagInPlace(const MediaKind& kind, const QVariantMap& metadata) {
     StoreRecord record(kind.type, metadata);
     _file_info_t& info = record.info();
     appLog(QStringLiteral("writing new media tag:\n  title=") + shown(info.title) +
@@ -180,12 +183,20 @@ bool writeTagInPlace(const MediaKind& kind, const QVariantMap& metadata) {
            QStringLiteral("\n  director=") + shown(info.director) + QStringLiteral("\n rating=") +
            shown(info.rating) + QStringLiteral("\n  year=") + QString::number(info.year) + QLatin1Char('\n'));
     appLog(QStringLiteral("saving tag to file ") + kind.taggedFile);
+    const QByteArray path = pathBytes(kind.taggedFile);
+    const std::optional<FileAttributes> before =
+        fileAttributes(path); // afterwards there may be a file made in vain
     const TagModule& module = tagModuleOfExtension(kind.extension);
-    if (!isPipeOrDevice(kind.taggedFile) && module.store(pathBytes(kind.taggedFile).constData(), &info)) {
-        return true;
+    errno = 0;
+    if (!isPipeOrDevice(kind.taggedFile) && module.store(path.constData(), &info)) {
+        return std::nullopt;
+    }
+    FailedSave failed{std::nullopt, errno};
+    if (before) {
+        failed.size = before->size.value_or(0);
     }
     appLog(QStringLiteral("failed to write tag\n"));
-    return false;
+    return failed;
 }
 
 bool tagInPlaceSays(const MediaKind& kind, const QVariantMap& metadata) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "in_place_obstacle.h"
+
 #include "model/media_type.h"
 #include "taglib/file_info.h"
 
@@ -8,6 +10,7 @@
 #include <QVariantMap>
 
 #include <array>
+#include <optional>
 
 /** The tag that is read and written in place. Nothing else in this room knows the tag library's record.
    METADATA is MediaFile's dictionary; KIND says which file carries the tag, which module it is for, and which
@@ -18,18 +21,19 @@ namespace velmora {
    where no tag can be read. Logs both. */
 void readTagInPlace(const MediaKind& kind, QVariantMap& metadata);
 
-/** Writes METADATA into the tag and logs that; false, and the file as the tag library leaves it, on
-   failure. */
-[[nodiscard]] bool writeTagInPlace(const MediaKind& kind, const QVariantMap& metadata);
+/** Writes METADATA into the tag and logs that. Gives what is left of a failure, and the file is then as the tag
+   library leaves it; nothing where it was written. */
+[[nodiscard]] std::optional<FailedSave> writeTagInPlace(const MediaKind& kind, const QVariantMap& metadata);
 
 /** Whether the tag says what METADATA says. Logs nothing. */
 [[nodiscard]] bool tagInPlaceSays(const MediaKind& kind, const QVariantMap& metadata);
 
 /** The functions that read and write one kind of tag. Both take the path in the file system's encoding and
-   return non-zero for success. */
+   return non-zero for success. The third finds out why a store failed. */
 struct TagModule {
     int (*load)(const char* path, _file_info_t* info);
     int (*store)(const char* path, _file_info_t* info);
+    SaveObstacle (*obstacle)(const QString& path, const FailedSave& failed);
 };
 
 /** The tag module for files with EXTENSION (without its dot), whatever its case; ID3 for all that have no
