@@ -49,7 +49,8 @@ QStringList startFolders() {
 
 VelmoraController::VelmoraController(MediaList& list, TagForm& form, TagWebBrowser& browser,
                                      MediaDocument& document, QObject* parent)
-    : QObject(parent), list_(list), form_(form), document_(document), notices_(document, form.notice()) {
+    : QObject(parent), list_(list), form_(form), document_(document), notices_(document, form.notice()),
+      formNotices_(document, form, form.notice()) {
     connectSearch();
     connectList();
     connectForm();
@@ -107,7 +108,16 @@ MediaTable& VelmoraController::table() {
     return list_.table();
 }
 
+/** The form and the list say which file is open, if one is. */
+void VelmoraController::tellOpenFile() {
+    form_.tellOpenFile();
+    if (!document_.mediaFile()) {
+        table().showNoneAsOpen();
+    }
+}
+
 void VelmoraController::showOpenError(const Error& error) {
+    tellOpenFile(); // what could not be opened may have taken the open file's place
     presentErrorSheet(error, document_.windowForSheet());
 }
 
@@ -119,11 +129,13 @@ void VelmoraController::fillFields(const FormFillInfo* info) {
 }
 
 void VelmoraController::awakeFromNib() {
+    tellOpenFile();
     search_.queueFolders(startFolders());
 }
 
 void VelmoraController::clearUI() {
     notices_.fileClosed();
+    tellOpenFile();
     form_.clearFields();
     form_.preview().removeMovie();
     form_.clearCoverArt();
@@ -133,10 +145,10 @@ void VelmoraController::clearUI() {
 
 void VelmoraController::fillUI() {
     if (const MediaFile* file = document_.mediaFile()) {
+        notices_.fileOpened();
         form_.showFile(*file);
         form_.preview().showMovie(file->filename());
         form_.enableFileButtons();
-        notices_.fileOpened();
     }
 }
 
@@ -184,6 +196,7 @@ void VelmoraController::revertToSaved() {
 }
 
 void VelmoraController::removeTag() {
+    formNotices_.changesSettled();
     document_.updateChangeCount(Document::ChangeType::Cleared);
     form_.disableSaveAndRevert();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "form_notices.h"
 #include "media_search.h"
 #include "portable_notices.h"
 
@@ -89,6 +90,7 @@ private:
     void connectPortableTags();
     void saveEnded(const SaveEnd& end);
     void showFileAgain();
+    void tellOpenFile();
     void showOpenError(const Error& error);
 
     MediaList& list_;
@@ -96,6 +98,7 @@ private:
     MediaDocument& document_;
     MediaSearch search_;
     PortableNotices notices_;
+    FormNotices formNotices_;
 };
 
 } // namespace velmora

@@ -107,6 +107,8 @@ int MediaTable::rowOf(const QString& path) const {
 
 void MediaTable::showAsOpen(const QString& path) {
     curSelectedRow_ = rowOf(path);
+    model_.setOpenRecord(curSelectedRow_ < 0 ? nullptr
+                                             : mediaFiles_.at(static_cast<std::size_t>(curSelectedRow_)));
     restoreSelection();
 }
 
@@ -201,6 +203,7 @@ bool MediaTable::closeFile() {
         return false;
     }
     curSelectedRow_ = -1;
+    showNoneAsOpen();
     form_.clearUI();
     return true;
 }
@@ -213,6 +216,7 @@ bool MediaTable::openFile(int row) {
     }
     Error error;
     if (document_.readFromURL(fileUrlFromPath(record->fullpath), QStringLiteral("mediafile"), &error)) {
+        model_.setOpenRecord(record);
         form_.clearUI();
         form_.fillUI();
         curSelectedRow_ = row;

@@ -54,6 +54,9 @@ public:
        opens nothing; no row where there is none. */
     void showAsOpen(const QString& path);
 
+    /** The document has no file open any more, whatever row is selected. */
+    void showNoneAsOpen() { model_.setOpenRecord(nullptr); }
+
     /** Sorts by the column of that index in MediaTableModel::columns, or turns the direction when it is the
        sort column; the icon column stands for the file name's. */
     void tableViewDidClickTableColumn(int column);

@@ -7,6 +7,7 @@
 #include <QFont>
 
 #include <algorithm>
+#include <utility>
 
 namespace velmora {
 namespace {
@@ -59,6 +60,12 @@ QString typeName(const QString& name) {
     }
 }
 
+QFont boldFont() {
+    QFont font;
+    font.setBold(true);
+    return font;
+}
+
 /** TEXT for a place that takes rich text whenever a text looks like it. */
 QString literally(const QString& text) {
     return QStringLiteral("<span>") + text.toHtmlEscaped() + QStringLiteral("</span>");
@@ -92,8 +99,23 @@ QVariant MediaTableModel::tableViewObjectValueForTableColumn(const TableColumn& 
                          QStringLiteral("VelmoraController"), 430});
         return {};
     }
-    const int index = rows_.tableSortDescending() ? count - row - 1 : row;
-    return rows_.at(static_cast<std::size_t>(index))->valueForKey(column.identifier);
+    return recordAt(row)->valueForKey(column.identifier);
+}
+
+const ColdataPointer& MediaTableModel::recordAt(int row) const {
+    const int index = rows_.tableSortDescending() ? numberOfRowsInTableView() - row - 1 : row;
+    return rows_.at(static_cast<std::size_t>(index));
+}
+
+bool MediaTableModel::isOpen(int row) const {
+    return openRecord_ && row < numberOfRowsInTableView() && recordAt(row) == openRecord_;
+}
+
+void MediaTableModel::setOpenRecord(ColdataPointer record) {
+    openRecord_ = std::move(record);
+    if (reportedRows_ > 0) {
+        emit dataChanged(index(0, 0), index(reportedRows_ - 1, columnCount() - 1), {Qt::FontRole});
+    }
 }
 
 void MediaTableModel::reloadData() {
@@ -143,6 +165,8 @@ QVariant MediaTableModel::data(const QModelIndex& index, int role) const {
         return spokenText(column, index.row());
     case Qt::TextAlignmentRole:
         return alignment(column);
+    case Qt::FontRole:
+        return isOpen(index.row()) ? boldFont() : QVariant();
     default:
         return {};
     }
@@ -156,7 +180,11 @@ QString MediaTableModel::spokenText(const TableColumn& column, int row) const {
         return text(column);
     }
     const QString name = text({QStringLiteral("filename")});
-    return QStringList{name, typeName(name), text({QStringLiteral("filesize")})}.join(QLatin1String(", "));
+    QStringList spoken = {name, typeName(name), text({QStringLiteral("filesize")})};
+    if (isOpen(row)) {
+        spoken += localised("open in the form");
+    }
+    return spoken.join(QLatin1String(", "));
 }
 
 QVariant MediaTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -171,9 +199,7 @@ QVariant MediaTableModel::headerData(int section, Qt::Orientation orientation, i
         return alignment(column);
     }
     if (role == Qt::FontRole && highlightedColumn_ == section) {
-        QFont font;
-        font.setBold(true);
-        return font;
+        return boldFont();
     }
     return {};
 }

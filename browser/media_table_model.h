@@ -35,6 +35,9 @@ public:
     /** Tells the views of all that has changed in the rows: new ones, and other contents in any of them. */
     void reloadData();
 
+    /** The record whose file is open: it stands out, wherever it is shown. Null for none, as at first. */
+    void setOpenRecord(ColdataPointer record);
+
     /** The column whose header stands out; none at first. */
     void setHighlightedTableColumn(int column);
 
@@ -50,11 +53,15 @@ private:
     /** What assistive technologies say of a cell: of the icon's and the name's, the file's name, kind and
        size, because one of these is where the keyboard is. */
     [[nodiscard]] QString spokenText(const TableColumn& column, int row) const;
+    /** The record that ROW, which there is, shows: while the list is shown descending, the mirrored one. */
+    [[nodiscard]] const ColdataPointer& recordAt(int row) const;
+    [[nodiscard]] bool isOpen(int row) const;
 
     const MediaRows& rows_;
     /** The rows that views were told of. */
     int reportedRows_ = 0;
     std::optional<int> highlightedColumn_;
+    ColdataPointer openRecord_;
 };
 
 } // namespace velmora

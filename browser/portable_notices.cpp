@@ -137,8 +137,9 @@ void PortableNotices::saveEnded(const SaveEnd& end) {
 }
 
 void PortableNotices::savedInPlace() {
+    bar_.withdraw(Notice::Topic::OtherPrograms); // which was true of what the file said before
     if (document_.mediaFile()->isReadBackAsSaved()) {
-        bar_.clear();
+        bar_.withdraw(Notice::Topic::Save);
     } else {
         offer(SaveObstacle::Remedy::PortableTags,
               localised("\"%@\" was saved, but not all of it can be read back.", fileName()));

@@ -80,7 +80,10 @@ void TagForm::setUpFields() {
         if (document_.portableTags() && !showing_) {
             storeShownCover();
         }
+        // Later: a cover that was loaded or dropped is about to be the open file's.
+        QMetaObject::invokeMethod(this, &TagForm::shownCoverChanged, Qt::QueuedConnection);
     });
+    connect(ui_->entry_year, &QLineEdit::textChanged, this, &TagForm::markYear);
     connect(ui_->img_coverArt, &CoverArtView::shownImageChanged, this,
             [this] { ui_->box_preview->setCover(ui_->img_coverArt->shownImage()); });
     // What nobody sees nobody trims.
@@ -137,6 +140,7 @@ void TagForm::setSynopsisText(const QString& text) {
 
 void TagForm::clearFields() {
     filled_.clear();
+    emit filledFieldsChanged();
     const QString none;
     ui_->entry_title->setText(none);
     ui_->entry_artist->setText(none);
@@ -206,6 +210,7 @@ void TagForm::showCoverArt(const MediaFile& media) {
         if (const ImageRef folderImage =
                 ImageRef::fromFile(pathFolder(media.filename()) + QStringLiteral("/folder.jpg"))) {
             changeCoverArt(folderImage);
+            emit folderImageTaken();
         }
     }
     ui_->btn_trimBorder->setEnabled(static_cast<bool>(ui_->img_coverArt->cover()));
@@ -259,6 +264,7 @@ void TagForm::fillFields(const FormFillInfo* info) {
         allowTrimming();
         changeCoverArt(info->coverArt);
     }
+    emit filledFieldsChanged();
 }
 
 QString nsarray_to_nsstring(const QStringList& list, const QString& separator) {

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class QAction;
+
 namespace Ui {
 class TagForm;
 }
@@ -44,6 +46,8 @@ public:
     /** Shows the open file in a form that was cleared before. A file without cover art takes the image
        "folder.jpg" of its folder, which counts as a change; with portable tags it shows what it has. */
     void showFile(const MediaFile& media);
+    /** Says above the form which file it edits, and in empty fields where nothing that is typed would be stored. */
+    void tellOpenFile();
     /** Lets the open file's tag be removed and its cover art be loaded. */
     void enableFileButtons();
     /** Shows the result of a web lookup. Only the rating and the cover art reach the open file; the other
@@ -53,6 +57,14 @@ public:
     /** Brings what the form shows and the open file does not have yet into it, for saves that write all of that: the
        fields that a web lookup filled, and nobody has typed in since, and a cover that was pasted or cut. */
     void storeShownValues();
+    /** The part of it that is about the fields. */
+    void storeFilledFields();
+    /** The part of it that is about the cover. */
+    void storeShownCover();
+    /** Whether there are fields that a web lookup filled and whose text is not in the open file. */
+    [[nodiscard]] bool hasFilledFields() const { return !filled_.isEmpty(); }
+    /** Whether the cover that the form shows, or that it shows none, is not the open file's. */
+    [[nodiscard]] bool showsOtherCover() const;
 
     /** CONTROL, a text field or the genre box, was edited by the user. */
     void controlTextDidChange(const QObject* control);
@@ -63,6 +75,14 @@ public:
     /** The open file's cover art was changed to COVER; none changes nothing. */
     void coverArtImageChanged(const ImageRef& cover);
 
+    /** Whether there is cover art in the form. */
+    [[nodiscard]] bool showsCover() const;
+    /** Shows the clipboard's image, if it has one, and makes it the open file's cover. */
+    void pasteAndStoreCover();
+    /** Takes the cover out of the form and from the open file's values. */
+    void deleteCover();
+    /** Presses the save button, if it can be pressed. */
+    void clickSave();
     /** The cover art shown; null when there is none. */
     [[nodiscard]] QImage coverArt() const;
     /** Shows COVER as the open file's new cover art, which counts as a change. */
@@ -88,16 +108,23 @@ signals:
     void removeClicked();
     void loadCoverArtClicked();
     void trimBorderClicked();
+    /** The open file has taken the image "folder.jpg" of its folder as its cover, which counts as a change. */
+    void folderImageTaken();
+    /** hasFilledFields may have changed. */
+    void filledFieldsChanged();
+    /** showsOtherCover may have changed. */
+    void shownCoverChanged();
     /** The text to look the open file up with has changed. */
     void searchTextChanged(const QString& text);
 
 private:
+    void tellWhatIsStored();
     void setUpRating();
     void setUpGenre();
     void setUpFields();
     void connectButtons();
     void setSymbols();
-    void storeShownCover();
+    void markYear();
     void showCaptions(const MediaFile& file);
     void showCoverArt(const MediaFile& file);
     void setGenreText(const QString& text);
@@ -107,7 +134,8 @@ private:
     std::unique_ptr<Ui::TagForm> ui_;
     MediaDocument& document_;
     QStringList genres_;
-    bool showing_ = false;   ///< the cover is changed by the program, and not by the user
+    bool showing_ = false;        ///< the cover is changed by the program, and not by the user
+    QAction* yearMark_ = nullptr; ///< there while the year is no number
     QList<QWidget*> filled_; ///< controls that a web lookup filled, and whose text is not in the open file
 };
 

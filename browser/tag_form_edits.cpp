@@ -51,6 +51,10 @@ QString withLineFeeds(QString text) {
 
 void TagForm::storeShownValues() {
     storeShownCover();
+    storeFilledFields();
+}
+
+void TagForm::storeFilledFields() {
     const QList<QWidget*> filled = std::exchange(filled_, {});
     for (QWidget* control : filled) {
         if (control == ui_->entry_desc) {
@@ -64,6 +68,7 @@ void TagForm::storeShownValues() {
         }
         controlTextDidChange(control);
     }
+    emit filledFieldsChanged();
 }
 
 void TagForm::storeShownCover() {
@@ -78,10 +83,13 @@ void TagForm::storeShownCover() {
         media->removeCoverArt();
     }
     markChange();
+    emit shownCoverChanged();
 }
 
 void TagForm::controlTextDidChange(const QObject* control) {
-    filled_.removeIf([&](const QWidget* filled) { return filled == control; });
+    if (filled_.removeIf([&](const QWidget* filled) { return filled == control; }) > 0) {
+        emit filledFieldsChanged();
+    }
     appLog(QStringLiteral("in controlTextDidEndEditing:\n"));
     MediaFile* const media = file();
     if (!media) {
@@ -119,7 +127,9 @@ void TagForm::textDidChange(const QObject* textView) {
         return;
     }
     if (textView == ui_->entry_desc) {
-        filled_.removeAll(ui_->entry_desc);
+        if (filled_.removeAll(ui_->entry_desc) > 0) {
+            emit filledFieldsChanged();
+        }
         appLog(QStringLiteral("description changed\n"));
         // The raw text, as the plain one has ordinary blanks for no-break spaces. An input method's
         // composition is reported too, but is no part of it.
@@ -146,6 +156,24 @@ void TagForm::coverArtImageChanged(const ImageRef& cover) {
     }
     media->setCoverArt(cover);
     markChange();
+}
+
+bool TagForm::showsCover() const {
+    return static_cast<bool>(ui_->img_coverArt->cover());
+}
+
+void TagForm::pasteAndStoreCover() {
+    ui_->img_coverArt->paste();
+    storeShownCover();
+}
+
+void TagForm::deleteCover() {
+    ui_->img_coverArt->setCover({});
+    storeShownCover();
+}
+
+void TagForm::clickSave() {
+    ui_->btn_saveTag->click();
 }
 
 QImage TagForm::coverArt() const {

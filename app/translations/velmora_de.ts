@@ -4,6 +4,62 @@
 <context>
     <name>Velmora</name>
     <message>
+        <source>This is no number, and is stored as no year</source>
+        <translation>Das ist keine Zahl und gilt als kein Jahr</translation>
+    </message>
+    <message>
+        <source>The cover was taken from folder.jpg, which counts as a change: a save writes it into the file.</source>
+        <translation>Das Titelbild stammt aus folder.jpg, und das gilt als Änderung: ein Speichern schreibt es in die Datei.</translation>
+    </message>
+    <message>
+        <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
+        <translation>Was aus dem Web eingetragen wurde, ist noch nicht übernommen: ein Speichern schreibt nur die Felder, in denen getippt wurde.</translation>
+    </message>
+    <message>
+        <source>Store Filled Fields</source>
+        <translation>Eingetragenes übernehmen</translation>
+    </message>
+    <message>
+        <source>Take all filled fields for changes, which a save writes</source>
+        <translation>Alle ausgefüllten Felder als Änderungen übernehmen, die ein Speichern schreibt</translation>
+    </message>
+    <message>
+        <source>The filled fields count as changes now: a save writes them.</source>
+        <translation>Die ausgefüllten Felder gelten jetzt als Änderungen: ein Speichern schreibt sie.</translation>
+    </message>
+    <message>
+        <source>The cover is cut from the form only, and stays in the file.</source>
+        <translation>Das Titelbild ist nur im Formular ausgeschnitten und bleibt in der Datei.</translation>
+    </message>
+    <message>
+        <source>The pasted cover is shown only: a save does not write it.</source>
+        <translation>Das eingefügte Titelbild wird nur gezeigt: ein Speichern schreibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Store Cover</source>
+        <translation>Titelbild übernehmen</translation>
+    </message>
+    <message>
+        <source>Take the cover for a change, which a save writes</source>
+        <translation>Das Titelbild als Änderung übernehmen, die ein Speichern schreibt</translation>
+    </message>
+    <message>
+        <source>No file is open</source>
+        <translation>Es ist keine Datei geöffnet</translation>
+    </message>
+    <message>
+        <source>Not stored in files of this kind</source>
+        <translation>Wird in Dateien dieser Art nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>No file is open: what is typed here goes nowhere</source>
+        <translation>Es ist keine Datei geöffnet: was hier getippt wird, geht verloren</translation>
+    </message>
+    <message>
+        <source>open in the form</source>
+        <translation>im Formular geöffnet</translation>
+    </message>
+    <message>
         <source>Unable to open file &quot;%@&quot;.</source>
         <translation>Die Datei „%@“ kann nicht geöffnet werden.</translation>
     </message>
