@@ -60,6 +60,7 @@ public:
     [[nodiscard]] QString portableObstacle() const override { return portableObstacle_; }
     bool savePortably(bool breakLinks) override;
     bool saveCopy(const QString& path) override;
+    bool deleteAllTags(bool breakLinks) override;
     [[nodiscard]] bool hasUnsavedEdits() const override { return !unsavedEdits_.empty(); }
     bool restoreUnsavedEdits(Error* error) override;
     /** The menu's switch. What the user switches off is not remembered any more. */
@@ -110,6 +111,8 @@ private:
     void keepEdits();
     void makeForms();
     void connectCommands();
+    void connectCoverCommands();
+    void enableEditCommands();
     void setSymbols();
     void makeRoomForWebPage(bool shown);
     void makeLibrary();

@@ -4,6 +4,7 @@
 
 #include "browser/VelmoraController.h"
 #include "browser/tag_form.h"
+#include "model/portable_removal.h"
 #include "platform/file_path.h"
 #include "platform/settings.h"
 
@@ -51,6 +52,23 @@ bool MyDocument::saveCopy(const QString& path) {
     }
     emit saveEnded({saved, result, path, obstacleOf(result)});
     return saved;
+}
+
+bool MyDocument::deleteAllTags(bool breakLinks) {
+    if (!mediaFile_ || !openUrl_ || saveRun_.isRunning()) {
+        return false;
+    }
+    const QString path = mediaFile_->path();
+    const PortableSaveResult result =
+        saveRun_.run(portableRemoval(path, breakLinks), lastPathComponent(path), windowForSheet());
+    const bool deleted = result.isSaved();
+    if (deleted) {
+        updateChangeCount(ChangeType::Cleared);
+        static_cast<void>(openFile(*openUrl_));
+        emit openedAgain();
+    }
+    emit saveEnded({deleted, result, path, obstacleOf(result), true});
+    return deleted;
 }
 
 bool MyDocument::setPortableTags(bool portable) {

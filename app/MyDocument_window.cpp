@@ -8,12 +8,18 @@
 #include "browser/media_list.h"
 #include "browser/status_line.h"
 #include "browser/tag_form.h"
+#include "imaging/image_data.h"
 #include "platform/accessibility.h"
 #include "platform/alt_letters.h"
 #include "platform/settings.h"
 #include "platform/symbol.h"
 #include "ui_MyDocument.h"
 #include "weblookup/TagWebBrowser.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QShortcut>
 
 namespace velmora {
 
@@ -89,6 +95,10 @@ void MyDocument::setSymbols() {
                                        std::pair(ui_->action_revert, "document-revert"),
                                        std::pair(ui_->action_portableTags, "tag"),
                                        std::pair(ui_->action_restoreEdits, "edit-undo"),
+                                       std::pair(ui_->action_pasteCover, "edit-paste"),
+                                       std::pair(ui_->action_trimBorder, "transform-crop"),
+                                       std::pair(ui_->action_deleteCover, "edit-delete"),
+                                       std::pair(ui_->action_deleteTags, "edit-delete"),
                                        std::pair(ui_->action_close, "window-close"),
                                        std::pair(ui_->action_quit, "application-exit"),
                                        std::pair(ui_->action_find, "edit-find"),
@@ -107,6 +117,28 @@ void MyDocument::setSymbols() {
     }
 }
 
+void MyDocument::connectCoverCommands() {
+    connect(ui_->action_pasteCover, &QAction::triggered, form_, &TagForm::pasteAndStoreCover);
+    connect(ui_->action_trimBorder, &QAction::triggered, controller_.get(), &VelmoraController::trimBorder);
+    connect(ui_->action_deleteCover, &QAction::triggered, controller_.get(), &VelmoraController::deleteCover);
+    connect(ui_->action_deleteTags, &QAction::triggered, controller_.get(),
+            &VelmoraController::deleteAllTags);
+    connect(ui_->menu_edit, &QMenu::aboutToShow, this, &MyDocument::enableEditCommands);
+    connect(this, &MediaDocument::openFileChanged, this, &MyDocument::enableEditCommands);
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &MyDocument::enableEditCommands);
+    connect(form_, &TagForm::shownCoverChanged, this, &MyDocument::enableEditCommands);
+    enableEditCommands();
+}
+
+/** Commands are active whenever they can do something. */
+void MyDocument::enableEditCommands() {
+    const QMimeData* const copied = QGuiApplication::clipboard()->mimeData();
+    ui_->action_pasteCover->setEnabled(mediaFile_ && copied && offersImageData(*copied));
+    ui_->action_trimBorder->setEnabled(mediaFile_ && form_->showsCover());
+    ui_->action_deleteCover->setEnabled(mediaFile_ && (form_->showsCover() || mediaFile_->coverArt()));
+    ui_->action_deleteTags->setEnabled(mediaFile_ && mediaFile_->canHavePortableTags());
+}
+
 void MyDocument::connectCommands() {
     connect(ui_->action_addFile, &QAction::triggered, controller_.get(), &VelmoraController::addFile);
     connect(ui_->action_addFolder, &QAction::triggered, controller_.get(), &VelmoraController::addFolder);
@@ -120,6 +152,10 @@ void MyDocument::connectCommands() {
     connect(this, &MediaDocument::hasUnsavedEditsChanged, ui_->action_restoreEdits, &QAction::setEnabled);
     connect(ui_->action_loadCoverArt, &QAction::triggered, controller_.get(),
             &VelmoraController::loadCoverArt);
+    connectCoverCommands();
+    // The command only shows the key: it is the button's, which also settles the changes.
+    auto* const saveKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), window_.get());
+    connect(saveKey, &QShortcut::activated, form_, &TagForm::clickSave);
     connect(ui_->action_close, &QAction::triggered, window_.get(), &QWidget::close);
     connect(ui_->action_quit, &QAction::triggered, &termination_, &ApplicationTermination::terminate);
     for (const auto& [action, column] :

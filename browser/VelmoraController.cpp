@@ -111,6 +111,7 @@ MediaTable& VelmoraController::table() {
 /** The form and the list say which file is open, if one is. */
 void VelmoraController::tellOpenFile() {
     form_.tellOpenFile();
+    emit document_.openFileChanged();
     if (!document_.mediaFile()) {
         table().showNoneAsOpen();
     }
@@ -237,6 +238,36 @@ void VelmoraController::copyPlaceSelected(int returnCode, const QStringList& pat
         fillUI();
         table().showAsOpen(copy);
     }
+}
+
+void VelmoraController::deleteCover() {
+    if (!document_.mediaFile()) {
+        return;
+    }
+    form_.deleteCover();
+    if (!document_.portableTags()) {
+        notices_.coverDeleted();
+    }
+}
+
+void VelmoraController::deleteAllTags() {
+    const MediaFile* const file = document_.mediaFile();
+    if (!file) {
+        return;
+    }
+    question_ = std::make_unique<Alert>();
+    question_->setMessageText(
+        localised("Do you want to delete all tags from \"%@\"?", lastPathComponent(file->path())));
+    question_->setInformativeText(localised("What other programs read goes, too, and so do the changes that "
+                                            "you have made here. This can't be undone."));
+    question_->addButton(localised("Delete All Tags"), Qt::CTRL | Qt::Key_D);
+    question_->addButton(localised("Cancel"), Qt::Key_Escape);
+    question_->beginSheetModalForWindow(document_.windowForSheet(), [this, path = file->path()](int answer) {
+        const MediaFile* const open = document_.mediaFile();
+        if (answer == Alert::firstButtonReturn && open && open->path() == path) {
+            document_.deleteAllTags(false);
+        }
+    });
 }
 
 void VelmoraController::addFile() {

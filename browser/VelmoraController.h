@@ -4,9 +4,12 @@
 #include "media_search.h"
 #include "portable_notices.h"
 
+#include "platform/alert.h"
 #include "platform/error.h"
 
 #include <QObject>
+
+#include <memory>
 
 namespace velmora {
 
@@ -46,6 +49,11 @@ public:
     /** Asks for a place, and saves the open file there with its changes. The copy is listed and opened. */
     void saveCopy();
     void copyPlaceSelected(int returnCode, const QStringList& paths);
+
+    /** Takes the open file's cover away. A save in place leaves it in the file, and the user is told. */
+    void deleteCover();
+    /** Asks, and deletes every tag of the open file, those of other programs included. */
+    void deleteAllTags();
 
     void addFile();
     void addFileSelected(int returnCode, const QStringList& paths);
@@ -97,6 +105,7 @@ private:
     TagForm& form_;
     MediaDocument& document_;
     MediaSearch search_;
+    std::unique_ptr<Alert> question_; ///< the last one, maybe still on the screen
     PortableNotices notices_;
     FormNotices formNotices_;
 };

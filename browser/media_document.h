@@ -43,6 +43,12 @@ public:
         static_cast<void>(path);
         return false;
     }
+    /** Deletes every tag of the open file, with its changes, and opens it again. False when that failed, and then the
+       changes are still there; false also when no file is open. BREAK_LINKS: see portableRemoval. */
+    virtual bool deleteAllTags(bool breakLinks) {
+        static_cast<void>(breakLinks);
+        return false;
+    }
     /** Whether there are edits of a file that could not be saved before another one took its place. They are kept
        until the program ends. */
     [[nodiscard]] virtual bool hasUnsavedEdits() const { return false; }
@@ -61,6 +67,8 @@ signals:
     void portableTagsChanged(bool portable);
     /** The open file was opened again. */
     void openedAgain();
+    /** The form shows another file, or none. */
+    void openFileChanged();
     /** There are unsaved edits of closed files, or none any more. */
     void hasUnsavedEditsChanged(bool hasSome);
     /** The edits of the file at PATH were kept: it is closed, and could not be saved because of REASON, one sentence

@@ -24,6 +24,7 @@ QLabel* newSign(Notice::Kind kind, QWidget& bar) {
         kind == Notice::Kind::Warning ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
     const int side = bar.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &bar);
     auto* const label = new QLabel;
+    label->setAccessibleName(kind == Notice::Kind::Warning ? localised("Warning") : localised("Information"));
     label->setPixmap(bar.style()->standardIcon(sign, nullptr, &bar).pixmap(side, side));
     return label;
 }

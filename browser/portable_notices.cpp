@@ -127,13 +127,40 @@ void PortableNotices::saveEnded(const SaveEnd& end) {
     if (!document_.mediaFile()) {
         return;
     }
-    if (end.portable) {
+    if (end.removal) {
+        removalEnded(end);
+    } else if (end.portable) {
         end.saved ? savedPortably(end) : failedPortably(end);
     } else if (end.saved) {
         savedInPlace();
     } else {
         offer(end.obstacle.remedy, notSaved(end));
     }
+}
+
+void PortableNotices::removalEnded(const SaveEnd& end) {
+    const QString name = shortened(lastPathComponent(end.path));
+    if (end.saved) {
+        bar_.show({Notice::Kind::Information,
+                   localised("All tags of \"%@\" are deleted.", name),
+                   {},
+                   savedIsShown});
+        return;
+    }
+    Notice notice{Notice::Kind::Warning,
+                  together(localised("\"%@\" keeps its tags.", name), asSentence(end.obstacle.reason)),
+                  {},
+                  {}};
+    if (end.portable->end == PortableSaveResult::End::MoreLinks) {
+        notice.actions = {{localised("Replace Anyway"), localised("The other links keep the old contents"),
+                           QStringLiteral("document-save"), [this] { document_.deleteAllTags(true); }}};
+    }
+    bar_.show(notice);
+}
+
+void PortableNotices::coverDeleted() {
+    offer(SaveObstacle::Remedy::PortableTags,
+          localised("The cover is deleted here. A save in place leaves it in the file."));
 }
 
 void PortableNotices::savedInPlace() {

@@ -27,6 +27,8 @@ public:
     void fileClosed();
     /** The open file's edits have come back. */
     void editsRestored();
+    /** The open file's cover was taken away, which a save in place does not write. */
+    void coverDeleted();
     /** A save of the document has ended. */
     void saveEnded(const SaveEnd& end);
 
@@ -40,6 +42,7 @@ private:
     void lookForMore();
     void editsKept(const QString& path, const QString& reason);
     void savedInPlace();
+    void removalEnded(const SaveEnd& end);
     void savedPortably(const SaveEnd& end);
     void failedPortably(const SaveEnd& end);
     /** Offers REMEDY where TEXT says why: a save with portable tags, now or always, or a copy. */

@@ -13,6 +13,7 @@ struct SaveEnd {
     std::optional<PortableSaveResult> portable; ///< nothing: it was saved in place
     QString path;                               ///< of the file
     SaveObstacle obstacle;                      ///< of one that was not saved
+    bool removal = false; ///< not its values were to be written, but all tags to be deleted
 };
 
 } // namespace velmora

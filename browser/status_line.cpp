@@ -41,9 +41,11 @@ StatusLine::StatusLine(QWidget* parent)
 
 void StatusLine::tellSave(const SaveEnd& end) {
     const QString name = lastPathComponent(end.path);
-    const QString text =
-        end.saved ? localised("Saved \"%@\"", name)
-                  : localised("\"%@\" was not saved.", name) + QLatin1Char(' ') + end.obstacle.reason;
+    const QString done =
+        end.removal ? localised("Deleted all tags of \"%@\"", name) : localised("Saved \"%@\"", name);
+    const QString failed =
+        end.removal ? localised("\"%@\" keeps its tags.", name) : localised("\"%@\" was not saved.", name);
+    const QString text = end.saved ? done : failed + QLatin1Char(' ') + end.obstacle.reason;
     say(*save_, withTime(text));
     save_->setToolTip(end.path);
 }

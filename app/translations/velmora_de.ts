@@ -4,6 +4,42 @@
 <context>
     <name>Velmora</name>
     <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Do you want to delete all tags from &quot;%@&quot;?</source>
+        <translation>Möchten Sie alle Tags aus „%@“ löschen?</translation>
+    </message>
+    <message>
+        <source>What other programs read goes, too, and so do the changes that you have made here. This can&#x27;t be undone.</source>
+        <translation>Auch was andere Programme lesen, geht verloren, und ebenso Ihre Änderungen hier. Das lässt sich nicht rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Delete All Tags</source>
+        <translation>Alle Tags löschen</translation>
+    </message>
+    <message>
+        <source>All tags of &quot;%@&quot; are deleted.</source>
+        <translation>Alle Tags von „%@“ sind gelöscht.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; keeps its tags.</source>
+        <translation>„%@“ behält seine Tags.</translation>
+    </message>
+    <message>
+        <source>The cover is deleted here. A save in place leaves it in the file.</source>
+        <translation>Das Titelbild ist hier gelöscht. Ein Speichern an Ort und Stelle lässt es in der Datei.</translation>
+    </message>
+    <message>
+        <source>Deleted all tags of &quot;%@&quot;</source>
+        <translation>Alle Tags von „%@“ gelöscht</translation>
+    </message>
+    <message>
         <source>This is no number, and is stored as no year</source>
         <translation>Das ist keine Zahl und gilt als kein Jahr</translation>
     </message>
@@ -1122,6 +1158,38 @@
 <context>
     <name>MyDocument</name>
     <message>
+        <source>&amp;Paste and Store Cover</source>
+        <translation>Titelbild ein&amp;fügen und übernehmen</translation>
+    </message>
+    <message>
+        <source>Make the image that was copied the cover, which a save writes</source>
+        <translation>Das kopierte Bild zum Titelbild machen, das ein Speichern schreibt</translation>
+    </message>
+    <message>
+        <source>&amp;Trim Border</source>
+        <translation>&amp;Rand abschneiden</translation>
+    </message>
+    <message>
+        <source>Trim a border of one colour off the cover art</source>
+        <translation>Einen einfarbigen Rand vom Titelbild abschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Cover</source>
+        <translation>Titelbild l&amp;öschen</translation>
+    </message>
+    <message>
+        <source>Take the cover away, which a save with portable tags writes</source>
+        <translation>Das Titelbild wegnehmen, was ein Speichern mit portablen Tags schreibt</translation>
+    </message>
+    <message>
+        <source>Delete &amp;All Tags from File…</source>
+        <translation>&amp;Alle Tags aus der Datei löschen …</translation>
+    </message>
+    <message>
+        <source>Delete every tag of the file, for all programs</source>
+        <translation>Alle Tags der Datei löschen, für alle Programme</translation>
+    </message>
+    <message>
         <source>&amp;Add Files…</source>
         <translation>Dateien hinz&amp;ufügen …</translation>
     </message>
@@ -1396,8 +1464,8 @@
         <translation>&amp;Speichern</translation>
     </message>
     <message>
-        <source>Write the changes into the file</source>
-        <translation>Die Änderungen in die Datei schreiben</translation>
+        <source>Write the changes into the file (Ctrl+S)</source>
+        <translation>Die Änderungen in die Datei schreiben (Strg+S)</translation>
     </message>
     <message>
         <source>for information only</source>

@@ -4,6 +4,186 @@
 <context>
     <name>Velmora</name>
     <message>
+        <source>&quot;%@&quot; keeps its tags.</source>
+        <translation>«%@» conserva sus etiquetas.</translation>
+    </message>
+    <message>
+        <source>%@ (not there)</source>
+        <translation>%@ (no existe)</translation>
+    </message>
+    <message>
+        <source>A copy needs another name or another folder</source>
+        <translation>Una copia necesita otro nombre u otra carpeta</translation>
+    </message>
+    <message>
+        <source>All tags of &quot;%@&quot; are deleted.</source>
+        <translation>Se han eliminado todas las etiquetas de «%@».</translation>
+    </message>
+    <message>
+        <source>Choose another place, and save the file there with the changes</source>
+        <translation>Elegir otro lugar y guardar allí el archivo con los cambios</translation>
+    </message>
+    <message>
+        <source>Delete All Tags</source>
+        <translation>Eliminar todas las etiquetas</translation>
+    </message>
+    <message>
+        <source>Deleted all tags of &quot;%@&quot;</source>
+        <translation>Etiquetas de «%@» eliminadas</translation>
+    </message>
+    <message>
+        <source>Do you want to delete all tags from &quot;%@&quot;?</source>
+        <translation>¿Quiere eliminar todas las etiquetas de «%@»?</translation>
+    </message>
+    <message>
+        <source>Files found: %@</source>
+        <translation>Archivos encontrados: %@</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>It consists of several RIFF chunks, which a save in place can&#x27;t change</source>
+        <translation>Consta de varios bloques RIFF, que no se pueden cambiar en el sitio</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>Está vacío</translation>
+    </message>
+    <message>
+        <source>It is not there any more</source>
+        <translation>Ya no existe</translation>
+    </message>
+    <message>
+        <source>It lies on a disk that can only be read</source>
+        <translation>Está en un disco de solo lectura</translation>
+    </message>
+    <message>
+        <source>It would become too large</source>
+        <translation>Se haría demasiado grande</translation>
+    </message>
+    <message>
+        <source>Its header can&#x27;t be read</source>
+        <translation>No se puede leer su cabecera</translation>
+    </message>
+    <message>
+        <source>Its tag can&#x27;t be written</source>
+        <translation>No se puede escribir su etiqueta</translation>
+    </message>
+    <message>
+        <source>Looked in:</source>
+        <translation>Se ha buscado en:</translation>
+    </message>
+    <message>
+        <source>No file is open</source>
+        <translation>Ningún archivo abierto</translation>
+    </message>
+    <message>
+        <source>No file is open: what is typed here goes nowhere</source>
+        <translation>Ningún archivo abierto: lo que se escriba aquí se pierde</translation>
+    </message>
+    <message>
+        <source>No space is left on its disk</source>
+        <translation>No queda espacio en su disco</translation>
+    </message>
+    <message>
+        <source>Not stored in files of this kind</source>
+        <translation>No se guarda en archivos de este tipo</translation>
+    </message>
+    <message>
+        <source>Save as a Copy</source>
+        <translation>Guardar una copia</translation>
+    </message>
+    <message>
+        <source>Save as a Copy…</source>
+        <translation>Guardar una copia…</translation>
+    </message>
+    <message>
+        <source>Saved &quot;%@&quot;</source>
+        <translation>«%@» guardado</translation>
+    </message>
+    <message>
+        <source>Store Cover</source>
+        <translation>Adoptar la carátula</translation>
+    </message>
+    <message>
+        <source>Store Filled Fields</source>
+        <translation>Adoptar los campos rellenados</translation>
+    </message>
+    <message>
+        <source>Take all filled fields for changes, which a save writes</source>
+        <translation>Tomar todos los campos rellenados como cambios, que se escriben al guardar</translation>
+    </message>
+    <message>
+        <source>Take the cover for a change, which a save writes</source>
+        <translation>Tomar la carátula como cambio, que se escribe al guardar</translation>
+    </message>
+    <message>
+        <source>The cover is cut from the form only, and stays in the file.</source>
+        <translation>La carátula solo se ha cortado del formulario y sigue en el archivo.</translation>
+    </message>
+    <message>
+        <source>The cover is deleted here. A save in place leaves it in the file.</source>
+        <translation>La carátula se ha eliminado aquí. Al guardar en el sitio se queda en el archivo.</translation>
+    </message>
+    <message>
+        <source>The cover was taken from folder.jpg, which counts as a change: a save writes it into the file.</source>
+        <translation>La carátula viene de folder.jpg, lo que cuenta como cambio: al guardar se escribe en el archivo.</translation>
+    </message>
+    <message>
+        <source>The filled fields count as changes now: a save writes them.</source>
+        <translation>Los campos rellenados cuentan ahora como cambios: al guardar se escriben.</translation>
+    </message>
+    <message>
+        <source>The pasted cover is shown only: a save does not write it.</source>
+        <translation>La carátula pegada solo se muestra: al guardar no se escribe.</translation>
+    </message>
+    <message>
+        <source>There is no file for its tag yet, and a save in place makes none</source>
+        <translation>Aún no hay archivo para su etiqueta, y al guardar en el sitio no se crea</translation>
+    </message>
+    <message>
+        <source>This is no number, and is stored as no year</source>
+        <translation>No es un número: no se guarda ningún año</translation>
+    </message>
+    <message>
+        <source>Too little media lies behind its header for the header to grow or shrink</source>
+        <translation>Hay muy pocos datos tras su cabecera para que esta cambie de tamaño</translation>
+    </message>
+    <message>
+        <source>What other programs read goes, too, and so do the changes that you have made here. This can&#x27;t be undone.</source>
+        <translation>También se pierde lo que leen otros programas, así como los cambios hechos aquí. No se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>What the last save did</source>
+        <translation>Qué hizo el último guardado</translation>
+    </message>
+    <message>
+        <source>What the last search found</source>
+        <translation>Qué encontró la última búsqueda</translation>
+    </message>
+    <message>
+        <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
+        <translation>Lo rellenado desde la web aún no se guarda: al guardar solo se escriben los campos tecleados.</translation>
+    </message>
+    <message>
+        <source>You have no permission to write to it</source>
+        <translation>No tiene permiso para escribir en él</translation>
+    </message>
+    <message>
+        <source>folders that could not be read: %@</source>
+        <translation>carpetas que no se pudieron leer: %@</translation>
+    </message>
+    <message>
+        <source>open in the form</source>
+        <translation>abierto en el formulario</translation>
+    </message>
+    <message>
         <source>Unable to open file &quot;%@&quot;.</source>
         <translation>No se puede abrir el archivo «%@».</translation>
     </message>
@@ -978,6 +1158,38 @@
 <context>
     <name>MyDocument</name>
     <message>
+        <source>&amp;Paste and Store Cover</source>
+        <translation>&amp;Pegar y adoptar la carátula</translation>
+    </message>
+    <message>
+        <source>Make the image that was copied the cover, which a save writes</source>
+        <translation>Hacer de la imagen copiada la carátula, que se escribe al guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Trim Border</source>
+        <translation>Recortar el b&amp;orde</translation>
+    </message>
+    <message>
+        <source>Trim a border of one colour off the cover art</source>
+        <translation>Recortar de la carátula un borde de un solo color</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Cover</source>
+        <translation>E&amp;liminar la carátula</translation>
+    </message>
+    <message>
+        <source>Take the cover away, which a save with portable tags writes</source>
+        <translation>Quitar la carátula, lo que se escribe al guardar con etiquetas portátiles</translation>
+    </message>
+    <message>
+        <source>Delete &amp;All Tags from File…</source>
+        <translation>Eliminar &amp;todas las etiquetas del archivo…</translation>
+    </message>
+    <message>
+        <source>Delete every tag of the file, for all programs</source>
+        <translation>Eliminar todas las etiquetas del archivo, para todos los programas</translation>
+    </message>
+    <message>
         <source>&amp;Add Files…</source>
         <translation>&amp;Añadir archivos…</translation>
     </message>
@@ -1252,8 +1464,8 @@
         <translation>&amp;Guardar</translation>
     </message>
     <message>
-        <source>Write the changes into the file</source>
-        <translation>Escribir los cambios en el archivo</translation>
+        <source>Write the changes into the file (Ctrl+S)</source>
+        <translation>Escribir los cambios en el archivo (Ctrl+S)</translation>
     </message>
     <message>
         <source>for information only</source>

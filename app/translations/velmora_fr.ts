@@ -4,6 +4,186 @@
 <context>
     <name>Velmora</name>
     <message>
+        <source>&quot;%@&quot; keeps its tags.</source>
+        <translation>« %@ » garde ses tags.</translation>
+    </message>
+    <message>
+        <source>%@ (not there)</source>
+        <translation>%@ (absent)</translation>
+    </message>
+    <message>
+        <source>A copy needs another name or another folder</source>
+        <translation>Une copie doit avoir un autre nom ou un autre dossier</translation>
+    </message>
+    <message>
+        <source>All tags of &quot;%@&quot; are deleted.</source>
+        <translation>Tous les tags de « %@ » sont supprimés.</translation>
+    </message>
+    <message>
+        <source>Choose another place, and save the file there with the changes</source>
+        <translation>Choisir un autre endroit et y enregistrer le fichier avec les modifications</translation>
+    </message>
+    <message>
+        <source>Delete All Tags</source>
+        <translation>Supprimer tous les tags</translation>
+    </message>
+    <message>
+        <source>Deleted all tags of &quot;%@&quot;</source>
+        <translation>Tous les tags de « %@ » supprimés</translation>
+    </message>
+    <message>
+        <source>Do you want to delete all tags from &quot;%@&quot;?</source>
+        <translation>Voulez-vous supprimer tous les tags de « %@ » ?</translation>
+    </message>
+    <message>
+        <source>Files found: %@</source>
+        <translation>Fichiers trouvés : %@</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>It consists of several RIFF chunks, which a save in place can&#x27;t change</source>
+        <translation>Il est fait de plusieurs blocs RIFF, qu’un enregistrement sur place ne peut pas modifier</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>Il est vide</translation>
+    </message>
+    <message>
+        <source>It is not there any more</source>
+        <translation>Il n’est plus là</translation>
+    </message>
+    <message>
+        <source>It lies on a disk that can only be read</source>
+        <translation>Il se trouve sur un disque en lecture seule</translation>
+    </message>
+    <message>
+        <source>It would become too large</source>
+        <translation>Il deviendrait trop grand</translation>
+    </message>
+    <message>
+        <source>Its header can&#x27;t be read</source>
+        <translation>Son en-tête est illisible</translation>
+    </message>
+    <message>
+        <source>Its tag can&#x27;t be written</source>
+        <translation>Son tag ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>Looked in:</source>
+        <translation>Recherché dans :</translation>
+    </message>
+    <message>
+        <source>No file is open</source>
+        <translation>Aucun fichier ouvert</translation>
+    </message>
+    <message>
+        <source>No file is open: what is typed here goes nowhere</source>
+        <translation>Aucun fichier ouvert : ce qui est saisi ici est perdu</translation>
+    </message>
+    <message>
+        <source>No space is left on its disk</source>
+        <translation>Il n’y a plus de place sur son disque</translation>
+    </message>
+    <message>
+        <source>Not stored in files of this kind</source>
+        <translation>N’est pas enregistré dans ce type de fichier</translation>
+    </message>
+    <message>
+        <source>Save as a Copy</source>
+        <translation>Enregistrer une copie</translation>
+    </message>
+    <message>
+        <source>Save as a Copy…</source>
+        <translation>Enregistrer une copie…</translation>
+    </message>
+    <message>
+        <source>Saved &quot;%@&quot;</source>
+        <translation>« %@ » enregistré</translation>
+    </message>
+    <message>
+        <source>Store Cover</source>
+        <translation>Garder la jaquette</translation>
+    </message>
+    <message>
+        <source>Store Filled Fields</source>
+        <translation>Garder les champs remplis</translation>
+    </message>
+    <message>
+        <source>Take all filled fields for changes, which a save writes</source>
+        <translation>Faire de tous les champs remplis des modifications, que l’enregistrement écrit</translation>
+    </message>
+    <message>
+        <source>Take the cover for a change, which a save writes</source>
+        <translation>Faire de la jaquette une modification, que l’enregistrement écrit</translation>
+    </message>
+    <message>
+        <source>The cover is cut from the form only, and stays in the file.</source>
+        <translation>La jaquette n’est coupée que du formulaire et reste dans le fichier.</translation>
+    </message>
+    <message>
+        <source>The cover is deleted here. A save in place leaves it in the file.</source>
+        <translation>La jaquette est supprimée ici. Un enregistrement sur place la laisse dans le fichier.</translation>
+    </message>
+    <message>
+        <source>The cover was taken from folder.jpg, which counts as a change: a save writes it into the file.</source>
+        <translation>La jaquette vient de folder.jpg, ce qui compte comme une modification : l’enregistrement l’écrit dans le fichier.</translation>
+    </message>
+    <message>
+        <source>The filled fields count as changes now: a save writes them.</source>
+        <translation>Les champs remplis comptent maintenant comme modifications : l’enregistrement les écrit.</translation>
+    </message>
+    <message>
+        <source>The pasted cover is shown only: a save does not write it.</source>
+        <translation>La jaquette collée est seulement affichée : l’enregistrement ne l’écrit pas.</translation>
+    </message>
+    <message>
+        <source>There is no file for its tag yet, and a save in place makes none</source>
+        <translation>Il n’y a pas encore de fichier pour son tag, et un enregistrement sur place n’en crée pas</translation>
+    </message>
+    <message>
+        <source>This is no number, and is stored as no year</source>
+        <translation>Ce n’est pas un nombre : aucune année n’est enregistrée</translation>
+    </message>
+    <message>
+        <source>Too little media lies behind its header for the header to grow or shrink</source>
+        <translation>Il y a trop peu de données derrière son en-tête pour que celui-ci change de taille</translation>
+    </message>
+    <message>
+        <source>What other programs read goes, too, and so do the changes that you have made here. This can&#x27;t be undone.</source>
+        <translation>Ce que lisent d’autres programmes disparaît aussi, tout comme vos modifications ici. C’est irréversible.</translation>
+    </message>
+    <message>
+        <source>What the last save did</source>
+        <translation>Ce qu’a fait le dernier enregistrement</translation>
+    </message>
+    <message>
+        <source>What the last search found</source>
+        <translation>Ce qu’a trouvé la dernière recherche</translation>
+    </message>
+    <message>
+        <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
+        <translation>Ce qui a été rempli depuis le Web n’est pas encore retenu : seuls les champs saisis sont enregistrés.</translation>
+    </message>
+    <message>
+        <source>You have no permission to write to it</source>
+        <translation>Vous n’avez pas le droit d’y écrire</translation>
+    </message>
+    <message>
+        <source>folders that could not be read: %@</source>
+        <translation>dossiers illisibles : %@</translation>
+    </message>
+    <message>
+        <source>open in the form</source>
+        <translation>ouvert dans le formulaire</translation>
+    </message>
+    <message>
         <source>Unable to open file &quot;%@&quot;.</source>
         <translation>Impossible d’ouvrir le fichier « %@ ».</translation>
     </message>
@@ -978,6 +1158,38 @@
 <context>
     <name>MyDocument</name>
     <message>
+        <source>&amp;Paste and Store Cover</source>
+        <translation>Coller et &amp;garder la jaquette</translation>
+    </message>
+    <message>
+        <source>Make the image that was copied the cover, which a save writes</source>
+        <translation>Faire de l’image copiée la jaquette, que l’enregistrement écrit</translation>
+    </message>
+    <message>
+        <source>&amp;Trim Border</source>
+        <translation>R&amp;ogner le bord</translation>
+    </message>
+    <message>
+        <source>Trim a border of one colour off the cover art</source>
+        <translation>Rogner un bord d’une seule couleur de la jaquette</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Cover</source>
+        <translation>&amp;Supprimer la jaquette</translation>
+    </message>
+    <message>
+        <source>Take the cover away, which a save with portable tags writes</source>
+        <translation>Retirer la jaquette, ce qu’écrit un enregistrement avec des tags portables</translation>
+    </message>
+    <message>
+        <source>Delete &amp;All Tags from File…</source>
+        <translation>Supprimer &amp;tous les tags du fichier…</translation>
+    </message>
+    <message>
+        <source>Delete every tag of the file, for all programs</source>
+        <translation>Supprimer tous les tags du fichier, pour tous les programmes</translation>
+    </message>
+    <message>
         <source>&amp;Add Files…</source>
         <translation>&amp;Ajouter des fichiers…</translation>
     </message>
@@ -1252,8 +1464,8 @@
         <translation>&amp;Enregistrer</translation>
     </message>
     <message>
-        <source>Write the changes into the file</source>
-        <translation>Écrire les modifications dans le fichier</translation>
+        <source>Write the changes into the file (Ctrl+S)</source>
+        <translation>Écrire les modifications dans le fichier (Ctrl+S)</translation>
     </message>
     <message>
         <source>for information only</source>

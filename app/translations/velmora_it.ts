@@ -4,6 +4,186 @@
 <context>
     <name>Velmora</name>
     <message>
+        <source>&quot;%@&quot; keeps its tags.</source>
+        <translation>“%@” conserva i suoi tag.</translation>
+    </message>
+    <message>
+        <source>%@ (not there)</source>
+        <translation>%@ (non esiste)</translation>
+    </message>
+    <message>
+        <source>A copy needs another name or another folder</source>
+        <translation>Una copia richiede un altro nome o un’altra cartella</translation>
+    </message>
+    <message>
+        <source>All tags of &quot;%@&quot; are deleted.</source>
+        <translation>Tutti i tag di “%@” sono eliminati.</translation>
+    </message>
+    <message>
+        <source>Choose another place, and save the file there with the changes</source>
+        <translation>Scegli un altro posto e salva lì il file con le modifiche</translation>
+    </message>
+    <message>
+        <source>Delete All Tags</source>
+        <translation>Elimina tutti i tag</translation>
+    </message>
+    <message>
+        <source>Deleted all tags of &quot;%@&quot;</source>
+        <translation>Eliminati tutti i tag di “%@”</translation>
+    </message>
+    <message>
+        <source>Do you want to delete all tags from &quot;%@&quot;?</source>
+        <translation>Eliminare tutti i tag da “%@”?</translation>
+    </message>
+    <message>
+        <source>Files found: %@</source>
+        <translation>File trovati: %@</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informazione</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>It consists of several RIFF chunks, which a save in place can&#x27;t change</source>
+        <translation>È fatto di più blocchi RIFF, che un salvataggio sul posto non può cambiare</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>È vuoto</translation>
+    </message>
+    <message>
+        <source>It is not there any more</source>
+        <translation>Non c’è più</translation>
+    </message>
+    <message>
+        <source>It lies on a disk that can only be read</source>
+        <translation>Si trova su un disco di sola lettura</translation>
+    </message>
+    <message>
+        <source>It would become too large</source>
+        <translation>Diventerebbe troppo grande</translation>
+    </message>
+    <message>
+        <source>Its header can&#x27;t be read</source>
+        <translation>La sua intestazione non può essere letta</translation>
+    </message>
+    <message>
+        <source>Its tag can&#x27;t be written</source>
+        <translation>Il suo tag non può essere scritto</translation>
+    </message>
+    <message>
+        <source>Looked in:</source>
+        <translation>Cercato in:</translation>
+    </message>
+    <message>
+        <source>No file is open</source>
+        <translation>Nessun file aperto</translation>
+    </message>
+    <message>
+        <source>No file is open: what is typed here goes nowhere</source>
+        <translation>Nessun file aperto: ciò che si scrive qui va perso</translation>
+    </message>
+    <message>
+        <source>No space is left on its disk</source>
+        <translation>Non c’è più spazio sul suo disco</translation>
+    </message>
+    <message>
+        <source>Not stored in files of this kind</source>
+        <translation>Non si salva in file di questo tipo</translation>
+    </message>
+    <message>
+        <source>Save as a Copy</source>
+        <translation>Salva una copia</translation>
+    </message>
+    <message>
+        <source>Save as a Copy…</source>
+        <translation>Salva una copia…</translation>
+    </message>
+    <message>
+        <source>Saved &quot;%@&quot;</source>
+        <translation>“%@” salvato</translation>
+    </message>
+    <message>
+        <source>Store Cover</source>
+        <translation>Adotta la copertina</translation>
+    </message>
+    <message>
+        <source>Store Filled Fields</source>
+        <translation>Adotta i campi compilati</translation>
+    </message>
+    <message>
+        <source>Take all filled fields for changes, which a save writes</source>
+        <translation>Prende tutti i campi compilati come modifiche, che il salvataggio scrive</translation>
+    </message>
+    <message>
+        <source>Take the cover for a change, which a save writes</source>
+        <translation>Prende la copertina come modifica, che il salvataggio scrive</translation>
+    </message>
+    <message>
+        <source>The cover is cut from the form only, and stays in the file.</source>
+        <translation>La copertina è tagliata solo dal modulo e resta nel file.</translation>
+    </message>
+    <message>
+        <source>The cover is deleted here. A save in place leaves it in the file.</source>
+        <translation>La copertina è eliminata qui. Un salvataggio sul posto la lascia nel file.</translation>
+    </message>
+    <message>
+        <source>The cover was taken from folder.jpg, which counts as a change: a save writes it into the file.</source>
+        <translation>La copertina viene da folder.jpg, il che conta come modifica: il salvataggio la scrive nel file.</translation>
+    </message>
+    <message>
+        <source>The filled fields count as changes now: a save writes them.</source>
+        <translation>I campi compilati contano ora come modifiche: il salvataggio li scrive.</translation>
+    </message>
+    <message>
+        <source>The pasted cover is shown only: a save does not write it.</source>
+        <translation>La copertina incollata è solo mostrata: il salvataggio non la scrive.</translation>
+    </message>
+    <message>
+        <source>There is no file for its tag yet, and a save in place makes none</source>
+        <translation>Non c’è ancora un file per il suo tag, e un salvataggio sul posto non lo crea</translation>
+    </message>
+    <message>
+        <source>This is no number, and is stored as no year</source>
+        <translation>Non è un numero: non si salva alcun anno</translation>
+    </message>
+    <message>
+        <source>Too little media lies behind its header for the header to grow or shrink</source>
+        <translation>Dietro la sua intestazione ci sono troppo pochi dati perché questa cambi dimensione</translation>
+    </message>
+    <message>
+        <source>What other programs read goes, too, and so do the changes that you have made here. This can&#x27;t be undone.</source>
+        <translation>Va perso anche ciò che leggono altri programmi, come pure le modifiche fatte qui. Non si può annullare.</translation>
+    </message>
+    <message>
+        <source>What the last save did</source>
+        <translation>Che cosa ha fatto l’ultimo salvataggio</translation>
+    </message>
+    <message>
+        <source>What the last search found</source>
+        <translation>Che cosa ha trovato l’ultima ricerca</translation>
+    </message>
+    <message>
+        <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
+        <translation>Ciò che è stato compilato dal web non è ancora salvato: si scrivono solo i campi digitati.</translation>
+    </message>
+    <message>
+        <source>You have no permission to write to it</source>
+        <translation>Non si ha il permesso di scriverci</translation>
+    </message>
+    <message>
+        <source>folders that could not be read: %@</source>
+        <translation>cartelle non leggibili: %@</translation>
+    </message>
+    <message>
+        <source>open in the form</source>
+        <translation>aperto nel modulo</translation>
+    </message>
+    <message>
         <source>Unable to open file &quot;%@&quot;.</source>
         <translation>Impossibile aprire il file “%@”.</translation>
     </message>
@@ -978,6 +1158,38 @@
 <context>
     <name>MyDocument</name>
     <message>
+        <source>&amp;Paste and Store Cover</source>
+        <translation>&amp;Incolla e adotta la copertina</translation>
+    </message>
+    <message>
+        <source>Make the image that was copied the cover, which a save writes</source>
+        <translation>Fa dell’immagine copiata la copertina, che il salvataggio scrive</translation>
+    </message>
+    <message>
+        <source>&amp;Trim Border</source>
+        <translation>Rita&amp;glia il bordo</translation>
+    </message>
+    <message>
+        <source>Trim a border of one colour off the cover art</source>
+        <translation>Ritaglia dalla copertina un bordo di un solo colore</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Cover</source>
+        <translation>&amp;Elimina la copertina</translation>
+    </message>
+    <message>
+        <source>Take the cover away, which a save with portable tags writes</source>
+        <translation>Toglie la copertina, cosa che scrive un salvataggio con tag portabili</translation>
+    </message>
+    <message>
+        <source>Delete &amp;All Tags from File…</source>
+        <translation>Elimina t&amp;utti i tag dal file…</translation>
+    </message>
+    <message>
+        <source>Delete every tag of the file, for all programs</source>
+        <translation>Elimina ogni tag del file, per tutti i programmi</translation>
+    </message>
+    <message>
         <source>&amp;Add Files…</source>
         <translation>Aggiungi &amp;file…</translation>
     </message>
@@ -1252,8 +1464,8 @@
         <translation>Sal&amp;va</translation>
     </message>
     <message>
-        <source>Write the changes into the file</source>
-        <translation>Scrivi le modifiche nel file</translation>
+        <source>Write the changes into the file (Ctrl+S)</source>
+        <translation>Scrivi le modifiche nel file (Ctrl+S)</translation>
     </message>
     <message>
         <source>for information only</source>

@@ -4,6 +4,186 @@
 <context>
     <name>Velmora</name>
     <message>
+        <source>&quot;%@&quot; keeps its tags.</source>
+        <translation>「%@」のタグはそのままです。</translation>
+    </message>
+    <message>
+        <source>%@ (not there)</source>
+        <translation>%@（存在しません）</translation>
+    </message>
+    <message>
+        <source>A copy needs another name or another folder</source>
+        <translation>コピーには別の名前か別のフォルダーが必要です</translation>
+    </message>
+    <message>
+        <source>All tags of &quot;%@&quot; are deleted.</source>
+        <translation>「%@」のタグをすべて削除しました。</translation>
+    </message>
+    <message>
+        <source>Choose another place, and save the file there with the changes</source>
+        <translation>別の場所を選び、変更を加えたファイルをそこに保存します</translation>
+    </message>
+    <message>
+        <source>Delete All Tags</source>
+        <translation>タグをすべて削除</translation>
+    </message>
+    <message>
+        <source>Deleted all tags of &quot;%@&quot;</source>
+        <translation>「%@」のタグをすべて削除しました</translation>
+    </message>
+    <message>
+        <source>Do you want to delete all tags from &quot;%@&quot;?</source>
+        <translation>「%@」のタグをすべて削除しますか？</translation>
+    </message>
+    <message>
+        <source>Files found: %@</source>
+        <translation>見つかったファイル: %@</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>It consists of several RIFF chunks, which a save in place can&#x27;t change</source>
+        <translation>複数の RIFF チャンクからなり、その場での保存では変更できません</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>ファイルが空です</translation>
+    </message>
+    <message>
+        <source>It is not there any more</source>
+        <translation>ファイルはもうありません</translation>
+    </message>
+    <message>
+        <source>It lies on a disk that can only be read</source>
+        <translation>読み取り専用のディスクにあります</translation>
+    </message>
+    <message>
+        <source>It would become too large</source>
+        <translation>大きくなりすぎます</translation>
+    </message>
+    <message>
+        <source>Its header can&#x27;t be read</source>
+        <translation>ヘッダーを読み取れません</translation>
+    </message>
+    <message>
+        <source>Its tag can&#x27;t be written</source>
+        <translation>タグを書き込めません</translation>
+    </message>
+    <message>
+        <source>Looked in:</source>
+        <translation>検索した場所:</translation>
+    </message>
+    <message>
+        <source>No file is open</source>
+        <translation>ファイルが開かれていません</translation>
+    </message>
+    <message>
+        <source>No file is open: what is typed here goes nowhere</source>
+        <translation>ファイルが開かれていないため、ここに入力しても保存されません</translation>
+    </message>
+    <message>
+        <source>No space is left on its disk</source>
+        <translation>ディスクに空きがありません</translation>
+    </message>
+    <message>
+        <source>Not stored in files of this kind</source>
+        <translation>この種類のファイルには保存されません</translation>
+    </message>
+    <message>
+        <source>Save as a Copy</source>
+        <translation>コピーとして保存</translation>
+    </message>
+    <message>
+        <source>Save as a Copy…</source>
+        <translation>コピーとして保存…</translation>
+    </message>
+    <message>
+        <source>Saved &quot;%@&quot;</source>
+        <translation>「%@」を保存しました</translation>
+    </message>
+    <message>
+        <source>Store Cover</source>
+        <translation>カバーを採用</translation>
+    </message>
+    <message>
+        <source>Store Filled Fields</source>
+        <translation>入力された項目を採用</translation>
+    </message>
+    <message>
+        <source>Take all filled fields for changes, which a save writes</source>
+        <translation>入力された項目をすべて変更とみなし、保存時に書き込みます</translation>
+    </message>
+    <message>
+        <source>Take the cover for a change, which a save writes</source>
+        <translation>カバーを変更とみなし、保存時に書き込みます</translation>
+    </message>
+    <message>
+        <source>The cover is cut from the form only, and stays in the file.</source>
+        <translation>カバーはフォームから切り取られただけで、ファイルには残っています。</translation>
+    </message>
+    <message>
+        <source>The cover is deleted here. A save in place leaves it in the file.</source>
+        <translation>カバーはここでは削除されました。その場で保存するとファイルに残ります。</translation>
+    </message>
+    <message>
+        <source>The cover was taken from folder.jpg, which counts as a change: a save writes it into the file.</source>
+        <translation>カバーは folder.jpg から取り込まれ、変更とみなされます。保存するとファイルに書き込まれます。</translation>
+    </message>
+    <message>
+        <source>The filled fields count as changes now: a save writes them.</source>
+        <translation>入力された項目は変更とみなされ、保存すると書き込まれます。</translation>
+    </message>
+    <message>
+        <source>The pasted cover is shown only: a save does not write it.</source>
+        <translation>貼り付けたカバーは表示されるだけで、保存しても書き込まれません。</translation>
+    </message>
+    <message>
+        <source>There is no file for its tag yet, and a save in place makes none</source>
+        <translation>タグ用のファイルがまだなく、その場での保存では作られません</translation>
+    </message>
+    <message>
+        <source>This is no number, and is stored as no year</source>
+        <translation>数字ではないため、年なしとして保存されます</translation>
+    </message>
+    <message>
+        <source>Too little media lies behind its header for the header to grow or shrink</source>
+        <translation>ヘッダーの後ろのデータが少なすぎ、ヘッダーの大きさを変えられません</translation>
+    </message>
+    <message>
+        <source>What other programs read goes, too, and so do the changes that you have made here. This can&#x27;t be undone.</source>
+        <translation>ほかのプログラムが読む内容も、ここでの変更も失われます。元に戻せません。</translation>
+    </message>
+    <message>
+        <source>What the last save did</source>
+        <translation>最後の保存の結果</translation>
+    </message>
+    <message>
+        <source>What the last search found</source>
+        <translation>最後の検索の結果</translation>
+    </message>
+    <message>
+        <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
+        <translation>ウェブから入力された内容はまだ保存されません。保存されるのは手で入力した項目だけです。</translation>
+    </message>
+    <message>
+        <source>You have no permission to write to it</source>
+        <translation>書き込む権限がありません</translation>
+    </message>
+    <message>
+        <source>folders that could not be read: %@</source>
+        <translation>読み取れなかったフォルダー: %@</translation>
+    </message>
+    <message>
+        <source>open in the form</source>
+        <translation>フォームで開いています</translation>
+    </message>
+    <message>
         <source>Unable to open file &quot;%@&quot;.</source>
         <translation>ファイル「%@」を開けません。</translation>
     </message>
@@ -977,6 +1157,38 @@
 <context>
     <name>MyDocument</name>
     <message>
+        <source>&amp;Paste and Store Cover</source>
+        <translation>カバーを貼り付けて採用(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Make the image that was copied the cover, which a save writes</source>
+        <translation>コピーした画像をカバーにし、保存時に書き込みます</translation>
+    </message>
+    <message>
+        <source>&amp;Trim Border</source>
+        <translation>余白を切り取る(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Trim a border of one colour off the cover art</source>
+        <translation>カバーアートから単色の余白を切り取ります</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Cover</source>
+        <translation>カバーを削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Take the cover away, which a save with portable tags writes</source>
+        <translation>カバーを取り除きます。ポータブルタグで保存すると書き込まれます</translation>
+    </message>
+    <message>
+        <source>Delete &amp;All Tags from File…</source>
+        <translation>ファイルのタグをすべて削除(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Delete every tag of the file, for all programs</source>
+        <translation>すべてのプログラム向けのタグをファイルから削除します</translation>
+    </message>
+    <message>
         <source>&amp;Add Files…</source>
         <translation>ファイルを追加(&amp;A)…</translation>
     </message>
@@ -1251,8 +1463,8 @@
         <translation>保存(&amp;S)</translation>
     </message>
     <message>
-        <source>Write the changes into the file</source>
-        <translation>変更をファイルに書き込む</translation>
+        <source>Write the changes into the file (Ctrl+S)</source>
+        <translation>変更をファイルに書き込む (Ctrl+S)</translation>
     </message>
     <message>
         <source>for information only</source>

@@ -4,6 +4,186 @@
 <context>
     <name>Velmora</name>
     <message>
+        <source>&quot;%@&quot; keeps its tags.</source>
+        <translation>“%@”的标签保持不变。</translation>
+    </message>
+    <message>
+        <source>%@ (not there)</source>
+        <translation>%@（不存在）</translation>
+    </message>
+    <message>
+        <source>A copy needs another name or another folder</source>
+        <translation>副本需要另一个名称或另一个文件夹</translation>
+    </message>
+    <message>
+        <source>All tags of &quot;%@&quot; are deleted.</source>
+        <translation>“%@”的所有标签已删除。</translation>
+    </message>
+    <message>
+        <source>Choose another place, and save the file there with the changes</source>
+        <translation>选择另一个位置，将带有更改的文件保存到那里</translation>
+    </message>
+    <message>
+        <source>Delete All Tags</source>
+        <translation>删除所有标签</translation>
+    </message>
+    <message>
+        <source>Deleted all tags of &quot;%@&quot;</source>
+        <translation>已删除“%@”的所有标签</translation>
+    </message>
+    <message>
+        <source>Do you want to delete all tags from &quot;%@&quot;?</source>
+        <translation>要删除“%@”的所有标签吗？</translation>
+    </message>
+    <message>
+        <source>Files found: %@</source>
+        <translation>找到的文件：%@</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>It consists of several RIFF chunks, which a save in place can&#x27;t change</source>
+        <translation>它由多个 RIFF 块组成，就地保存无法更改</translation>
+    </message>
+    <message>
+        <source>It is empty</source>
+        <translation>文件是空的</translation>
+    </message>
+    <message>
+        <source>It is not there any more</source>
+        <translation>文件已不存在</translation>
+    </message>
+    <message>
+        <source>It lies on a disk that can only be read</source>
+        <translation>它位于只读磁盘上</translation>
+    </message>
+    <message>
+        <source>It would become too large</source>
+        <translation>它会变得过大</translation>
+    </message>
+    <message>
+        <source>Its header can&#x27;t be read</source>
+        <translation>无法读取其文件头</translation>
+    </message>
+    <message>
+        <source>Its tag can&#x27;t be written</source>
+        <translation>无法写入其标签</translation>
+    </message>
+    <message>
+        <source>Looked in:</source>
+        <translation>搜索过的位置：</translation>
+    </message>
+    <message>
+        <source>No file is open</source>
+        <translation>没有打开的文件</translation>
+    </message>
+    <message>
+        <source>No file is open: what is typed here goes nowhere</source>
+        <translation>没有打开的文件：在此输入的内容不会保存</translation>
+    </message>
+    <message>
+        <source>No space is left on its disk</source>
+        <translation>其磁盘空间不足</translation>
+    </message>
+    <message>
+        <source>Not stored in files of this kind</source>
+        <translation>这类文件不保存此项</translation>
+    </message>
+    <message>
+        <source>Save as a Copy</source>
+        <translation>另存为副本</translation>
+    </message>
+    <message>
+        <source>Save as a Copy…</source>
+        <translation>另存为副本…</translation>
+    </message>
+    <message>
+        <source>Saved &quot;%@&quot;</source>
+        <translation>已保存“%@”</translation>
+    </message>
+    <message>
+        <source>Store Cover</source>
+        <translation>采用封面</translation>
+    </message>
+    <message>
+        <source>Store Filled Fields</source>
+        <translation>采用填入的字段</translation>
+    </message>
+    <message>
+        <source>Take all filled fields for changes, which a save writes</source>
+        <translation>将所有填入的字段视为更改，保存时写入</translation>
+    </message>
+    <message>
+        <source>Take the cover for a change, which a save writes</source>
+        <translation>将封面视为更改，保存时写入</translation>
+    </message>
+    <message>
+        <source>The cover is cut from the form only, and stays in the file.</source>
+        <translation>封面只是从表单中剪切，仍保留在文件中。</translation>
+    </message>
+    <message>
+        <source>The cover is deleted here. A save in place leaves it in the file.</source>
+        <translation>封面已在此处删除。就地保存会将其留在文件中。</translation>
+    </message>
+    <message>
+        <source>The cover was taken from folder.jpg, which counts as a change: a save writes it into the file.</source>
+        <translation>封面取自 folder.jpg，这算作更改：保存时会写入文件。</translation>
+    </message>
+    <message>
+        <source>The filled fields count as changes now: a save writes them.</source>
+        <translation>填入的字段现在算作更改：保存时会写入。</translation>
+    </message>
+    <message>
+        <source>The pasted cover is shown only: a save does not write it.</source>
+        <translation>粘贴的封面仅供显示：保存时不会写入。</translation>
+    </message>
+    <message>
+        <source>There is no file for its tag yet, and a save in place makes none</source>
+        <translation>尚无存放其标签的文件，就地保存也不会创建</translation>
+    </message>
+    <message>
+        <source>This is no number, and is stored as no year</source>
+        <translation>这不是数字，将保存为无年份</translation>
+    </message>
+    <message>
+        <source>Too little media lies behind its header for the header to grow or shrink</source>
+        <translation>文件头之后的媒体数据太少，文件头无法改变大小</translation>
+    </message>
+    <message>
+        <source>What other programs read goes, too, and so do the changes that you have made here. This can&#x27;t be undone.</source>
+        <translation>其他程序读取的内容以及您在此所做的更改也会消失。此操作无法撤销。</translation>
+    </message>
+    <message>
+        <source>What the last save did</source>
+        <translation>上次保存的结果</translation>
+    </message>
+    <message>
+        <source>What the last search found</source>
+        <translation>上次搜索的结果</translation>
+    </message>
+    <message>
+        <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
+        <translation>从网上填入的内容尚未保存：保存时只写入手动输入过的字段。</translation>
+    </message>
+    <message>
+        <source>You have no permission to write to it</source>
+        <translation>您没有写入权限</translation>
+    </message>
+    <message>
+        <source>folders that could not be read: %@</source>
+        <translation>无法读取的文件夹：%@</translation>
+    </message>
+    <message>
+        <source>open in the form</source>
+        <translation>已在表单中打开</translation>
+    </message>
+    <message>
         <source>Unable to open file &quot;%@&quot;.</source>
         <translation>无法打开文件“%@”。</translation>
     </message>
@@ -977,6 +1157,38 @@
 <context>
     <name>MyDocument</name>
     <message>
+        <source>&amp;Paste and Store Cover</source>
+        <translation>粘贴并采用封面(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Make the image that was copied the cover, which a save writes</source>
+        <translation>将复制的图片作为封面，保存时写入</translation>
+    </message>
+    <message>
+        <source>&amp;Trim Border</source>
+        <translation>裁剪边框(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Trim a border of one colour off the cover art</source>
+        <translation>裁去封面上单一颜色的边框</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Cover</source>
+        <translation>删除封面(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Take the cover away, which a save with portable tags writes</source>
+        <translation>移除封面，用可移植标签保存时写入</translation>
+    </message>
+    <message>
+        <source>Delete &amp;All Tags from File…</source>
+        <translation>从文件中删除所有标签(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Delete every tag of the file, for all programs</source>
+        <translation>删除文件的所有标签，对所有程序都有效</translation>
+    </message>
+    <message>
         <source>&amp;Add Files…</source>
         <translation>添加文件(&amp;A)…</translation>
     </message>
@@ -1251,8 +1463,8 @@
         <translation>保存(&amp;S)</translation>
     </message>
     <message>
-        <source>Write the changes into the file</source>
-        <translation>将更改写入文件</translation>
+        <source>Write the changes into the file (Ctrl+S)</source>
+        <translation>将更改写入文件 (Ctrl+S)</translation>
     </message>
     <message>
         <source>for information only</source>

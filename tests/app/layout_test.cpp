@@ -171,7 +171,7 @@ TEST_F(LayoutTest, EveryButtonAndCommandHasASign) {
             EXPECT_TRUE(isDrawn(action->icon())) << action->objectName().toStdString();
         }
     }
-    EXPECT_EQ(20, commands);
+    EXPECT_EQ(24, commands);
 }
 
 class SmallWindowTest : public LayoutTest, public testing::WithParamInterface<QSize> {
