@@ -166,6 +166,9 @@ bool MyDocument::windowShouldClose() {
         saveRun_.cancel();
         return false;
     }
+    if (!libraryMayClose()) {
+        return false;
+    }
     return readFromURL(std::nullopt, QString(), nullptr);
 }
 
@@ -182,6 +185,9 @@ ApplicationDelegate::TerminateReply MyDocument::applicationShouldTerminate() {
     appLog(QStringLiteral("in ast\n"));
     if (saveRun_.isRunning()) {
         saveRun_.cancel();
+        return TerminateReply::Cancel;
+    }
+    if (!libraryMayClose()) {
         return TerminateReply::Cancel;
     }
     const bool now = !mediaFile_ || !isDocumentEdited() || handleDirtySave();

@@ -118,6 +118,16 @@ private:
     void makeLibrary();
     void restoreLayout();
     void tell(bool succeeded, const QString& text);
+    /** Cancels what the library table writes, and asks about its edits. */
+    [[nodiscard]] bool libraryMayClose();
+    /** Whether files at PATHS may be written: asks about changes of the open one, which is open again then. */
+    [[nodiscard]] bool mayWriteFiles(const QStringList& paths);
+    /** The library table has written a file, which was at PATH and is at NEWPATH. */
+    void fileWritten(const QString& path, const QString& newPath);
+    void removeFromList(const QStringList& paths);
+    /** Opens the file at URL in the place of the open one, whose changes are settled. */
+    void reopen(const QUrl& url);
+    [[nodiscard]] QString openPath() const;
 
     ApplicationTermination& termination_;
     std::unique_ptr<MediaFile> mediaFile_;

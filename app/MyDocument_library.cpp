@@ -5,6 +5,10 @@
 #include "browser/VelmoraController.h"
 #include "browser/media_table.h"
 #include "library/library_window.h"
+#include "platform/file_path.h"
+#include "platform/localisation.h"
+
+#include <QMessageBox>
 
 namespace velmora {
 
@@ -18,12 +22,97 @@ void MyDocument::showLibrary() {
 void MyDocument::makeLibrary() {
     library_ = std::make_unique<LibraryWindow>();
     LibraryModel& files = library_->model();
-    const MediaRows& listed = controller_->table().mediaFiles();
+    MediaTable& table = controller_->table();
+    const MediaRows& listed = table.mediaFiles();
     for (std::size_t i = 0; i < listed.count(); ++i) {
         files.addFile(listed.at(i)->fullpath, listed.at(i)->rawfilesize);
     }
-    connect(&controller_->table(), &MediaTable::fileAdded, &files,
+    connect(&table, &MediaTable::fileAdded, &files,
             [&files](const ColdataPointer& row) { files.addFile(row->fullpath, row->rawfilesize); });
+    connect(&table, &MediaTable::fileRemoved, &files, &LibraryModel::removeFile);
+    library_->setMayWrite([this](const QStringList& paths) { return mayWriteFiles(paths); });
+    connect(library_.get(), &LibraryWindow::openRequested, this, [this, &table](const QString& path) {
+        window_->raise();
+        window_->activateWindow();
+        table.selectFile(path);
+    });
+    connect(library_.get(), &LibraryWindow::removeRequested, this, &MyDocument::removeFromList);
+    connect(library_.get(), &LibraryWindow::filesWritten, this, [this](const QList<WrittenFile>& written) {
+        for (const WrittenFile& file : written) {
+            fileWritten(file.path, file.newPath);
+        }
+    });
+}
+
+QString MyDocument::openPath() const {
+    return mediaFile_ && openUrl_ ? pathFromFileUrl(*openUrl_) : QString();
+}
+
+void MyDocument::reopen(const QUrl& url) {
+    updateChangeCount(ChangeType::Cleared);
+    static_cast<void>(openFile(url));
+    emit openedAgain();
+}
+
+bool MyDocument::mayWriteFiles(const QStringList& paths) {
+    if (saveRun_.isRunning()) {
+        return false;
+    }
+    if (!isDocumentEdited() || !paths.contains(openPath())) {
+        return true;
+    }
+    const QUrl url = *openUrl_;
+    window_->raise();
+    window_->activateWindow();
+    // A question that goes away without an answer leaves the file open, and nothing may be lost by that.
+    if (!handleDirtySave() || mediaFile_) {
+        return false;
+    }
+    reopen(url);
+    library_->present();
+    return true;
+}
+
+void MyDocument::fileWritten(const QString& path, const QString& newPath) {
+    controller_->table().updateFile(path, newPath);
+    if (openPath() == path) {
+        reopen(fileUrlFromPath(newPath));
+    }
+}
+
+void MyDocument::removeFromList(const QStringList& paths) {
+    for (const QString& path : paths) {
+        const bool asks = isDocumentEdited() && openPath() == path;
+        if (asks && (!handleDirtySave() || mediaFile_)) {
+            return;
+        }
+        controller_->table().removeFile(path);
+    }
+}
+
+bool MyDocument::libraryMayClose() {
+    if (!library_) {
+        return true;
+    }
+    if (library_->isWriting()) {
+        library_->cancelWriting();
+        return false;
+    }
+    if (!library_->hasEdits()) {
+        return true;
+    }
+    showLibrary();
+    QMessageBox question(QMessageBox::Question, localised("Library Table"),
+                         localised("Edits in the library table are not applied yet."), QMessageBox::Cancel,
+                         library_.get());
+    question.setInformativeText(localised("They are lost when the program ends."));
+    QAbstractButton* const drop = question.addButton(localised("Drop Them"), QMessageBox::DestructiveRole);
+    question.exec();
+    if (question.clickedButton() != drop) {
+        return false;
+    }
+    library_->model().revert(library_->model().rows().editedRows());
+    return true;
 }
 
 } // namespace velmora

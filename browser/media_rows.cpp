@@ -65,6 +65,15 @@ void MediaRows::addColdataSorted(ColdataPointer row) {
         std::move(row));
 }
 
+void MediaRows::replace(std::size_t index, ColdataPointer row) {
+    if (tableSortColumn_) {
+        mediaFiles_.remove(index);
+        addColdataSorted(std::move(row));
+    } else {
+        mediaFiles_.replace(index, std::move(row));
+    }
+}
+
 void MediaRows::sortBy(const TableColumn& column) {
     if (column == tableSortColumn_) {
         tableSortDescending_ = !tableSortDescending_;

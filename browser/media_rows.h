@@ -37,6 +37,11 @@ public:
     /** Inserts ROW behind all rows that do not sort after it; at the end without a sort column. */
     void addColdataSorted(ColdataPointer row);
 
+    /** Takes the row at INDEX off the list. */
+    void remove(std::size_t index) { mediaFiles_.remove(index); }
+    /** Puts ROW into the place of the one at INDEX, or where it is sorted to. */
+    void replace(std::size_t index, ColdataPointer row);
+
     /** Sorts the list by COLUMN, shown ascending. When it is the sort column already, only the direction is
        turned. */
     void sortBy(const TableColumn& column);

@@ -81,6 +81,32 @@ bool MediaTable::addMediaFile(const QString& path) {
     return true;
 }
 
+void MediaTable::removeFile(const QString& path) {
+    for (std::size_t index = mediaFiles_.count(); index-- > 0;) {
+        if (mediaFiles_.at(index)->fullpath != path) {
+            continue;
+        }
+        const int row = static_cast<int>(index);
+        model_.beginRemoval(row);
+        mediaFiles_.remove(index);
+        model_.endRemoval();
+        if (row < curSelectedRow_) {
+            --curSelectedRow_;
+        }
+    }
+    emit fileRemoved(path);
+}
+
+void MediaTable::updateFile(const QString& path, const QString& newPath) {
+    const ColdataPointer changed = mediaRow(newPath, fileAttributes(pathBytes(newPath)));
+    for (std::size_t index = mediaFiles_.count(); changed && index-- > 0;) {
+        if (mediaFiles_.at(index)->fullpath == path) {
+            mediaFiles_.replace(index, changed);
+        }
+    }
+    reloadData();
+}
+
 void MediaTable::addColdataSorted(ColdataPointer row) {
     mediaFiles_.addColdataSorted(std::move(row));
 }

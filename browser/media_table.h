@@ -42,6 +42,12 @@ public:
        extension nor at the size. */
     bool addMediaFile(const QString& path);
 
+    /** Takes the rows of the file at PATH off the list. What is selected stays so; a selected row that goes closes its
+        file. */
+    void removeFile(const QString& path);
+    /** The file at PATH has changed and is at NEWPATH now: its rows say so. */
+    void updateFile(const QString& path, const QString& newPath);
+
     /** Inserts ROW into the list at its sorted place; the views don't know of it before reloadData. */
     void addColdataSorted(ColdataPointer row);
     void reloadData();
@@ -78,6 +84,8 @@ public:
 signals:
     /** A file was listed. */
     void fileAdded(const velmora::ColdataPointer& row);
+    /** The file at PATH is not listed any more. */
+    void fileRemoved(const QString& path);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

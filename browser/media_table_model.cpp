@@ -118,6 +118,16 @@ void MediaTableModel::setOpenRecord(ColdataPointer record) {
     }
 }
 
+void MediaTableModel::beginRemoval(int row) {
+    beginRemoveRows({}, row, row);
+    --reportedRows_;
+}
+
+void MediaTableModel::endRemoval() {
+    endRemoveRows();
+    reloadData();
+}
+
 void MediaTableModel::reloadData() {
     const int count = numberOfRowsInTableView();
     if (count > reportedRows_) {

@@ -32,6 +32,10 @@ public:
        not fails an assertion (platform/assertion.h); should that come back, the value is invalid. */
     [[nodiscard]] QVariant tableViewObjectValueForTableColumn(const TableColumn& column, int row) const;
 
+    /** Before and after the row at the list's index ROW is taken off. */
+    void beginRemoval(int row);
+    void endRemoval();
+
     /** Tells the views of all that has changed in the rows: new ones, and other contents in any of them. */
     void reloadData();
 

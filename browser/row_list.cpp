@@ -48,6 +48,29 @@ void RowList::insertBeforeFirst(const RowTest& isBehind, ColdataPointer row) {
     }
 }
 
+std::vector<RowList::Chunk>::iterator RowList::chunkOf(std::size_t& index) {
+    auto chunk = chunks_.begin();
+    while (index >= chunk->size()) {
+        index -= chunk->size();
+        ++chunk;
+    }
+    return chunk;
+}
+
+void RowList::remove(std::size_t index) {
+    const auto chunk = chunkOf(index);
+    chunk->erase(chunk->begin() + static_cast<std::ptrdiff_t>(index));
+    if (chunk->empty()) {
+        chunks_.erase(chunk);
+    }
+    --count_;
+}
+
+void RowList::replace(std::size_t index, ColdataPointer row) {
+    const auto chunk = chunkOf(index);
+    (*chunk)[index] = std::move(row);
+}
+
 void RowList::stableSort(const std::function<bool(const coldata&, const coldata&)>& isBefore) {
     std::vector<ColdataPointer> rows;
     rows.reserve(count_);

@@ -1,7 +1,7 @@
 #include "tag_form.h"
 
 #include "detail/image_file_drops.h"
-#include "detail/pick_lists.h"
+#include "pick_lists.h"
 #include "media_document.h"
 #include "notice_bar.h"
 #include "ui_tag_form.h"

@@ -1,5 +1,7 @@
 #include "library_columns.h"
 
+#include "file_name.h"
+
 #include "browser/media_row.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
@@ -99,9 +101,11 @@ void editField(RowEdits& edits, const LibraryRow& row, Field field, const QStrin
 }
 
 /** The extension stays what it is: it tells what the file is. */
-bool editName(RowEdits& edits, const LibraryRow& row, const QString& stem) {
-    const QString extension = pathExtension(row.path);
-    const QString name = extension.isEmpty() ? stem : stem + QLatin1Char('.') + extension;
+bool editName(RowEdits& edits, const LibraryRow& row, const QString& text) {
+    const QString extension = QString::fromUtf8(extensionOf(pathBytes(row.path)));
+    const bool hasIt = !extension.isEmpty() && text.endsWith(extension, Qt::CaseInsensitive);
+    const QString stem = hasIt ? text.chopped(extension.size()) : text;
+    const QString name = stem + extension;
     if (stem.isEmpty() || stem.startsWith(u'.') || stem.contains(u'/') || stem.contains(QChar(0)) ||
         pathBytes(name).size() > 255) {
         return false;
@@ -221,6 +225,35 @@ int yearOf(const LibraryRow& row, const RowEdits* edits) {
 
 bool hasCover(const LibraryRow& row, const RowEdits* edits) {
     return edits && !edits->cover.leaves_alone() ? edits->cover.sets() : row.coverHash != 0;
+}
+
+namespace {
+
+MissingBits missingOf(const LibraryRow& row, const RowEdits* edits) {
+    if (row.state != ReadState::read) {
+        return 0;
+    }
+    MissingBits missing = row.tags.isEmpty() ? missingTag : MissingBits{0};
+    for (std::size_t i = 0; i < portable::field_count; ++i) {
+        const auto field = static_cast<Field>(i);
+        const bool isThere = field == Field::year    ? yearOf(row, edits) != 0
+                             : field == Field::cover ? hasCover(row, edits)
+                                                     : !fieldText(row, edits, field).isEmpty();
+        if (!isThere && portable::has_field(row.media, field)) {
+            missing = static_cast<MissingBits>(missing | missingBit(field));
+        }
+    }
+    return missing;
+}
+
+} // namespace
+
+FilterText filterTextOf(const LibraryRow& row, const RowEdits* edits) {
+    RowTexts texts;
+    for (const LibraryColumn column : libraryColumns()) {
+        texts[static_cast<std::size_t>(column)] = columnText(row, edits, column);
+    }
+    return {texts, yearOf(row, edits), missingOf(row, edits)};
 }
 
 bool editText(RowEdits& edits, const LibraryRow& row, LibraryColumn column, const QString& text) {

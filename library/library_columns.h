@@ -34,6 +34,9 @@ namespace velmora {
 /** Whether there is a cover with EDITS, unless null, taken for done. */
 [[nodiscard]] bool hasCover(const LibraryRow& row, const RowEdits* edits);
 
+/** What a filter looks at in ROW with EDITS, unless null, taken for done. Takes about 10 microseconds; for any thread. */
+[[nodiscard]] FilterText filterTextOf(const LibraryRow& row, const RowEdits* edits);
+
 /** Puts into EDITS that COLUMN is to say TEXT of ROW; an empty text deletes. What ROW says already is no edit. False,
     with EDITS as they were, where the column can't say that. */
 [[nodiscard]] bool editText(RowEdits& edits, const LibraryRow& row, LibraryColumn column,

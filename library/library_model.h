@@ -1,5 +1,6 @@
 #pragma once
 
+#include "filter_query.h"
 #include "library_rows.h"
 #include "row_order.h"
 
@@ -19,9 +20,6 @@ namespace velmora {
 class LibraryModel : public QAbstractTableModel {
     Q_OBJECT
 public:
-    /** Whether the filter lets the file with that number through. */
-    using Filter = std::function<bool(int row)>;
-
     explicit LibraryModel(QObject* parent = nullptr);
     ~LibraryModel() override;
 
@@ -50,8 +48,8 @@ public:
 
     void sortBy(const std::vector<SortKey>& keys);
     [[nodiscard]] const std::vector<SortKey>& sortKeys() const { return keys_; }
-    /** Without a filter all are shown. */
-    void setFilter(Filter filter);
+    /** Shows the files that match QUERY. */
+    void setFilter(const FilterQuery& query);
     /** The table's rows FIRST to LAST can be seen: their files are read before others. */
     void setVisibleRows(int first, int last);
     /** Small covers for the files that can be seen; null while there is none, or none yet. */
@@ -83,7 +81,8 @@ private:
     void show(std::vector<int> files);
     void rearrange(std::vector<int> files);
     void numberShown();
-    [[nodiscard]] std::vector<int> filtered() const;
+    [[nodiscard]] bool passes(int file);
+    [[nodiscard]] std::vector<int> filtered();
     [[nodiscard]] QVariant font(int file, LibraryColumn column) const;
     [[nodiscard]] QString spokenText(int file, LibraryColumn column) const;
     [[nodiscard]] QString tip(int file, LibraryColumn column) const;
@@ -95,7 +94,7 @@ private:
     std::vector<int> shown_;      ///< those of order_ that the filter lets through
     std::vector<int> shownRowOf_; ///< where a file is shown; -1: not
     std::vector<SortKey> keys_;
-    Filter filter_;
+    FilterQuery filter_;
     std::function<QVariant(int file)> thumbnails_;
     QTimer addTimer_;
     QTimer orderTimer_;

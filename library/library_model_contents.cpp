@@ -54,7 +54,7 @@ void LibraryModel::showAdded() {
     std::vector<int> files = shown_;
     for (const int file : added_) {
         order_.push_back(file);
-        if (!filter_ || filter_(file)) {
+        if (passes(file)) {
             files.push_back(file);
         }
     }
@@ -163,9 +163,9 @@ void LibraryModel::sortBy(const std::vector<SortKey>& keys) {
     startOrdering();
 }
 
-void LibraryModel::setFilter(Filter filter) {
+void LibraryModel::setFilter(const FilterQuery& query) {
     showAdded();
-    filter_ = std::move(filter);
+    filter_ = query;
     show(filtered());
     emit contentsChanged();
 }
@@ -181,7 +181,7 @@ void LibraryModel::setVisibleRows(int first, int last) {
 }
 
 void LibraryModel::orderLater() {
-    if ((!keys_.empty() || filter_) && !orderTimer_.isActive()) {
+    if ((!keys_.empty() || !filter_.isEmpty()) && !orderTimer_.isActive()) {
         orderTimer_.start();
     }
 }
@@ -221,10 +221,14 @@ void LibraryModel::takeOrder(std::uint64_t version, std::vector<int> order) {
     }
 }
 
-std::vector<int> LibraryModel::filtered() const {
+bool LibraryModel::passes(int file) {
+    return filter_.isEmpty() || filter_.matches(rows_.filterText(file));
+}
+
+std::vector<int> LibraryModel::filtered() {
     std::vector<int> files;
     std::copy_if(order_.begin(), order_.end(), std::back_inserter(files),
-                 [this](int file) { return !filter_ || filter_(file); });
+                 [this](int file) { return passes(file); });
     return files;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "filter_text.h"
+
 #include "portable/media_kind.h"
 #include "portable/tag_values.h"
 
@@ -44,6 +46,8 @@ struct LibraryRow {
     std::uint64_t coverHash = 0; ///< tells different covers apart; 0: no cover
     std::uint64_t size = 0;      ///< bytes
     std::int64_t created = 0;    ///< seconds since 1970-01-01 UTC
+
+    FilterText filter; ///< what a filter looks at; empty until it is asked for
 
     [[nodiscard]] QString name() const;
     [[nodiscard]] QString folder() const;

@@ -43,6 +43,7 @@ void LibraryRows::move(int row, const QString& path) {
     numbers_.remove(moved.path);
     numbers_.insert(path, row);
     moved.path = path;
+    moved.filter = {};
 }
 
 TagReader::Request LibraryRows::requestFor(int row) {
@@ -66,6 +67,7 @@ bool LibraryRows::take(const RowReading& reading) {
     row.coverHash = reading.coverHash;
     row.size = reading.size;
     row.created = reading.created;
+    row.filter = edits(reading.row) ? FilterText() : reading.filter;
     return true;
 }
 
@@ -75,6 +77,7 @@ const RowEdits* LibraryRows::edits(int row) const {
 }
 
 void LibraryRows::setEdits(int row, RowEdits edits) {
+    rows_[static_cast<std::size_t>(row)].filter = {};
     if (edits.empty()) {
         edits_.erase(row);
     } else {
@@ -90,6 +93,14 @@ std::vector<int> LibraryRows::editedRows() const {
     }
     std::sort(rows.begin(), rows.end());
     return rows;
+}
+
+const FilterText& LibraryRows::filterText(int row) {
+    LibraryRow& asked = rows_[static_cast<std::size_t>(row)];
+    if (asked.filter.folded().empty()) {
+        asked.filter = filterTextOf(asked, edits(row));
+    }
+    return asked.filter;
 }
 
 LibraryRows LibraryRows::snapshot() const {

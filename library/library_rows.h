@@ -41,6 +41,9 @@ public:
     [[nodiscard]] std::vector<int> editedRows() const;
     [[nodiscard]] std::size_t editedCount() const { return edits_.size(); }
 
+    /** What a filter looks at in the file, its edits taken for done. Good until the file or its edits change. */
+    [[nodiscard]] const FilterText& filterText(int row);
+
     /** A copy to be read on another thread, in which no paths are found. */
     [[nodiscard]] LibraryRows snapshot() const;
 

@@ -112,6 +112,17 @@ void LibraryView::showColumn(LibraryColumn column, bool shown) {
     }
 }
 
+void LibraryView::moveCurrentColumn(int by) {
+    const QList<LibraryColumn> columns = shownColumns();
+    const qsizetype from = columns.indexOf(static_cast<LibraryColumn>(currentIndex().column()));
+    const qsizetype to = from + by;
+    if (currentIndex().isValid() && from >= 0 && to >= 0 && to < columns.size()) {
+        QHeaderView& header = *horizontalHeader();
+        header.moveSection(header.visualIndex(static_cast<int>(columns[from])),
+                           header.visualIndex(static_cast<int>(columns[to])));
+    }
+}
+
 void LibraryView::sortByColumn(LibraryColumn column, bool also) {
     std::vector<SortKey> keys = model_.sortKeys();
     const auto isOfColumn = [column](const SortKey& key) { return key.column == column; };

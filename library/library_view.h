@@ -23,6 +23,9 @@ public:
     /** Sorts by COLUMN, the other way round where it does already; ALSO: behind the keys that there are. */
     void sortByColumn(LibraryColumn column, bool also);
 
+    /** Moves the current cell's column BY places among those that are shown. */
+    void moveCurrentColumn(int by);
+
 signals:
     void selectedFilesChanged();
 

@@ -1,63 +1,148 @@
 #include "library_window.h"
 
-#include "names_commands.h"
-
 #include "platform/localisation.h"
+#include "platform/symbol.h"
 
+#include <QHBoxLayout>
 #include <QLocale>
-#include <QMenuBar>
+#include <QScrollArea>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
 namespace velmora {
+
+namespace {
+
+/** The panel looks at all selected files, which may be many. */
+constexpr std::chrono::milliseconds panelPause{50};
+
+} // namespace
 
 LibraryWindow::LibraryWindow(QWidget* parent) : DocumentWindow(parent) {
     setObjectName(QStringLiteral("LibraryWindow"));
     setWindowTitle(localised("Library Table"));
     makeLayout();
     makeMenus();
-    resize(1180, 720);
-    connect(&model_, &LibraryModel::contentsChanged, this, &LibraryWindow::showStatus);
-    connect(view_, &LibraryView::selectedFilesChanged, this, &LibraryWindow::showStatus);
+    resize(1280, 760);
+    panelTimer_.setSingleShot(true);
+    panelTimer_.setInterval(panelPause);
+    filterTimer_.setSingleShot(true);
+    filterTimer_.setInterval(0);
+    connect(&filterTimer_, &QTimer::timeout, this, &LibraryWindow::filterTyped);
+    connect(&panelTimer_, &QTimer::timeout, this, &LibraryWindow::refreshPanel);
+    connect(&model_, &LibraryModel::contentsChanged, &panelTimer_, qOverload<>(&QTimer::start));
+    connect(&model_, &LibraryModel::contentsChanged, this, &LibraryWindow::updateCommands);
+    connect(view_, &LibraryView::selectedFilesChanged, this, [this] {
+        panel_->flush();
+        panelTimer_.start();
+    });
     showStatus();
+    updateCommands();
 }
 
 void LibraryWindow::makeLayout() {
     auto* const box = new QWidget(this);
     auto* const layout = new QVBoxLayout(box);
-    view_ = new LibraryView(model_, box);
-    layout->addWidget(view_);
+    layout->setContentsMargins(8, 8, 8, 0);
+    layout->addWidget(makeFilter());
+    auto* const split = new QSplitter(Qt::Horizontal, box);
+    split->setChildrenCollapsible(false);
+    view_ = new LibraryView(model_, split);
+    panel_ = new EditPanel(model_);
+    auto* const side = new QWidget(split);
+    auto* const sideLayout = new QVBoxLayout(side);
+    sideLayout->setContentsMargins(0, 0, 0, 0);
+    auto* const area = new QScrollArea(side);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(panel_);
+    sideLayout->addWidget(area);
+    sideLayout->addWidget(makeButtons());
+    split->addWidget(view_);
+    split->addWidget(side);
+    split->setStretchFactor(0, 1);
+    split->setSizes({960, 300});
+    layout->addWidget(split, 1);
     setCentralWidget(box);
     status_ = new QLabel(this);
+    status_->setObjectName(QStringLiteral("lbl_libraryStatus"));
     status_->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(status_, 1);
 }
 
-void LibraryWindow::makeMenus() {
-    QMenu* const file = menuBar()->addMenu(localised("&File"));
-    QAction* const close = file->addAction(localised("&Close"), this, &QWidget::close);
-    close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
-    makeViewMenu();
-    auto* const names = new NamesCommands(model_, *view_, this);
-    names->addTo(*menuBar()->addMenu(localised("&Names")));
+QWidget* LibraryWindow::makeFilter() {
+    auto* const box = new QWidget;
+    auto* const layout = new QHBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    filter_ = new QLineEdit;
+    filter_->setObjectName(QStringLiteral("entry_filter"));
+    filter_->setAccessibleName(localised("Filter"));
+    filter_->setPlaceholderText(localised("Words, artist:name, year:1990-1999, missing:cover"));
+    filter_->setToolTip(localised("Show only the files that have these words in any column; "
+                                  "artist:, year:1990-1999, missing:cover and the like look closer"));
+    filter_->setClearButtonEnabled(true);
+    auto* const caption = new QLabel(localised("Filter:"));
+    caption->setBuddy(filter_);
+    layout->addWidget(caption);
+    layout->addWidget(filter_, 1);
+    connect(filter_, &QLineEdit::textChanged, &filterTimer_, qOverload<>(&QTimer::start));
+    connect(filter_, &QLineEdit::returnPressed, this, [this] { view_->setFocus(); });
+    return box;
 }
 
-void LibraryWindow::makeViewMenu() {
-    QMenu* const menu = menuBar()->addMenu(localised("&View"));
-    QMenu* const sort = menu->addMenu(localised("&Sort By"));
-    QMenu* const also = menu->addMenu(localised("&Then By"));
-    for (const LibraryColumn column : libraryColumns()) {
-        sort->addAction(columnTitle(column), view_, [this, column] { view_->sortByColumn(column, false); });
-        also->addAction(columnTitle(column), view_, [this, column] { view_->sortByColumn(column, true); });
-    }
+QWidget* LibraryWindow::makeButtons() {
+    auto* const box = new QWidget;
+    auto* const layout = new QHBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    revertButton_ = new QPushButton(symbol(QStringLiteral("document-revert")), localised("&Revert"));
+    revertButton_->setObjectName(QStringLiteral("btn_revertLibrary"));
+    revertButton_->setToolTip(localised("Drop what was edited in the selected files and not applied"));
+    applyButton_ = new QPushButton(symbol(QStringLiteral("document-save")), localised("A&pply"));
+    applyButton_->setObjectName(QStringLiteral("btn_apply"));
+    applyButton_->setToolTip(localised("Write what was edited into the files"));
+    layout->addStretch();
+    layout->addWidget(revertButton_);
+    layout->addWidget(applyButton_);
+    connect(revertButton_, &QPushButton::clicked, this, &LibraryWindow::revert);
+    connect(applyButton_, &QPushButton::clicked, this, &LibraryWindow::apply);
+    return box;
 }
 
 void LibraryWindow::present() {
-    fitScreen();
-    show();
+    if (!isVisible()) {
+        fitScreen();
+        show();
+    }
     raise();
     activateWindow();
     view_->setFocus();
+}
+
+void LibraryWindow::filterTyped() {
+    model_.setFilter(FilterQuery(filter_->text()));
+}
+
+void LibraryWindow::refreshPanel() {
+    panel_->showFiles(view_->selectedFiles());
+    showStatus();
+}
+
+void LibraryWindow::updateCommands() {
+    applyButton_->setEnabled(hasEdits());
+    revertButton_->setEnabled(hasEdits());
+    undoAction_->setEnabled(!undo_.empty());
+}
+
+void LibraryWindow::revert() {
+    panel_->flush();
+    std::vector<int> files = view_->selectedFiles();
+    if (files.empty()) {
+        files = model_.rows().editedRows();
+    }
+    model_.revert(files);
 }
 
 void LibraryWindow::showStatus() {

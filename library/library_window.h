@@ -1,15 +1,27 @@
 #pragma once
 
+#include "apply_dialog.h"
+#include "apply_run.h"
+#include "edit_panel.h"
 #include "library_model.h"
 #include "library_view.h"
 
 #include "platform/document_window.h"
 
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 
 namespace velmora {
 
-/** The library table's window: all listed files with their tags. It hides when it is closed, and stays what it is. */
+/** A file that was written, and where it was and is. */
+struct WrittenFile {
+    QString path;
+    QString newPath;
+};
+
+/** The library table's window: all listed files with their tags, a filter, and the fields of those that are selected. Edits
+    are kept until they are applied or reverted. It hides when it is closed, and stays what it is. */
 class LibraryWindow : public DocumentWindow {
     Q_OBJECT
 public:
@@ -17,19 +29,100 @@ public:
 
     [[nodiscard]] LibraryModel& model() { return model_; }
     [[nodiscard]] LibraryView& view() { return *view_; }
+    [[nodiscard]] EditPanel& panel() { return *panel_; }
 
     /** Shows the window in front of others, with the keyboard in the table. */
     void present();
 
+    /** Asked before files are written; false: they are not to be. */
+    void setMayWrite(std::function<bool(const QStringList& paths)> mayWrite) {
+        mayWrite_ = std::move(mayWrite);
+    }
+    /** Whether there are edits that are in no file. */
+    [[nodiscard]] bool hasEdits() const { return model_.rows().editedCount() > 0; }
+    /** Whether files are being written. */
+    [[nodiscard]] bool isWriting() const { return dialog_ && dialog_->isRunning(); }
+    /** What is being written is to end soon; each file is old or new. */
+    void cancelWriting();
+
+    /** Writes all edits into their files. */
+    void apply();
+    /** Takes the last apply back. */
+    void undoApply();
+    /** Drops the edits of the selected files, or all where none is selected. */
+    void revert();
+    /** How many applies can be taken back. */
+    [[nodiscard]] std::size_t undoCount() const { return undo_.size(); }
+
+    /** Copies the selected rows with the shown columns, or of these the current one alone. */
+    void copy(bool currentColumnOnly);
+    /** Puts the clipboard's cells into the table from the current one on; a single one into all selected rows. */
+    void paste();
+    /** Writes the rows shown and the columns shown into the file at PATH, as its extension says: JSON or else CSV.
+        False where that failed; there is no such file then, or the old one. */
+    [[nodiscard]] bool exportTo(const QString& path);
+
+signals:
+    /** Files were written. */
+    void filesWritten(const QList<velmora::WrittenFile>& files);
+    /** The file at PATH is to be opened in the editor. */
+    void openRequested(const QString& path);
+    /** The files are not to be listed any more. */
+    void removeRequested(const QStringList& paths);
+
 private:
-    void makeMenus();
-    void makeViewMenu();
     void makeLayout();
+    QWidget* makeFilter();
+    QWidget* makeButtons();
+    void makeMenus();
+    void makeFileMenu();
+    void makeEditMenu();
+    void makeViewMenu();
+    void makeContextMenu();
+    QAction* addCommand(QMenu& menu, const QString& text, const QString& tip, const QKeySequence& keys,
+                        void (LibraryWindow::*command)());
+    void filterTyped();
     void showStatus();
+    void refreshPanel();
+    void updateCommands();
+
+    void runApply();
+    void showDialog(const QString& title);
+    void applyEnded(const std::vector<ApplyResult>& results);
+    void undoEnded(const std::vector<ApplyResult>& results);
+    void takeResults(const std::vector<ApplyResult>& results);
+    [[nodiscard]] std::vector<ApplyItem> items() const;
+
+    void findText();
+    void editCell();
+    void copyRows() { copy(false); }
+    void copyColumn() { copy(true); }
+    void exportTable();
+    void openSelected();
+    void showInFolder();
+    void copyPaths();
+    void removeSelected();
+    void showColumnMenu(const QPoint& position);
+    [[nodiscard]] QStringList selectedPaths() const;
 
     LibraryModel model_;
     LibraryView* view_ = nullptr;
+    EditPanel* panel_ = nullptr;
+    QLineEdit* filter_ = nullptr;
+    QPushButton* applyButton_ = nullptr;
+    QPushButton* revertButton_ = nullptr;
     QLabel* status_ = nullptr;
+    QAction* undoAction_ = nullptr;
+    QMenu* columnMenu_ = nullptr;
+    QMenu* rowMenu_ = nullptr;
+    QTimer panelTimer_;
+    QTimer filterTimer_;
+
+    std::function<bool(const QStringList& paths)> mayWrite_;
+    std::unique_ptr<ApplyDialog> dialog_;
+    CoverStore covers_;          ///< used by the worker while it runs
+    std::vector<UndoStep> undo_; ///< the last apply is the last one
+    UndoStep running_;           ///< of the worker that runs
 };
 
 } // namespace velmora

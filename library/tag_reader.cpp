@@ -1,5 +1,7 @@
 #include "tag_reader.h"
 
+#include "library_columns.h"
+
 #include "model/portable_reason.h"
 #include "platform/file_attributes.h"
 #include "platform/file_path.h"
@@ -30,25 +32,27 @@ QString namesOfTags(const std::vector<std::string>& tags) {
 } // namespace
 
 RowReading readRow(int row, std::uint32_t ticket, const QString& path) {
-    RowReading reading;
-    reading.row = row;
-    reading.ticket = ticket;
     const QByteArray bytes = pathBytes(path);
+    LibraryRow file;
+    file.path = path;
     if (const auto attributes = fileAttributes(bytes)) {
-        reading.size = attributes->size.value_or(0);
-        reading.created = attributes->creationDate.value_or(FileTime{}).seconds;
+        file.size = attributes->size.value_or(0);
+        file.created = attributes->creationDate.value_or(FileTime{}).seconds;
     }
     const portable::ReadOutcome outcome = portable::read_tags(bytes.toStdString());
+    file.media = outcome.kind ? outcome.kind->media : portable::Media::other;
     if (outcome.failure) {
-        reading.tags = localisedReason(*outcome.failure);
-        return reading;
+        file.state = ReadState::failed;
+        file.tags = localisedReason(*outcome.failure);
+    } else {
+        file.state = ReadState::read;
+        file.year = static_cast<std::int16_t>(outcome.values.year.value_or(0));
+        file.texts = PackedTexts(outcome.values);
+        file.tags = namesOfTags(outcome.tags);
+        file.coverHash = outcome.values.cover ? coverHash(*outcome.values.cover) : 0;
     }
-    reading.state = ReadState::read;
-    reading.year = static_cast<std::int16_t>(outcome.values.year.value_or(0));
-    reading.texts = PackedTexts(outcome.values);
-    reading.tags = namesOfTags(outcome.tags);
-    reading.coverHash = outcome.values.cover ? coverHash(*outcome.values.cover) : 0;
-    return reading;
+    return {row,       ticket,         file.state, file.year,    file.texts,
+            file.tags, file.coverHash, file.size,  file.created, filterTextOf(file, nullptr)};
 }
 
 TagReader::TagReader(QObject* parent) : QObject(parent) {

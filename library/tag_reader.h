@@ -21,6 +21,7 @@ struct RowReading {
     std::uint64_t coverHash = 0;
     std::uint64_t size = 0;
     std::int64_t created = 0;
+    FilterText filter;
 };
 
 /** Reads the tags of the file at PATH, on any thread; TICKET is handed through. */

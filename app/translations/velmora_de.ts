@@ -863,20 +863,8 @@
         <translation>%@, nicht angewendet</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Schließen</translation>
-    </message>
-    <message>
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Sort By</source>
-        <translation>&amp;Sortieren nach</translation>
-    </message>
-    <message>
-        <source>&amp;Then By</source>
-        <translation>&amp;Dann nach</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -1153,6 +1141,362 @@
     <message>
         <source>%@ (not there)</source>
         <translation>%@ (nicht vorhanden)</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; can&#x27;t be written.</source>
+        <translation>„%@“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>%@ a second</source>
+        <translation>%@ pro Sekunde</translation>
+    </message>
+    <message>
+        <source>%@ cells can&#x27;t take what was pasted</source>
+        <translation>%@ Zellen können das Eingefügte nicht aufnehmen</translation>
+    </message>
+    <message>
+        <source>%@ changed since and left alone</source>
+        <translation>%@ seither geändert und nicht angerührt</translation>
+    </message>
+    <message>
+        <source>%@ done</source>
+        <translation>%@ erledigt</translation>
+    </message>
+    <message>
+        <source>%@ failed</source>
+        <translation>%@ fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <translation>noch %@</translation>
+    </message>
+    <message>
+        <source>%@ not reached</source>
+        <translation>%@ nicht erreicht</translation>
+    </message>
+    <message>
+        <source>%@ unchanged</source>
+        <translation>%@ unverändert</translation>
+    </message>
+    <message>
+        <source>&amp;Artist or cast:</source>
+        <translation>&amp;Interpret oder Besetzung:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>Wä&amp;hlen…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Genre:</source>
+        <translation>&amp;Genre:</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Row</source>
+        <translation>Zei&amp;le</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>&amp;Year:</source>
+        <translation>&amp;Jahr:</translation>
+    </message>
+    <message>
+        <source>A&amp;pply</source>
+        <translation>An&amp;wenden</translation>
+    </message>
+    <message>
+        <source>Al&amp;bum or director:</source>
+        <translation>Alb&amp;um oder Regie:</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>C&amp;over:</source>
+        <translation>Titel&amp;bild:</translation>
+    </message>
+    <message>
+        <source>Cancelled before its turn</source>
+        <translation>Abgebrochen, bevor sie an der Reihe war</translation>
+    </message>
+    <message>
+        <source>Changed since, left alone</source>
+        <translation>Seither geändert, nicht angerührt</translation>
+    </message>
+    <message>
+        <source>Choose a Cover</source>
+        <translation>Titelbild wählen</translation>
+    </message>
+    <message>
+        <source>Choose a picture as the cover of the selected files</source>
+        <translation>Ein Bild als Titelbild der ausgewählten Dateien wählen</translation>
+    </message>
+    <message>
+        <source>Close the summary</source>
+        <translation>Die Zusammenfassung schließen</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation>Spalte kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Rows</source>
+        <translation>Zeilen kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the current column of the selected rows</source>
+        <translation>Die aktuelle Spalte der ausgewählten Zeilen kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the paths of the selected files</source>
+        <translation>Die Pfade der ausgewählten Dateien kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows with the columns that are shown, for a spreadsheet</source>
+        <translation>Die ausgewählten Zeilen mit den angezeigten Spalten für eine Tabellenkalkulation kopieren</translation>
+    </message>
+    <message>
+        <source>Drop Them</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Drop what was edited in the selected files and not applied</source>
+        <translation>Verwerfen, was in den ausgewählten Dateien bearbeitet und nicht angewendet wurde</translation>
+    </message>
+    <message>
+        <source>Edit Cell</source>
+        <translation>Zelle bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit the text of the current cell</source>
+        <translation>Den Text der aktuellen Zelle bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edits in the library table are not applied yet.</source>
+        <translation>Änderungen in der Bibliothekstabelle sind noch nicht angewendet.</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Files that were not changed</source>
+        <translation>Dateien, die nicht geändert wurden</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>Filter:</translation>
+    </message>
+    <message>
+        <source>Give the files of the last apply their old values and names back</source>
+        <translation>Den Dateien der letzten Anwendung ihre alten Werte und Namen zurückgeben</translation>
+    </message>
+    <message>
+        <source>Move Column Left</source>
+        <translation>Spalte nach links</translation>
+    </message>
+    <message>
+        <source>Move Column Right</source>
+        <translation>Spalte nach rechts</translation>
+    </message>
+    <message>
+        <source>Open in Editor</source>
+        <translation>Im Editor öffnen</translation>
+    </message>
+    <message>
+        <source>Open the file in the program&#x27;s main window</source>
+        <translation>Die Datei im Hauptfenster des Programms öffnen</translation>
+    </message>
+    <message>
+        <source>Open the folder in which the file is</source>
+        <translation>Den Ordner öffnen, in dem die Datei liegt</translation>
+    </message>
+    <message>
+        <source>Paste Cells</source>
+        <translation>Zellen einfügen</translation>
+    </message>
+    <message>
+        <source>Put the cells of the clipboard into the table from the current cell on</source>
+        <translation>Die Zellen der Zwischenablage ab der aktuellen Zelle in die Tabelle einfügen</translation>
+    </message>
+    <message>
+        <source>Rat&amp;ing:</source>
+        <translation>&amp;Freigabe:</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>Entf&amp;ernen</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the cover from the selected files</source>
+        <translation>Das Titelbild aus den ausgewählten Dateien entfernen</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
+        <translation>Nur Dateien zeigen, die diese Wörter in irgendeiner Spalte haben; artist:, year:1990-1999, missing:cover und Ähnliches sehen genauer hin</translation>
+    </message>
+    <message>
+        <source>Sort By</source>
+        <translation>Sortieren nach</translation>
+    </message>
+    <message>
+        <source>Stop; each file is as it was or as it was to be</source>
+        <translation>Anhalten; jede Datei ist, wie sie war oder wie sie werden sollte</translation>
+    </message>
+    <message>
+        <source>Sy&amp;nopsis or comment:</source>
+        <translation>I&amp;nhalt oder Kommentar:</translation>
+    </message>
+    <message>
+        <source>Take the selected files off the list; they stay where they are</source>
+        <translation>Die ausgewählten Dateien aus der Liste nehmen; sie bleiben, wo sie sind</translation>
+    </message>
+    <message>
+        <source>The album of the selected songs, the director of the selected films</source>
+        <translation>Das Album der ausgewählten Lieder, die Regie der ausgewählten Filme</translation>
+    </message>
+    <message>
+        <source>The artist of the selected songs, the cast of the selected films</source>
+        <translation>Der Interpret der ausgewählten Lieder, die Besetzung der ausgewählten Filme</translation>
+    </message>
+    <message>
+        <source>The cover of the selected files: drop a picture here, or paste one</source>
+        <translation>Das Titelbild der ausgewählten Dateien: ein Bild hierher ziehen oder einfügen</translation>
+    </message>
+    <message>
+        <source>The files that were not changed, and why</source>
+        <translation>Die Dateien, die nicht geändert wurden, und warum</translation>
+    </message>
+    <message>
+        <source>The genre: choose one or type your own</source>
+        <translation>Das Genre: wählen Sie eines, oder geben Sie ein eigenes ein</translation>
+    </message>
+    <message>
+        <source>The old cover can&#x27;t be read any more</source>
+        <translation>Das alte Titelbild kann nicht mehr gelesen werden</translation>
+    </message>
+    <message>
+        <source>The parental rating of the selected films</source>
+        <translation>Die Altersfreigabe der ausgewählten Filme</translation>
+    </message>
+    <message>
+        <source>The table could not be exported.</source>
+        <translation>Die Tabelle konnte nicht exportiert werden.</translation>
+    </message>
+    <message>
+        <source>The tags are right, the name is the old one: %@</source>
+        <translation>Die Tags stimmen, der Name ist der alte: %@</translation>
+    </message>
+    <message>
+        <source>The title of the selected files</source>
+        <translation>Der Titel der ausgewählten Dateien</translation>
+    </message>
+    <message>
+        <source>The year of release, of up to four digits</source>
+        <translation>Das Erscheinungsjahr, bis zu vier Ziffern</translation>
+    </message>
+    <message>
+        <source>Then By</source>
+        <translation>Dann nach</translation>
+    </message>
+    <message>
+        <source>There is no room to keep the old cover for an undo</source>
+        <translation>Es ist kein Platz, um das alte Titelbild zum Zurücknehmen aufzuheben</translation>
+    </message>
+    <message>
+        <source>They are lost when the program ends.</source>
+        <translation>Sie gehen verloren, wenn das Programm endet.</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Try the files again that were not changed</source>
+        <translation>Die nicht geänderten Dateien noch einmal versuchen</translation>
+    </message>
+    <message>
+        <source>Type what is to be shown</source>
+        <translation>Eingeben, was gezeigt werden soll</translation>
+    </message>
+    <message>
+        <source>Undo Apply</source>
+        <translation>Anwenden zurücknehmen</translation>
+    </message>
+    <message>
+        <source>What the selected films are about, or a comment on the songs</source>
+        <translation>Wovon die ausgewählten Filme handeln, oder ein Kommentar zu den Liedern</translation>
+    </message>
+    <message>
+        <source>Words, artist:name, year:1990-1999, missing:cover</source>
+        <translation>Wörter, artist:Name, year:1990-1999, missing:cover</translation>
+    </message>
+    <message>
+        <source>Write the rows and columns that are shown into a file, as CSV or JSON</source>
+        <translation>Die angezeigten Zeilen und Spalten als CSV oder JSON in eine Datei schreiben</translation>
+    </message>
+    <message>
+        <source>Write what was edited into the files</source>
+        <translation>Schreiben, was bearbeitet wurde</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>Schreiben…</translation>
+    </message>
+    <message>
+        <source>several covers</source>
+        <translation>verschiedene Titelbilder</translation>
+    </message>
+    <message>
+        <source>several values</source>
+        <translation>verschiedene Werte</translation>
     </message>
 </context>
 <context>

@@ -112,10 +112,10 @@ TEST_F(LibraryWindowTest, ARemovedFileIsNoRowAnyMore) {
 TEST_F(LibraryWindowTest, AFilterShowsWhatItLetsThrough) {
     addSongs();
     window_.view().selectAll();
-    window_.model().setFilter([](int file) { return file != 1; });
+    window_.model().setFilter(FilterQuery("title:a artist:e"));
     EXPECT_EQ(QStringList({"2.mp3", "1.mp3"}), shown(LibraryColumn::name));
     EXPECT_EQ(std::vector<int>({0, 2}), window_.view().selectedFiles());
-    window_.model().setFilter(nullptr);
+    window_.model().setFilter({});
     EXPECT_EQ(QStringList({"2.mp3", "10.mp3", "1.mp3"}), shown(LibraryColumn::name));
     EXPECT_EQ(std::vector<int>({0, 2}), window_.view().selectedFiles());
 }

@@ -27,8 +27,7 @@ namespace velmora::test {
 }
 
 /** Writes the file NAME into FOLDER and gives its path. */
-[[nodiscard]] inline QString written(const ScratchFolder& folder, const std::string& name,
-                                     const std::string& bytes) {
+inline QString written(const ScratchFolder& folder, const std::string& name, const std::string& bytes) {
     write_file(folder / name, bytes);
     return QString::fromStdString(folder / name);
 }

@@ -1,0 +1,167 @@
+// What the library table's commands do with its rows: blocks of cells, export, and files elsewhere.
+
+#include "library_window.h"
+
+#include "cell_block.h"
+#include "table_export.h"
+
+#include "platform/alert.h"
+#include "platform/file_path.h"
+#include "platform/localisation.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QSaveFile>
+#include <QStatusBar>
+
+namespace velmora {
+
+namespace {
+
+constexpr int messageMilliseconds = 6000;
+
+ExportColumn exportColumn(LibraryColumn column) {
+    return {columnKey(column), columnTitle(column)};
+}
+
+QVariant exportValue(const LibraryRow& row, const RowEdits* edits, LibraryColumn column) {
+    if (column == LibraryColumn::cover) {
+        return hasCover(row, edits);
+    }
+    if (column == LibraryColumn::year) {
+        const int year = yearOf(row, edits);
+        return year == 0 ? QVariant() : QVariant(year);
+    }
+    if (column == LibraryColumn::size) {
+        return QVariant::fromValue<quint64>(row.size);
+    }
+    const QString text = columnText(row, edits, column);
+    return text.isEmpty() ? QVariant() : QVariant(text);
+}
+
+} // namespace
+
+QStringList LibraryWindow::selectedPaths() const {
+    QStringList paths;
+    for (const int file : view_->selectedFiles()) {
+        paths += model_.rows().at(file).path;
+    }
+    return paths;
+}
+
+void LibraryWindow::copy(bool currentColumnOnly) {
+    QList<LibraryColumn> columns = view_->shownColumns();
+    if (currentColumnOnly) {
+        columns = {static_cast<LibraryColumn>(std::max(view_->currentIndex().column(), 0))};
+    }
+    CellBlock block;
+    for (const int file : view_->selectedFiles()) {
+        QStringList cells;
+        for (const LibraryColumn column : columns) {
+            cells += model_.rows().text(file, column);
+        }
+        block.push_back(cells);
+    }
+    QApplication::clipboard()->setText(blockText(block));
+}
+
+void LibraryWindow::paste() {
+    CellBlock block = blockFromText(QApplication::clipboard()->text());
+    const QModelIndex current = view_->currentIndex();
+    if (block.empty() || !current.isValid()) {
+        return;
+    }
+    const std::vector<int> selected = view_->selectedFiles();
+    const bool fills = block.size() == 1 && block.front().size() == 1 && !selected.empty();
+    std::vector<int> files;
+    for (int row = current.row(); !fills && row < model_.rowCount() && files.size() < block.size(); ++row) {
+        files.push_back(model_.fileAt(row));
+    }
+    if (fills) {
+        files = selected;
+        block.resize(files.size(), block.front());
+    }
+    const QList<LibraryColumn> columns = view_->shownColumns();
+    const qsizetype first = columns.indexOf(static_cast<LibraryColumn>(current.column()));
+    std::vector<std::pair<int, RowEdits>> all;
+    std::size_t refused = 0;
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        const RowEdits* const before = model_.rows().edits(files[i]);
+        RowEdits edits = before ? *before : RowEdits();
+        for (qsizetype cell = 0; cell < block[i].size() && first + cell < columns.size(); ++cell) {
+            const LibraryColumn column = columns[first + cell];
+            const bool same = model_.rows().text(files[i], column) == block[i][cell];
+            refused += same || editText(edits, model_.rows().at(files[i]), column, block[i][cell]) ? 0 : 1;
+        }
+        all.emplace_back(files[i], std::move(edits));
+    }
+    model_.setEdits(all);
+    if (refused > 0) {
+        statusBar()->showMessage(localised("%@ cells can't take what was pasted",
+                                           QLocale().toString(static_cast<qulonglong>(refused))),
+                                 messageMilliseconds);
+    }
+}
+
+bool LibraryWindow::exportTo(const QString& path) {
+    const QList<LibraryColumn> columns = view_->shownColumns();
+    ExportTable table;
+    for (const LibraryColumn column : columns) {
+        table.columns.push_back(exportColumn(column));
+    }
+    table.rows = model_.rowCount();
+    table.cell = [&](int row, int column) {
+        const int file = model_.fileAt(row);
+        return exportValue(model_.rows().at(file), model_.rows().edits(file), columns[column]);
+    };
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    const bool json = path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
+    return (json ? exportJson(table, file) : exportCsv(table, file)) && file.commit();
+}
+
+void LibraryWindow::exportTable() {
+    const QString path =
+        QFileDialog::getSaveFileName(this, localised("Export"), QStringLiteral("library.csv"),
+                                     QStringLiteral("CSV (*.csv);;JSON (*.json)"));
+    if (!path.isEmpty() && !exportTo(path)) {
+        presentErrorSheet({NSMachErrorDomain,
+                           0,
+                           {{NSLocalizedDescriptionKey, localised("The table could not be exported.")},
+                            {NSLocalizedRecoverySuggestionErrorKey,
+                             localised("\"%@\" can't be written.", lastPathComponent(path))}}},
+                          this);
+    }
+}
+
+void LibraryWindow::openSelected() {
+    const QModelIndex current = view_->currentIndex();
+    if (current.isValid()) {
+        emit openRequested(model_.rows().at(model_.fileAt(current.row())).path);
+    }
+}
+
+void LibraryWindow::showInFolder() {
+    const QModelIndex current = view_->currentIndex();
+    if (current.isValid()) {
+        QDesktopServices::openUrl(fileUrlFromPath(model_.rows().at(model_.fileAt(current.row())).folder()));
+    }
+}
+
+void LibraryWindow::copyPaths() {
+    QApplication::clipboard()->setText(selectedPaths().join(QLatin1Char('\n')));
+}
+
+void LibraryWindow::removeSelected() {
+    const QStringList paths = selectedPaths();
+    if (!paths.isEmpty()) {
+        emit removeRequested(paths);
+    }
+}
+
+} // namespace velmora
