@@ -38,14 +38,6 @@ QByteArray bytesOf(const portable::Cover& cover) {
     return {reinterpret_cast<const char*>(cover.bytes.data()), static_cast<qsizetype>(cover.bytes.size())};
 }
 
-/** The hash of the cover that ROW has with EDITS. */
-std::uint64_t coverOf(const LibraryRow& row, const RowEdits* edits) {
-    if (edits && !edits->cover.leaves_alone()) {
-        return edits->cover.sets() ? coverHash(**edits->cover.value()) : 0;
-    }
-    return row.coverHash;
-}
-
 } // namespace
 
 void EditPanel::makeCover(QFormLayout& layout) {
@@ -83,7 +75,7 @@ void EditPanel::showCover() {
     bool several = false;
     bool any = false;
     for (const int file : files_) {
-        const std::uint64_t hash = coverOf(rows.at(file), rows.edits(file));
+        const std::uint64_t hash = coverHashOf(rows.at(file), rows.edits(file));
         several = common && *common != hash;
         any = any || hash != 0;
         if (several) {

@@ -223,6 +223,13 @@ int yearOf(const LibraryRow& row, const RowEdits* edits) {
     return edits && !edits->year.leaves_alone() ? edits->year.value().value_or(0) : row.year;
 }
 
+std::uint64_t coverHashOf(const LibraryRow& row, const RowEdits* edits) {
+    if (edits && !edits->cover.leaves_alone()) {
+        return edits->cover.sets() ? coverHash(**edits->cover.value()) : 0;
+    }
+    return row.coverHash;
+}
+
 bool hasCover(const LibraryRow& row, const RowEdits* edits) {
     return edits && !edits->cover.leaves_alone() ? edits->cover.sets() : row.coverHash != 0;
 }

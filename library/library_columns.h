@@ -34,6 +34,9 @@ namespace velmora {
 /** Whether there is a cover with EDITS, unless null, taken for done. */
 [[nodiscard]] bool hasCover(const LibraryRow& row, const RowEdits* edits);
 
+/** The hash of the cover that ROW has with EDITS, unless null, taken for done; 0: none. */
+[[nodiscard]] std::uint64_t coverHashOf(const LibraryRow& row, const RowEdits* edits);
+
 /** What a filter looks at in ROW with EDITS, unless null, taken for done. Takes about 10 microseconds; for any thread. */
 [[nodiscard]] FilterText filterTextOf(const LibraryRow& row, const RowEdits* edits);
 

@@ -50,6 +50,18 @@ void LibraryWindow::makeLayout() {
     split->setChildrenCollapsible(false);
     view_ = new LibraryView(model_, split);
     panel_ = new EditPanel(model_);
+    const double ratio = devicePixelRatioF();
+    thumbnails_ =
+        std::make_unique<CoverThumbnails>(model_, static_cast<int>(view_->iconSize().height() * ratio));
+    model_.setThumbnails([this, ratio](int file) {
+        QVariant picture = thumbnails_->picture(file);
+        if (picture.isValid()) {
+            auto pixels = picture.value<QPixmap>();
+            pixels.setDevicePixelRatio(ratio);
+            picture = pixels;
+        }
+        return picture;
+    });
     auto* const side = new QWidget(split);
     auto* const sideLayout = new QVBoxLayout(side);
     sideLayout->setContentsMargins(0, 0, 0, 0);

@@ -2,6 +2,7 @@
 
 #include "apply_dialog.h"
 #include "apply_run.h"
+#include "cover_thumbnails.h"
 #include "edit_panel.h"
 #include "library_model.h"
 #include "library_view.h"
@@ -108,6 +109,7 @@ private:
     LibraryModel model_;
     LibraryView* view_ = nullptr;
     EditPanel* panel_ = nullptr;
+    std::unique_ptr<CoverThumbnails> thumbnails_;
     QLineEdit* filter_ = nullptr;
     QPushButton* applyButton_ = nullptr;
     QPushButton* revertButton_ = nullptr;
