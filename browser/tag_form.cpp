@@ -1,9 +1,9 @@
 #include "tag_form.h"
 
 #include "detail/image_file_drops.h"
-#include "pick_lists.h"
 #include "media_document.h"
 #include "notice_bar.h"
+#include "pick_lists.h"
 #include "ui_tag_form.h"
 
 #include "model/MediaFile.h"

@@ -1498,6 +1498,10 @@
         <source>several values</source>
         <translation>verschiedene Werte</translation>
     </message>
+    <message>
+        <source>%@ files</source>
+        <translation>%@ Dateien</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>
