@@ -951,20 +951,8 @@
         <translation>%@, sin aplicar</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Cerrar</translation>
-    </message>
-    <message>
         <source>&amp;File</source>
         <translation>&amp;Archivo</translation>
-    </message>
-    <message>
-        <source>&amp;Sort By</source>
-        <translation>&amp;Ordenar por</translation>
-    </message>
-    <message>
-        <source>&amp;Then By</source>
-        <translation>&amp;Luego por</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -1153,6 +1141,366 @@
     <message>
         <source>The settings file can&#x27;t be removed.</source>
         <translation>No se puede eliminar el archivo de ajustes.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; can&#x27;t be written.</source>
+        <translation>No se puede escribir «%@».</translation>
+    </message>
+    <message>
+        <source>%@ a second</source>
+        <translation>%@ por segundo</translation>
+    </message>
+    <message>
+        <source>%@ cells can&#x27;t take what was pasted</source>
+        <translation>%@ celdas no admiten lo pegado</translation>
+    </message>
+    <message>
+        <source>%@ changed since and left alone</source>
+        <translation>%@ cambiados después y no tocados</translation>
+    </message>
+    <message>
+        <source>%@ done</source>
+        <translation>%@ hechos</translation>
+    </message>
+    <message>
+        <source>%@ failed</source>
+        <translation>%@ fallidos</translation>
+    </message>
+    <message>
+        <source>%@ files</source>
+        <translation>%@ archivos</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <translation>quedan %@</translation>
+    </message>
+    <message>
+        <source>%@ not reached</source>
+        <translation>%@ sin alcanzar</translation>
+    </message>
+    <message>
+        <source>%@ unchanged</source>
+        <translation>%@ sin cambios</translation>
+    </message>
+    <message>
+        <source>&amp;Artist or cast:</source>
+        <translation>&amp;Artista o reparto:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>&amp;Elegir…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Genre:</source>
+        <translation>&amp;Género:</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Revertir</translation>
+    </message>
+    <message>
+        <source>&amp;Row</source>
+        <translation>Fi&amp;la</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Título:</translation>
+    </message>
+    <message>
+        <source>&amp;Year:</source>
+        <translation>A&amp;ño:</translation>
+    </message>
+    <message>
+        <source>A&amp;pply</source>
+        <translation>A&amp;plicar</translation>
+    </message>
+    <message>
+        <source>Al&amp;bum or director:</source>
+        <translation>Ál&amp;bum o director:</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>C&amp;over:</source>
+        <translation>P&amp;ortada:</translation>
+    </message>
+    <message>
+        <source>Cancelled before its turn</source>
+        <translation>Cancelado antes de su turno</translation>
+    </message>
+    <message>
+        <source>Changed since, left alone</source>
+        <translation>Cambiado después, no tocado</translation>
+    </message>
+    <message>
+        <source>Choose a Cover</source>
+        <translation>Elegir una portada</translation>
+    </message>
+    <message>
+        <source>Choose a picture as the cover of the selected files</source>
+        <translation>Elegir una imagen como portada de los archivos seleccionados</translation>
+    </message>
+    <message>
+        <source>Close the summary</source>
+        <translation>Cerrar el resumen</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation>Copiar columna</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>Copiar ruta</translation>
+    </message>
+    <message>
+        <source>Copy Rows</source>
+        <translation>Copiar filas</translation>
+    </message>
+    <message>
+        <source>Copy the current column of the selected rows</source>
+        <translation>Copiar la columna actual de las filas seleccionadas</translation>
+    </message>
+    <message>
+        <source>Copy the paths of the selected files</source>
+        <translation>Copiar las rutas de los archivos seleccionados</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows with the columns that are shown, for a spreadsheet</source>
+        <translation>Copiar las filas seleccionadas con las columnas mostradas, para una hoja de cálculo</translation>
+    </message>
+    <message>
+        <source>Drop Them</source>
+        <translation>Descartarlos</translation>
+    </message>
+    <message>
+        <source>Drop what was edited in the selected files and not applied</source>
+        <translation>Descartar lo editado y no aplicado en los archivos seleccionados</translation>
+    </message>
+    <message>
+        <source>Edit Cell</source>
+        <translation>Editar celda</translation>
+    </message>
+    <message>
+        <source>Edit the text of the current cell</source>
+        <translation>Editar el texto de la celda actual</translation>
+    </message>
+    <message>
+        <source>Edits in the library table are not applied yet.</source>
+        <translation>Hay ediciones en la tabla de la biblioteca sin aplicar.</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Files that were not changed</source>
+        <translation>Archivos que no se cambiaron</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>Filtro:</translation>
+    </message>
+    <message>
+        <source>Give the files of the last apply their old values and names back</source>
+        <translation>Devolver sus valores y nombres anteriores a los archivos de la última aplicación</translation>
+    </message>
+    <message>
+        <source>Move Column Left</source>
+        <translation>Mover columna a la izquierda</translation>
+    </message>
+    <message>
+        <source>Move Column Right</source>
+        <translation>Mover columna a la derecha</translation>
+    </message>
+    <message>
+        <source>Open in Editor</source>
+        <translation>Abrir en el editor</translation>
+    </message>
+    <message>
+        <source>Open the file in the program&#x27;s main window</source>
+        <translation>Abrir el archivo en la ventana principal del programa</translation>
+    </message>
+    <message>
+        <source>Open the folder in which the file is</source>
+        <translation>Abrir la carpeta en la que está el archivo</translation>
+    </message>
+    <message>
+        <source>Paste Cells</source>
+        <translation>Pegar celdas</translation>
+    </message>
+    <message>
+        <source>Put the cells of the clipboard into the table from the current cell on</source>
+        <translation>Poner las celdas del portapapeles en la tabla desde la celda actual</translation>
+    </message>
+    <message>
+        <source>Rat&amp;ing:</source>
+        <translation>Clas&amp;ificación:</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>Quita&amp;r</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Quitar de la lista</translation>
+    </message>
+    <message>
+        <source>Remove the cover from the selected files</source>
+        <translation>Quitar la portada de los archivos seleccionados</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Revertir</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
+        <translation>Mostrar solo los archivos que tienen estas palabras en alguna columna; artist:, year:1990-1999, missing:cover y similares miran mejor</translation>
+    </message>
+    <message>
+        <source>Sort By</source>
+        <translation>Ordenar por</translation>
+    </message>
+    <message>
+        <source>Stop; each file is as it was or as it was to be</source>
+        <translation>Detener; cada archivo queda como estaba o como debía quedar</translation>
+    </message>
+    <message>
+        <source>Sy&amp;nopsis or comment:</source>
+        <translation>Si&amp;nopsis o comentario:</translation>
+    </message>
+    <message>
+        <source>Take the selected files off the list; they stay where they are</source>
+        <translation>Quitar de la lista los archivos seleccionados; siguen donde están</translation>
+    </message>
+    <message>
+        <source>The album of the selected songs, the director of the selected films</source>
+        <translation>El álbum de las canciones, el director de las películas seleccionadas</translation>
+    </message>
+    <message>
+        <source>The artist of the selected songs, the cast of the selected films</source>
+        <translation>El artista de las canciones, el reparto de las películas seleccionadas</translation>
+    </message>
+    <message>
+        <source>The cover of the selected files: drop a picture here, or paste one</source>
+        <translation>La portada de los archivos seleccionados: suelte o pegue aquí una imagen</translation>
+    </message>
+    <message>
+        <source>The files that were not changed, and why</source>
+        <translation>Los archivos que no se cambiaron, y por qué</translation>
+    </message>
+    <message>
+        <source>The genre: choose one or type your own</source>
+        <translation>El género: elija uno o escriba el suyo</translation>
+    </message>
+    <message>
+        <source>The old cover can&#x27;t be read any more</source>
+        <translation>Ya no se puede leer la portada anterior</translation>
+    </message>
+    <message>
+        <source>The parental rating of the selected films</source>
+        <translation>La clasificación por edades de las películas seleccionadas</translation>
+    </message>
+    <message>
+        <source>The table could not be exported.</source>
+        <translation>No se pudo exportar la tabla.</translation>
+    </message>
+    <message>
+        <source>The tags are right, the name is the old one: %@</source>
+        <translation>Las etiquetas están bien, el nombre es el anterior: %@</translation>
+    </message>
+    <message>
+        <source>The title of the selected files</source>
+        <translation>El título de los archivos seleccionados</translation>
+    </message>
+    <message>
+        <source>The year of release, of up to four digits</source>
+        <translation>El año de publicación, de hasta cuatro cifras</translation>
+    </message>
+    <message>
+        <source>Then By</source>
+        <translation>Después por</translation>
+    </message>
+    <message>
+        <source>There is no room to keep the old cover for an undo</source>
+        <translation>No hay espacio para guardar la portada anterior para deshacer</translation>
+    </message>
+    <message>
+        <source>They are lost when the program ends.</source>
+        <translation>Se pierden cuando termina el programa.</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Try the files again that were not changed</source>
+        <translation>Reintentar los archivos que no se cambiaron</translation>
+    </message>
+    <message>
+        <source>Type what is to be shown</source>
+        <translation>Escribir lo que se debe mostrar</translation>
+    </message>
+    <message>
+        <source>Undo Apply</source>
+        <translation>Deshacer aplicación</translation>
+    </message>
+    <message>
+        <source>What the selected films are about, or a comment on the songs</source>
+        <translation>De qué tratan las películas seleccionadas, o un comentario sobre las canciones</translation>
+    </message>
+    <message>
+        <source>Words, artist:name, year:1990-1999, missing:cover</source>
+        <translation>Palabras, artist:nombre, year:1990-1999, missing:cover</translation>
+    </message>
+    <message>
+        <source>Write the rows and columns that are shown into a file, as CSV or JSON</source>
+        <translation>Escribir en un archivo las filas y columnas mostradas, como CSV o JSON</translation>
+    </message>
+    <message>
+        <source>Write what was edited into the files</source>
+        <translation>Escribir lo editado en los archivos</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>Escribiendo…</translation>
+    </message>
+    <message>
+        <source>several covers</source>
+        <translation>varias portadas</translation>
+    </message>
+    <message>
+        <source>several values</source>
+        <translation>varios valores</translation>
     </message>
 </context>
 <context>

@@ -951,20 +951,8 @@
         <translation>%@, non appliqué</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Fermer</translation>
-    </message>
-    <message>
         <source>&amp;File</source>
         <translation>&amp;Fichier</translation>
-    </message>
-    <message>
-        <source>&amp;Sort By</source>
-        <translation>&amp;Trier par</translation>
-    </message>
-    <message>
-        <source>&amp;Then By</source>
-        <translation>&amp;Puis par</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -1153,6 +1141,366 @@
     <message>
         <source>The settings file can&#x27;t be removed.</source>
         <translation>Le fichier de réglages ne peut pas être supprimé.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; can&#x27;t be written.</source>
+        <translation>Impossible d&#x27;écrire « %@ ».</translation>
+    </message>
+    <message>
+        <source>%@ a second</source>
+        <translation>%@ par seconde</translation>
+    </message>
+    <message>
+        <source>%@ cells can&#x27;t take what was pasted</source>
+        <translation>%@ cellules n&#x27;acceptent pas ce qui a été collé</translation>
+    </message>
+    <message>
+        <source>%@ changed since and left alone</source>
+        <translation>%@ modifiés depuis et laissés tels quels</translation>
+    </message>
+    <message>
+        <source>%@ done</source>
+        <translation>%@ faits</translation>
+    </message>
+    <message>
+        <source>%@ failed</source>
+        <translation>%@ en échec</translation>
+    </message>
+    <message>
+        <source>%@ files</source>
+        <translation>%@ fichiers</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <translation>reste %@</translation>
+    </message>
+    <message>
+        <source>%@ not reached</source>
+        <translation>%@ non atteints</translation>
+    </message>
+    <message>
+        <source>%@ unchanged</source>
+        <translation>%@ inchangés</translation>
+    </message>
+    <message>
+        <source>&amp;Artist or cast:</source>
+        <translation>&amp;Artiste ou distribution :</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>&amp;Choisir…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Genre:</source>
+        <translation>&amp;Genre :</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>&amp;Row</source>
+        <translation>&amp;Ligne</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre :</translation>
+    </message>
+    <message>
+        <source>&amp;Year:</source>
+        <translation>A&amp;nnée :</translation>
+    </message>
+    <message>
+        <source>A&amp;pply</source>
+        <translation>A&amp;ppliquer</translation>
+    </message>
+    <message>
+        <source>Al&amp;bum or director:</source>
+        <translation>Al&amp;bum ou réalisateur :</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>C&amp;over:</source>
+        <translation>P&amp;ochette :</translation>
+    </message>
+    <message>
+        <source>Cancelled before its turn</source>
+        <translation>Annulé avant son tour</translation>
+    </message>
+    <message>
+        <source>Changed since, left alone</source>
+        <translation>Modifié depuis, laissé tel quel</translation>
+    </message>
+    <message>
+        <source>Choose a Cover</source>
+        <translation>Choisir une pochette</translation>
+    </message>
+    <message>
+        <source>Choose a picture as the cover of the selected files</source>
+        <translation>Choisir une image comme pochette des fichiers sélectionnés</translation>
+    </message>
+    <message>
+        <source>Close the summary</source>
+        <translation>Fermer le résumé</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation>Copier la colonne</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>Copier le chemin</translation>
+    </message>
+    <message>
+        <source>Copy Rows</source>
+        <translation>Copier les lignes</translation>
+    </message>
+    <message>
+        <source>Copy the current column of the selected rows</source>
+        <translation>Copier la colonne actuelle des lignes sélectionnées</translation>
+    </message>
+    <message>
+        <source>Copy the paths of the selected files</source>
+        <translation>Copier les chemins des fichiers sélectionnés</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows with the columns that are shown, for a spreadsheet</source>
+        <translation>Copier les lignes sélectionnées avec les colonnes affichées, pour un tableur</translation>
+    </message>
+    <message>
+        <source>Drop Them</source>
+        <translation>Les abandonner</translation>
+    </message>
+    <message>
+        <source>Drop what was edited in the selected files and not applied</source>
+        <translation>Abandonner ce qui a été modifié sans être appliqué dans les fichiers sélectionnés</translation>
+    </message>
+    <message>
+        <source>Edit Cell</source>
+        <translation>Modifier la cellule</translation>
+    </message>
+    <message>
+        <source>Edit the text of the current cell</source>
+        <translation>Modifier le texte de la cellule actuelle</translation>
+    </message>
+    <message>
+        <source>Edits in the library table are not applied yet.</source>
+        <translation>Des modifications du tableau de la bibliothèque ne sont pas encore appliquées.</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Files that were not changed</source>
+        <translation>Fichiers qui n&#x27;ont pas été modifiés</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>Filtre :</translation>
+    </message>
+    <message>
+        <source>Give the files of the last apply their old values and names back</source>
+        <translation>Rendre leurs anciennes valeurs et leurs anciens noms aux fichiers de la dernière application</translation>
+    </message>
+    <message>
+        <source>Move Column Left</source>
+        <translation>Déplacer la colonne à gauche</translation>
+    </message>
+    <message>
+        <source>Move Column Right</source>
+        <translation>Déplacer la colonne à droite</translation>
+    </message>
+    <message>
+        <source>Open in Editor</source>
+        <translation>Ouvrir dans l&#x27;éditeur</translation>
+    </message>
+    <message>
+        <source>Open the file in the program&#x27;s main window</source>
+        <translation>Ouvrir le fichier dans la fenêtre principale du programme</translation>
+    </message>
+    <message>
+        <source>Open the folder in which the file is</source>
+        <translation>Ouvrir le dossier où se trouve le fichier</translation>
+    </message>
+    <message>
+        <source>Paste Cells</source>
+        <translation>Coller les cellules</translation>
+    </message>
+    <message>
+        <source>Put the cells of the clipboard into the table from the current cell on</source>
+        <translation>Mettre les cellules du presse-papiers dans le tableau à partir de la cellule actuelle</translation>
+    </message>
+    <message>
+        <source>Rat&amp;ing:</source>
+        <translation>Class&amp;ification :</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>Suppri&amp;mer</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Raison</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Retirer de la liste</translation>
+    </message>
+    <message>
+        <source>Remove the cover from the selected files</source>
+        <translation>Supprimer la pochette des fichiers sélectionnés</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
+        <translation>N&#x27;afficher que les fichiers qui ont ces mots dans une colonne ; artist:, year:1990-1999, missing:cover et autres sont plus précis</translation>
+    </message>
+    <message>
+        <source>Sort By</source>
+        <translation>Trier par</translation>
+    </message>
+    <message>
+        <source>Stop; each file is as it was or as it was to be</source>
+        <translation>Arrêter ; chaque fichier reste tel quel ou tel qu&#x27;il devait être</translation>
+    </message>
+    <message>
+        <source>Sy&amp;nopsis or comment:</source>
+        <translation>Résumé o&amp;u commentaire :</translation>
+    </message>
+    <message>
+        <source>Take the selected files off the list; they stay where they are</source>
+        <translation>Retirer de la liste les fichiers sélectionnés ; ils restent où ils sont</translation>
+    </message>
+    <message>
+        <source>The album of the selected songs, the director of the selected films</source>
+        <translation>L&#x27;album des chansons, le réalisateur des films sélectionnés</translation>
+    </message>
+    <message>
+        <source>The artist of the selected songs, the cast of the selected films</source>
+        <translation>L&#x27;artiste des chansons, la distribution des films sélectionnés</translation>
+    </message>
+    <message>
+        <source>The cover of the selected files: drop a picture here, or paste one</source>
+        <translation>La pochette des fichiers sélectionnés : déposez ou collez une image ici</translation>
+    </message>
+    <message>
+        <source>The files that were not changed, and why</source>
+        <translation>Les fichiers qui n&#x27;ont pas été modifiés, et pourquoi</translation>
+    </message>
+    <message>
+        <source>The genre: choose one or type your own</source>
+        <translation>Le genre : choisissez-en un ou saisissez le vôtre</translation>
+    </message>
+    <message>
+        <source>The old cover can&#x27;t be read any more</source>
+        <translation>L&#x27;ancienne pochette n&#x27;est plus lisible</translation>
+    </message>
+    <message>
+        <source>The parental rating of the selected films</source>
+        <translation>La classification d&#x27;âge des films sélectionnés</translation>
+    </message>
+    <message>
+        <source>The table could not be exported.</source>
+        <translation>Le tableau n&#x27;a pas pu être exporté.</translation>
+    </message>
+    <message>
+        <source>The tags are right, the name is the old one: %@</source>
+        <translation>Les tags sont bons, le nom est l&#x27;ancien : %@</translation>
+    </message>
+    <message>
+        <source>The title of the selected files</source>
+        <translation>Le titre des fichiers sélectionnés</translation>
+    </message>
+    <message>
+        <source>The year of release, of up to four digits</source>
+        <translation>L&#x27;année de sortie, quatre chiffres au plus</translation>
+    </message>
+    <message>
+        <source>Then By</source>
+        <translation>Puis par</translation>
+    </message>
+    <message>
+        <source>There is no room to keep the old cover for an undo</source>
+        <translation>Pas de place pour garder l&#x27;ancienne pochette en vue d&#x27;une annulation</translation>
+    </message>
+    <message>
+        <source>They are lost when the program ends.</source>
+        <translation>Elles sont perdues quand le programme se termine.</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Try the files again that were not changed</source>
+        <translation>Réessayer les fichiers qui n&#x27;ont pas été modifiés</translation>
+    </message>
+    <message>
+        <source>Type what is to be shown</source>
+        <translation>Saisir ce qui doit être affiché</translation>
+    </message>
+    <message>
+        <source>Undo Apply</source>
+        <translation>Annuler l&#x27;application</translation>
+    </message>
+    <message>
+        <source>What the selected films are about, or a comment on the songs</source>
+        <translation>De quoi parlent les films sélectionnés, ou un commentaire sur les chansons</translation>
+    </message>
+    <message>
+        <source>Words, artist:name, year:1990-1999, missing:cover</source>
+        <translation>Mots, artist:nom, year:1990-1999, missing:cover</translation>
+    </message>
+    <message>
+        <source>Write the rows and columns that are shown into a file, as CSV or JSON</source>
+        <translation>Écrire dans un fichier les lignes et colonnes affichées, en CSV ou JSON</translation>
+    </message>
+    <message>
+        <source>Write what was edited into the files</source>
+        <translation>Écrire les modifications dans les fichiers</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>Écriture…</translation>
+    </message>
+    <message>
+        <source>several covers</source>
+        <translation>plusieurs pochettes</translation>
+    </message>
+    <message>
+        <source>several values</source>
+        <translation>plusieurs valeurs</translation>
     </message>
 </context>
 <context>

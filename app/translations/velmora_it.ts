@@ -951,20 +951,8 @@
         <translation>%@, non applicato</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Chiudi</translation>
-    </message>
-    <message>
         <source>&amp;File</source>
         <translation>&amp;File</translation>
-    </message>
-    <message>
-        <source>&amp;Sort By</source>
-        <translation>&amp;Ordina per</translation>
-    </message>
-    <message>
-        <source>&amp;Then By</source>
-        <translation>&amp;Poi per</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -1153,6 +1141,366 @@
     <message>
         <source>The settings file can&#x27;t be removed.</source>
         <translation>Il file delle impostazioni non può essere rimosso.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; can&#x27;t be written.</source>
+        <translation>Impossibile scrivere «%@».</translation>
+    </message>
+    <message>
+        <source>%@ a second</source>
+        <translation>%@ al secondo</translation>
+    </message>
+    <message>
+        <source>%@ cells can&#x27;t take what was pasted</source>
+        <translation>%@ celle non accettano ciò che è stato incollato</translation>
+    </message>
+    <message>
+        <source>%@ changed since and left alone</source>
+        <translation>%@ modificati nel frattempo e lasciati così</translation>
+    </message>
+    <message>
+        <source>%@ done</source>
+        <translation>%@ fatti</translation>
+    </message>
+    <message>
+        <source>%@ failed</source>
+        <translation>%@ non riusciti</translation>
+    </message>
+    <message>
+        <source>%@ files</source>
+        <translation>%@ file</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <translation>restano %@</translation>
+    </message>
+    <message>
+        <source>%@ not reached</source>
+        <translation>%@ non raggiunti</translation>
+    </message>
+    <message>
+        <source>%@ unchanged</source>
+        <translation>%@ invariati</translation>
+    </message>
+    <message>
+        <source>&amp;Artist or cast:</source>
+        <translation>&amp;Artista o cast:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>&amp;Scegli…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;Genre:</source>
+        <translation>&amp;Genere:</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Ripristina</translation>
+    </message>
+    <message>
+        <source>&amp;Row</source>
+        <translation>Ri&amp;ga</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titolo:</translation>
+    </message>
+    <message>
+        <source>&amp;Year:</source>
+        <translation>A&amp;nno:</translation>
+    </message>
+    <message>
+        <source>A&amp;pply</source>
+        <translation>A&amp;pplica</translation>
+    </message>
+    <message>
+        <source>Al&amp;bum or director:</source>
+        <translation>Al&amp;bum o regista:</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Applica</translation>
+    </message>
+    <message>
+        <source>C&amp;over:</source>
+        <translation>C&amp;opertina:</translation>
+    </message>
+    <message>
+        <source>Cancelled before its turn</source>
+        <translation>Annullato prima del suo turno</translation>
+    </message>
+    <message>
+        <source>Changed since, left alone</source>
+        <translation>Modificato nel frattempo, lasciato così</translation>
+    </message>
+    <message>
+        <source>Choose a Cover</source>
+        <translation>Scegli una copertina</translation>
+    </message>
+    <message>
+        <source>Choose a picture as the cover of the selected files</source>
+        <translation>Scegli un&#x27;immagine come copertina dei file selezionati</translation>
+    </message>
+    <message>
+        <source>Close the summary</source>
+        <translation>Chiudi il riepilogo</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonne</translation>
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation>Copia colonna</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>Copia percorso</translation>
+    </message>
+    <message>
+        <source>Copy Rows</source>
+        <translation>Copia righe</translation>
+    </message>
+    <message>
+        <source>Copy the current column of the selected rows</source>
+        <translation>Copia la colonna corrente delle righe selezionate</translation>
+    </message>
+    <message>
+        <source>Copy the paths of the selected files</source>
+        <translation>Copia i percorsi dei file selezionati</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows with the columns that are shown, for a spreadsheet</source>
+        <translation>Copia le righe selezionate con le colonne mostrate, per un foglio di calcolo</translation>
+    </message>
+    <message>
+        <source>Drop Them</source>
+        <translation>Scartale</translation>
+    </message>
+    <message>
+        <source>Drop what was edited in the selected files and not applied</source>
+        <translation>Scarta ciò che è stato modificato e non applicato nei file selezionati</translation>
+    </message>
+    <message>
+        <source>Edit Cell</source>
+        <translation>Modifica cella</translation>
+    </message>
+    <message>
+        <source>Edit the text of the current cell</source>
+        <translation>Modifica il testo della cella corrente</translation>
+    </message>
+    <message>
+        <source>Edits in the library table are not applied yet.</source>
+        <translation>Le modifiche nella tabella della libreria non sono ancora applicate.</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Esporta</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Esporta…</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Files that were not changed</source>
+        <translation>File non modificati</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>Filtro:</translation>
+    </message>
+    <message>
+        <source>Give the files of the last apply their old values and names back</source>
+        <translation>Restituisci ai file dell&#x27;ultima applicazione i vecchi valori e nomi</translation>
+    </message>
+    <message>
+        <source>Move Column Left</source>
+        <translation>Sposta colonna a sinistra</translation>
+    </message>
+    <message>
+        <source>Move Column Right</source>
+        <translation>Sposta colonna a destra</translation>
+    </message>
+    <message>
+        <source>Open in Editor</source>
+        <translation>Apri nell&#x27;editor</translation>
+    </message>
+    <message>
+        <source>Open the file in the program&#x27;s main window</source>
+        <translation>Apri il file nella finestra principale del programma</translation>
+    </message>
+    <message>
+        <source>Open the folder in which the file is</source>
+        <translation>Apri la cartella in cui si trova il file</translation>
+    </message>
+    <message>
+        <source>Paste Cells</source>
+        <translation>Incolla celle</translation>
+    </message>
+    <message>
+        <source>Put the cells of the clipboard into the table from the current cell on</source>
+        <translation>Inserisci nella tabella le celle degli appunti a partire dalla cella corrente</translation>
+    </message>
+    <message>
+        <source>Rat&amp;ing:</source>
+        <translation>Class&amp;ificazione:</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>Ri&amp;muovi</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Rimuovi dall&#x27;elenco</translation>
+    </message>
+    <message>
+        <source>Remove the cover from the selected files</source>
+        <translation>Rimuovi la copertina dai file selezionati</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Mostra nella cartella</translation>
+    </message>
+    <message>
+        <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
+        <translation>Mostra solo i file che hanno queste parole in una colonna; artist:, year:1990-1999, missing:cover e simili sono più precisi</translation>
+    </message>
+    <message>
+        <source>Sort By</source>
+        <translation>Ordina per</translation>
+    </message>
+    <message>
+        <source>Stop; each file is as it was or as it was to be</source>
+        <translation>Ferma; ogni file è com&#x27;era o come doveva essere</translation>
+    </message>
+    <message>
+        <source>Sy&amp;nopsis or comment:</source>
+        <translation>Trama o &amp;commento:</translation>
+    </message>
+    <message>
+        <source>Take the selected files off the list; they stay where they are</source>
+        <translation>Togli dall&#x27;elenco i file selezionati; restano dove sono</translation>
+    </message>
+    <message>
+        <source>The album of the selected songs, the director of the selected films</source>
+        <translation>L&#x27;album dei brani, il regista dei film selezionati</translation>
+    </message>
+    <message>
+        <source>The artist of the selected songs, the cast of the selected films</source>
+        <translation>L&#x27;artista dei brani, il cast dei film selezionati</translation>
+    </message>
+    <message>
+        <source>The cover of the selected files: drop a picture here, or paste one</source>
+        <translation>La copertina dei file selezionati: trascina o incolla qui un&#x27;immagine</translation>
+    </message>
+    <message>
+        <source>The files that were not changed, and why</source>
+        <translation>I file non modificati, e perché</translation>
+    </message>
+    <message>
+        <source>The genre: choose one or type your own</source>
+        <translation>Il genere: scegline uno o scrivi il tuo</translation>
+    </message>
+    <message>
+        <source>The old cover can&#x27;t be read any more</source>
+        <translation>La vecchia copertina non si può più leggere</translation>
+    </message>
+    <message>
+        <source>The parental rating of the selected films</source>
+        <translation>La classificazione dei film selezionati</translation>
+    </message>
+    <message>
+        <source>The table could not be exported.</source>
+        <translation>Impossibile esportare la tabella.</translation>
+    </message>
+    <message>
+        <source>The tags are right, the name is the old one: %@</source>
+        <translation>I tag sono giusti, il nome è quello vecchio: %@</translation>
+    </message>
+    <message>
+        <source>The title of the selected files</source>
+        <translation>Il titolo dei file selezionati</translation>
+    </message>
+    <message>
+        <source>The year of release, of up to four digits</source>
+        <translation>L&#x27;anno di uscita, fino a quattro cifre</translation>
+    </message>
+    <message>
+        <source>Then By</source>
+        <translation>Poi per</translation>
+    </message>
+    <message>
+        <source>There is no room to keep the old cover for an undo</source>
+        <translation>Non c&#x27;è spazio per conservare la vecchia copertina per l&#x27;annullamento</translation>
+    </message>
+    <message>
+        <source>They are lost when the program ends.</source>
+        <translation>Vanno perse quando il programma termina.</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Try the files again that were not changed</source>
+        <translation>Riprova i file non modificati</translation>
+    </message>
+    <message>
+        <source>Type what is to be shown</source>
+        <translation>Scrivi che cosa mostrare</translation>
+    </message>
+    <message>
+        <source>Undo Apply</source>
+        <translation>Annulla applicazione</translation>
+    </message>
+    <message>
+        <source>What the selected films are about, or a comment on the songs</source>
+        <translation>Di che cosa parlano i film selezionati, o un commento ai brani</translation>
+    </message>
+    <message>
+        <source>Words, artist:name, year:1990-1999, missing:cover</source>
+        <translation>Parole, artist:nome, year:1990-1999, missing:cover</translation>
+    </message>
+    <message>
+        <source>Write the rows and columns that are shown into a file, as CSV or JSON</source>
+        <translation>Scrivi in un file le righe e le colonne mostrate, come CSV o JSON</translation>
+    </message>
+    <message>
+        <source>Write what was edited into the files</source>
+        <translation>Scrivi nei file ciò che è stato modificato</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>Scrittura…</translation>
+    </message>
+    <message>
+        <source>several covers</source>
+        <translation>più copertine</translation>
+    </message>
+    <message>
+        <source>several values</source>
+        <translation>più valori</translation>
     </message>
 </context>
 <context>

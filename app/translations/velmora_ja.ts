@@ -950,20 +950,8 @@
         <translation>%@、未適用</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>閉じる(&amp;C)</translation>
-    </message>
-    <message>
         <source>&amp;File</source>
         <translation>ファイル(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;Sort By</source>
-        <translation>並べ替え(&amp;S)</translation>
-    </message>
-    <message>
-        <source>&amp;Then By</source>
-        <translation>次の並べ替え(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -1152,6 +1140,366 @@
     <message>
         <source>The settings file can&#x27;t be removed.</source>
         <translation>設定ファイルを削除できません。</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; can&#x27;t be written.</source>
+        <translation>「%@」に書き込めません。</translation>
+    </message>
+    <message>
+        <source>%@ a second</source>
+        <translation>毎秒 %@</translation>
+    </message>
+    <message>
+        <source>%@ cells can&#x27;t take what was pasted</source>
+        <translation>%@ 個のセルには貼り付けられません</translation>
+    </message>
+    <message>
+        <source>%@ changed since and left alone</source>
+        <translation>%@ 件はその後変更されたためそのまま</translation>
+    </message>
+    <message>
+        <source>%@ done</source>
+        <translation>%@ 件完了</translation>
+    </message>
+    <message>
+        <source>%@ failed</source>
+        <translation>%@ 件失敗</translation>
+    </message>
+    <message>
+        <source>%@ files</source>
+        <translation>%@ ファイル</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <translation>残り %@</translation>
+    </message>
+    <message>
+        <source>%@ not reached</source>
+        <translation>%@ 件未処理</translation>
+    </message>
+    <message>
+        <source>%@ unchanged</source>
+        <translation>%@ 件変更なし</translation>
+    </message>
+    <message>
+        <source>&amp;Artist or cast:</source>
+        <translation>アーティストまたは出演者(&amp;A):</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>選択(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Genre:</source>
+        <translation>ジャンル(&amp;G):</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>元に戻す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Row</source>
+        <translation>行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>タイトル(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Year:</source>
+        <translation>年(&amp;Y):</translation>
+    </message>
+    <message>
+        <source>A&amp;pply</source>
+        <translation>適用(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Al&amp;bum or director:</source>
+        <translation>アルバムまたは監督(&amp;B):</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>C&amp;over:</source>
+        <translation>カバー(&amp;O):</translation>
+    </message>
+    <message>
+        <source>Cancelled before its turn</source>
+        <translation>順番の前に取り消されました</translation>
+    </message>
+    <message>
+        <source>Changed since, left alone</source>
+        <translation>その後変更されたためそのまま</translation>
+    </message>
+    <message>
+        <source>Choose a Cover</source>
+        <translation>カバーを選択</translation>
+    </message>
+    <message>
+        <source>Choose a picture as the cover of the selected files</source>
+        <translation>選択したファイルのカバーにする画像を選びます</translation>
+    </message>
+    <message>
+        <source>Close the summary</source>
+        <translation>結果を閉じます</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation>列をコピー</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>パスをコピー</translation>
+    </message>
+    <message>
+        <source>Copy Rows</source>
+        <translation>行をコピー</translation>
+    </message>
+    <message>
+        <source>Copy the current column of the selected rows</source>
+        <translation>選択した行の現在の列をコピーします</translation>
+    </message>
+    <message>
+        <source>Copy the paths of the selected files</source>
+        <translation>選択したファイルのパスをコピーします</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows with the columns that are shown, for a spreadsheet</source>
+        <translation>選択した行を表示中の列とともに表計算用にコピーします</translation>
+    </message>
+    <message>
+        <source>Drop Them</source>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>Drop what was edited in the selected files and not applied</source>
+        <translation>選択したファイルの未適用の編集を破棄します</translation>
+    </message>
+    <message>
+        <source>Edit Cell</source>
+        <translation>セルを編集</translation>
+    </message>
+    <message>
+        <source>Edit the text of the current cell</source>
+        <translation>現在のセルの文字を編集します</translation>
+    </message>
+    <message>
+        <source>Edits in the library table are not applied yet.</source>
+        <translation>ライブラリ表の編集はまだ適用されていません。</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>書き出す</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>書き出す…</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Files that were not changed</source>
+        <translation>変更されなかったファイル</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>フィルター</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>フィルター:</translation>
+    </message>
+    <message>
+        <source>Give the files of the last apply their old values and names back</source>
+        <translation>最後に適用したファイルの値と名前を元に戻します</translation>
+    </message>
+    <message>
+        <source>Move Column Left</source>
+        <translation>列を左へ移動</translation>
+    </message>
+    <message>
+        <source>Move Column Right</source>
+        <translation>列を右へ移動</translation>
+    </message>
+    <message>
+        <source>Open in Editor</source>
+        <translation>エディターで開く</translation>
+    </message>
+    <message>
+        <source>Open the file in the program&#x27;s main window</source>
+        <translation>ファイルをメインウィンドウで開きます</translation>
+    </message>
+    <message>
+        <source>Open the folder in which the file is</source>
+        <translation>ファイルのあるフォルダーを開きます</translation>
+    </message>
+    <message>
+        <source>Paste Cells</source>
+        <translation>セルを貼り付け</translation>
+    </message>
+    <message>
+        <source>Put the cells of the clipboard into the table from the current cell on</source>
+        <translation>クリップボードのセルを現在のセルから表に入れます</translation>
+    </message>
+    <message>
+        <source>Rat&amp;ing:</source>
+        <translation>レーティング(&amp;I):</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>削除(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>リストから外す</translation>
+    </message>
+    <message>
+        <source>Remove the cover from the selected files</source>
+        <translation>選択したファイルからカバーを削除します</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>フォルダーで表示</translation>
+    </message>
+    <message>
+        <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
+        <translation>いずれかの列にこれらの語があるファイルだけを表示します。artist:、year:1990-1999、missing:cover などで絞り込めます</translation>
+    </message>
+    <message>
+        <source>Sort By</source>
+        <translation>並べ替え</translation>
+    </message>
+    <message>
+        <source>Stop; each file is as it was or as it was to be</source>
+        <translation>停止します。どのファイルも元のままか、変更後の状態です</translation>
+    </message>
+    <message>
+        <source>Sy&amp;nopsis or comment:</source>
+        <translation>あらすじまたはコメント(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Take the selected files off the list; they stay where they are</source>
+        <translation>選択したファイルをリストから外します。ファイルはそのままです</translation>
+    </message>
+    <message>
+        <source>The album of the selected songs, the director of the selected films</source>
+        <translation>選択した曲のアルバム、映画の監督</translation>
+    </message>
+    <message>
+        <source>The artist of the selected songs, the cast of the selected films</source>
+        <translation>選択した曲のアーティスト、映画の出演者</translation>
+    </message>
+    <message>
+        <source>The cover of the selected files: drop a picture here, or paste one</source>
+        <translation>選択したファイルのカバー。画像をドロップするか貼り付けます</translation>
+    </message>
+    <message>
+        <source>The files that were not changed, and why</source>
+        <translation>変更されなかったファイルとその理由</translation>
+    </message>
+    <message>
+        <source>The genre: choose one or type your own</source>
+        <translation>ジャンル。選ぶか、自分で入力します</translation>
+    </message>
+    <message>
+        <source>The old cover can&#x27;t be read any more</source>
+        <translation>以前のカバーを読み込めません</translation>
+    </message>
+    <message>
+        <source>The parental rating of the selected films</source>
+        <translation>選択した映画の年齢制限</translation>
+    </message>
+    <message>
+        <source>The table could not be exported.</source>
+        <translation>表を書き出せませんでした。</translation>
+    </message>
+    <message>
+        <source>The tags are right, the name is the old one: %@</source>
+        <translation>タグは正しく、名前は元のままです: %@</translation>
+    </message>
+    <message>
+        <source>The title of the selected files</source>
+        <translation>選択したファイルのタイトル</translation>
+    </message>
+    <message>
+        <source>The year of release, of up to four digits</source>
+        <translation>公開年(4 桁まで)</translation>
+    </message>
+    <message>
+        <source>Then By</source>
+        <translation>次の並べ替え</translation>
+    </message>
+    <message>
+        <source>There is no room to keep the old cover for an undo</source>
+        <translation>取り消し用に以前のカバーを保存する空きがありません</translation>
+    </message>
+    <message>
+        <source>They are lost when the program ends.</source>
+        <translation>プログラムを終了すると失われます。</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Try the files again that were not changed</source>
+        <translation>変更されなかったファイルを再試行します</translation>
+    </message>
+    <message>
+        <source>Type what is to be shown</source>
+        <translation>表示するものを入力します</translation>
+    </message>
+    <message>
+        <source>Undo Apply</source>
+        <translation>適用を取り消す</translation>
+    </message>
+    <message>
+        <source>What the selected films are about, or a comment on the songs</source>
+        <translation>選択した映画のあらすじ、または曲へのコメント</translation>
+    </message>
+    <message>
+        <source>Words, artist:name, year:1990-1999, missing:cover</source>
+        <translation>語、artist:名前、year:1990-1999、missing:cover</translation>
+    </message>
+    <message>
+        <source>Write the rows and columns that are shown into a file, as CSV or JSON</source>
+        <translation>表示中の行と列を CSV または JSON としてファイルに書き出します</translation>
+    </message>
+    <message>
+        <source>Write what was edited into the files</source>
+        <translation>編集内容をファイルに書き込みます</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>書き込み中…</translation>
+    </message>
+    <message>
+        <source>several covers</source>
+        <translation>複数のカバー</translation>
+    </message>
+    <message>
+        <source>several values</source>
+        <translation>複数の値</translation>
     </message>
 </context>
 <context>

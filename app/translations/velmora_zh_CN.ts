@@ -950,20 +950,8 @@
         <translation>%@，未应用</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>关闭(&amp;C)</translation>
-    </message>
-    <message>
         <source>&amp;File</source>
         <translation>文件(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;Sort By</source>
-        <translation>排序依据(&amp;S)</translation>
-    </message>
-    <message>
-        <source>&amp;Then By</source>
-        <translation>次要依据(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -1152,6 +1140,366 @@
     <message>
         <source>The settings file can&#x27;t be removed.</source>
         <translation>无法删除设置文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; can&#x27;t be written.</source>
+        <translation>无法写入“%@”。</translation>
+    </message>
+    <message>
+        <source>%@ a second</source>
+        <translation>每秒 %@</translation>
+    </message>
+    <message>
+        <source>%@ cells can&#x27;t take what was pasted</source>
+        <translation>%@ 个单元格无法接受粘贴的内容</translation>
+    </message>
+    <message>
+        <source>%@ changed since and left alone</source>
+        <translation>%@ 个之后有改动，未处理</translation>
+    </message>
+    <message>
+        <source>%@ done</source>
+        <translation>%@ 个完成</translation>
+    </message>
+    <message>
+        <source>%@ failed</source>
+        <translation>%@ 个失败</translation>
+    </message>
+    <message>
+        <source>%@ files</source>
+        <translation>%@ 个文件</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <translation>剩余 %@</translation>
+    </message>
+    <message>
+        <source>%@ not reached</source>
+        <translation>%@ 个未处理</translation>
+    </message>
+    <message>
+        <source>%@ unchanged</source>
+        <translation>%@ 个未变</translation>
+    </message>
+    <message>
+        <source>&amp;Artist or cast:</source>
+        <translation>艺术家或演员(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>选择(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Genre:</source>
+        <translation>类型(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>还原(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Row</source>
+        <translation>行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>标题(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Year:</source>
+        <translation>年份(&amp;Y)：</translation>
+    </message>
+    <message>
+        <source>A&amp;pply</source>
+        <translation>应用(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Al&amp;bum or director:</source>
+        <translation>专辑或导演(&amp;B)：</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>C&amp;over:</source>
+        <translation>封面(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>Cancelled before its turn</source>
+        <translation>轮到之前已取消</translation>
+    </message>
+    <message>
+        <source>Changed since, left alone</source>
+        <translation>之后有改动，未处理</translation>
+    </message>
+    <message>
+        <source>Choose a Cover</source>
+        <translation>选择封面</translation>
+    </message>
+    <message>
+        <source>Choose a picture as the cover of the selected files</source>
+        <translation>为所选文件选择一张图片作为封面</translation>
+    </message>
+    <message>
+        <source>Close the summary</source>
+        <translation>关闭摘要</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation>复制列</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>复制路径</translation>
+    </message>
+    <message>
+        <source>Copy Rows</source>
+        <translation>复制行</translation>
+    </message>
+    <message>
+        <source>Copy the current column of the selected rows</source>
+        <translation>复制所选行的当前列</translation>
+    </message>
+    <message>
+        <source>Copy the paths of the selected files</source>
+        <translation>复制所选文件的路径</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows with the columns that are shown, for a spreadsheet</source>
+        <translation>复制所选行及显示的列，供电子表格使用</translation>
+    </message>
+    <message>
+        <source>Drop Them</source>
+        <translation>丢弃</translation>
+    </message>
+    <message>
+        <source>Drop what was edited in the selected files and not applied</source>
+        <translation>丢弃所选文件中尚未应用的编辑</translation>
+    </message>
+    <message>
+        <source>Edit Cell</source>
+        <translation>编辑单元格</translation>
+    </message>
+    <message>
+        <source>Edit the text of the current cell</source>
+        <translation>编辑当前单元格的文字</translation>
+    </message>
+    <message>
+        <source>Edits in the library table are not applied yet.</source>
+        <translation>媒体库表格中的编辑尚未应用。</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Files that were not changed</source>
+        <translation>未更改的文件</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>筛选：</translation>
+    </message>
+    <message>
+        <source>Give the files of the last apply their old values and names back</source>
+        <translation>将上次应用的文件恢复为原来的值和名称</translation>
+    </message>
+    <message>
+        <source>Move Column Left</source>
+        <translation>左移列</translation>
+    </message>
+    <message>
+        <source>Move Column Right</source>
+        <translation>右移列</translation>
+    </message>
+    <message>
+        <source>Open in Editor</source>
+        <translation>在编辑器中打开</translation>
+    </message>
+    <message>
+        <source>Open the file in the program&#x27;s main window</source>
+        <translation>在主窗口中打开文件</translation>
+    </message>
+    <message>
+        <source>Open the folder in which the file is</source>
+        <translation>打开文件所在的文件夹</translation>
+    </message>
+    <message>
+        <source>Paste Cells</source>
+        <translation>粘贴单元格</translation>
+    </message>
+    <message>
+        <source>Put the cells of the clipboard into the table from the current cell on</source>
+        <translation>从当前单元格起放入剪贴板的单元格</translation>
+    </message>
+    <message>
+        <source>Rat&amp;ing:</source>
+        <translation>分级(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>移除(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>从列表中移除</translation>
+    </message>
+    <message>
+        <source>Remove the cover from the selected files</source>
+        <translation>移除所选文件的封面</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>还原</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>在文件夹中显示</translation>
+    </message>
+    <message>
+        <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
+        <translation>只显示任一列含有这些词的文件；可用 artist:、year:1990-1999、missing:cover 等细查</translation>
+    </message>
+    <message>
+        <source>Sort By</source>
+        <translation>排序方式</translation>
+    </message>
+    <message>
+        <source>Stop; each file is as it was or as it was to be</source>
+        <translation>停止；每个文件要么原样，要么已改好</translation>
+    </message>
+    <message>
+        <source>Sy&amp;nopsis or comment:</source>
+        <translation>简介或备注(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Take the selected files off the list; they stay where they are</source>
+        <translation>将所选文件移出列表；文件仍在原处</translation>
+    </message>
+    <message>
+        <source>The album of the selected songs, the director of the selected films</source>
+        <translation>所选歌曲的专辑、所选影片的导演</translation>
+    </message>
+    <message>
+        <source>The artist of the selected songs, the cast of the selected films</source>
+        <translation>所选歌曲的艺术家、所选影片的演员</translation>
+    </message>
+    <message>
+        <source>The cover of the selected files: drop a picture here, or paste one</source>
+        <translation>所选文件的封面：将图片拖放或粘贴到此处</translation>
+    </message>
+    <message>
+        <source>The files that were not changed, and why</source>
+        <translation>未更改的文件及原因</translation>
+    </message>
+    <message>
+        <source>The genre: choose one or type your own</source>
+        <translation>类型：选择一个或自行输入</translation>
+    </message>
+    <message>
+        <source>The old cover can&#x27;t be read any more</source>
+        <translation>无法再读取旧封面</translation>
+    </message>
+    <message>
+        <source>The parental rating of the selected films</source>
+        <translation>所选影片的分级</translation>
+    </message>
+    <message>
+        <source>The table could not be exported.</source>
+        <translation>无法导出表格。</translation>
+    </message>
+    <message>
+        <source>The tags are right, the name is the old one: %@</source>
+        <translation>标签正确，名称仍是旧的：%@</translation>
+    </message>
+    <message>
+        <source>The title of the selected files</source>
+        <translation>所选文件的标题</translation>
+    </message>
+    <message>
+        <source>The year of release, of up to four digits</source>
+        <translation>发行年份，最多四位数字</translation>
+    </message>
+    <message>
+        <source>Then By</source>
+        <translation>然后按</translation>
+    </message>
+    <message>
+        <source>There is no room to keep the old cover for an undo</source>
+        <translation>没有空间保留旧封面以供撤销</translation>
+    </message>
+    <message>
+        <source>They are lost when the program ends.</source>
+        <translation>程序结束时它们会丢失。</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Try the files again that were not changed</source>
+        <translation>重试未更改的文件</translation>
+    </message>
+    <message>
+        <source>Type what is to be shown</source>
+        <translation>输入要显示的内容</translation>
+    </message>
+    <message>
+        <source>Undo Apply</source>
+        <translation>撤销应用</translation>
+    </message>
+    <message>
+        <source>What the selected films are about, or a comment on the songs</source>
+        <translation>所选影片的内容，或对歌曲的备注</translation>
+    </message>
+    <message>
+        <source>Words, artist:name, year:1990-1999, missing:cover</source>
+        <translation>词语、artist:名字、year:1990-1999、missing:cover</translation>
+    </message>
+    <message>
+        <source>Write the rows and columns that are shown into a file, as CSV or JSON</source>
+        <translation>将显示的行和列以 CSV 或 JSON 写入文件</translation>
+    </message>
+    <message>
+        <source>Write what was edited into the files</source>
+        <translation>将编辑内容写入文件</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>正在写入…</translation>
+    </message>
+    <message>
+        <source>several covers</source>
+        <translation>多个封面</translation>
+    </message>
+    <message>
+        <source>several values</source>
+        <translation>多个值</translation>
     </message>
 </context>
 <context>
