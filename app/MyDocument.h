@@ -122,8 +122,8 @@ private:
     [[nodiscard]] bool libraryMayClose();
     /** Whether files at PATHS may be written: asks about changes of the open one, which is open again then. */
     [[nodiscard]] bool mayWriteFiles(const QStringList& paths);
-    /** The library table has written a file, which was at PATH and is at NEWPATH. */
-    void fileWritten(const QString& path, const QString& newPath);
+    /** The library table has written files, which were at the keys of PATHS and are at their values. */
+    void filesWritten(const QHash<QString, QString>& paths);
     void removeFromList(const QStringList& paths);
     /** Opens the file at URL in the place of the open one, whose changes are settled. */
     void reopen(const QUrl& url);

@@ -38,9 +38,11 @@ void MyDocument::makeLibrary() {
     });
     connect(library_.get(), &LibraryWindow::removeRequested, this, &MyDocument::removeFromList);
     connect(library_.get(), &LibraryWindow::filesWritten, this, [this](const QList<WrittenFile>& written) {
+        QHash<QString, QString> paths;
         for (const WrittenFile& file : written) {
-            fileWritten(file.path, file.newPath);
+            paths.insert(file.path, file.newPath);
         }
+        filesWritten(paths);
     });
 }
 
@@ -73,10 +75,10 @@ bool MyDocument::mayWriteFiles(const QStringList& paths) {
     return true;
 }
 
-void MyDocument::fileWritten(const QString& path, const QString& newPath) {
-    controller_->table().updateFile(path, newPath);
-    if (openPath() == path) {
-        reopen(fileUrlFromPath(newPath));
+void MyDocument::filesWritten(const QHash<QString, QString>& paths) {
+    controller_->table().updateFiles(paths);
+    if (const auto path = paths.constFind(openPath()); path != paths.constEnd()) {
+        reopen(fileUrlFromPath(*path));
     }
 }
 

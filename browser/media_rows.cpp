@@ -65,12 +65,21 @@ void MediaRows::addColdataSorted(ColdataPointer row) {
         std::move(row));
 }
 
-void MediaRows::replace(std::size_t index, ColdataPointer row) {
-    if (tableSortColumn_) {
+void MediaRows::replace(std::vector<std::pair<std::size_t, ColdataPointer>> rows) {
+    if (!tableSortColumn_) {
+        for (auto& [index, row] : rows) {
+            mediaFiles_.replace(index, std::move(row));
+        }
+        return;
+    }
+    // From the end, so that the numbers of those in front stay what they are.
+    std::sort(rows.begin(), rows.end(),
+              [](const auto& left, const auto& right) { return left.first > right.first; });
+    for (const auto& [index, row] : rows) {
         mediaFiles_.remove(index);
+    }
+    for (auto& [index, row] : rows) {
         addColdataSorted(std::move(row));
-    } else {
-        mediaFiles_.replace(index, std::move(row));
     }
 }
 

@@ -97,13 +97,18 @@ void MediaTable::removeFile(const QString& path) {
     emit fileRemoved(path);
 }
 
-void MediaTable::updateFile(const QString& path, const QString& newPath) {
-    const ColdataPointer changed = mediaRow(newPath, fileAttributes(pathBytes(newPath)));
-    for (std::size_t index = mediaFiles_.count(); changed && index-- > 0;) {
-        if (mediaFiles_.at(index)->fullpath == path) {
-            mediaFiles_.replace(index, changed);
+void MediaTable::updateFiles(const QHash<QString, QString>& paths) {
+    std::vector<std::pair<std::size_t, ColdataPointer>> changed;
+    for (std::size_t index = 0; index < mediaFiles_.count(); ++index) {
+        const auto path = paths.constFind(mediaFiles_.at(index)->fullpath);
+        if (path == paths.constEnd()) {
+            continue;
+        }
+        if (ColdataPointer row = mediaRow(*path, fileAttributes(pathBytes(*path)))) {
+            changed.emplace_back(index, std::move(row));
         }
     }
+    mediaFiles_.replace(std::move(changed));
     reloadData();
 }
 

@@ -6,6 +6,7 @@
 #include "platform/error.h"
 #include "platform/modal_loop.h"
 
+#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QTableView>
@@ -45,8 +46,9 @@ public:
     /** Takes the rows of the file at PATH off the list. What is selected stays so; a selected row that goes closes its
         file. */
     void removeFile(const QString& path);
-    /** The file at PATH has changed and is at NEWPATH now: its rows say so. */
-    void updateFile(const QString& path, const QString& newPath);
+    /** The files at the keys of PATHS have changed and are at their values now: their rows say so. Files may have got
+        their paths from one another. */
+    void updateFiles(const QHash<QString, QString>& paths);
 
     /** Inserts ROW into the list at its sorted place; the views don't know of it before reloadData. */
     void addColdataSorted(ColdataPointer row);

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <sys/stat.h>
+#include <unordered_map>
 
 namespace velmora {
 
@@ -163,6 +164,7 @@ std::vector<ApplyResult> applyItems(const std::vector<ApplyItem>& items, const A
         if (!run.goesOn()) {
             continue;
         }
+        entries[i].before = fileMark(item.path).value_or(FileMark());
         if (item.edits.changesTags()) {
             applyTags(item, run, results[i], entries[i], covers);
         } else {
@@ -262,10 +264,29 @@ std::vector<ApplyResult> undoStep(UndoStep& step, const ApplyProgress& progress,
     for (std::size_t i = 0; i < step.size(); ++i) {
         if (remains(step[i], results[i])) {
             rest.push_back(std::move(step[i]));
+        } else if (const std::optional<FileMark> now = fileMark(results[i].newPath)) {
+            results[i].takenBack = {step[i].before, *now};
         }
     }
     step = std::move(rest);
     return results;
+}
+
+void followUndo(std::vector<UndoStep>& steps, const std::vector<ApplyResult>& results) {
+    std::unordered_map<int, std::pair<FileMark, FileMark>> takenBack;
+    for (const ApplyResult& result : results) {
+        if (result.takenBack) {
+            takenBack.emplace(result.file, *result.takenBack);
+        }
+    }
+    for (UndoStep& step : steps) {
+        for (UndoEntry& entry : step) {
+            const auto marks = takenBack.find(entry.file);
+            if (marks != takenBack.end() && entry.after == marks->second.first) {
+                entry.after = marks->second.second;
+            }
+        }
+    }
 }
 
 } // namespace velmora

@@ -8,6 +8,8 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace velmora {
@@ -27,18 +29,6 @@ enum class ApplyEnd {
     changedSince, ///< of an undo: another program, or a later edit, changed the file, which was left alone
 };
 
-/** How it went with a file. */
-struct ApplyResult {
-    int file = 0;
-    QString path;    ///< where the file was
-    QString newPath; ///< where it is now
-    ApplyEnd end = ApplyEnd::notReached;
-    QString reason;       ///< why it failed, in the user's language; without a full stop
-    bool written = false; ///< whether its tags or its name were changed, also where the rest failed
-    bool renamed = false;
-    bool tagsDone = false; ///< the tags say what they were to say
-};
-
 /** What the file system says of a file, to find out whether it was changed since. */
 struct FileMark {
     std::uint64_t device = 0;
@@ -52,6 +42,20 @@ struct FileMark {
 /** Nothing where there is no file at PATH. */
 [[nodiscard]] std::optional<FileMark> fileMark(const QString& path);
 
+/** How it went with a file. */
+struct ApplyResult {
+    int file = 0;
+    QString path;    ///< where the file was
+    QString newPath; ///< where it is now
+    ApplyEnd end = ApplyEnd::notReached;
+    QString reason;       ///< why it failed, in the user's language; without a full stop
+    bool written = false; ///< whether its tags or its name were changed, also where the rest failed
+    bool renamed = false;
+    bool tagsDone = false; ///< the tags say what they were to say
+    /** Of an undo that went well: what the file system said of the file before the apply, and says of it now. */
+    std::optional<std::pair<FileMark, FileMark>> takenBack;
+};
+
 /** How a file was before an apply changed it. */
 struct UndoEntry {
     int file = 0;
@@ -60,11 +64,16 @@ struct UndoEntry {
     portable::TagEdits back; ///< makes the tags say what they said, but for the cover
     bool coverChanged = false;
     std::optional<CoverStore::Number> cover; ///< what the cover was; nothing: there was none
+    FileMark before;
     FileMark after;
 };
 
 /** All that an apply changed. */
 using UndoStep = std::vector<UndoEntry>;
+
+/** RESULTS of an undo brought files back to what they were when the apply before it had ended: what STEPS, the applies that
+    are left, know of these files is what they are now. */
+void followUndo(std::vector<UndoStep>& steps, const std::vector<ApplyResult>& results);
 
 /** Called before each file and now and then while one is written; false cancels. */
 using ApplyProgress = std::function<bool(std::size_t done, std::size_t total)>;

@@ -40,7 +40,10 @@ void LibraryRows::remove(int row) {
 
 void LibraryRows::move(int row, const QString& path) {
     LibraryRow& moved = rows_[static_cast<std::size_t>(row)];
-    numbers_.remove(moved.path);
+    // Another file may have got this one's old path already.
+    if (find(moved.path) == row) {
+        numbers_.remove(moved.path);
+    }
     numbers_.insert(path, row);
     moved.path = path;
     moved.filter = {};

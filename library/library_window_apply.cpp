@@ -101,6 +101,7 @@ void LibraryWindow::undoApply() {
 
 /** What could not be taken back can be tried again; what was changed since never will be. */
 void LibraryWindow::undoEnded(const std::vector<ApplyResult>& results) {
+    followUndo(undo_, results);
     UndoStep rest;
     for (UndoEntry& entry : running_) {
         const bool changedSince = std::any_of(results.begin(), results.end(), [&](const ApplyResult& result) {
