@@ -173,6 +173,8 @@ QVariant MediaTableModel::data(const QModelIndex& index, int role) const {
     }
     case Qt::AccessibleTextRole:
         return spokenText(column, index.row());
+    case Qt::AccessibleDescriptionRole:
+        return isOpen(index.row()) ? localised("open in the form") : QVariant();
     case Qt::TextAlignmentRole:
         return alignment(column);
     case Qt::FontRole:
@@ -190,11 +192,7 @@ QString MediaTableModel::spokenText(const TableColumn& column, int row) const {
         return text(column);
     }
     const QString name = text({QStringLiteral("filename")});
-    QStringList spoken = {name, typeName(name), text({QStringLiteral("filesize")})};
-    if (isOpen(row)) {
-        spoken += localised("open in the form");
-    }
-    return spoken.join(QLatin1String(", "));
+    return QStringList{name, typeName(name), text({QStringLiteral("filesize")})}.join(QLatin1String(", "));
 }
 
 QVariant MediaTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
