@@ -13,6 +13,9 @@ namespace {
 
 constexpr std::uint64_t size_offset = 16; ///< of an object, in its header
 constexpr std::uint64_t largest_padding = std::uint64_t{64} << 10;
+constexpr std::int64_t block_size = 4096; ///< of file systems
+/** Files of so many bytes get padding that keeps their media at the blocks' bounds. */
+constexpr std::uint64_t smallest_aligned = std::uint64_t{1} << 20;
 
 Bytes le32(std::uint32_t value) {
     Bytes bytes;
@@ -115,16 +118,28 @@ private:
     /** Keeps the header's size where the padding can take up the difference, so that the media stays where it
        was and file systems that share blocks can share them. */
     void fit_padding() {
-        if (!header_.padding || splices_.growth() == 0) {
+        const std::int64_t growth = splices_.growth();
+        const std::uint64_t old_size = header_.padding ? header_.padding->size() : 0;
+        if (growth == 0 || old_size > largest_padding) {
             return;
         }
-        const std::uint64_t old_size = header_.padding->size();
-        const std::uint64_t size = grown(old_size, -splices_.growth());
-        if (old_size <= largest_padding && size >= asf_object_header_size && size <= largest_padding) {
-            Bytes padding = asf_object_header(ASF_PaddingObject, size);
-            padding.resize(size);
-            splices_.replace(*header_.padding, std::move(padding));
+        const std::uint64_t size = grown(old_size, -growth);
+        if (header_.padding && size >= asf_object_header_size && size <= largest_padding) {
+            put_padding(size);
+        } else if (size_ >= smallest_aligned) {
+            // Whole blocks are half the work for the system, or none where files share them.
+            const auto missing = static_cast<std::uint64_t>((block_size - growth % block_size) % block_size);
+            const bool fits = old_size + missing >= asf_object_header_size;
+            put_padding(old_size + missing + (fits ? 0 : block_size));
         }
+    }
+
+    void put_padding(std::uint64_t size) {
+        Bytes padding = asf_object_header(ASF_PaddingObject, size);
+        padding.resize(size);
+        count_ += header_.padding ? 0 : 1;
+        splices_.replace(header_.padding.value_or(Range{header_.objects_end, header_.objects_end}),
+                         std::move(padding));
     }
 
     void put_sizes() {

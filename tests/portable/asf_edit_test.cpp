@@ -62,6 +62,25 @@ TEST(AsfEdit, LeavesPaddingAloneThatIsTooSmall) {
                               set_text(Field::title, "Harbour lights"))));
 }
 
+TEST(AsfEdit, MovesTheMediaOfALargeFileByWholeBlocks) {
+    const std::string large =
+        hex("0102030405060708090A0B0C0D0E0F10") + u64(24 + (1 << 20)) + pattern(1 << 20);
+    const auto zeros = [](std::size_t size) {
+        return hex(padding_guid) + u64(size) + std::string(size - 24, '\0');
+    };
+    const std::string old = asf_file({content_description("Harbour", ""), large});
+    const std::string longer = asf_with(old, set_text(Field::title, "Harbour lights"));
+    EXPECT_TRUE(asf_file({content_description("Harbour lights", ""), large, zeros(4082)}) == longer);
+    EXPECT_EQ(old.size() + 4096, longer.size());
+    // 6 bytes fewer would leave no room for the padding's own header.
+    EXPECT_TRUE(asf_file({content_description("Harb", ""), large, zeros(4102)}) ==
+                asf_with(old, set_text(Field::title, "Harb")));
+    // 14 bytes are more than the padding can give.
+    EXPECT_TRUE(asf_file({content_description("Harbour lights", ""), large, zeros(30 + 4082)}) ==
+                asf_with(asf_file({content_description("Harbour", ""), large, zeros(30)}),
+                         set_text(Field::title, "Harbour lights")));
+}
+
 TEST(AsfEdit, DeletesAFieldInEveryPlace) {
     const std::string old = asf_file(
         {content_description("Harbour", "Ada"),
