@@ -1,11 +1,15 @@
 #include "verification.h"
 
-#include "../reason.h"
 #include "file_transfer.h"
 
+#include "portable/reason.h"
+
 #include <algorithm>
+#include <atomic>
 #include <cstring>
+#include <future>
 #include <numeric>
+#include <utility>
 
 namespace velmora::portable {
 
@@ -13,6 +17,8 @@ namespace {
 
 /** Two of them fit into the cache of one core: larger ones are compared at a third of the speed. */
 constexpr std::size_t buffer_size = 64UL * 1024;
+/** Media of so many bytes is compared in two halves at the same time. */
+constexpr std::uint64_t smallest_divided = 16UL * 1024 * 1024;
 
 [[noreturn]] void refuse(const std::string& what) {
     throw Refusal({ReasonCode::would_lose, 0, what});
@@ -109,18 +115,28 @@ private:
     std::vector<std::uint8_t> buffer_;
 };
 
-std::uint64_t payload_size(const TaggedFile& tags) {
-    const std::vector<Range> ranges = tags.payload();
+std::uint64_t size_of(const std::vector<Range>& ranges) {
     return std::accumulate(ranges.begin(), ranges.end(), std::uint64_t{0},
                            [](std::uint64_t sum, const Range& range) { return sum + range.size(); });
 }
 
-void compare_payload(const OpenTags& before, const OpenTags& after, Progress& progress) {
-    if (payload_size(before.tags) != payload_size(after.tags)) {
-        refuse("media data");
+/** The first SIZE bytes of RANGES, and the rest. */
+std::pair<std::vector<Range>, std::vector<Range>> split(const std::vector<Range>& ranges,
+                                                        std::uint64_t size) {
+    std::pair<std::vector<Range>, std::vector<Range>> parts;
+    for (const Range& range : ranges) {
+        const std::uint64_t middle = range.begin + std::min(range.size(), size);
+        parts.first.push_back({range.begin, middle});
+        parts.second.push_back({middle, range.end});
+        size -= middle - range.begin;
     }
-    RangeReader old_bytes(before.file, before.tags.payload());
-    RangeReader new_bytes(after.file, after.tags.payload());
+    return parts;
+}
+
+/** Compares what the readers give, of the same number of bytes, up to their end or until ADVANCE, which is told how many
+    bytes were equal, returns false. */
+template <typename Advance>
+void compare(RangeReader old_bytes, RangeReader new_bytes, Advance advance) {
     std::span<const std::uint8_t> old_piece;
     std::span<const std::uint8_t> new_piece;
     while (true) {
@@ -139,14 +155,54 @@ void compare_payload(const OpenTags& before, const OpenTags& after, Progress& pr
         }
         old_piece = old_piece.subspan(length);
         new_piece = new_piece.subspan(length);
-        progress.advance(length);
+        if (!advance(length)) {
+            return;
+        }
+    }
+}
+
+/** Of large media one half is compared beside the other. */
+void compare_payload(const OpenTags& before, const OpenTags& after, Progress& progress) {
+    const std::vector<Range> old_ranges = before.tags.payload();
+    const std::vector<Range> new_ranges = after.tags.payload();
+    const std::uint64_t size = size_of(old_ranges);
+    if (size != size_of(new_ranges)) {
+        refuse("media data");
+    }
+    const std::uint64_t beside = size < smallest_divided ? 0 : size / 2;
+    const auto old_parts = split(old_ranges, size - beside);
+    const auto new_parts = split(new_ranges, size - beside);
+    std::atomic<bool> stopped = false;
+    std::atomic<std::uint64_t> done_beside = 0;
+    std::future<void> other;
+    if (beside > 0) {
+        // Deferred where the system gives no thread.
+        other = std::async(std::launch::async | std::launch::deferred, [&] {
+            compare({before.file, old_parts.second}, {after.file, new_parts.second}, [&](std::size_t length) {
+                done_beside += length;
+                return !stopped;
+            });
+        });
+    }
+    try {
+        compare({before.file, old_parts.first}, {after.file, new_parts.first}, [&](std::size_t length) {
+            progress.advance(length + done_beside.exchange(0));
+            return true;
+        });
+    } catch (...) {
+        stopped = true;
+        throw; // and the other half is waited for
+    }
+    if (other.valid()) {
+        other.get();
+        progress.advance(done_beside);
     }
 }
 
 } // namespace
 
 std::uint64_t verified_bytes(const TaggedFile& tags) {
-    return payload_size(tags);
+    return size_of(tags.payload());
 }
 
 void verify_edits(const OpenTags& before, const OpenTags& after, const TagEdits& edits, Progress& progress) {
