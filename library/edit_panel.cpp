@@ -23,7 +23,7 @@ struct FieldDescription {
     const char* tip;
 };
 
-constexpr std::array<FieldDescription, 7> descriptions = {{
+constexpr std::array<FieldDescription, 7> fieldDescriptions = {{
     {LibraryColumn::title, "entry_titles", QT_TRANSLATE_NOOP("Velmora", "&Title:"),
      QT_TRANSLATE_NOOP("Velmora", "The title of the selected files")},
     {LibraryColumn::artist, "entry_artists", QT_TRANSLATE_NOOP("Velmora", "&Artist or cast:"),
@@ -86,7 +86,7 @@ EditPanel::~EditPanel() {
 }
 
 void EditPanel::makeFields(QFormLayout& layout) {
-    for (const FieldDescription& field : descriptions) {
+    for (const FieldDescription& field : fieldDescriptions) {
         QWidget* const widget = widgetOf(field.column);
         widget->setObjectName(QLatin1String(field.name));
         widget->setToolTip(localised(field.tip));
@@ -159,7 +159,7 @@ void EditPanel::showFiles(const std::vector<int>& files) {
 
 void EditPanel::refresh() {
     const QScopedValueRollback<bool> showing(showing_, true);
-    for (const FieldDescription& field : descriptions) {
+    for (const FieldDescription& field : fieldDescriptions) {
         if (typed_ != field.column) {
             show(field.column);
         }

@@ -1,5 +1,7 @@
 #include "portable_values.h"
 
+#include "metadata_keys.h"
+
 #include "platform/image.h"
 #include "platform/image_encode.h"
 #include "platform/picture_format.h"
@@ -29,9 +31,6 @@ constexpr FieldKey songKeys[] = {
     {Field::title, "title"},       {Field::artist, "artist"}, {Field::album, "album"},
     {Field::synopsis, "synopsis"}, {Field::genre, "genre"},
 };
-
-const QString yearKey = QStringLiteral("year");
-const QString coverKey = QStringLiteral("coverart");
 
 std::span<const FieldKey> keysOf(int type) {
     return type == videoMedia ? std::span<const FieldKey>(filmKeys) : songKeys;

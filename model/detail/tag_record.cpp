@@ -1,5 +1,7 @@
 #include "tag_record.h"
 
+#include "metadata_keys.h"
+
 #include "platform/file_attributes.h"
 #include "platform/file_path.h"
 #include "platform/image.h"
@@ -64,9 +66,6 @@ constexpr RecordSlot songSlots[] = {
     {"title", &_file_info_t::desc, file_info_flag::desc},
     {"genre", &_file_info_t::genre, file_info_flag::genre},
 };
-
-const QString yearKey = QStringLiteral("year");
-const QString coverKey = QStringLiteral("coverart");
 
 std::span<const RecordSlot> slotsOf(int type) {
     return type == videoMedia ? std::span<const RecordSlot>(filmSlots) : songSlots;
