@@ -63,8 +63,8 @@ def add_scale(table, programs):
         pattern = "stall (.+) ms, by the clock (.+) ms, row (.+) bytes, texts (.+) bytes"
         stall, clock, row, texts = figures(pattern, f"{programs}/library_scale", folder)
     work = "longest stall of the event loop while 100,000 files are listed, read and sorted"
-    table.add(f"{work}, processor time", f"{stall:.1f} ms", "", f"{stall:.1f} ms", "at most 50 ms", 50, stall)
-    table.add_without_target("the same, by the clock", f"{clock:.1f} ms", "", "")
+    table.add(f"{work}, by the clock", f"{clock:.1f} ms", "", f"{clock:.1f} ms", "at most 50 ms", 50, clock)
+    table.add_without_target("the same, processor time", f"{stall:.1f} ms", "", "")
     table.add("memory of a row of the library table", f"{row:.0f} bytes", f"its texts: {texts:.0f} bytes",
               f"{row / texts:.2f}", "at most 3", 3, row / texts)
 
