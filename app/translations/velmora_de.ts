@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>The cover is deleted here. A save in place leaves it in the file.</source>
-        <translation>Das Titelbild ist hier gelöscht. Ein Speichern an Ort und Stelle lässt es in der Datei.</translation>
+        <translation>Das Titelbild ist hier gelöscht. Beim Speichern an Ort und Stelle bleibt es in der Datei.</translation>
     </message>
     <message>
         <source>Deleted all tags of &quot;%@&quot;</source>
@@ -41,15 +41,15 @@
     </message>
     <message>
         <source>This is no number, and is stored as no year</source>
-        <translation>Das ist keine Zahl und gilt als kein Jahr</translation>
+        <translation>Das ist keine Zahl; gespeichert wird kein Jahr</translation>
     </message>
     <message>
         <source>The cover was taken from folder.jpg, which counts as a change: a save writes it into the file.</source>
-        <translation>Das Titelbild stammt aus folder.jpg, und das gilt als Änderung: ein Speichern schreibt es in die Datei.</translation>
+        <translation>Das Titelbild stammt aus folder.jpg und gilt deshalb als Änderung: Beim Speichern wird es in die Datei geschrieben.</translation>
     </message>
     <message>
         <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
-        <translation>Was aus dem Web eingetragen wurde, ist noch nicht übernommen: ein Speichern schreibt nur die Felder, in denen getippt wurde.</translation>
+        <translation>Was aus dem Web eingetragen wurde, ist noch nicht übernommen: Beim Speichern werden nur die Felder geschrieben, in die getippt wurde.</translation>
     </message>
     <message>
         <source>Store Filled Fields</source>
@@ -57,11 +57,11 @@
     </message>
     <message>
         <source>Take all filled fields for changes, which a save writes</source>
-        <translation>Alle ausgefüllten Felder als Änderungen übernehmen, die ein Speichern schreibt</translation>
+        <translation>Alle ausgefüllten Felder als Änderungen übernehmen, damit sie gespeichert werden</translation>
     </message>
     <message>
         <source>The filled fields count as changes now: a save writes them.</source>
-        <translation>Die ausgefüllten Felder gelten jetzt als Änderungen: ein Speichern schreibt sie.</translation>
+        <translation>Die ausgefüllten Felder gelten jetzt als Änderungen: Beim Speichern werden sie geschrieben.</translation>
     </message>
     <message>
         <source>The cover is cut from the form only, and stays in the file.</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>The pasted cover is shown only: a save does not write it.</source>
-        <translation>Das eingefügte Titelbild wird nur gezeigt: ein Speichern schreibt es nicht.</translation>
+        <translation>Das eingefügte Titelbild wird nur angezeigt: Beim Speichern wird es nicht geschrieben.</translation>
     </message>
     <message>
         <source>Store Cover</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Take the cover for a change, which a save writes</source>
-        <translation>Das Titelbild als Änderung übernehmen, die ein Speichern schreibt</translation>
+        <translation>Das Titelbild als Änderung übernehmen, damit es gespeichert wird</translation>
     </message>
     <message>
         <source>No file is open</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>No file is open: what is typed here goes nowhere</source>
-        <translation>Es ist keine Datei geöffnet: was hier getippt wird, geht verloren</translation>
+        <translation>Es ist keine Datei geöffnet: Was hier getippt wird, geht verloren</translation>
     </message>
     <message>
         <source>open in the form</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Animated</source>
-        <translation>Zeichentrick</translation>
+        <translation>Animation</translation>
     </message>
     <message>
         <source>Art</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>Cast:</source>
-        <translation>Darsteller:</translation>
+        <translation>Besetzung:</translation>
     </message>
     <message>
         <source>Director:</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Cover art: drop an image here to store it</source>
-        <translation>Titelbild: ein Bild zum Speichern hier ablegen</translation>
+        <translation>Titelbild: Bild hier ablegen, um es zu übernehmen</translation>
     </message>
     <message>
         <source>too large to show</source>
@@ -333,11 +333,11 @@
     </message>
     <message>
         <source>Unable to write tags to file &quot;%@&quot;.</source>
-        <translation>Die Angaben können nicht in die Datei „%@“ geschrieben werden.</translation>
+        <translation>Die Tags können nicht in die Datei „%@“ geschrieben werden.</translation>
     </message>
     <message>
         <source>Be sure you have permissions to write to the file, and that it is a valid media file.</source>
-        <translation>Stellen Sie sicher, dass Sie in die Datei schreiben dürfen und dass sie eine gültige Mediendatei ist.</translation>
+        <translation>Stellen Sie sicher, dass Sie Schreibrechte für die Datei haben und dass sie eine gültige Mediendatei ist.</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -357,7 +357,7 @@
     </message>
     <message>
         <source>Position in the preview</source>
-        <translation>Stelle in der Vorschau</translation>
+        <translation>Position in der Vorschau</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
@@ -373,7 +373,7 @@
     </message>
     <message>
         <source>Search a site to see its pages here</source>
-        <translation>Hier erscheint die Seite, die Sie suchen</translation>
+        <translation>Suchen Sie auf einer Website, um ihre Seiten hier zu sehen</translation>
     </message>
     <message>
         <source>The web browser component is not installed.</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Web pages are not shown when the program is run by the system administrator.</source>
-        <translation>Webseiten werden nicht gezeigt, wenn der Systemverwalter das Programm ausführt.</translation>
+        <translation>Webseiten werden nicht angezeigt, wenn das Programm mit Administratorrechten läuft.</translation>
     </message>
     <message>
         <source>Looking for films and music…</source>
@@ -397,7 +397,7 @@
     </message>
     <message>
         <source>No media files yet. Add files, or a folder to search, with the buttons above.</source>
-        <translation>Noch keine Mediendateien. Fügen Sie mit den Knöpfen oben Dateien oder einen Ordner hinzu, der durchsucht wird.</translation>
+        <translation>Noch keine Mediendateien. Fügen Sie mit den Schaltflächen oben Dateien oder einen zu durchsuchenden Ordner hinzu.</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>Divider</source>
-        <translation>Trenner</translation>
+        <translation>Trennleiste</translation>
     </message>
     <message>
         <source>Gives the parts of the window more or less room</source>
@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>Edits titles, artists, covers and more of films and music.</source>
-        <translation>Bearbeitet Titel, Künstler, Titelbilder und mehr von Filmen und Musik.</translation>
+        <translation>Bearbeitet Titel, Interpreten, Titelbilder und mehr von Filmen und Musik.</translation>
     </message>
     <message>
         <source>  FILE       is listed; a single one is opened</source>
@@ -489,15 +489,15 @@
     </message>
     <message>
         <source>  --help     prints this and ends</source>
-        <translation>  --help     gibt dies aus und endet</translation>
+        <translation>  --help     gibt diese Hilfe aus und beendet sich</translation>
     </message>
     <message>
         <source>  --version  prints the version and ends</source>
-        <translation>  --version  gibt die Version aus und endet</translation>
+        <translation>  --version  gibt die Version aus und beendet sich</translation>
     </message>
     <message>
         <source>velmora: unknown option %@; --help tells the others</source>
-        <translation>velmora: unbekannte Option %@; --help nennt die anderen</translation>
+        <translation>velmora: unbekannte Option %@; --help nennt die gültigen</translation>
     </message>
     <message>
         <source>Files of this kind carry no tag</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>The file has further hard links, which would keep the old contents</source>
-        <translation>Die Datei hat weitere harte Links, die den alten Inhalt behielten</translation>
+        <translation>Die Datei hat weitere Hardlinks, die den alten Inhalt behalten würden</translation>
     </message>
     <message>
         <source>Another program changed the file meanwhile</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>The system could not confirm that the folder is on the disk</source>
-        <translation>Das System konnte nicht bestätigen, dass der Ordner gesichert ist</translation>
+        <translation>Das System konnte nicht bestätigen, dass der Ordner auf den Datenträger geschrieben ist</translation>
     </message>
     <message>
         <source>The save was cancelled</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>Its tag can&#x27;t be changed in place</source>
-        <translation>Ihr Tag lässt sich nicht an Ort und Stelle ändern</translation>
+        <translation>Das Tag der Datei lässt sich nicht an Ort und Stelle ändern</translation>
     </message>
     <message>
         <source>Close</source>
@@ -573,7 +573,7 @@
     </message>
     <message>
         <source>Leave the file as it was</source>
-        <translation>Die Datei lassen, wie sie war</translation>
+        <translation>Die Datei unverändert lassen</translation>
     </message>
     <message>
         <source>The portable tags of &quot;%@&quot; can&#x27;t be read.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>&quot;%@&quot; was saved, but not all of it can be read back.</source>
-        <translation>„%@“ wurde gespeichert, aber nicht alles lässt sich wieder lesen.</translation>
+        <translation>„%@“ wurde gespeichert, aber nicht alles lässt sich zurücklesen.</translation>
     </message>
     <message>
         <source>Save With Portable Tags</source>
@@ -617,7 +617,7 @@
     </message>
     <message>
         <source>Save so, and do so from now on, also after the next start</source>
-        <translation>So speichern, auch künftig und nach dem nächsten Start</translation>
+        <translation>So speichern, und zwar von jetzt an immer, auch nach dem nächsten Start</translation>
     </message>
     <message>
         <source>Saved. Other programs see it: %@</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Saved. Other programs read no tag in files of this kind: %@</source>
-        <translation>Gespeichert. In Dateien dieser Art lesen andere Programme kein Tag: %@</translation>
+        <translation>Gespeichert. Andere Programme lesen in Dateien dieser Art kein Tag: %@</translation>
     </message>
     <message>
         <source>Replace Anyway</source>
@@ -633,19 +633,19 @@
     </message>
     <message>
         <source>The other links keep the old contents</source>
-        <translation>Die anderen Links behalten den alten Inhalt</translation>
+        <translation>Die anderen Hardlinks behalten den alten Inhalt</translation>
     </message>
     <message>
         <source>&quot;%@&quot; was not saved; its edits are kept.</source>
-        <translation>„%@“ wurde nicht gespeichert; die Änderungen sind aufgehoben.</translation>
+        <translation>„%@“ wurde nicht gespeichert; die Änderungen bleiben erhalten.</translation>
     </message>
     <message>
         <source>Restore Unsaved Edits</source>
-        <translation>Ungespeicherte Änderungen wiederherstellen</translation>
+        <translation>Nicht gespeicherte Änderungen wiederherstellen</translation>
     </message>
     <message>
         <source>Open the file again whose edits could not be saved, and put them back</source>
-        <translation>Die Datei wieder öffnen, deren Änderungen nicht gespeichert werden konnten, und sie wieder eintragen</translation>
+        <translation>Die Datei, deren Änderungen nicht gespeichert werden konnten, wieder öffnen und die Änderungen wieder eintragen</translation>
     </message>
     <message>
         <source>The edits of &quot;%@&quot; are back, and not saved yet.</source>
@@ -665,11 +665,11 @@
     </message>
     <message>
         <source>Files of this kind have no such field: %@</source>
-        <translation>Dateien dieser Art haben kein solches Feld: %@</translation>
+        <translation>Dateien dieser Art haben dieses Feld nicht: %@</translation>
     </message>
     <message>
         <source>It says so already</source>
-        <translation>So steht es schon da</translation>
+        <translation>Das steht dort schon</translation>
     </message>
     <message>
         <source>It has that name already</source>
@@ -689,7 +689,7 @@
     </message>
     <message>
         <source>The file keeps its name: its tag lies in another file that goes by it</source>
-        <translation>Die Datei behält ihren Namen: Ihr Tag liegt in einer anderen Datei, die sich nach ihm richtet</translation>
+        <translation>Die Datei behält ihren Namen: Ihr Tag liegt in einer anderen Datei, die über diesen Namen zu ihr gehört</translation>
     </message>
     <message>
         <source>Another row has that name or is to get it</source>
@@ -701,11 +701,11 @@
     </message>
     <message>
         <source>Its tags have not been read yet</source>
-        <translation>Ihre Tags sind noch nicht gelesen</translation>
+        <translation>Ihre Tags wurden noch nicht gelesen</translation>
     </message>
     <message>
         <source>Its tags can't be read</source>
-        <translation>Ihre Tags sind nicht lesbar</translation>
+        <translation>Ihre Tags können nicht gelesen werden</translation>
     </message>
     <message>
         <source>Note</source>
@@ -765,11 +765,11 @@
     </message>
     <message>
         <source>Make these edits of the table; no file changes before they are applied</source>
-        <translation>Dies zu Änderungen in der Tabelle machen; keine Datei ändert sich, bevor sie angewendet werden</translation>
+        <translation>Als Änderungen in die Tabelle übernehmen; die Dateien ändern sich erst beim Anwenden</translation>
     </message>
     <message>
         <source>Leave everything as it is</source>
-        <translation>Alles lassen, wie es ist</translation>
+        <translation>Alles unverändert lassen</translation>
     </message>
     <message>
         <source>New Name</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>&amp;Tags from Names...</source>
-        <translation>&amp;Tags aus Namen ...</translation>
+        <translation>&amp;Tags aus Namen …</translation>
     </message>
     <message>
         <source>Take the tags of the selected files from their names, by a pattern</source>
@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>&amp;Names from Tags...</source>
-        <translation>&amp;Namen aus Tags ...</translation>
+        <translation>&amp;Namen aus Tags …</translation>
     </message>
     <message>
         <source>Give the selected files names made of their tags, by a pattern</source>
@@ -825,11 +825,11 @@
     </message>
     <message>
         <source>%skip% has no place in a new name.</source>
-        <translation>%skip% hat in einem neuen Namen keinen Platz.</translation>
+        <translation>%skip% ist in einem neuen Namen nicht möglich.</translation>
     </message>
     <message>
         <source>A name has no slash: files stay in their folders.</source>
-        <translation>Ein Name hat keinen Schrägstrich: Dateien bleiben in ihren Ordnern.</translation>
+        <translation>Ein Name enthält keinen Schrägstrich: Die Dateien bleiben in ihren Ordnern.</translation>
     </message>
     <message>
         <source>There is no field in the pattern.</source>
@@ -856,7 +856,7 @@
     </message>
     <message>
         <source>%@ to be read</source>
-        <translation>%@ noch zu lesen</translation>
+        <translation>noch %@ zu lesen</translation>
     </message>
     <message>
         <source>%@, not applied</source>
@@ -956,7 +956,7 @@
     </message>
     <message>
         <source>Keyboard</source>
-        <translation>Tastatur</translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Key</source>
@@ -1016,7 +1016,7 @@
     </message>
     <message>
         <source>The buttons of the line above the form</source>
-        <translation>Die Knöpfe der Zeile über dem Formular</translation>
+        <translation>Die Schaltflächen der Zeile über dem Formular</translation>
     </message>
     <message>
         <source>Ends the wait for a page or a cover; closes the line above the form</source>
@@ -1032,11 +1032,11 @@
     </message>
     <message>
         <source>Built on Qt %@ with its web engine and multimedia, TagLib, GStreamer, libjpeg and libpng, each under its own licence.</source>
-        <translation>Gebaut auf Qt %@ mit Web-Engine und Multimedia, TagLib, GStreamer, libjpeg und libpng, jeweils unter eigener Lizenz.</translation>
+        <translation>Basiert auf Qt %@ mit Web-Engine und Multimedia, TagLib, GStreamer, libjpeg und libpng, jeweils unter eigener Lizenz.</translation>
     </message>
     <message>
         <source>What Velmora is and what it is built on</source>
-        <translation>Was Velmora ist und worauf es gebaut ist</translation>
+        <translation>Was Velmora ist und worauf es basiert</translation>
     </message>
     <message>
         <source>The window will look like this at each start.</source>
@@ -1044,59 +1044,59 @@
     </message>
     <message>
         <source>The layout can&#x27;t be remembered: the settings file can&#x27;t be written.</source>
-        <translation>Das Layout kann nicht gemerkt werden: Die Einstellungsdatei lässt sich nicht schreiben.</translation>
+        <translation>Das Layout lässt sich nicht merken: Die Einstellungsdatei kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>Nothing is remembered any more: there is no settings file.</source>
-        <translation>Nichts ist mehr gemerkt: Es gibt keine Einstellungsdatei.</translation>
+        <translation>Alles ist vergessen: Es gibt keine Einstellungsdatei mehr.</translation>
     </message>
     <message>
         <source>The settings file can&#x27;t be removed.</source>
-        <translation>Die Einstellungsdatei lässt sich nicht löschen.</translation>
+        <translation>Die Einstellungsdatei kann nicht gelöscht werden.</translation>
     </message>
     <message>
         <source>You have no permission to write to it</source>
-        <translation>Sie haben kein Recht, sie zu ändern</translation>
+        <translation>Sie haben keine Schreibrechte für die Datei</translation>
     </message>
     <message>
         <source>It lies on a disk that can only be read</source>
-        <translation>Sie liegt auf einem Datenträger, der nur gelesen werden kann</translation>
+        <translation>Die Datei liegt auf einem Datenträger, der nur gelesen werden kann</translation>
     </message>
     <message>
         <source>No space is left on its disk</source>
-        <translation>Auf ihrem Datenträger ist kein Platz mehr</translation>
+        <translation>Auf dem Datenträger ist kein Platz mehr</translation>
     </message>
     <message>
         <source>It would become too large</source>
-        <translation>Sie würde zu groß</translation>
+        <translation>Die Datei würde zu groß</translation>
     </message>
     <message>
         <source>It is not there any more</source>
-        <translation>Sie ist nicht mehr da</translation>
+        <translation>Die Datei ist nicht mehr vorhanden</translation>
     </message>
     <message>
         <source>Its header can&#x27;t be read</source>
-        <translation>Ihr Kopf kann nicht gelesen werden</translation>
+        <translation>Der Dateikopf kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Its tag can&#x27;t be written</source>
-        <translation>Ihr Tag kann nicht geschrieben werden</translation>
+        <translation>Das Tag der Datei kann nicht geschrieben werden</translation>
     </message>
     <message>
         <source>It is empty</source>
-        <translation>Sie ist leer</translation>
+        <translation>Die Datei ist leer</translation>
     </message>
     <message>
         <source>Too little media lies behind its header for the header to grow or shrink</source>
-        <translation>Hinter ihrem Kopf liegen zu wenige Mediendaten, als dass er wachsen oder schrumpfen könnte</translation>
+        <translation>Hinter dem Dateikopf liegen zu wenige Mediendaten, als dass er wachsen oder schrumpfen könnte</translation>
     </message>
     <message>
         <source>It consists of several RIFF chunks, which a save in place can&#x27;t change</source>
-        <translation>Sie besteht aus mehreren RIFF-Blöcken, die ein Speichern an Ort und Stelle nicht ändern kann</translation>
+        <translation>Die Datei besteht aus mehreren RIFF-Blöcken, die sich beim Speichern an Ort und Stelle nicht ändern lassen</translation>
     </message>
     <message>
         <source>There is no file for its tag yet, and a save in place makes none</source>
-        <translation>Für ihren Tag gibt es noch keine Datei, und ein Speichern an Ort und Stelle legt keine an</translation>
+        <translation>Für das Tag gibt es noch keine Datei, und beim Speichern an Ort und Stelle wird keine angelegt</translation>
     </message>
     <message>
         <source>A copy needs another name or another folder</source>
@@ -1116,11 +1116,11 @@
     </message>
     <message>
         <source>What the last save did</source>
-        <translation>Was das letzte Speichern bewirkt hat</translation>
+        <translation>Ergebnis des letzten Speicherns</translation>
     </message>
     <message>
         <source>What the last search found</source>
-        <translation>Was die letzte Suche gefunden hat</translation>
+        <translation>Ergebnis der letzten Suche</translation>
     </message>
     <message>
         <source>Saved &quot;%@&quot;</source>
@@ -1156,7 +1156,7 @@
     </message>
     <message>
         <source>%@ changed since and left alone</source>
-        <translation>%@ seither geändert und nicht angerührt</translation>
+        <translation>%@ inzwischen geändert und nicht angerührt</translation>
     </message>
     <message>
         <source>%@ done</source>
@@ -1184,7 +1184,7 @@
     </message>
     <message>
         <source>&amp;Choose…</source>
-        <translation>Wä&amp;hlen…</translation>
+        <translation>Wä&amp;hlen …</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -1228,11 +1228,11 @@
     </message>
     <message>
         <source>Cancelled before its turn</source>
-        <translation>Abgebrochen, bevor sie an der Reihe war</translation>
+        <translation>Abgebrochen, bevor die Datei an der Reihe war</translation>
     </message>
     <message>
         <source>Changed since, left alone</source>
-        <translation>Seither geändert, nicht angerührt</translation>
+        <translation>Inzwischen geändert, nicht angerührt</translation>
     </message>
     <message>
         <source>Choose a Cover</source>
@@ -1300,7 +1300,7 @@
     </message>
     <message>
         <source>Export…</source>
-        <translation>Exportieren…</translation>
+        <translation>Exportieren …</translation>
     </message>
     <message>
         <source>File</source>
@@ -1324,11 +1324,11 @@
     </message>
     <message>
         <source>Move Column Left</source>
-        <translation>Spalte nach links</translation>
+        <translation>Spalte nach links verschieben</translation>
     </message>
     <message>
         <source>Move Column Right</source>
-        <translation>Spalte nach rechts</translation>
+        <translation>Spalte nach rechts verschieben</translation>
     </message>
     <message>
         <source>Open in Editor</source>
@@ -1376,11 +1376,11 @@
     </message>
     <message>
         <source>Show in Folder</source>
-        <translation>Im Ordner zeigen</translation>
+        <translation>Im Ordner anzeigen</translation>
     </message>
     <message>
         <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
-        <translation>Nur Dateien zeigen, die diese Wörter in irgendeiner Spalte haben; artist:, year:1990-1999, missing:cover und Ähnliches sehen genauer hin</translation>
+        <translation>Nur Dateien zeigen, die diese Wörter in irgendeiner Spalte haben; mit artist:, year:1990-1999, missing:cover und Ähnlichem wird genauer gesucht</translation>
     </message>
     <message>
         <source>Sort By</source>
@@ -1416,7 +1416,7 @@
     </message>
     <message>
         <source>The genre: choose one or type your own</source>
-        <translation>Das Genre: wählen Sie eines, oder geben Sie ein eigenes ein</translation>
+        <translation>Das Genre: Wählen Sie eines oder geben Sie ein eigenes ein</translation>
     </message>
     <message>
         <source>The old cover can&#x27;t be read any more</source>
@@ -1448,7 +1448,7 @@
     </message>
     <message>
         <source>There is no room to keep the old cover for an undo</source>
-        <translation>Es ist kein Platz, um das alte Titelbild zum Zurücknehmen aufzuheben</translation>
+        <translation>Es ist kein Platz, um das alte Titelbild zum Rückgängigmachen aufzubewahren</translation>
     </message>
     <message>
         <source>They are lost when the program ends.</source>
@@ -1468,7 +1468,7 @@
     </message>
     <message>
         <source>Undo Apply</source>
-        <translation>Anwenden zurücknehmen</translation>
+        <translation>Anwenden rückgängig machen</translation>
     </message>
     <message>
         <source>What the selected films are about, or a comment on the songs</source>
@@ -1484,11 +1484,11 @@
     </message>
     <message>
         <source>Write what was edited into the files</source>
-        <translation>Schreiben, was bearbeitet wurde</translation>
+        <translation>Die Änderungen in die Dateien schreiben</translation>
     </message>
     <message>
         <source>Writing…</source>
-        <translation>Schreiben…</translation>
+        <translation>Wird geschrieben …</translation>
     </message>
     <message>
         <source>several covers</source>
@@ -1527,7 +1527,7 @@
     </message>
     <message>
         <source>Take the cover away, which a save with portable tags writes</source>
-        <translation>Das Titelbild wegnehmen, was ein Speichern mit portablen Tags schreibt</translation>
+        <translation>Das Titelbild löschen, was beim Speichern mit portablen Tags geschrieben wird</translation>
     </message>
     <message>
         <source>Delete &amp;All Tags from File…</source>
@@ -1607,11 +1607,11 @@
     </message>
     <message>
         <source>Restore Unsaved &amp;Edits</source>
-        <translation>Ungespeicherte Ä&amp;nderungen wiederherstellen</translation>
+        <translation>Nicht gespeicherte Ä&amp;nderungen wiederherstellen</translation>
     </message>
     <message>
         <source>Open the file again whose edits could not be saved, and put them back</source>
-        <translation>Die Datei wieder öffnen, deren Änderungen nicht gespeichert werden konnten, und sie wieder eintragen</translation>
+        <translation>Die Datei, deren Änderungen nicht gespeichert werden konnten, wieder öffnen und die Änderungen wieder eintragen</translation>
     </message>
     <message>
         <source>&amp;Library Table</source>
@@ -1631,7 +1631,7 @@
     </message>
     <message>
         <source>&amp;Keyboard</source>
-        <translation>&amp;Tastatur</translation>
+        <translation>&amp;Tastenkürzel</translation>
     </message>
     <message>
         <source>&amp;About Velmora</source>
@@ -1662,7 +1662,7 @@
     </message>
     <message>
         <source>Add files to the list</source>
-        <translation>Dateien in die Liste aufnehmen</translation>
+        <translation>Dateien zur Liste hinzufügen</translation>
     </message>
     <message>
         <source>Add F&amp;older…</source>
@@ -1725,7 +1725,7 @@
     </message>
     <message>
         <source>The artist of a song, the cast of a film</source>
-        <translation>Der Interpret eines Lieds, die Darsteller eines Films</translation>
+        <translation>Der Interpret eines Lieds, die Besetzung eines Films</translation>
     </message>
     <message>
         <source>&amp;Genre:</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>The genre: choose one or type your own</source>
-        <translation>Das Genre: wählen Sie eines oder tippen Sie ein eigenes</translation>
+        <translation>Das Genre: Wählen Sie eines oder geben Sie ein eigenes ein</translation>
     </message>
     <message>
         <source>Album:</source>
@@ -1765,7 +1765,7 @@
     </message>
     <message>
         <source>The date, for information: it is not written into the file</source>
-        <translation>Das Datum, zur Kenntnis: es wird nicht in die Datei geschrieben</translation>
+        <translation>Das Datum, nur zur Information: Es wird nicht in die Datei geschrieben</translation>
     </message>
     <message>
         <source>&amp;Cover Art:</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message>
         <source>Remo&amp;ve Tag</source>
-        <translation>Angaben &amp;verwerfen</translation>
+        <translation>Tag &amp;verwerfen</translation>
     </message>
     <message>
         <source>Forget the changes without writing them</source>
@@ -1817,7 +1817,7 @@
     </message>
     <message>
         <source>for information only</source>
-        <translation>nur zur Kenntnis</translation>
+        <translation>nur zur Info</translation>
     </message>
 </context>
 <context>
@@ -1844,7 +1844,7 @@
     </message>
     <message>
         <source>Take the frame shown as cover art</source>
-        <translation>Das gezeigte Einzelbild als Titelbild nehmen</translation>
+        <translation>Das gezeigte Einzelbild als Titelbild verwenden</translation>
     </message>
 </context>
 <context>
@@ -1879,11 +1879,11 @@
     </message>
     <message>
         <source>Turns while a page loads</source>
-        <translation>Dreht sich, während eine Seite lädt</translation>
+        <translation>Dreht sich, während eine Seite geladen wird</translation>
     </message>
     <message>
         <source>Page loading</source>
-        <translation>Seite lädt</translation>
+        <translation>Seite wird geladen</translation>
     </message>
     <message>
         <source>Fill Form</source>
