@@ -89,3 +89,23 @@ function(velmora_folder name)
   target_link_libraries(velmora_${name} PRIVATE velmora_options)
   velmora_expose(velmora_${name} ${name})
 endfunction()
+
+# velmora_precompile_qt(TARGET... ): these Qt rooms share the headers that most of their files include, compiled once. Where a
+# room is compiled in one piece it reads them once anyway, and what it forgot to include is found out.
+function(velmora_precompile_qt)
+  if(VELMORA_ONE_PIECE)
+    return()
+  endif()
+  set(source "${PROJECT_BINARY_DIR}/qt_headers.cpp")
+  file(CONFIGURE OUTPUT "${source}" CONTENT "")
+  add_library(velmora_qt_headers STATIC "${source}")
+  set_target_properties(velmora_qt_headers PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+  target_link_libraries(velmora_qt_headers PRIVATE Qt6::Widgets velmora_options)
+  target_precompile_headers(velmora_qt_headers PRIVATE <QApplication> <QComboBox> <QDialog> <QFileInfo> <QHBoxLayout>
+                                                       <QHash> <QHeaderView> <QLabel> <QLineEdit> <QPainter> <QPushButton>
+                                                       <QTableView> <QTimer> <QUrl> <QVBoxLayout> <functional> <memory>
+                                                       <optional> <vector>)
+  foreach(target IN LISTS ARGN)
+    target_precompile_headers(${target} REUSE_FROM velmora_qt_headers)
+  endforeach()
+endfunction()
