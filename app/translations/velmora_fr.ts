@@ -5,7 +5,7 @@
     <name>Velmora</name>
     <message>
         <source>&quot;%@&quot; keeps its tags.</source>
-        <translation>« %@ » garde ses tags.</translation>
+        <translation>« %@ » conserve ses tags.</translation>
     </message>
     <message>
         <source>%@ (not there)</source>
@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>All tags of &quot;%@&quot; are deleted.</source>
-        <translation>Tous les tags de « %@ » sont supprimés.</translation>
+        <translation>Tous les tags de « %@ » sont supprimés.</translation>
     </message>
     <message>
         <source>Choose another place, and save the file there with the changes</source>
-        <translation>Choisir un autre endroit et y enregistrer le fichier avec les modifications</translation>
+        <translation>Choisir un autre emplacement et y enregistrer le fichier avec les modifications</translation>
     </message>
     <message>
         <source>Delete All Tags</source>
@@ -29,15 +29,15 @@
     </message>
     <message>
         <source>Deleted all tags of &quot;%@&quot;</source>
-        <translation>Tous les tags de « %@ » supprimés</translation>
+        <translation>Tous les tags de « %@ » supprimés</translation>
     </message>
     <message>
         <source>Do you want to delete all tags from &quot;%@&quot;?</source>
-        <translation>Voulez-vous supprimer tous les tags de « %@ » ?</translation>
+        <translation>Voulez-vous supprimer tous les tags de « %@ » ?</translation>
     </message>
     <message>
         <source>Files found: %@</source>
-        <translation>Fichiers trouvés : %@</translation>
+        <translation>Fichiers trouvés : %@</translation>
     </message>
     <message>
         <source>Information</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>It consists of several RIFF chunks, which a save in place can&#x27;t change</source>
-        <translation>Il est fait de plusieurs blocs RIFF, qu’un enregistrement sur place ne peut pas modifier</translation>
+        <translation>Il se compose de plusieurs blocs RIFF, qu’un enregistrement sur place ne peut pas modifier</translation>
     </message>
     <message>
         <source>It is empty</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>It is not there any more</source>
-        <translation>Il n’est plus là</translation>
+        <translation>Il n’existe plus</translation>
     </message>
     <message>
         <source>It lies on a disk that can only be read</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Looked in:</source>
-        <translation>Recherché dans :</translation>
+        <translation>Dossiers parcourus :</translation>
     </message>
     <message>
         <source>No file is open</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>No file is open: what is typed here goes nowhere</source>
-        <translation>Aucun fichier ouvert : ce qui est saisi ici est perdu</translation>
+        <translation>Aucun fichier ouvert : ce qui est saisi ici est perdu</translation>
     </message>
     <message>
         <source>No space is left on its disk</source>
@@ -105,27 +105,27 @@
     </message>
     <message>
         <source>Saved &quot;%@&quot;</source>
-        <translation>« %@ » enregistré</translation>
+        <translation>« %@ » enregistré</translation>
     </message>
     <message>
         <source>Store Cover</source>
-        <translation>Garder la jaquette</translation>
+        <translation>Valider la jaquette</translation>
     </message>
     <message>
         <source>Store Filled Fields</source>
-        <translation>Garder les champs remplis</translation>
+        <translation>Valider les champs remplis</translation>
     </message>
     <message>
         <source>Take all filled fields for changes, which a save writes</source>
-        <translation>Faire de tous les champs remplis des modifications, que l’enregistrement écrit</translation>
+        <translation>Traiter tous les champs remplis comme des modifications, écrites lors de l’enregistrement</translation>
     </message>
     <message>
         <source>Take the cover for a change, which a save writes</source>
-        <translation>Faire de la jaquette une modification, que l’enregistrement écrit</translation>
+        <translation>Traiter la jaquette comme une modification, écrite lors de l’enregistrement</translation>
     </message>
     <message>
         <source>The cover is cut from the form only, and stays in the file.</source>
-        <translation>La jaquette n’est coupée que du formulaire et reste dans le fichier.</translation>
+        <translation>La jaquette n’est coupée que dans le formulaire et reste dans le fichier.</translation>
     </message>
     <message>
         <source>The cover is deleted here. A save in place leaves it in the file.</source>
@@ -133,15 +133,15 @@
     </message>
     <message>
         <source>The cover was taken from folder.jpg, which counts as a change: a save writes it into the file.</source>
-        <translation>La jaquette vient de folder.jpg, ce qui compte comme une modification : l’enregistrement l’écrit dans le fichier.</translation>
+        <translation>La jaquette vient de folder.jpg et compte donc comme une modification : l’enregistrement l’écrira dans le fichier.</translation>
     </message>
     <message>
         <source>The filled fields count as changes now: a save writes them.</source>
-        <translation>Les champs remplis comptent maintenant comme modifications : l’enregistrement les écrit.</translation>
+        <translation>Les champs remplis comptent maintenant comme des modifications : l’enregistrement les écrira.</translation>
     </message>
     <message>
         <source>The pasted cover is shown only: a save does not write it.</source>
-        <translation>La jaquette collée est seulement affichée : l’enregistrement ne l’écrit pas.</translation>
+        <translation>La jaquette collée est seulement affichée : l’enregistrement ne l’écrira pas.</translation>
     </message>
     <message>
         <source>There is no file for its tag yet, and a save in place makes none</source>
@@ -149,27 +149,27 @@
     </message>
     <message>
         <source>This is no number, and is stored as no year</source>
-        <translation>Ce n’est pas un nombre : aucune année n’est enregistrée</translation>
+        <translation>Ce n’est pas un nombre : aucune année n’est enregistrée</translation>
     </message>
     <message>
         <source>Too little media lies behind its header for the header to grow or shrink</source>
-        <translation>Il y a trop peu de données derrière son en-tête pour que celui-ci change de taille</translation>
+        <translation>Il y a trop peu de données multimédias derrière son en-tête pour que celui-ci change de taille</translation>
     </message>
     <message>
         <source>What other programs read goes, too, and so do the changes that you have made here. This can&#x27;t be undone.</source>
-        <translation>Ce que lisent d’autres programmes disparaît aussi, tout comme vos modifications ici. C’est irréversible.</translation>
+        <translation>Les tags que lisent d’autres programmes disparaîtront aussi, tout comme vos modifications ici. Cette action est irréversible.</translation>
     </message>
     <message>
         <source>What the last save did</source>
-        <translation>Ce qu’a fait le dernier enregistrement</translation>
+        <translation>Résultat du dernier enregistrement</translation>
     </message>
     <message>
         <source>What the last search found</source>
-        <translation>Ce qu’a trouvé la dernière recherche</translation>
+        <translation>Résultat de la dernière recherche</translation>
     </message>
     <message>
         <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
-        <translation>Ce qui a été rempli depuis le Web n’est pas encore retenu : seuls les champs saisis sont enregistrés.</translation>
+        <translation>Ce qui a été rempli depuis le Web n’est pas encore validé : l’enregistrement n’écrit que les champs saisis à la main.</translation>
     </message>
     <message>
         <source>You have no permission to write to it</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>folders that could not be read: %@</source>
-        <translation>dossiers illisibles : %@</translation>
+        <translation>dossiers illisibles : %@</translation>
     </message>
     <message>
         <source>open in the form</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Do you want to save the changes you made?</source>
-        <translation>Voulez-vous enregistrer les modifications effectuées ?</translation>
+        <translation>Voulez-vous enregistrer les modifications effectuées ?</translation>
     </message>
     <message>
         <source>Your changes to &quot;%@&quot; will be lost if you don&#x27;t save them.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>Cover art: drop an image here to store it</source>
-        <translation>Jaquette : déposez une image ici pour l’enregistrer</translation>
+        <translation>Jaquette : déposez une image ici pour l’utiliser</translation>
     </message>
     <message>
         <source>too large to show</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>No cover art; drop an image here</source>
-        <translation>Pas de jaquette ; déposez une image ici</translation>
+        <translation>Pas de jaquette ; déposez une image ici</translation>
     </message>
     <message>
         <source>An image of %@ pixels</source>
@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>  FILE       is listed; a single one is opened</source>
-        <translation>  FICHIER    est ajouté à la liste ; un fichier seul est ouvert</translation>
+        <translation>  FICHIER    est ajouté à la liste ; un fichier seul est ouvert</translation>
     </message>
     <message>
         <source>  FOLDER     is searched for films and music</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>velmora: unknown option %@; --help tells the others</source>
-        <translation>velmora : option inconnue %@ ; --help indique les autres</translation>
+        <translation>velmora : option inconnue %@ ; --help indique les options valides</translation>
     </message>
     <message>
         <source>Files of this kind carry no tag</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>The file is of a sort that can&#x27;t be saved safely</source>
-        <translation>Ce genre de fichier ne peut pas être enregistré sans risque</translation>
+        <translation>Ce type de fichier ne peut pas être enregistré sans risque</translation>
     </message>
     <message>
         <source>Something is too large for this kind of file</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Save so, and do so from now on, also after the next start</source>
-        <translation>Enregistrer ainsi, désormais et après le prochain démarrage</translation>
+        <translation>Enregistrer ainsi, désormais et aussi après le prochain démarrage</translation>
     </message>
     <message>
         <source>Saved. Other programs see it: %@</source>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>&quot;%@&quot; was not saved; its edits are kept.</source>
-        <translation>« %@ » n’a pas été enregistré ; ses modifications sont conservées.</translation>
+        <translation>« %@ » n’a pas été enregistré ; ses modifications sont conservées.</translation>
     </message>
     <message>
         <source>Restore Unsaved Edits</source>
@@ -733,11 +733,11 @@
     </message>
     <message>
         <source>Open the file again whose edits could not be saved, and put them back</source>
-        <translation>Rouvrir le fichier dont les modifications n’ont pas pu être enregistrées, et les remettre</translation>
+        <translation>Rouvrir le fichier dont les modifications n’ont pas pu être enregistrées, et les y remettre</translation>
     </message>
     <message>
         <source>The edits of &quot;%@&quot; are back, and not saved yet.</source>
-        <translation>Les modifications de « %@ » sont de retour, et pas encore enregistrées.</translation>
+        <translation>Les modifications de « %@ » sont de retour, mais pas encore enregistrées.</translation>
     </message>
     <message>
         <source>A percent sign stands alone. Write %% for a percent sign.</source>
@@ -757,7 +757,7 @@
     </message>
     <message>
         <source>It says so already</source>
-        <translation>C’est déjà ce qui y figure</translation>
+        <translation>Cette valeur y figure déjà</translation>
     </message>
     <message>
         <source>It has that name already</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>No name is left of the values</source>
-        <translation>Il ne reste aucun nom de ces valeurs</translation>
+        <translation>Ces valeurs ne donnent aucun nom</translation>
     </message>
     <message>
         <source>The file keeps its name: its tag lies in another file that goes by it</source>
@@ -821,7 +821,7 @@
     </message>
     <message>
         <source>Put a field into the pattern</source>
-        <translation>Ajouter un champ au modèle</translation>
+        <translation>Insérer un champ dans le modèle</translation>
     </message>
     <message>
         <source>%skip% stands for text that is left out, a slash for a folder.</source>
@@ -841,7 +841,7 @@
     </message>
     <message>
         <source>Hide the files that the pattern fits</source>
-        <translation>Masquer les fichiers auxquels le modèle convient</translation>
+        <translation>Masquer les fichiers qui correspondent au modèle</translation>
     </message>
     <message>
         <source>&amp;Set Tags</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Make these edits of the table; no file changes before they are applied</source>
-        <translation>En faire des modifications de la table ; aucun fichier ne change avant qu’elles ne soient appliquées</translation>
+        <translation>En faire des modifications du tableau ; aucun fichier ne change tant qu’elles ne sont pas appliquées</translation>
     </message>
     <message>
         <source>Leave everything as it is</source>
@@ -869,11 +869,11 @@
     </message>
     <message>
         <source>Files that change: %@.</source>
-        <translation>Fichiers modifiés : %@.</translation>
+        <translation>Fichiers à modifier : %@.</translation>
     </message>
     <message>
         <source>Files that something is wrong with: %@; they are left alone.</source>
-        <translation>Fichiers posant problème : %@ ; ils restent tels quels.</translation>
+        <translation>Fichiers posant problème : %@ ; ils restent tels quels.</translation>
     </message>
     <message>
         <source>&amp;Tags from Names...</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Take the tags of the selected files from their names, by a pattern</source>
-        <translation>Tirer les tags des fichiers sélectionnés de leurs noms, selon un modèle</translation>
+        <translation>Déduire les tags des fichiers sélectionnés de leurs noms, selon un modèle</translation>
     </message>
     <message>
         <source>&amp;Names from Tags...</source>
@@ -889,7 +889,7 @@
     </message>
     <message>
         <source>Give the selected files names made of their tags, by a pattern</source>
-        <translation>Donner aux fichiers sélectionnés des noms formés de leurs tags, selon un modèle</translation>
+        <translation>Former les noms des fichiers sélectionnés à partir de leurs tags, selon un modèle</translation>
     </message>
     <message>
         <source>&amp;Names</source>
@@ -988,7 +988,7 @@
     </message>
     <message>
         <source>Library Table</source>
-        <translation>Table de la médiathèque</translation>
+        <translation>Tableau de la médiathèque</translation>
     </message>
     <message>
         <source>Rating</source>
@@ -1032,7 +1032,7 @@
     </message>
     <message>
         <source>Find words in the guide; Return goes to the next place</source>
-        <translation>Chercher des mots dans le guide ; Entrée passe au résultat suivant</translation>
+        <translation>Chercher des mots dans le guide ; Entrée passe au résultat suivant</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -1044,7 +1044,7 @@
     </message>
     <message>
         <source>Keyboard</source>
-        <translation>Clavier</translation>
+        <translation>Raccourcis clavier</translation>
     </message>
     <message>
         <source>Key</source>
@@ -1108,7 +1108,7 @@
     </message>
     <message>
         <source>Ends the wait for a page or a cover; closes the line above the form</source>
-        <translation>Met fin à l’attente d’une page ou d’une jaquette ; ferme la ligne au-dessus du formulaire</translation>
+        <translation>Met fin à l’attente d’une page ou d’une jaquette ; ferme la ligne au-dessus du formulaire</translation>
     </message>
     <message>
         <source>About Velmora</source>
@@ -1144,7 +1144,7 @@
     </message>
     <message>
         <source>&quot;%@&quot; can&#x27;t be written.</source>
-        <translation>Impossible d&#x27;écrire « %@ ».</translation>
+        <translation>Impossible d’écrire « %@ ».</translation>
     </message>
     <message>
         <source>%@ a second</source>
@@ -1152,7 +1152,7 @@
     </message>
     <message>
         <source>%@ cells can&#x27;t take what was pasted</source>
-        <translation>%@ cellules n&#x27;acceptent pas ce qui a été collé</translation>
+        <translation>%@ cellules n’acceptent pas ce qui a été collé</translation>
     </message>
     <message>
         <source>%@ changed since and left alone</source>
@@ -1160,7 +1160,7 @@
     </message>
     <message>
         <source>%@ done</source>
-        <translation>%@ faits</translation>
+        <translation>%@ terminés</translation>
     </message>
     <message>
         <source>%@ failed</source>
@@ -1176,7 +1176,7 @@
     </message>
     <message>
         <source>%@ not reached</source>
-        <translation>%@ non atteints</translation>
+        <translation>%@ non traités</translation>
     </message>
     <message>
         <source>%@ unchanged</source>
@@ -1184,7 +1184,7 @@
     </message>
     <message>
         <source>&amp;Artist or cast:</source>
-        <translation>&amp;Artiste ou distribution :</translation>
+        <translation>&amp;Artiste ou distribution :</translation>
     </message>
     <message>
         <source>&amp;Choose…</source>
@@ -1196,7 +1196,7 @@
     </message>
     <message>
         <source>&amp;Genre:</source>
-        <translation>&amp;Genre :</translation>
+        <translation>&amp;Genre :</translation>
     </message>
     <message>
         <source>&amp;Revert</source>
@@ -1208,11 +1208,11 @@
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation>&amp;Titre :</translation>
+        <translation>&amp;Titre :</translation>
     </message>
     <message>
         <source>&amp;Year:</source>
-        <translation>A&amp;nnée :</translation>
+        <translation>A&amp;nnée :</translation>
     </message>
     <message>
         <source>A&amp;pply</source>
@@ -1220,7 +1220,7 @@
     </message>
     <message>
         <source>Al&amp;bum or director:</source>
-        <translation>Al&amp;bum ou réalisateur :</translation>
+        <translation>Al&amp;bum ou réalisation :</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -1228,7 +1228,7 @@
     </message>
     <message>
         <source>C&amp;over:</source>
-        <translation>P&amp;ochette :</translation>
+        <translation>&amp;Jaquette :</translation>
     </message>
     <message>
         <source>Cancelled before its turn</source>
@@ -1240,11 +1240,11 @@
     </message>
     <message>
         <source>Choose a Cover</source>
-        <translation>Choisir une pochette</translation>
+        <translation>Choisir une jaquette</translation>
     </message>
     <message>
         <source>Choose a picture as the cover of the selected files</source>
-        <translation>Choisir une image comme pochette des fichiers sélectionnés</translation>
+        <translation>Choisir une image comme jaquette des fichiers sélectionnés</translation>
     </message>
     <message>
         <source>Close the summary</source>
@@ -1296,7 +1296,7 @@
     </message>
     <message>
         <source>Edits in the library table are not applied yet.</source>
-        <translation>Des modifications du tableau de la bibliothèque ne sont pas encore appliquées.</translation>
+        <translation>Des modifications du tableau de la médiathèque ne sont pas encore appliquées.</translation>
     </message>
     <message>
         <source>Export</source>
@@ -1312,7 +1312,7 @@
     </message>
     <message>
         <source>Files that were not changed</source>
-        <translation>Fichiers qui n&#x27;ont pas été modifiés</translation>
+        <translation>Fichiers non modifiés</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -1320,23 +1320,23 @@
     </message>
     <message>
         <source>Filter:</source>
-        <translation>Filtre :</translation>
+        <translation>Filtre :</translation>
     </message>
     <message>
         <source>Give the files of the last apply their old values and names back</source>
-        <translation>Rendre leurs anciennes valeurs et leurs anciens noms aux fichiers de la dernière application</translation>
+        <translation>Rendre aux fichiers leurs valeurs et leurs noms d’avant la dernière commande « Appliquer »</translation>
     </message>
     <message>
         <source>Move Column Left</source>
-        <translation>Déplacer la colonne à gauche</translation>
+        <translation>Déplacer la colonne vers la gauche</translation>
     </message>
     <message>
         <source>Move Column Right</source>
-        <translation>Déplacer la colonne à droite</translation>
+        <translation>Déplacer la colonne vers la droite</translation>
     </message>
     <message>
         <source>Open in Editor</source>
-        <translation>Ouvrir dans l&#x27;éditeur</translation>
+        <translation>Ouvrir dans l’éditeur</translation>
     </message>
     <message>
         <source>Open the file in the program&#x27;s main window</source>
@@ -1356,7 +1356,7 @@
     </message>
     <message>
         <source>Rat&amp;ing:</source>
-        <translation>Class&amp;ification :</translation>
+        <translation>Class&amp;ification :</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
@@ -1372,7 +1372,7 @@
     </message>
     <message>
         <source>Remove the cover from the selected files</source>
-        <translation>Supprimer la pochette des fichiers sélectionnés</translation>
+        <translation>Supprimer la jaquette des fichiers sélectionnés</translation>
     </message>
     <message>
         <source>Revert</source>
@@ -1384,7 +1384,7 @@
     </message>
     <message>
         <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
-        <translation>N&#x27;afficher que les fichiers qui ont ces mots dans une colonne ; artist:, year:1990-1999, missing:cover et autres sont plus précis</translation>
+        <translation>N’afficher que les fichiers qui contiennent ces mots dans une colonne ; artist:, year:1990-1999, missing:cover, etc. précisent la recherche</translation>
     </message>
     <message>
         <source>Sort By</source>
@@ -1392,51 +1392,51 @@
     </message>
     <message>
         <source>Stop; each file is as it was or as it was to be</source>
-        <translation>Arrêter ; chaque fichier reste tel quel ou tel qu&#x27;il devait être</translation>
+        <translation>Arrêter ; chaque fichier reste tel quel ou est déjà tel qu’il devait être</translation>
     </message>
     <message>
         <source>Sy&amp;nopsis or comment:</source>
-        <translation>Résumé o&amp;u commentaire :</translation>
+        <translation>Synopsis o&amp;u commentaire :</translation>
     </message>
     <message>
         <source>Take the selected files off the list; they stay where they are</source>
-        <translation>Retirer de la liste les fichiers sélectionnés ; ils restent où ils sont</translation>
+        <translation>Retirer de la liste les fichiers sélectionnés ; ils restent où ils sont</translation>
     </message>
     <message>
         <source>The album of the selected songs, the director of the selected films</source>
-        <translation>L&#x27;album des chansons, le réalisateur des films sélectionnés</translation>
+        <translation>L’album des morceaux sélectionnés, la réalisation des films sélectionnés</translation>
     </message>
     <message>
         <source>The artist of the selected songs, the cast of the selected films</source>
-        <translation>L&#x27;artiste des chansons, la distribution des films sélectionnés</translation>
+        <translation>L’artiste des morceaux sélectionnés, la distribution des films sélectionnés</translation>
     </message>
     <message>
         <source>The cover of the selected files: drop a picture here, or paste one</source>
-        <translation>La pochette des fichiers sélectionnés : déposez ou collez une image ici</translation>
+        <translation>La jaquette des fichiers sélectionnés : déposez ou collez une image ici</translation>
     </message>
     <message>
         <source>The files that were not changed, and why</source>
-        <translation>Les fichiers qui n&#x27;ont pas été modifiés, et pourquoi</translation>
+        <translation>Les fichiers non modifiés, et pourquoi</translation>
     </message>
     <message>
         <source>The genre: choose one or type your own</source>
-        <translation>Le genre : choisissez-en un ou saisissez le vôtre</translation>
+        <translation>Le genre : choisissez-en un ou saisissez le vôtre</translation>
     </message>
     <message>
         <source>The old cover can&#x27;t be read any more</source>
-        <translation>L&#x27;ancienne pochette n&#x27;est plus lisible</translation>
+        <translation>L’ancienne jaquette n’est plus lisible</translation>
     </message>
     <message>
         <source>The parental rating of the selected films</source>
-        <translation>La classification d&#x27;âge des films sélectionnés</translation>
+        <translation>La classification par âge des films sélectionnés</translation>
     </message>
     <message>
         <source>The table could not be exported.</source>
-        <translation>Le tableau n&#x27;a pas pu être exporté.</translation>
+        <translation>Le tableau n’a pas pu être exporté.</translation>
     </message>
     <message>
         <source>The tags are right, the name is the old one: %@</source>
-        <translation>Les tags sont bons, le nom est l&#x27;ancien : %@</translation>
+        <translation>Les tags sont corrects, mais le nom est toujours l’ancien : %@</translation>
     </message>
     <message>
         <source>The title of the selected files</source>
@@ -1444,7 +1444,7 @@
     </message>
     <message>
         <source>The year of release, of up to four digits</source>
-        <translation>L&#x27;année de sortie, quatre chiffres au plus</translation>
+        <translation>L’année de sortie, quatre chiffres au plus</translation>
     </message>
     <message>
         <source>Then By</source>
@@ -1452,7 +1452,7 @@
     </message>
     <message>
         <source>There is no room to keep the old cover for an undo</source>
-        <translation>Pas de place pour garder l&#x27;ancienne pochette en vue d&#x27;une annulation</translation>
+        <translation>Pas de place pour conserver l’ancienne jaquette en vue d’une annulation</translation>
     </message>
     <message>
         <source>They are lost when the program ends.</source>
@@ -1464,7 +1464,7 @@
     </message>
     <message>
         <source>Try the files again that were not changed</source>
-        <translation>Réessayer les fichiers qui n&#x27;ont pas été modifiés</translation>
+        <translation>Réessayer avec les fichiers non modifiés</translation>
     </message>
     <message>
         <source>Type what is to be shown</source>
@@ -1472,11 +1472,11 @@
     </message>
     <message>
         <source>Undo Apply</source>
-        <translation>Annuler l&#x27;application</translation>
+        <translation>Annuler « Appliquer »</translation>
     </message>
     <message>
         <source>What the selected films are about, or a comment on the songs</source>
-        <translation>De quoi parlent les films sélectionnés, ou un commentaire sur les chansons</translation>
+        <translation>Ce dont parlent les films sélectionnés, ou un commentaire sur les morceaux</translation>
     </message>
     <message>
         <source>Words, artist:name, year:1990-1999, missing:cover</source>
@@ -1496,7 +1496,7 @@
     </message>
     <message>
         <source>several covers</source>
-        <translation>plusieurs pochettes</translation>
+        <translation>plusieurs jaquettes</translation>
     </message>
     <message>
         <source>several values</source>
@@ -1507,19 +1507,19 @@
     <name>MyDocument</name>
     <message>
         <source>&amp;Paste and Store Cover</source>
-        <translation>Coller et &amp;garder la jaquette</translation>
+        <translation>Coller et &amp;valider la jaquette</translation>
     </message>
     <message>
         <source>Make the image that was copied the cover, which a save writes</source>
-        <translation>Faire de l’image copiée la jaquette, que l’enregistrement écrit</translation>
+        <translation>Faire de l’image copiée la jaquette, écrite lors de l’enregistrement</translation>
     </message>
     <message>
         <source>&amp;Trim Border</source>
-        <translation>R&amp;ogner le bord</translation>
+        <translation>R&amp;ogner la bordure</translation>
     </message>
     <message>
         <source>Trim a border of one colour off the cover art</source>
-        <translation>Rogner un bord d’une seule couleur de la jaquette</translation>
+        <translation>Rogner une bordure unie de la jaquette</translation>
     </message>
     <message>
         <source>&amp;Delete Cover</source>
@@ -1527,7 +1527,7 @@
     </message>
     <message>
         <source>Take the cover away, which a save with portable tags writes</source>
-        <translation>Retirer la jaquette, ce qu’écrit un enregistrement avec des tags portables</translation>
+        <translation>Retirer la jaquette, ce qu’un enregistrement avec des tags portables écrit dans le fichier</translation>
     </message>
     <message>
         <source>Delete &amp;All Tags from File…</source>
@@ -1571,7 +1571,7 @@
     </message>
     <message>
         <source>&amp;Find in List</source>
-        <translation>Chercher &amp;dans la liste</translation>
+        <translation>Rechercher &amp;dans la liste</translation>
     </message>
     <message>
         <source>&amp;Load Cover Art…</source>
@@ -1579,7 +1579,7 @@
     </message>
     <message>
         <source>Look &amp;Up on the Web</source>
-        <translation>&amp;Chercher sur le Web</translation>
+        <translation>Re&amp;chercher sur le Web</translation>
     </message>
     <message>
         <source>View</source>
@@ -1615,7 +1615,7 @@
     </message>
     <message>
         <source>&amp;Library Table</source>
-        <translation>Table de &amp;la médiathèque</translation>
+        <translation>Tableau de &amp;la médiathèque</translation>
     </message>
     <message>
         <source>Show all files of the list with their tags, and edit many at once</source>
@@ -1631,7 +1631,7 @@
     </message>
     <message>
         <source>&amp;Keyboard</source>
-        <translation>&amp;Clavier</translation>
+        <translation>&amp;Raccourcis clavier</translation>
     </message>
     <message>
         <source>&amp;About Velmora</source>
@@ -1643,7 +1643,7 @@
     </message>
     <message>
         <source>Start with this size, division, column widths and sorting from now on</source>
-        <translation>Démarrer désormais avec cette taille, cette division, ces largeurs de colonnes et ce tri</translation>
+        <translation>Démarrer désormais avec cette taille, cette répartition, ces largeurs de colonnes et ce tri</translation>
     </message>
     <message>
         <source>&amp;Forget Everything</source>
@@ -1694,7 +1694,7 @@
     </message>
     <message>
         <source>The media files found; type a name to find one</source>
-        <translation>Les fichiers multimédias trouvés ; tapez un nom pour en chercher un</translation>
+        <translation>Les fichiers multimédias trouvés ; tapez un nom pour en chercher un</translation>
     </message>
     <message>
         <source>Media files</source>
@@ -1749,7 +1749,7 @@
     </message>
     <message>
         <source>The parental rating of a film</source>
-        <translation>La classification d’un film par âge</translation>
+        <translation>La classification par âge d’un film</translation>
     </message>
     <message>
         <source>Sy&amp;nopsis:</source>
@@ -1765,7 +1765,7 @@
     </message>
     <message>
         <source>The date, for information: it is not written into the file</source>
-        <translation>La date, pour information : elle n’est pas écrite dans le fichier</translation>
+        <translation>La date, à titre indicatif : elle n’est pas écrite dans le fichier</translation>
     </message>
     <message>
         <source>&amp;Cover Art:</source>
@@ -1773,7 +1773,7 @@
     </message>
     <message>
         <source>The cover art; drop an image here</source>
-        <translation>La jaquette ; déposez une image ici</translation>
+        <translation>La jaquette ; déposez une image ici</translation>
     </message>
     <message>
         <source>&amp;Load…</source>
@@ -1844,7 +1844,7 @@
     </message>
     <message>
         <source>Take the frame shown as cover art</source>
-        <translation>Prendre l’image affichée comme jaquette</translation>
+        <translation>Utiliser l’image affichée comme jaquette</translation>
     </message>
 </context>
 <context>
