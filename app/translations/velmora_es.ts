@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Choose another place, and save the file there with the changes</source>
-        <translation>Elegir otro lugar y guardar allí el archivo con los cambios</translation>
+        <translation>Elegir otra ubicación y guardar allí el archivo con los cambios</translation>
     </message>
     <message>
         <source>Delete All Tags</source>
@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Do you want to delete all tags from &quot;%@&quot;?</source>
-        <translation>¿Quiere eliminar todas las etiquetas de «%@»?</translation>
+        <translation>¿Desea eliminar todas las etiquetas de «%@»?</translation>
     </message>
     <message>
         <source>Files found: %@</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>It consists of several RIFF chunks, which a save in place can&#x27;t change</source>
-        <translation>Consta de varios bloques RIFF, que no se pueden cambiar en el sitio</translation>
+        <translation>Consta de varios bloques RIFF, que no se pueden cambiar al guardar in situ</translation>
     </message>
     <message>
         <source>It is empty</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>It would become too large</source>
-        <translation>Se haría demasiado grande</translation>
+        <translation>Sería demasiado grande</translation>
     </message>
     <message>
         <source>Its header can&#x27;t be read</source>
@@ -109,19 +109,19 @@
     </message>
     <message>
         <source>Store Cover</source>
-        <translation>Adoptar la carátula</translation>
+        <translation>Usar la carátula</translation>
     </message>
     <message>
         <source>Store Filled Fields</source>
-        <translation>Adoptar los campos rellenados</translation>
+        <translation>Usar los campos rellenados</translation>
     </message>
     <message>
         <source>Take all filled fields for changes, which a save writes</source>
-        <translation>Tomar todos los campos rellenados como cambios, que se escriben al guardar</translation>
+        <translation>Tomar todos los campos rellenados como cambios, que se escribirán al guardar</translation>
     </message>
     <message>
         <source>Take the cover for a change, which a save writes</source>
-        <translation>Tomar la carátula como cambio, que se escribe al guardar</translation>
+        <translation>Tomar la carátula como cambio, que se escribirá al guardar</translation>
     </message>
     <message>
         <source>The cover is cut from the form only, and stays in the file.</source>
@@ -129,23 +129,23 @@
     </message>
     <message>
         <source>The cover is deleted here. A save in place leaves it in the file.</source>
-        <translation>La carátula se ha eliminado aquí. Al guardar en el sitio se queda en el archivo.</translation>
+        <translation>La carátula se ha eliminado aquí. Al guardar in situ permanece en el archivo.</translation>
     </message>
     <message>
         <source>The cover was taken from folder.jpg, which counts as a change: a save writes it into the file.</source>
-        <translation>La carátula viene de folder.jpg, lo que cuenta como cambio: al guardar se escribe en el archivo.</translation>
+        <translation>La carátula procede de folder.jpg, lo que cuenta como cambio: al guardar se escribirá en el archivo.</translation>
     </message>
     <message>
         <source>The filled fields count as changes now: a save writes them.</source>
-        <translation>Los campos rellenados cuentan ahora como cambios: al guardar se escriben.</translation>
+        <translation>Los campos rellenados cuentan ahora como cambios: al guardar se escribirán.</translation>
     </message>
     <message>
         <source>The pasted cover is shown only: a save does not write it.</source>
-        <translation>La carátula pegada solo se muestra: al guardar no se escribe.</translation>
+        <translation>La carátula pegada solo se muestra: al guardar no se escribirá.</translation>
     </message>
     <message>
         <source>There is no file for its tag yet, and a save in place makes none</source>
-        <translation>Aún no hay archivo para su etiqueta, y al guardar en el sitio no se crea</translation>
+        <translation>Aún no hay archivo para su etiqueta, y al guardar in situ no se crea</translation>
     </message>
     <message>
         <source>This is no number, and is stored as no year</source>
@@ -153,23 +153,23 @@
     </message>
     <message>
         <source>Too little media lies behind its header for the header to grow or shrink</source>
-        <translation>Hay muy pocos datos tras su cabecera para que esta cambie de tamaño</translation>
+        <translation>Hay demasiado pocos datos multimedia tras su cabecera como para que esta cambie de tamaño</translation>
     </message>
     <message>
         <source>What other programs read goes, too, and so do the changes that you have made here. This can&#x27;t be undone.</source>
-        <translation>También se pierde lo que leen otros programas, así como los cambios hechos aquí. No se puede deshacer.</translation>
+        <translation>También se perderá lo que leen otros programas, así como los cambios hechos aquí. Esta acción no se puede deshacer.</translation>
     </message>
     <message>
         <source>What the last save did</source>
-        <translation>Qué hizo el último guardado</translation>
+        <translation>Resultado del último guardado</translation>
     </message>
     <message>
         <source>What the last search found</source>
-        <translation>Qué encontró la última búsqueda</translation>
+        <translation>Resultado de la última búsqueda</translation>
     </message>
     <message>
         <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
-        <translation>Lo rellenado desde la web aún no se guarda: al guardar solo se escriben los campos tecleados.</translation>
+        <translation>Lo rellenado desde la web aún no cuenta como cambio: al guardar solo se escriben los campos en los que se ha tecleado.</translation>
     </message>
     <message>
         <source>You have no permission to write to it</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>Cover art: drop an image here to store it</source>
-        <translation>Carátula: suelte aquí una imagen para guardarla</translation>
+        <translation>Carátula: suelte aquí una imagen para usarla</translation>
     </message>
     <message>
         <source>too large to show</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>velmora: unknown option %@; --help tells the others</source>
-        <translation>velmora: opción desconocida %@; --help muestra las demás</translation>
+        <translation>velmora: opción desconocida %@; --help muestra las válidas</translation>
     </message>
     <message>
         <source>Files of this kind carry no tag</source>
@@ -637,11 +637,11 @@
     </message>
     <message>
         <source>The save was cancelled</source>
-        <translation>Se ha cancelado la operación de guardar</translation>
+        <translation>Se ha cancelado el guardado</translation>
     </message>
     <message>
         <source>Its tag can&#x27;t be changed in place</source>
-        <translation>Su etiqueta no se puede cambiar en el sitio</translation>
+        <translation>Su etiqueta no se puede cambiar in situ</translation>
     </message>
     <message>
         <source>Close</source>
@@ -757,7 +757,7 @@
     </message>
     <message>
         <source>It says so already</source>
-        <translation>Ya dice eso</translation>
+        <translation>Ya tiene ese valor</translation>
     </message>
     <message>
         <source>It has that name already</source>
@@ -765,7 +765,7 @@
     </message>
     <message>
         <source>The name is cut: it would be too long</source>
-        <translation>El nombre se recorta: sería demasiado largo</translation>
+        <translation>El nombre se acorta: sería demasiado largo</translation>
     </message>
     <message>
         <source>No value: %@</source>
@@ -773,11 +773,11 @@
     </message>
     <message>
         <source>No name is left of the values</source>
-        <translation>De los valores no queda ningún nombre</translation>
+        <translation>De los valores no sale ningún nombre</translation>
     </message>
     <message>
         <source>The file keeps its name: its tag lies in another file that goes by it</source>
-        <translation>El archivo conserva su nombre: su etiqueta está en otro archivo que depende de él</translation>
+        <translation>El archivo conserva su nombre: su etiqueta está en otro archivo que depende de ese nombre</translation>
     </message>
     <message>
         <source>Another row has that name or is to get it</source>
@@ -821,19 +821,19 @@
     </message>
     <message>
         <source>Put a field into the pattern</source>
-        <translation>Poner un campo en el patrón</translation>
+        <translation>Insertar un campo en el patrón</translation>
     </message>
     <message>
         <source>%skip% stands for text that is left out, a slash for a folder.</source>
-        <translation>%skip% es texto que se omite; una barra, una carpeta.</translation>
+        <translation>%skip% representa texto que se omite; una barra, una carpeta.</translation>
     </message>
     <message>
         <source>%folder% stands for the name of the file&#x27;s folder.</source>
-        <translation>%folder% es el nombre de la carpeta del archivo.</translation>
+        <translation>%folder% representa el nombre de la carpeta del archivo.</translation>
     </message>
     <message>
         <source>What becomes of every file</source>
-        <translation>Qué ocurre con cada archivo</translation>
+        <translation>Cómo queda cada archivo</translation>
     </message>
     <message>
         <source>Show only files that something is &amp;wrong with</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Make these edits of the table; no file changes before they are applied</source>
-        <translation>Convertirlo en cambios de la tabla; ningún archivo cambia hasta que se apliquen</translation>
+        <translation>Convertirlo en cambios de la tabla; ningún archivo cambia hasta que se aplican</translation>
     </message>
     <message>
         <source>Leave everything as it is</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Take the tags of the selected files from their names, by a pattern</source>
-        <translation>Tomar las etiquetas de los archivos seleccionados de sus nombres, según un patrón</translation>
+        <translation>Obtener las etiquetas de los archivos seleccionados a partir de sus nombres, según un patrón</translation>
     </message>
     <message>
         <source>&amp;Names from Tags...</source>
@@ -1044,7 +1044,7 @@
     </message>
     <message>
         <source>Keyboard</source>
-        <translation>Teclado</translation>
+        <translation>Atajos de teclado</translation>
     </message>
     <message>
         <source>Key</source>
@@ -1104,11 +1104,11 @@
     </message>
     <message>
         <source>The buttons of the line above the form</source>
-        <translation>Los botones de la línea sobre el formulario</translation>
+        <translation>Los botones de la línea situada encima del formulario</translation>
     </message>
     <message>
         <source>Ends the wait for a page or a cover; closes the line above the form</source>
-        <translation>Termina la espera de una página o una carátula; cierra la línea sobre el formulario</translation>
+        <translation>Finaliza la espera de una página o una carátula; cierra la línea situada encima del formulario</translation>
     </message>
     <message>
         <source>About Velmora</source>
@@ -1156,7 +1156,7 @@
     </message>
     <message>
         <source>%@ changed since and left alone</source>
-        <translation>%@ cambiados después y no tocados</translation>
+        <translation>%@ modificados entretanto y sin tocar</translation>
     </message>
     <message>
         <source>%@ done</source>
@@ -1176,7 +1176,7 @@
     </message>
     <message>
         <source>%@ not reached</source>
-        <translation>%@ sin alcanzar</translation>
+        <translation>%@ sin procesar</translation>
     </message>
     <message>
         <source>%@ unchanged</source>
@@ -1220,7 +1220,7 @@
     </message>
     <message>
         <source>Al&amp;bum or director:</source>
-        <translation>Ál&amp;bum o director:</translation>
+        <translation>Ál&amp;bum o dirección:</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -1228,7 +1228,7 @@
     </message>
     <message>
         <source>C&amp;over:</source>
-        <translation>P&amp;ortada:</translation>
+        <translation>Carát&amp;ula:</translation>
     </message>
     <message>
         <source>Cancelled before its turn</source>
@@ -1236,15 +1236,15 @@
     </message>
     <message>
         <source>Changed since, left alone</source>
-        <translation>Cambiado después, no tocado</translation>
+        <translation>Modificado entretanto, sin tocar</translation>
     </message>
     <message>
         <source>Choose a Cover</source>
-        <translation>Elegir una portada</translation>
+        <translation>Elegir una carátula</translation>
     </message>
     <message>
         <source>Choose a picture as the cover of the selected files</source>
-        <translation>Elegir una imagen como portada de los archivos seleccionados</translation>
+        <translation>Elegir una imagen como carátula de los archivos seleccionados</translation>
     </message>
     <message>
         <source>Close the summary</source>
@@ -1284,7 +1284,7 @@
     </message>
     <message>
         <source>Drop what was edited in the selected files and not applied</source>
-        <translation>Descartar lo editado y no aplicado en los archivos seleccionados</translation>
+        <translation>Descartar los cambios sin aplicar de los archivos seleccionados</translation>
     </message>
     <message>
         <source>Edit Cell</source>
@@ -1296,7 +1296,7 @@
     </message>
     <message>
         <source>Edits in the library table are not applied yet.</source>
-        <translation>Hay ediciones en la tabla de la biblioteca sin aplicar.</translation>
+        <translation>Hay cambios sin aplicar en la tabla de la biblioteca.</translation>
     </message>
     <message>
         <source>Export</source>
@@ -1312,7 +1312,7 @@
     </message>
     <message>
         <source>Files that were not changed</source>
-        <translation>Archivos que no se cambiaron</translation>
+        <translation>Archivos no modificados</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -1324,7 +1324,7 @@
     </message>
     <message>
         <source>Give the files of the last apply their old values and names back</source>
-        <translation>Devolver sus valores y nombres anteriores a los archivos de la última aplicación</translation>
+        <translation>Devolver a los archivos los valores y nombres anteriores al último «Aplicar»</translation>
     </message>
     <message>
         <source>Move Column Left</source>
@@ -1344,7 +1344,7 @@
     </message>
     <message>
         <source>Open the folder in which the file is</source>
-        <translation>Abrir la carpeta en la que está el archivo</translation>
+        <translation>Abrir la carpeta que contiene el archivo</translation>
     </message>
     <message>
         <source>Paste Cells</source>
@@ -1352,7 +1352,7 @@
     </message>
     <message>
         <source>Put the cells of the clipboard into the table from the current cell on</source>
-        <translation>Poner las celdas del portapapeles en la tabla desde la celda actual</translation>
+        <translation>Pegar las celdas del portapapeles en la tabla a partir de la celda actual</translation>
     </message>
     <message>
         <source>Rat&amp;ing:</source>
@@ -1372,7 +1372,7 @@
     </message>
     <message>
         <source>Remove the cover from the selected files</source>
-        <translation>Quitar la portada de los archivos seleccionados</translation>
+        <translation>Quitar la carátula de los archivos seleccionados</translation>
     </message>
     <message>
         <source>Revert</source>
@@ -1384,7 +1384,7 @@
     </message>
     <message>
         <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
-        <translation>Mostrar solo los archivos que tienen estas palabras en alguna columna; artist:, year:1990-1999, missing:cover y similares miran mejor</translation>
+        <translation>Mostrar solo los archivos que tienen estas palabras en alguna columna; artist:, year:1990-1999, missing:cover y similares afinan la búsqueda</translation>
     </message>
     <message>
         <source>Sort By</source>
@@ -1404,19 +1404,19 @@
     </message>
     <message>
         <source>The album of the selected songs, the director of the selected films</source>
-        <translation>El álbum de las canciones, el director de las películas seleccionadas</translation>
+        <translation>El álbum de las canciones seleccionadas, la dirección de las películas seleccionadas</translation>
     </message>
     <message>
         <source>The artist of the selected songs, the cast of the selected films</source>
-        <translation>El artista de las canciones, el reparto de las películas seleccionadas</translation>
+        <translation>El artista de las canciones seleccionadas, el reparto de las películas seleccionadas</translation>
     </message>
     <message>
         <source>The cover of the selected files: drop a picture here, or paste one</source>
-        <translation>La portada de los archivos seleccionados: suelte o pegue aquí una imagen</translation>
+        <translation>La carátula de los archivos seleccionados: suelte o pegue aquí una imagen</translation>
     </message>
     <message>
         <source>The files that were not changed, and why</source>
-        <translation>Los archivos que no se cambiaron, y por qué</translation>
+        <translation>Los archivos no modificados y el motivo</translation>
     </message>
     <message>
         <source>The genre: choose one or type your own</source>
@@ -1424,7 +1424,7 @@
     </message>
     <message>
         <source>The old cover can&#x27;t be read any more</source>
-        <translation>Ya no se puede leer la portada anterior</translation>
+        <translation>Ya no se puede leer la carátula anterior</translation>
     </message>
     <message>
         <source>The parental rating of the selected films</source>
@@ -1432,7 +1432,7 @@
     </message>
     <message>
         <source>The table could not be exported.</source>
-        <translation>No se pudo exportar la tabla.</translation>
+        <translation>No se ha podido exportar la tabla.</translation>
     </message>
     <message>
         <source>The tags are right, the name is the old one: %@</source>
@@ -1452,7 +1452,7 @@
     </message>
     <message>
         <source>There is no room to keep the old cover for an undo</source>
-        <translation>No hay espacio para guardar la portada anterior para deshacer</translation>
+        <translation>No hay espacio para conservar la carátula anterior y poder deshacer</translation>
     </message>
     <message>
         <source>They are lost when the program ends.</source>
@@ -1464,7 +1464,7 @@
     </message>
     <message>
         <source>Try the files again that were not changed</source>
-        <translation>Reintentar los archivos que no se cambiaron</translation>
+        <translation>Reintentar con los archivos no modificados</translation>
     </message>
     <message>
         <source>Type what is to be shown</source>
@@ -1472,7 +1472,7 @@
     </message>
     <message>
         <source>Undo Apply</source>
-        <translation>Deshacer aplicación</translation>
+        <translation>Deshacer «Aplicar»</translation>
     </message>
     <message>
         <source>What the selected films are about, or a comment on the songs</source>
@@ -1488,7 +1488,7 @@
     </message>
     <message>
         <source>Write what was edited into the files</source>
-        <translation>Escribir lo editado en los archivos</translation>
+        <translation>Escribir los cambios en los archivos</translation>
     </message>
     <message>
         <source>Writing…</source>
@@ -1496,7 +1496,7 @@
     </message>
     <message>
         <source>several covers</source>
-        <translation>varias portadas</translation>
+        <translation>varias carátulas</translation>
     </message>
     <message>
         <source>several values</source>
@@ -1507,11 +1507,11 @@
     <name>MyDocument</name>
     <message>
         <source>&amp;Paste and Store Cover</source>
-        <translation>&amp;Pegar y adoptar la carátula</translation>
+        <translation>&amp;Pegar y usar la carátula</translation>
     </message>
     <message>
         <source>Make the image that was copied the cover, which a save writes</source>
-        <translation>Hacer de la imagen copiada la carátula, que se escribe al guardar</translation>
+        <translation>Hacer de la imagen copiada la carátula, que se escribirá al guardar</translation>
     </message>
     <message>
         <source>&amp;Trim Border</source>
@@ -1527,7 +1527,7 @@
     </message>
     <message>
         <source>Take the cover away, which a save with portable tags writes</source>
-        <translation>Quitar la carátula, lo que se escribe al guardar con etiquetas portátiles</translation>
+        <translation>Quitar la carátula, lo que se escribirá al guardar con etiquetas portátiles</translation>
     </message>
     <message>
         <source>Delete &amp;All Tags from File…</source>
@@ -1631,7 +1631,7 @@
     </message>
     <message>
         <source>&amp;Keyboard</source>
-        <translation>&amp;Teclado</translation>
+        <translation>Atajos de &amp;teclado</translation>
     </message>
     <message>
         <source>&amp;About Velmora</source>
@@ -1643,7 +1643,7 @@
     </message>
     <message>
         <source>Start with this size, division, column widths and sorting from now on</source>
-        <translation>Iniciar a partir de ahora con este tamaño, división, anchos de columna y orden</translation>
+        <translation>Iniciar a partir de ahora con este tamaño, esta división, estos anchos de columna y este orden</translation>
     </message>
     <message>
         <source>&amp;Forget Everything</source>
@@ -1694,7 +1694,7 @@
     </message>
     <message>
         <source>The media files found; type a name to find one</source>
-        <translation>Los archivos multimedia encontrados; escriba un nombre para buscar uno</translation>
+        <translation>Los archivos multimedia encontrados; escriba un nombre para buscarlo</translation>
     </message>
     <message>
         <source>Media files</source>
@@ -1844,7 +1844,7 @@
     </message>
     <message>
         <source>Take the frame shown as cover art</source>
-        <translation>Tomar el fotograma mostrado como carátula</translation>
+        <translation>Usar el fotograma mostrado como carátula</translation>
     </message>
 </context>
 <context>
@@ -1855,7 +1855,7 @@
     </message>
     <message>
         <source>The site to search</source>
-        <translation>El sitio donde buscar</translation>
+        <translation>El sitio en el que buscar</translation>
     </message>
     <message>
         <source>The text to search for</source>
@@ -1907,7 +1907,7 @@
     </message>
     <message>
         <source>What the form fill waits for</source>
-        <translation>Qué espera el relleno del formulario</translation>
+        <translation>A qué espera el rellenado del formulario</translation>
     </message>
     <message>
         <source>Cancel</source>
