@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>All tags of &quot;%@&quot; are deleted.</source>
-        <translation>Tutti i tag di “%@” sono eliminati.</translation>
+        <translation>Tutti i tag di “%@” sono stati eliminati.</translation>
     </message>
     <message>
         <source>Choose another place, and save the file there with the changes</source>
-        <translation>Scegli un altro posto e salva lì il file con le modifiche</translation>
+        <translation>Scegli un’altra posizione e salva lì il file con le modifiche</translation>
     </message>
     <message>
         <source>Delete All Tags</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>It consists of several RIFF chunks, which a save in place can&#x27;t change</source>
-        <translation>È fatto di più blocchi RIFF, che un salvataggio sul posto non può cambiare</translation>
+        <translation>È composto da più blocchi RIFF, che un salvataggio sul posto non può modificare</translation>
     </message>
     <message>
         <source>It is empty</source>
@@ -109,31 +109,31 @@
     </message>
     <message>
         <source>Store Cover</source>
-        <translation>Adotta la copertina</translation>
+        <translation>Usa la copertina</translation>
     </message>
     <message>
         <source>Store Filled Fields</source>
-        <translation>Adotta i campi compilati</translation>
+        <translation>Usa i campi compilati</translation>
     </message>
     <message>
         <source>Take all filled fields for changes, which a save writes</source>
-        <translation>Prende tutti i campi compilati come modifiche, che il salvataggio scrive</translation>
+        <translation>Considera tutti i campi compilati come modifiche, scritte dal salvataggio</translation>
     </message>
     <message>
         <source>Take the cover for a change, which a save writes</source>
-        <translation>Prende la copertina come modifica, che il salvataggio scrive</translation>
+        <translation>Considera la copertina come una modifica, scritta dal salvataggio</translation>
     </message>
     <message>
         <source>The cover is cut from the form only, and stays in the file.</source>
-        <translation>La copertina è tagliata solo dal modulo e resta nel file.</translation>
+        <translation>La copertina è stata tagliata solo dal modulo e resta nel file.</translation>
     </message>
     <message>
         <source>The cover is deleted here. A save in place leaves it in the file.</source>
-        <translation>La copertina è eliminata qui. Un salvataggio sul posto la lascia nel file.</translation>
+        <translation>La copertina è stata eliminata qui. Un salvataggio sul posto la lascia nel file.</translation>
     </message>
     <message>
         <source>The cover was taken from folder.jpg, which counts as a change: a save writes it into the file.</source>
-        <translation>La copertina viene da folder.jpg, il che conta come modifica: il salvataggio la scrive nel file.</translation>
+        <translation>La copertina proviene da folder.jpg e conta quindi come modifica: il salvataggio la scrive nel file.</translation>
     </message>
     <message>
         <source>The filled fields count as changes now: a save writes them.</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>The pasted cover is shown only: a save does not write it.</source>
-        <translation>La copertina incollata è solo mostrata: il salvataggio non la scrive.</translation>
+        <translation>La copertina incollata viene solo mostrata: il salvataggio non la scrive.</translation>
     </message>
     <message>
         <source>There is no file for its tag yet, and a save in place makes none</source>
@@ -153,27 +153,27 @@
     </message>
     <message>
         <source>Too little media lies behind its header for the header to grow or shrink</source>
-        <translation>Dietro la sua intestazione ci sono troppo pochi dati perché questa cambi dimensione</translation>
+        <translation>Dietro la sua intestazione ci sono troppo pochi dati multimediali perché questa possa cambiare dimensione</translation>
     </message>
     <message>
         <source>What other programs read goes, too, and so do the changes that you have made here. This can&#x27;t be undone.</source>
-        <translation>Va perso anche ciò che leggono altri programmi, come pure le modifiche fatte qui. Non si può annullare.</translation>
+        <translation>Va perso anche ciò che leggono gli altri programmi, come pure le modifiche fatte qui. L’operazione non può essere annullata.</translation>
     </message>
     <message>
         <source>What the last save did</source>
-        <translation>Che cosa ha fatto l’ultimo salvataggio</translation>
+        <translation>Risultato dell’ultimo salvataggio</translation>
     </message>
     <message>
         <source>What the last search found</source>
-        <translation>Che cosa ha trovato l’ultima ricerca</translation>
+        <translation>Risultato dell’ultima ricerca</translation>
     </message>
     <message>
         <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
-        <translation>Ciò che è stato compilato dal web non è ancora salvato: si scrivono solo i campi digitati.</translation>
+        <translation>Ciò che è stato compilato dal web non conta ancora come modifica: il salvataggio scrive solo i campi in cui si è digitato.</translation>
     </message>
     <message>
         <source>You have no permission to write to it</source>
-        <translation>Non si ha il permesso di scriverci</translation>
+        <translation>Non si dispone del permesso di scriverci</translation>
     </message>
     <message>
         <source>folders that could not be read: %@</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>Cover art: drop an image here to store it</source>
-        <translation>Copertina: trascina qui un’immagine per memorizzarla</translation>
+        <translation>Copertina: trascina qui un’immagine per usarla</translation>
     </message>
     <message>
         <source>too large to show</source>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>No media files yet. Add files, or a folder to search, with the buttons above.</source>
-        <translation>Ancora nessun file multimediale. Aggiungere dei file, o una cartella in cui cercare, con i pulsanti qui sopra.</translation>
+        <translation>Ancora nessun file multimediale. Aggiungi dei file, o una cartella in cui cercare, con i pulsanti qui sopra.</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>velmora: unknown option %@; --help tells the others</source>
-        <translation>velmora: opzione sconosciuta %@; --help elenca le altre</translation>
+        <translation>velmora: opzione sconosciuta %@; --help elenca quelle valide</translation>
     </message>
     <message>
         <source>Files of this kind carry no tag</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Write the changes into the tags that other programs read, and replace the file in one step</source>
-        <translation>Scrive le modifiche nei tag che leggono gli altri programmi e sostituisce il file in un solo passaggio</translation>
+        <translation>Scrivi le modifiche nei tag che leggono gli altri programmi e sostituisci il file in un solo passaggio</translation>
     </message>
     <message>
         <source>Save so, and do so from now on, also after the next start</source>
@@ -733,7 +733,7 @@
     </message>
     <message>
         <source>Open the file again whose edits could not be saved, and put them back</source>
-        <translation>Riapri il file le cui modifiche non si sono potute salvare e ripristinale</translation>
+        <translation>Riapri il file le cui modifiche non è stato possibile salvare e ripristinale</translation>
     </message>
     <message>
         <source>The edits of &quot;%@&quot; are back, and not saved yet.</source>
@@ -757,7 +757,7 @@
     </message>
     <message>
         <source>It says so already</source>
-        <translation>È già così</translation>
+        <translation>Il valore è già questo</translation>
     </message>
     <message>
         <source>It has that name already</source>
@@ -773,11 +773,11 @@
     </message>
     <message>
         <source>No name is left of the values</source>
-        <translation>Dai valori non resta alcun nome</translation>
+        <translation>Dai valori non si ricava alcun nome</translation>
     </message>
     <message>
         <source>The file keeps its name: its tag lies in another file that goes by it</source>
-        <translation>Il file mantiene il suo nome: il suo tag si trova in un altro file che ne dipende</translation>
+        <translation>Il file mantiene il suo nome: il suo tag si trova in un altro file che dipende da questo nome</translation>
     </message>
     <message>
         <source>Another row has that name or is to get it</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Make these edits of the table; no file changes before they are applied</source>
-        <translation>Rendile modifiche della tabella; nessun file cambia prima che vengano applicate</translation>
+        <translation>Riporta queste modifiche nella tabella; nessun file cambia finché non vengono applicate</translation>
     </message>
     <message>
         <source>Leave everything as it is</source>
@@ -889,7 +889,7 @@
     </message>
     <message>
         <source>Give the selected files names made of their tags, by a pattern</source>
-        <translation>Dà ai file selezionati nomi formati dai loro tag, secondo un modello</translation>
+        <translation>Assegna ai file selezionati nomi formati dai loro tag, secondo un modello</translation>
     </message>
     <message>
         <source>&amp;Names</source>
@@ -1044,7 +1044,7 @@
     </message>
     <message>
         <source>Keyboard</source>
-        <translation>Tastiera</translation>
+        <translation>Scorciatoie da tastiera</translation>
     </message>
     <message>
         <source>Key</source>
@@ -1132,11 +1132,11 @@
     </message>
     <message>
         <source>The layout can&#x27;t be remembered: the settings file can&#x27;t be written.</source>
-        <translation>La disposizione non può essere ricordata: il file delle impostazioni non può essere scritto.</translation>
+        <translation>Impossibile ricordare la disposizione: il file delle impostazioni non può essere scritto.</translation>
     </message>
     <message>
         <source>Nothing is remembered any more: there is no settings file.</source>
-        <translation>Non è più ricordato nulla: non c’è alcun file delle impostazioni.</translation>
+        <translation>Non viene più ricordato nulla: non c’è alcun file delle impostazioni.</translation>
     </message>
     <message>
         <source>The settings file can&#x27;t be removed.</source>
@@ -1144,7 +1144,7 @@
     </message>
     <message>
         <source>&quot;%@&quot; can&#x27;t be written.</source>
-        <translation>Impossibile scrivere «%@».</translation>
+        <translation>Impossibile scrivere “%@”.</translation>
     </message>
     <message>
         <source>%@ a second</source>
@@ -1160,7 +1160,7 @@
     </message>
     <message>
         <source>%@ done</source>
-        <translation>%@ fatti</translation>
+        <translation>%@ completati</translation>
     </message>
     <message>
         <source>%@ failed</source>
@@ -1176,7 +1176,7 @@
     </message>
     <message>
         <source>%@ not reached</source>
-        <translation>%@ non raggiunti</translation>
+        <translation>%@ non elaborati</translation>
     </message>
     <message>
         <source>%@ unchanged</source>
@@ -1220,7 +1220,7 @@
     </message>
     <message>
         <source>Al&amp;bum or director:</source>
-        <translation>Al&amp;bum o regista:</translation>
+        <translation>Al&amp;bum o regia:</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -1244,7 +1244,7 @@
     </message>
     <message>
         <source>Choose a picture as the cover of the selected files</source>
-        <translation>Scegli un&#x27;immagine come copertina dei file selezionati</translation>
+        <translation>Scegli un’immagine come copertina dei file selezionati</translation>
     </message>
     <message>
         <source>Close the summary</source>
@@ -1296,7 +1296,7 @@
     </message>
     <message>
         <source>Edits in the library table are not applied yet.</source>
-        <translation>Le modifiche nella tabella della libreria non sono ancora applicate.</translation>
+        <translation>Le modifiche nella tabella della libreria non sono ancora state applicate.</translation>
     </message>
     <message>
         <source>Export</source>
@@ -1324,7 +1324,7 @@
     </message>
     <message>
         <source>Give the files of the last apply their old values and names back</source>
-        <translation>Restituisci ai file dell&#x27;ultima applicazione i vecchi valori e nomi</translation>
+        <translation>Ripristina nei file i valori e i nomi precedenti all’ultimo “Applica”</translation>
     </message>
     <message>
         <source>Move Column Left</source>
@@ -1336,7 +1336,7 @@
     </message>
     <message>
         <source>Open in Editor</source>
-        <translation>Apri nell&#x27;editor</translation>
+        <translation>Apri nell’editor</translation>
     </message>
     <message>
         <source>Open the file in the program&#x27;s main window</source>
@@ -1368,7 +1368,7 @@
     </message>
     <message>
         <source>Remove from List</source>
-        <translation>Rimuovi dall&#x27;elenco</translation>
+        <translation>Rimuovi dall’elenco</translation>
     </message>
     <message>
         <source>Remove the cover from the selected files</source>
@@ -1384,7 +1384,7 @@
     </message>
     <message>
         <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
-        <translation>Mostra solo i file che hanno queste parole in una colonna; artist:, year:1990-1999, missing:cover e simili sono più precisi</translation>
+        <translation>Mostra solo i file che hanno queste parole in una colonna; artist:, year:1990-1999, missing:cover e simili affinano la ricerca</translation>
     </message>
     <message>
         <source>Sort By</source>
@@ -1392,27 +1392,27 @@
     </message>
     <message>
         <source>Stop; each file is as it was or as it was to be</source>
-        <translation>Ferma; ogni file è com&#x27;era o come doveva essere</translation>
+        <translation>Interrompi; ogni file è com’era o come doveva essere</translation>
     </message>
     <message>
         <source>Sy&amp;nopsis or comment:</source>
-        <translation>Trama o &amp;commento:</translation>
+        <translation>Sinossi o &amp;commento:</translation>
     </message>
     <message>
         <source>Take the selected files off the list; they stay where they are</source>
-        <translation>Togli dall&#x27;elenco i file selezionati; restano dove sono</translation>
+        <translation>Togli dall’elenco i file selezionati; restano dove sono</translation>
     </message>
     <message>
         <source>The album of the selected songs, the director of the selected films</source>
-        <translation>L&#x27;album dei brani, il regista dei film selezionati</translation>
+        <translation>L’album dei brani selezionati, la regia dei film selezionati</translation>
     </message>
     <message>
         <source>The artist of the selected songs, the cast of the selected films</source>
-        <translation>L&#x27;artista dei brani, il cast dei film selezionati</translation>
+        <translation>L’artista dei brani selezionati, il cast dei film selezionati</translation>
     </message>
     <message>
         <source>The cover of the selected files: drop a picture here, or paste one</source>
-        <translation>La copertina dei file selezionati: trascina o incolla qui un&#x27;immagine</translation>
+        <translation>La copertina dei file selezionati: trascina o incolla qui un’immagine</translation>
     </message>
     <message>
         <source>The files that were not changed, and why</source>
@@ -1428,7 +1428,7 @@
     </message>
     <message>
         <source>The parental rating of the selected films</source>
-        <translation>La classificazione dei film selezionati</translation>
+        <translation>La classificazione per età dei film selezionati</translation>
     </message>
     <message>
         <source>The table could not be exported.</source>
@@ -1444,7 +1444,7 @@
     </message>
     <message>
         <source>The year of release, of up to four digits</source>
-        <translation>L&#x27;anno di uscita, fino a quattro cifre</translation>
+        <translation>L’anno di uscita, fino a quattro cifre</translation>
     </message>
     <message>
         <source>Then By</source>
@@ -1452,7 +1452,7 @@
     </message>
     <message>
         <source>There is no room to keep the old cover for an undo</source>
-        <translation>Non c&#x27;è spazio per conservare la vecchia copertina per l&#x27;annullamento</translation>
+        <translation>Non c’è spazio per conservare la vecchia copertina in vista di un annullamento</translation>
     </message>
     <message>
         <source>They are lost when the program ends.</source>
@@ -1468,11 +1468,11 @@
     </message>
     <message>
         <source>Type what is to be shown</source>
-        <translation>Scrivi che cosa mostrare</translation>
+        <translation>Scrivere che cosa mostrare</translation>
     </message>
     <message>
         <source>Undo Apply</source>
-        <translation>Annulla applicazione</translation>
+        <translation>Annulla “Applica”</translation>
     </message>
     <message>
         <source>What the selected films are about, or a comment on the songs</source>
@@ -1507,11 +1507,11 @@
     <name>MyDocument</name>
     <message>
         <source>&amp;Paste and Store Cover</source>
-        <translation>&amp;Incolla e adotta la copertina</translation>
+        <translation>&amp;Incolla e usa la copertina</translation>
     </message>
     <message>
         <source>Make the image that was copied the cover, which a save writes</source>
-        <translation>Fa dell’immagine copiata la copertina, che il salvataggio scrive</translation>
+        <translation>Fai dell’immagine copiata la copertina, scritta dal salvataggio</translation>
     </message>
     <message>
         <source>&amp;Trim Border</source>
@@ -1527,7 +1527,7 @@
     </message>
     <message>
         <source>Take the cover away, which a save with portable tags writes</source>
-        <translation>Toglie la copertina, cosa che scrive un salvataggio con tag portabili</translation>
+        <translation>Togli la copertina, cosa che scrive un salvataggio con tag portabili</translation>
     </message>
     <message>
         <source>Delete &amp;All Tags from File…</source>
@@ -1631,7 +1631,7 @@
     </message>
     <message>
         <source>&amp;Keyboard</source>
-        <translation>&amp;Tastiera</translation>
+        <translation>&amp;Scorciatoie da tastiera</translation>
     </message>
     <message>
         <source>&amp;About Velmora</source>
@@ -1643,7 +1643,7 @@
     </message>
     <message>
         <source>Start with this size, division, column widths and sorting from now on</source>
-        <translation>Avvia d’ora in poi con queste dimensioni, divisioni, larghezze delle colonne e ordinamento</translation>
+        <translation>Avvia d’ora in poi con queste dimensioni, questa suddivisione, queste larghezze di colonna e questo ordinamento</translation>
     </message>
     <message>
         <source>&amp;Forget Everything</source>
@@ -1694,7 +1694,7 @@
     </message>
     <message>
         <source>The media files found; type a name to find one</source>
-        <translation>I file multimediali trovati; digitare un nome per cercarne uno</translation>
+        <translation>I file multimediali trovati; digita un nome per cercarne uno</translation>
     </message>
     <message>
         <source>Media files</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>The genre: choose one or type your own</source>
-        <translation>Il genere: sceglierne uno o digitarne uno proprio</translation>
+        <translation>Il genere: scegline uno o scrivi il tuo</translation>
     </message>
     <message>
         <source>Album:</source>
