@@ -11,6 +11,8 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QImageReader>
+#include <QPixmap>
 
 #include <cstdio>
 #include <filesystem>
@@ -32,6 +34,13 @@ int answer(const CommandLine& line) {
     }
 }
 
+/** The program's icon, read as what it is: a look for its format would load the library of every picture format. */
+QIcon windowIcon() {
+    QImageReader reader(QStringLiteral(":/velmora.png"), "png");
+    reader.setAutoDetectImageFormat(false);
+    return QIcon(QPixmap::fromImage(reader.read()));
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -48,7 +57,7 @@ int main(int argc, char** argv) {
     }
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Velmora"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/velmora.png")));
+    QApplication::setWindowIcon(windowIcon());
     velmora::installLegibleStyle();
     velmora::installLocalisation();
     velmora::allowLargeImages();

@@ -1,5 +1,7 @@
 #include "legible_style.h"
 
+#include "symbol.h"
+
 #include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
@@ -128,6 +130,20 @@ void LegibleStyle::drawComplexControl(ComplexControl control, const QStyleOption
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control == CC_ComboBox || control == CC_SpinBox) {
         drawFrame(*option, *painter, cornerRadius);
+    }
+}
+
+QIcon LegibleStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* option,
+                                 const QWidget* widget) const {
+    // Every menu bar and many a field ask for these before anything is shown. The toolkit's own are files whose format is
+    // looked for with the libraries of all formats.
+    switch (standardIcon) {
+    case SP_ToolBarHorizontalExtensionButton:
+        return symbol(QStringLiteral("view-more-horizontal"));
+    case SP_LineEditClearButton:
+        return symbol(QStringLiteral("edit-clear"));
+    default:
+        return QProxyStyle::standardIcon(standardIcon, option, widget);
     }
 }
 

@@ -10,7 +10,6 @@
 #include <QIcon>
 #include <QPainter>
 #include <QSlider>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -22,7 +21,6 @@ namespace {
 
 constexpr QSize preferredSize(320, 220);
 constexpr QSize smallestSize(120, 100);
-constexpr QSize largestSign(32, 32);
 constexpr int stepMilliseconds = 1000;
 constexpr int pageMilliseconds = 10000;
 
@@ -32,20 +30,17 @@ constexpr QColor standInSign(0x8A, 0x90, 0x98);
 constexpr int standInMargin = 8;
 constexpr int largestStandIn = 96;
 
+constexpr int sideOfSign = 32;
+
 int sliderValue(qint64 milliseconds) {
     return static_cast<int>(std::clamp<qint64>(milliseconds, 0, std::numeric_limits<int>::max()));
 }
 
-/** SIGN, which styles have in black for dark palettes too, in the colours of PALETTE's buttons' texts. */
-QIcon coloured(const QIcon& sign, const QPalette& palette) {
+/** The symbol NAME in the colours of PALETTE's buttons' texts. */
+QIcon coloured(const QString& name, const QPalette& palette) {
     QIcon icon;
     const auto add = [&](QIcon::Mode mode, QPalette::ColorGroup group) {
-        QPixmap picture = sign.pixmap(largestSign);
-        QPainter painter(&picture);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(picture.rect(), palette.color(group, QPalette::ButtonText));
-        painter.end();
-        icon.addPixmap(picture, mode);
+        icon.addPixmap(drawnSymbol(name, sideOfSign, palette.color(group, QPalette::ButtonText)), mode);
     };
     add(QIcon::Normal, QPalette::Active);
     add(QIcon::Disabled, QPalette::Disabled);
@@ -166,9 +161,10 @@ void MovieView::changeEvent(QEvent* event) {
 void MovieView::updateControls() {
     const bool playing = movie_ && movie_->isPlaying();
     playButton_->setEnabled(movie_ && movie_->isOpen());
-    const QStyle::StandardPixmap sign = playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay;
     playButton_->setAccessibleName(playing ? localised("Pause") : localised("Play"));
-    playButton_->setIcon(coloured(style()->standardIcon(sign), palette()));
+    const QString sign =
+        playing ? QStringLiteral("media-playback-pause") : QStringLiteral("media-playback-start");
+    playButton_->setIcon(coloured(sign, palette()));
     updatePosition();
     screen_->update();
 }

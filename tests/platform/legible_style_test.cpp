@@ -2,6 +2,7 @@
 
 #include "support/contrast.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLineEdit>
@@ -110,6 +111,29 @@ TEST(LegibleStyle, SelectionThatStandsOutAlreadyIsLeftAlone) {
     palette.setColor(QPalette::Highlight, own);
     ShownTable table(palette);
     EXPECT_EQ(table.row(0), own);
+}
+
+/** The best contrast that a pixel of the style's icon has with a dark window. */
+double contrastOfIcon(QStyle::StandardPixmap name) {
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(faintPalette());
+    const QImage sign = LegibleStyle().standardIcon(name, nullptr, nullptr).pixmap(32).toImage();
+    QApplication::setPalette(before);
+    double best = 1;
+    for (int y = 0; y < sign.height(); ++y) {
+        for (int x = 0; x < sign.width(); ++x) {
+            if (sign.pixelColor(x, y).alpha() > 200) {
+                best = std::max(
+                    best, contrastBetween(sign.pixelColor(x, y), faintPalette().color(QPalette::Window)));
+            }
+        }
+    }
+    return best;
+}
+
+TEST(LegibleStyle, SignsOfBarsAndFieldsStandOutFromADarkWindow) {
+    EXPECT_LE(4.5, contrastOfIcon(QStyle::SP_ToolBarHorizontalExtensionButton));
+    EXPECT_LE(4.5, contrastOfIcon(QStyle::SP_LineEditClearButton));
 }
 
 TEST(LegibleColour, IsTheColourItselfWhereItStandsOut) {
