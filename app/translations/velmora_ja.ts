@@ -109,39 +109,39 @@
     </message>
     <message>
         <source>Store Cover</source>
-        <translation>カバーを採用</translation>
+        <translation>カバーアートを保存対象にする</translation>
     </message>
     <message>
         <source>Store Filled Fields</source>
-        <translation>入力された項目を採用</translation>
+        <translation>入力された項目を保存対象にする</translation>
     </message>
     <message>
         <source>Take all filled fields for changes, which a save writes</source>
-        <translation>入力された項目をすべて変更とみなし、保存時に書き込みます</translation>
+        <translation>入力された項目をすべて変更として扱い、保存時に書き込みます</translation>
     </message>
     <message>
         <source>Take the cover for a change, which a save writes</source>
-        <translation>カバーを変更とみなし、保存時に書き込みます</translation>
+        <translation>カバーアートを変更として扱い、保存時に書き込みます</translation>
     </message>
     <message>
         <source>The cover is cut from the form only, and stays in the file.</source>
-        <translation>カバーはフォームから切り取られただけで、ファイルには残っています。</translation>
+        <translation>カバーアートはフォームから切り取られただけで、ファイルには残っています。</translation>
     </message>
     <message>
         <source>The cover is deleted here. A save in place leaves it in the file.</source>
-        <translation>カバーはここでは削除されました。その場で保存するとファイルに残ります。</translation>
+        <translation>カバーアートはここでは削除されました。その場で保存するとファイルに残ります。</translation>
     </message>
     <message>
         <source>The cover was taken from folder.jpg, which counts as a change: a save writes it into the file.</source>
-        <translation>カバーは folder.jpg から取り込まれ、変更とみなされます。保存するとファイルに書き込まれます。</translation>
+        <translation>カバーアートは folder.jpg から取り込まれ、変更として扱われます。保存するとファイルに書き込まれます。</translation>
     </message>
     <message>
         <source>The filled fields count as changes now: a save writes them.</source>
-        <translation>入力された項目は変更とみなされ、保存すると書き込まれます。</translation>
+        <translation>入力された項目は変更として扱われ、保存すると書き込まれます。</translation>
     </message>
     <message>
         <source>The pasted cover is shown only: a save does not write it.</source>
-        <translation>貼り付けたカバーは表示されるだけで、保存しても書き込まれません。</translation>
+        <translation>貼り付けたカバーアートは表示されるだけで、保存しても書き込まれません。</translation>
     </message>
     <message>
         <source>There is no file for its tag yet, and a save in place makes none</source>
@@ -153,11 +153,11 @@
     </message>
     <message>
         <source>Too little media lies behind its header for the header to grow or shrink</source>
-        <translation>ヘッダーの後ろのデータが少なすぎ、ヘッダーの大きさを変えられません</translation>
+        <translation>ヘッダーの後ろのメディアデータが少なすぎるため、ヘッダーの大きさを変えられません</translation>
     </message>
     <message>
         <source>What other programs read goes, too, and so do the changes that you have made here. This can&#x27;t be undone.</source>
-        <translation>ほかのプログラムが読む内容も、ここでの変更も失われます。元に戻せません。</translation>
+        <translation>他のプログラムが読む内容も、ここでの変更も失われます。元に戻せません。</translation>
     </message>
     <message>
         <source>What the last save did</source>
@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
-        <translation>ウェブから入力された内容はまだ保存されません。保存されるのは手で入力した項目だけです。</translation>
+        <translation>ウェブから入力された内容はまだ保存対象ではありません。保存されるのは手で入力した項目だけです。</translation>
     </message>
     <message>
         <source>You have no permission to write to it</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>Add Folders</source>
-        <translation>フォルダを追加</translation>
+        <translation>フォルダーを追加</translation>
     </message>
     <message>
         <source>Load Cover Art</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>Cover art: drop an image here to store it</source>
-        <translation>カバーアート: 画像をここにドロップすると保存できます</translation>
+        <translation>カバーアート: 画像をここにドロップすると保存対象になります</translation>
     </message>
     <message>
         <source>too large to show</source>
@@ -465,15 +465,15 @@
     </message>
     <message>
         <source>The web browser component is not installed.</source>
-        <translation>ウェブブラウザのコンポーネントがインストールされていません。</translation>
+        <translation>ウェブブラウザーのコンポーネントがインストールされていません。</translation>
     </message>
     <message>
         <source>Waiting for the cover …</source>
-        <translation>カバーを待っています…</translation>
+        <translation>カバーアートを待っています…</translation>
     </message>
     <message>
         <source>Waiting for the cover from %1 …</source>
-        <translation>%1 からのカバーを待っています…</translation>
+        <translation>%1 からのカバーアートを待っています…</translation>
     </message>
     <message>
         <source>Web pages are not shown when the program is run by the system administrator.</source>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>No media files yet. Add files, or a folder to search, with the buttons above.</source>
-        <translation>メディアファイルはまだありません。上のボタンでファイルや検索するフォルダを追加してください。</translation>
+        <translation>メディアファイルはまだありません。上のボタンでファイルや検索するフォルダーを追加してください。</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -561,11 +561,11 @@
     </message>
     <message>
         <source>Usage: velmora [FILE|FOLDER]...</source>
-        <translation>使い方: velmora [ファイル|フォルダ]...</translation>
+        <translation>使い方: velmora [ファイル|フォルダー]...</translation>
     </message>
     <message>
         <source>Edits titles, artists, covers and more of films and music.</source>
-        <translation>映画や音楽のタイトル、アーティスト、カバーなどを編集します。</translation>
+        <translation>映画や音楽のタイトル、アーティスト、カバーアートなどを編集します。</translation>
     </message>
     <message>
         <source>  FILE       is listed; a single one is opened</source>
@@ -573,7 +573,7 @@
     </message>
     <message>
         <source>  FOLDER     is searched for films and music</source>
-        <translation>  フォルダ   映画と音楽を検索します</translation>
+        <translation>  フォルダー 映画と音楽を検索します</translation>
     </message>
     <message>
         <source>  --help     prints this and ends</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>velmora: unknown option %@; --help tells the others</source>
-        <translation>velmora: 不明なオプション %@。--help で使えるものを表示します</translation>
+        <translation>velmora: 不明なオプション %@。使えるオプションは --help で表示されます</translation>
     </message>
     <message>
         <source>Files of this kind carry no tag</source>
@@ -613,7 +613,7 @@
     </message>
     <message>
         <source>The file is write-protected</source>
-        <translation>ファイルは書き込み禁止です</translation>
+        <translation>ファイルは書き込み保護されています</translation>
     </message>
     <message>
         <source>The file has further hard links, which would keep the old contents</source>
@@ -629,15 +629,15 @@
     </message>
     <message>
         <source>The new file would have lost something</source>
-        <translation>新しいファイルから失われるものがあるところでした</translation>
+        <translation>新しいファイルでは一部の情報が失われるところでした</translation>
     </message>
     <message>
         <source>The system could not confirm that the folder is on the disk</source>
-        <translation>フォルダがディスクに書き込まれたことを、システムが確認できませんでした</translation>
+        <translation>フォルダーがディスクに書き込まれたことを、システムが確認できませんでした</translation>
     </message>
     <message>
         <source>The save was cancelled</source>
-        <translation>保存は取り消されました</translation>
+        <translation>保存はキャンセルされました</translation>
     </message>
     <message>
         <source>Its tag can&#x27;t be changed in place</source>
@@ -677,7 +677,7 @@
     </message>
     <message>
         <source>Switch to the tags that other programs read</source>
-        <translation>他のプログラムが読むタグに切り替える</translation>
+        <translation>他のプログラムが読むタグに切り替えます</translation>
     </message>
     <message>
         <source>Always</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Switch to these tags, now and at each start</source>
-        <translation>今すぐ、そして起動するたびに、このタグに切り替える</translation>
+        <translation>今すぐ、そして起動するたびに、このタグに切り替えます</translation>
     </message>
     <message>
         <source>&quot;%@&quot; was not saved.</source>
@@ -705,15 +705,15 @@
     </message>
     <message>
         <source>Save so, and do so from now on, also after the next start</source>
-        <translation>この方法で保存し、今後も、次の起動後もそうする</translation>
+        <translation>この方法で保存します。今後も、次の起動後も同様です</translation>
     </message>
     <message>
         <source>Saved. Other programs see it: %@</source>
-        <translation>保存しました。他のプログラムでも見えます: %@</translation>
+        <translation>保存しました。他のプログラムからも読み取れます: %@</translation>
     </message>
     <message>
         <source>Saved. Other programs read no tag in files of this kind: %@</source>
-        <translation>保存しました。他のプログラムはこの種類のファイルのタグを読みません: %@</translation>
+        <translation>保存しました。他のプログラムはこの種類のファイルのタグを読み取りません: %@</translation>
     </message>
     <message>
         <source>Replace Anyway</source>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>&quot;%@&quot; was not saved; its edits are kept.</source>
-        <translation>「%@」は保存されませんでした。編集内容は残してあります。</translation>
+        <translation>「%@」は保存されませんでした。編集内容は保持されています。</translation>
     </message>
     <message>
         <source>Restore Unsaved Edits</source>
@@ -733,7 +733,7 @@
     </message>
     <message>
         <source>Open the file again whose edits could not be saved, and put them back</source>
-        <translation>編集を保存できなかったファイルを開き直し、編集内容を戻す</translation>
+        <translation>編集を保存できなかったファイルを開き直し、編集内容を元どおりに入れます</translation>
     </message>
     <message>
         <source>The edits of &quot;%@&quot; are back, and not saved yet.</source>
@@ -741,7 +741,7 @@
     </message>
     <message>
         <source>A percent sign stands alone. Write %% for a percent sign.</source>
-        <translation>パーセント記号が単独で使われています。パーセント記号は %% と書いてください。</translation>
+        <translation>パーセント記号が単独で使われています。パーセント記号そのものは %% と書いてください。</translation>
     </message>
     <message>
         <source>There is no field &quot;%@&quot;.</source>
@@ -757,7 +757,7 @@
     </message>
     <message>
         <source>It says so already</source>
-        <translation>すでにそうなっています</translation>
+        <translation>すでにその値です</translation>
     </message>
     <message>
         <source>It has that name already</source>
@@ -773,11 +773,11 @@
     </message>
     <message>
         <source>No name is left of the values</source>
-        <translation>値から名前が作れません</translation>
+        <translation>値から名前を作れません</translation>
     </message>
     <message>
         <source>The file keeps its name: its tag lies in another file that goes by it</source>
-        <translation>ファイルの名前は変わりません: タグは、その名前に従う別のファイルにあります</translation>
+        <translation>ファイルの名前は変わりません。タグは、その名前に対応する別のファイルにあります</translation>
     </message>
     <message>
         <source>Another row has that name or is to get it</source>
@@ -821,19 +821,19 @@
     </message>
     <message>
         <source>Put a field into the pattern</source>
-        <translation>パターンに項目を入れる</translation>
+        <translation>パターンに項目を挿入します</translation>
     </message>
     <message>
         <source>%skip% stands for text that is left out, a slash for a folder.</source>
-        <translation>%skip% は読み飛ばす文字、スラッシュはフォルダを表します。</translation>
+        <translation>%skip% は読み飛ばす文字、スラッシュはフォルダーを表します。</translation>
     </message>
     <message>
         <source>%folder% stands for the name of the file&#x27;s folder.</source>
-        <translation>%folder% はファイルのあるフォルダの名前を表します。</translation>
+        <translation>%folder% はファイルのあるフォルダーの名前を表します。</translation>
     </message>
     <message>
         <source>What becomes of every file</source>
-        <translation>各ファイルがどうなるか</translation>
+        <translation>各ファイルの変更結果</translation>
     </message>
     <message>
         <source>Show only files that something is &amp;wrong with</source>
@@ -841,7 +841,7 @@
     </message>
     <message>
         <source>Hide the files that the pattern fits</source>
-        <translation>パターンに合うファイルを隠す</translation>
+        <translation>パターンに合うファイルを隠します</translation>
     </message>
     <message>
         <source>&amp;Set Tags</source>
@@ -853,11 +853,11 @@
     </message>
     <message>
         <source>Make these edits of the table; no file changes before they are applied</source>
-        <translation>表の編集にする。適用するまでファイルは変わりません</translation>
+        <translation>表の編集として取り込みます。適用するまでファイルは変わりません</translation>
     </message>
     <message>
         <source>Leave everything as it is</source>
-        <translation>すべてそのままにする</translation>
+        <translation>すべてそのままにします</translation>
     </message>
     <message>
         <source>New Name</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Take the tags of the selected files from their names, by a pattern</source>
-        <translation>選択したファイルのタグを、パターンに従って名前から取る</translation>
+        <translation>選択したファイルのタグを、パターンに従って名前から作ります</translation>
     </message>
     <message>
         <source>&amp;Names from Tags...</source>
@@ -889,7 +889,7 @@
     </message>
     <message>
         <source>Give the selected files names made of their tags, by a pattern</source>
-        <translation>選択したファイルに、パターンに従ってタグから作った名前を付ける</translation>
+        <translation>選択したファイルに、パターンに従ってタグから作った名前を付けます</translation>
     </message>
     <message>
         <source>&amp;Names</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>A name has no slash: files stay in their folders.</source>
-        <translation>名前にスラッシュは使えません。ファイルは元のフォルダに残ります。</translation>
+        <translation>名前にスラッシュは使えません。ファイルは元のフォルダーに残ります。</translation>
     </message>
     <message>
         <source>There is no field in the pattern.</source>
@@ -967,11 +967,11 @@
     </message>
     <message>
         <source>Cover</source>
-        <translation>カバー</translation>
+        <translation>カバーアート</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation>フォルダ</translation>
+        <translation>フォルダー</translation>
     </message>
     <message>
         <source>Genre</source>
@@ -1023,7 +1023,7 @@
     </message>
     <message>
         <source>Go to a heading of the guide</source>
-        <translation>ガイドの見出しへ移動</translation>
+        <translation>ガイドの見出しへ移動します</translation>
     </message>
     <message>
         <source>&amp;Find:</source>
@@ -1043,7 +1043,7 @@
     </message>
     <message>
         <source>Keyboard</source>
-        <translation>キーボード</translation>
+        <translation>キーボードショートカット</translation>
     </message>
     <message>
         <source>Key</source>
@@ -1051,7 +1051,7 @@
     </message>
     <message>
         <source>What it does</source>
-        <translation>働き</translation>
+        <translation>動作</translation>
     </message>
     <message>
         <source>Every key and what it does</source>
@@ -1079,23 +1079,23 @@
     </message>
     <message>
         <source>On the cover: cut it</source>
-        <translation>カバーで: 切り取る</translation>
+        <translation>カバーアートで: 切り取る</translation>
     </message>
     <message>
         <source>On the cover: copy it</source>
-        <translation>カバーで: コピーする</translation>
+        <translation>カバーアートで: コピーする</translation>
     </message>
     <message>
         <source>On the cover: paste one</source>
-        <translation>カバーで: 貼り付ける</translation>
+        <translation>カバーアートで: 貼り付ける</translation>
     </message>
     <message>
         <source>The next control</source>
-        <translation>次の部品へ</translation>
+        <translation>次のコントロールへ</translation>
     </message>
     <message>
         <source>The control before</source>
-        <translation>前の部品へ</translation>
+        <translation>前のコントロールへ</translation>
     </message>
     <message>
         <source>The menus</source>
@@ -1107,7 +1107,7 @@
     </message>
     <message>
         <source>Ends the wait for a page or a cover; closes the line above the form</source>
-        <translation>ページやカバーを待つのをやめます。フォームの上の行を閉じます</translation>
+        <translation>ページやカバーアートを待つのをやめます。フォームの上の行を閉じます</translation>
     </message>
     <message>
         <source>About Velmora</source>
@@ -1119,11 +1119,11 @@
     </message>
     <message>
         <source>Built on Qt %@ with its web engine and multimedia, TagLib, GStreamer, libjpeg and libpng, each under its own licence.</source>
-        <translation>Qt %@（ウェブエンジンとマルチメディアを含む）、TagLib、GStreamer、libjpeg、libpng を使用しています。それぞれ独自のライセンスに従います。</translation>
+        <translation>Qt %@（ウェブエンジンとマルチメディアを含む）、TagLib、GStreamer、libjpeg、libpng を使用しています。それぞれのライセンスに従います。</translation>
     </message>
     <message>
         <source>What Velmora is and what it is built on</source>
-        <translation>Velmora の概要と、使われているもの</translation>
+        <translation>Velmora の概要と使用しているソフトウェア</translation>
     </message>
     <message>
         <source>The window will look like this at each start.</source>
@@ -1131,7 +1131,7 @@
     </message>
     <message>
         <source>The layout can&#x27;t be remembered: the settings file can&#x27;t be written.</source>
-        <translation>配置を記憶できません: 設定ファイルに書き込めません。</translation>
+        <translation>配置を記憶できません。設定ファイルに書き込めません。</translation>
     </message>
     <message>
         <source>Nothing is remembered any more: there is no settings file.</source>
@@ -1199,7 +1199,7 @@
     </message>
     <message>
         <source>&amp;Revert</source>
-        <translation>元に戻す(&amp;R)</translation>
+        <translation>変更を破棄(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Row</source>
@@ -1227,11 +1227,11 @@
     </message>
     <message>
         <source>C&amp;over:</source>
-        <translation>カバー(&amp;O):</translation>
+        <translation>カバーアート(&amp;O):</translation>
     </message>
     <message>
         <source>Cancelled before its turn</source>
-        <translation>順番の前に取り消されました</translation>
+        <translation>順番が来る前にキャンセルされました</translation>
     </message>
     <message>
         <source>Changed since, left alone</source>
@@ -1239,15 +1239,15 @@
     </message>
     <message>
         <source>Choose a Cover</source>
-        <translation>カバーを選択</translation>
+        <translation>カバーアートを選択</translation>
     </message>
     <message>
         <source>Choose a picture as the cover of the selected files</source>
-        <translation>選択したファイルのカバーにする画像を選びます</translation>
+        <translation>選択したファイルのカバーアートにする画像を選びます</translation>
     </message>
     <message>
         <source>Close the summary</source>
-        <translation>結果を閉じます</translation>
+        <translation>結果のまとめを閉じます</translation>
     </message>
     <message>
         <source>Columns</source>
@@ -1295,15 +1295,15 @@
     </message>
     <message>
         <source>Edits in the library table are not applied yet.</source>
-        <translation>ライブラリ表の編集はまだ適用されていません。</translation>
+        <translation>ライブラリの表の編集はまだ適用されていません。</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation>書き出す</translation>
+        <translation>エクスポート</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation>書き出す…</translation>
+        <translation>エクスポート…</translation>
     </message>
     <message>
         <source>File</source>
@@ -1339,7 +1339,7 @@
     </message>
     <message>
         <source>Open the file in the program&#x27;s main window</source>
-        <translation>ファイルをメインウィンドウで開きます</translation>
+        <translation>ファイルをプログラムのメインウィンドウで開きます</translation>
     </message>
     <message>
         <source>Open the folder in which the file is</source>
@@ -1351,7 +1351,7 @@
     </message>
     <message>
         <source>Put the cells of the clipboard into the table from the current cell on</source>
-        <translation>クリップボードのセルを現在のセルから表に入れます</translation>
+        <translation>クリップボードのセルを、現在のセルから順に表へ貼り付けます</translation>
     </message>
     <message>
         <source>Rat&amp;ing:</source>
@@ -1367,15 +1367,15 @@
     </message>
     <message>
         <source>Remove from List</source>
-        <translation>リストから外す</translation>
+        <translation>一覧から外す</translation>
     </message>
     <message>
         <source>Remove the cover from the selected files</source>
-        <translation>選択したファイルからカバーを削除します</translation>
+        <translation>選択したファイルからカバーアートを削除します</translation>
     </message>
     <message>
         <source>Revert</source>
-        <translation>元に戻す</translation>
+        <translation>変更を破棄</translation>
     </message>
     <message>
         <source>Show in Folder</source>
@@ -1399,19 +1399,19 @@
     </message>
     <message>
         <source>Take the selected files off the list; they stay where they are</source>
-        <translation>選択したファイルをリストから外します。ファイルはそのままです</translation>
+        <translation>選択したファイルを一覧から外します。ファイルそのものは元の場所に残ります</translation>
     </message>
     <message>
         <source>The album of the selected songs, the director of the selected films</source>
-        <translation>選択した曲のアルバム、映画の監督</translation>
+        <translation>選択した曲のアルバム、選択した映画の監督</translation>
     </message>
     <message>
         <source>The artist of the selected songs, the cast of the selected films</source>
-        <translation>選択した曲のアーティスト、映画の出演者</translation>
+        <translation>選択した曲のアーティスト、選択した映画の出演者</translation>
     </message>
     <message>
         <source>The cover of the selected files: drop a picture here, or paste one</source>
-        <translation>選択したファイルのカバー。画像をドロップするか貼り付けます</translation>
+        <translation>選択したファイルのカバーアート。画像をドロップするか貼り付けます</translation>
     </message>
     <message>
         <source>The files that were not changed, and why</source>
@@ -1419,23 +1419,23 @@
     </message>
     <message>
         <source>The genre: choose one or type your own</source>
-        <translation>ジャンル。選ぶか、自分で入力します</translation>
+        <translation>ジャンル。選ぶか、自由に入力します</translation>
     </message>
     <message>
         <source>The old cover can&#x27;t be read any more</source>
-        <translation>以前のカバーを読み込めません</translation>
+        <translation>以前のカバーアートを読み込めません</translation>
     </message>
     <message>
         <source>The parental rating of the selected films</source>
-        <translation>選択した映画の年齢制限</translation>
+        <translation>選択した映画の年齢区分</translation>
     </message>
     <message>
         <source>The table could not be exported.</source>
-        <translation>表を書き出せませんでした。</translation>
+        <translation>表をエクスポートできませんでした。</translation>
     </message>
     <message>
         <source>The tags are right, the name is the old one: %@</source>
-        <translation>タグは正しく、名前は元のままです: %@</translation>
+        <translation>タグは正しく書き込まれましたが、名前は元のままです: %@</translation>
     </message>
     <message>
         <source>The title of the selected files</source>
@@ -1443,7 +1443,7 @@
     </message>
     <message>
         <source>The year of release, of up to four digits</source>
-        <translation>公開年(4 桁まで)</translation>
+        <translation>公開・発売された年（4 桁まで）</translation>
     </message>
     <message>
         <source>Then By</source>
@@ -1451,7 +1451,7 @@
     </message>
     <message>
         <source>There is no room to keep the old cover for an undo</source>
-        <translation>取り消し用に以前のカバーを保存する空きがありません</translation>
+        <translation>元に戻すために以前のカバーアートを残しておく空きがありません</translation>
     </message>
     <message>
         <source>They are lost when the program ends.</source>
@@ -1471,7 +1471,7 @@
     </message>
     <message>
         <source>Undo Apply</source>
-        <translation>適用を取り消す</translation>
+        <translation>適用を元に戻す</translation>
     </message>
     <message>
         <source>What the selected films are about, or a comment on the songs</source>
@@ -1479,7 +1479,7 @@
     </message>
     <message>
         <source>Words, artist:name, year:1990-1999, missing:cover</source>
-        <translation>語、artist:名前、year:1990-1999、missing:cover</translation>
+        <translation>語句、artist:名前、year:1990-1999、missing:cover</translation>
     </message>
     <message>
         <source>Write the rows and columns that are shown into a file, as CSV or JSON</source>
@@ -1495,7 +1495,7 @@
     </message>
     <message>
         <source>several covers</source>
-        <translation>複数のカバー</translation>
+        <translation>複数のカバーアート</translation>
     </message>
     <message>
         <source>several values</source>
@@ -1506,27 +1506,27 @@
     <name>MyDocument</name>
     <message>
         <source>&amp;Paste and Store Cover</source>
-        <translation>カバーを貼り付けて採用(&amp;P)</translation>
+        <translation>カバーアートを貼り付けて保存対象にする(&amp;P)</translation>
     </message>
     <message>
         <source>Make the image that was copied the cover, which a save writes</source>
-        <translation>コピーした画像をカバーにし、保存時に書き込みます</translation>
+        <translation>コピーした画像をカバーアートにし、保存時に書き込みます</translation>
     </message>
     <message>
         <source>&amp;Trim Border</source>
-        <translation>余白を切り取る(&amp;T)</translation>
+        <translation>縁を切り取る(&amp;T)</translation>
     </message>
     <message>
         <source>Trim a border of one colour off the cover art</source>
-        <translation>カバーアートから単色の余白を切り取ります</translation>
+        <translation>カバーアートから単色の縁を切り取ります</translation>
     </message>
     <message>
         <source>&amp;Delete Cover</source>
-        <translation>カバーを削除(&amp;D)</translation>
+        <translation>カバーアートを削除(&amp;D)</translation>
     </message>
     <message>
         <source>Take the cover away, which a save with portable tags writes</source>
-        <translation>カバーを取り除きます。ポータブルタグで保存すると書き込まれます</translation>
+        <translation>カバーアートを取り除きます。ポータブルタグで保存すると書き込まれます</translation>
     </message>
     <message>
         <source>Delete &amp;All Tags from File…</source>
@@ -1542,11 +1542,11 @@
     </message>
     <message>
         <source>Add F&amp;older…</source>
-        <translation>フォルダを追加(&amp;O)…</translation>
+        <translation>フォルダーを追加(&amp;O)…</translation>
     </message>
     <message>
         <source>&amp;Revert</source>
-        <translation>元に戻す(&amp;R)</translation>
+        <translation>変更を破棄(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -1602,7 +1602,7 @@
     </message>
     <message>
         <source>Open and save with the tags that other programs read</source>
-        <translation>他のプログラムが読むタグで開き、保存する</translation>
+        <translation>他のプログラムが読むタグで開き、保存します</translation>
     </message>
     <message>
         <source>Restore Unsaved &amp;Edits</source>
@@ -1610,7 +1610,7 @@
     </message>
     <message>
         <source>Open the file again whose edits could not be saved, and put them back</source>
-        <translation>編集を保存できなかったファイルを開き直し、編集内容を戻す</translation>
+        <translation>編集を保存できなかったファイルを開き直し、編集内容を元どおりに入れます</translation>
     </message>
     <message>
         <source>&amp;Library Table</source>
@@ -1618,7 +1618,7 @@
     </message>
     <message>
         <source>Show all files of the list with their tags, and edit many at once</source>
-        <translation>一覧のすべてのファイルをタグとともに表示し、まとめて編集する</translation>
+        <translation>一覧のすべてのファイルをタグとともに表示し、まとめて編集します</translation>
     </message>
     <message>
         <source>Help</source>
@@ -1630,7 +1630,7 @@
     </message>
     <message>
         <source>&amp;Keyboard</source>
-        <translation>キーボード(&amp;K)</translation>
+        <translation>キーボードショートカット(&amp;K)</translation>
     </message>
     <message>
         <source>&amp;About Velmora</source>
@@ -1642,15 +1642,15 @@
     </message>
     <message>
         <source>Start with this size, division, column widths and sorting from now on</source>
-        <translation>今後はこのサイズ、区画、列の幅、並べ替えで起動する</translation>
+        <translation>今後はこのサイズ、分割、列の幅、並べ替えで起動します</translation>
     </message>
     <message>
         <source>&amp;Forget Everything</source>
-        <translation>すべて忘れる(&amp;F)</translation>
+        <translation>記憶をすべて消去(&amp;F)</translation>
     </message>
     <message>
         <source>Remove the settings file, with the layout and the choice of portable tags</source>
-        <translation>配置とポータブルタグの選択を含む設定ファイルを削除する</translation>
+        <translation>配置とポータブルタグの選択を含む設定ファイルを削除します</translation>
     </message>
 </context>
 <context>
@@ -1661,19 +1661,19 @@
     </message>
     <message>
         <source>Add files to the list</source>
-        <translation>一覧にファイルを追加する</translation>
+        <translation>一覧にファイルを追加します</translation>
     </message>
     <message>
         <source>Add F&amp;older…</source>
-        <translation>フォルダを追加(&amp;O)…</translation>
+        <translation>フォルダーを追加(&amp;O)…</translation>
     </message>
     <message>
         <source>Search a folder for media files</source>
-        <translation>フォルダ内のメディアファイルを検索する</translation>
+        <translation>フォルダー内のメディアファイルを検索します</translation>
     </message>
     <message>
         <source>Turns while folders are searched</source>
-        <translation>フォルダを検索している間、回ります</translation>
+        <translation>フォルダーを検索している間、回ります</translation>
     </message>
     <message>
         <source>Search in progress</source>
@@ -1681,7 +1681,7 @@
     </message>
     <message>
         <source>The folder that is being searched</source>
-        <translation>検索中のフォルダ</translation>
+        <translation>検索中のフォルダー</translation>
     </message>
     <message>
         <source>Sto&amp;p</source>
@@ -1689,7 +1689,7 @@
     </message>
     <message>
         <source>Stop the search</source>
-        <translation>検索を停止する</translation>
+        <translation>検索を停止します</translation>
     </message>
     <message>
         <source>The media files found; type a name to find one</source>
@@ -1732,7 +1732,7 @@
     </message>
     <message>
         <source>The genre: choose one or type your own</source>
-        <translation>ジャンル: 選ぶか、自由に入力してください</translation>
+        <translation>ジャンル。選ぶか、自由に入力します</translation>
     </message>
     <message>
         <source>Album:</source>
@@ -1748,7 +1748,7 @@
     </message>
     <message>
         <source>The parental rating of a film</source>
-        <translation>映画の年齢制限</translation>
+        <translation>映画の年齢区分</translation>
     </message>
     <message>
         <source>Sy&amp;nopsis:</source>
@@ -1764,7 +1764,7 @@
     </message>
     <message>
         <source>The date, for information: it is not written into the file</source>
-        <translation>日付（参考）: ファイルには書き込まれません</translation>
+        <translation>日付（参考）。ファイルには書き込まれません</translation>
     </message>
     <message>
         <source>&amp;Cover Art:</source>
@@ -1780,7 +1780,7 @@
     </message>
     <message>
         <source>Load cover art from an image file</source>
-        <translation>画像ファイルからカバーアートを読み込む</translation>
+        <translation>画像ファイルからカバーアートを読み込みます</translation>
     </message>
     <message>
         <source>Tri&amp;m</source>
@@ -1788,7 +1788,7 @@
     </message>
     <message>
         <source>Trim a border of one colour off the cover art</source>
-        <translation>カバーアートから単色の縁を切り取る</translation>
+        <translation>カバーアートから単色の縁を切り取ります</translation>
     </message>
     <message>
         <source>Remo&amp;ve Tag</source>
@@ -1796,15 +1796,15 @@
     </message>
     <message>
         <source>Forget the changes without writing them</source>
-        <translation>変更を書き込まずに忘れる</translation>
+        <translation>変更を書き込まずに破棄します</translation>
     </message>
     <message>
         <source>&amp;Revert</source>
-        <translation>元に戻す(&amp;R)</translation>
+        <translation>変更を破棄(&amp;R)</translation>
     </message>
     <message>
         <source>Read the file again and drop the changes</source>
-        <translation>ファイルを読み直し、変更を破棄する</translation>
+        <translation>ファイルを読み直し、変更を破棄します</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -1812,7 +1812,7 @@
     </message>
     <message>
         <source>Write the changes into the file (Ctrl+S)</source>
-        <translation>変更をファイルに書き込む (Ctrl+S)</translation>
+        <translation>変更をファイルに書き込みます（Ctrl+S）</translation>
     </message>
     <message>
         <source>for information only</source>
@@ -1839,11 +1839,11 @@
     </message>
     <message>
         <source>Ta&amp;ke Frame</source>
-        <translation>コマを使う(&amp;K)</translation>
+        <translation>フレームを使用(&amp;K)</translation>
     </message>
     <message>
         <source>Take the frame shown as cover art</source>
-        <translation>表示中のコマをカバーアートにする</translation>
+        <translation>表示中のフレームをカバーアートにします</translation>
     </message>
 </context>
 <context>
@@ -1866,7 +1866,7 @@
     </message>
     <message>
         <source>Search the site for the text</source>
-        <translation>サイトで文字を検索する</translation>
+        <translation>サイトで文字を検索します</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -1874,7 +1874,7 @@
     </message>
     <message>
         <source>Go back to the page before</source>
-        <translation>前のページに戻る</translation>
+        <translation>前のページに戻ります</translation>
     </message>
     <message>
         <source>Turns while a page loads</source>
@@ -1890,7 +1890,7 @@
     </message>
     <message>
         <source>Fill the form from the page shown</source>
-        <translation>表示中のページからフォームに入力する</translation>
+        <translation>表示中のページからフォームに入力します</translation>
     </message>
     <message>
         <source>Address:</source>
@@ -1914,7 +1914,7 @@
     </message>
     <message>
         <source>Fill the form without the cover (Esc)</source>
-        <translation>カバーなしでフォームに入力する (Esc)</translation>
+        <translation>カバーアートなしでフォームに入力します（Esc）</translation>
     </message>
     <message>
         <source>The page</source>
