@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>This is no number, and is stored as no year</source>
-        <translation>这不是数字，将保存为无年份</translation>
+        <translation>这不是数字，将不保存年份</translation>
     </message>
     <message>
         <source>Too little media lies behind its header for the header to grow or shrink</source>
@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>What was filled in from the web is not stored yet: a save writes only the fields that were typed in.</source>
-        <translation>从网上填入的内容尚未保存：保存时只写入手动输入过的字段。</translation>
+        <translation>从网上填入的内容尚未采用：保存时只写入手动输入过的字段。</translation>
     </message>
     <message>
         <source>You have no permission to write to it</source>
@@ -409,11 +409,11 @@
     </message>
     <message>
         <source>Cover art: drop an image here to store it</source>
-        <translation>封面：将图片拖放到此处即可保存</translation>
+        <translation>封面：将图片拖放到此处即可采用</translation>
     </message>
     <message>
         <source>too large to show</source>
-        <translation>太大，无法显示</translation>
+        <translation>过大，无法显示</translation>
     </message>
     <message>
         <source>Drop an image here</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Save so, and do so from now on, also after the next start</source>
-        <translation>以此方式保存，今后及下次启动后也如此</translation>
+        <translation>以此方式保存，今后及下次启动后均如此</translation>
     </message>
     <message>
         <source>Saved. Other programs see it: %@</source>
@@ -741,7 +741,7 @@
     </message>
     <message>
         <source>A percent sign stands alone. Write %% for a percent sign.</source>
-        <translation>有单独的百分号。百分号请写作 %%。</translation>
+        <translation>有单独的百分号。要表示百分号，请写作 %%。</translation>
     </message>
     <message>
         <source>There is no field &quot;%@&quot;.</source>
@@ -757,7 +757,7 @@
     </message>
     <message>
         <source>It says so already</source>
-        <translation>内容已是如此</translation>
+        <translation>已是该值</translation>
     </message>
     <message>
         <source>It has that name already</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>A name has no slash: files stay in their folders.</source>
-        <translation>名称中没有斜杠：文件留在各自的文件夹中。</translation>
+        <translation>名称中不能有斜杠：文件留在各自的文件夹中。</translation>
     </message>
     <message>
         <source>There is no field in the pattern.</source>
@@ -1043,7 +1043,7 @@
     </message>
     <message>
         <source>Keyboard</source>
-        <translation>键盘</translation>
+        <translation>键盘快捷键</translation>
     </message>
     <message>
         <source>Key</source>
@@ -1155,7 +1155,7 @@
     </message>
     <message>
         <source>%@ changed since and left alone</source>
-        <translation>%@ 个之后有改动，未处理</translation>
+        <translation>%@ 个其间有改动，保持原样</translation>
     </message>
     <message>
         <source>%@ done</source>
@@ -1235,7 +1235,7 @@
     </message>
     <message>
         <source>Changed since, left alone</source>
-        <translation>之后有改动，未处理</translation>
+        <translation>其间有改动，保持原样</translation>
     </message>
     <message>
         <source>Choose a Cover</source>
@@ -1279,11 +1279,11 @@
     </message>
     <message>
         <source>Drop Them</source>
-        <translation>丢弃</translation>
+        <translation>放弃</translation>
     </message>
     <message>
         <source>Drop what was edited in the selected files and not applied</source>
-        <translation>丢弃所选文件中尚未应用的编辑</translation>
+        <translation>放弃所选文件中尚未应用的编辑</translation>
     </message>
     <message>
         <source>Edit Cell</source>
@@ -1339,7 +1339,7 @@
     </message>
     <message>
         <source>Open the file in the program&#x27;s main window</source>
-        <translation>在主窗口中打开文件</translation>
+        <translation>在程序的主窗口中打开文件</translation>
     </message>
     <message>
         <source>Open the folder in which the file is</source>
@@ -1351,7 +1351,7 @@
     </message>
     <message>
         <source>Put the cells of the clipboard into the table from the current cell on</source>
-        <translation>从当前单元格起放入剪贴板的单元格</translation>
+        <translation>从当前单元格起，将剪贴板中的单元格粘贴到表格中</translation>
     </message>
     <message>
         <source>Rat&amp;ing:</source>
@@ -1395,7 +1395,7 @@
     </message>
     <message>
         <source>Sy&amp;nopsis or comment:</source>
-        <translation>简介或备注(&amp;N)：</translation>
+        <translation>简介或注释(&amp;N)：</translation>
     </message>
     <message>
         <source>Take the selected files off the list; they stay where they are</source>
@@ -1427,7 +1427,7 @@
     </message>
     <message>
         <source>The parental rating of the selected films</source>
-        <translation>所选影片的分级</translation>
+        <translation>所选影片的年龄分级</translation>
     </message>
     <message>
         <source>The table could not be exported.</source>
@@ -1475,7 +1475,7 @@
     </message>
     <message>
         <source>What the selected films are about, or a comment on the songs</source>
-        <translation>所选影片的内容，或对歌曲的备注</translation>
+        <translation>所选影片讲述的内容，或对歌曲的注释</translation>
     </message>
     <message>
         <source>Words, artist:name, year:1990-1999, missing:cover</source>
@@ -1491,7 +1491,7 @@
     </message>
     <message>
         <source>Writing…</source>
-        <translation>正在写入…</translation>
+        <translation>正在写入……</translation>
     </message>
     <message>
         <source>several covers</source>
@@ -1518,7 +1518,7 @@
     </message>
     <message>
         <source>Trim a border of one colour off the cover art</source>
-        <translation>裁去封面上单一颜色的边框</translation>
+        <translation>裁去封面的单色边框</translation>
     </message>
     <message>
         <source>&amp;Delete Cover</source>
@@ -1630,7 +1630,7 @@
     </message>
     <message>
         <source>&amp;Keyboard</source>
-        <translation>键盘(&amp;K)</translation>
+        <translation>键盘快捷键(&amp;K)</translation>
     </message>
     <message>
         <source>&amp;About Velmora</source>
@@ -1642,7 +1642,7 @@
     </message>
     <message>
         <source>Start with this size, division, column widths and sorting from now on</source>
-        <translation>今后以此大小、分区、列宽和排序启动</translation>
+        <translation>今后以此大小、分栏、列宽和排序启动</translation>
     </message>
     <message>
         <source>&amp;Forget Everything</source>
@@ -1732,7 +1732,7 @@
     </message>
     <message>
         <source>The genre: choose one or type your own</source>
-        <translation>类型：选择一个或自行键入</translation>
+        <translation>类型：选择一个或自行输入</translation>
     </message>
     <message>
         <source>Album:</source>
@@ -1804,7 +1804,7 @@
     </message>
     <message>
         <source>Read the file again and drop the changes</source>
-        <translation>重新读取文件并丢弃更改</translation>
+        <translation>重新读取文件并放弃更改</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -1812,7 +1812,7 @@
     </message>
     <message>
         <source>Write the changes into the file (Ctrl+S)</source>
-        <translation>将更改写入文件 (Ctrl+S)</translation>
+        <translation>将更改写入文件（Ctrl+S）</translation>
     </message>
     <message>
         <source>for information only</source>
@@ -1914,7 +1914,7 @@
     </message>
     <message>
         <source>Fill the form without the cover (Esc)</source>
-        <translation>不带封面填写表单 (Esc)</translation>
+        <translation>不带封面填写表单（Esc）</translation>
     </message>
     <message>
         <source>The page</source>
