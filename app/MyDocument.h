@@ -66,19 +66,19 @@ public:
     /** The menu's switch. What the user switches off is not remembered any more. */
     void switchPortableTags(bool portable);
 
-    /** The menu's commands: the window as it is now at each start, and nothing remembered any more. The line above the form
-       says how that ended. */
+    /** The menu's commands: the window as it is now at each start, and nothing remembered any more. The line
+       above the form says how that ended. */
     void rememberThisLayout();
     void forgetEverything();
 
-    /** The menu's save command. Saved in place, the document still counts as edited afterwards: only the editor's own
-       button clears that. */
+    /** The menu's save command. Saved in place, the document still counts as edited afterwards: only the
+       editor's own button clears that. */
     void saveDocument();
 
     /** Asks what to do with the changes of the open file, and does it. False when the user cancelled, and
        while the question is on the screen already. True otherwise: the file is closed, its changes written,
-       kept for restoreUnsavedEdits where they could not be, or dropped. A question that goes away without an answer counts as true and leaves the file and its changes
-       as they are. */
+       kept for restoreUnsavedEdits where they could not be, or dropped. A question that goes away without an
+       answer counts as true and leaves the file and its changes as they are. */
     [[nodiscard]] bool handleDirtySave();
     /** The end of the question's sheet. */
     void needsSaveAlertDone(int returnCode);
@@ -102,8 +102,9 @@ private:
         QUrl url;
     };
 
-    /** Puts the file at URL into the place of the open one. Empty when it is open, else the user's words for what
-       stands in the way; the file that was open is gone then if there is one at URL that can't be read. */
+    /** Puts the file at URL into the place of the open one. Empty when it is open, else the
+       user's words for what stands in the way; the file that was open is gone then if there is
+       one at URL that can't be read. */
     [[nodiscard]] QString openFile(const QUrl& url);
     /** Saves, and tells everybody how that ended. */
     [[nodiscard]] bool saveInPlace(Error* error);
@@ -120,7 +121,8 @@ private:
     void tell(bool succeeded, const QString& text);
     /** Cancels what the library table writes, and asks about its edits. */
     [[nodiscard]] bool libraryMayClose();
-    /** Whether files at PATHS may be written: asks about changes of the open one, which is open again then. */
+    /** Whether files at PATHS may be written: asks about changes of the open one, which is open again
+       then. */
     [[nodiscard]] bool mayWriteFiles(const QStringList& paths);
     /** The library table has written files, which were at the keys of PATHS and are at their values. */
     void filesWritten(const QHash<QString, QString>& paths);

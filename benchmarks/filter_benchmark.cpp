@@ -1,6 +1,5 @@
 /** What a key in the library table's filter costs: 100,000 rows matched anew, beside one pass of memmem over
-   the same
-    texts for the same word. Rows stand in memory as the table has them, one text each. */
+   the same texts for the same word. Rows stand in memory as the table has them, one text each. */
 
 #include "library/filter_query.h"
 

@@ -1,6 +1,5 @@
 /** What it takes to read the tags of a folder's files into the library table, beside a loop over TagLib's
-   FileRef on all
-    cores. Both take turns; prints the median of each in milliseconds by the clock. */
+   FileRef on all cores. Both take turns; prints the median of each in milliseconds by the clock. */
 
 #include "taglib_peer_loop.h"
 

@@ -1,6 +1,6 @@
-/** What 100,000 files do to the library table's window while they are listed and read: the longest time in which its event
-    loop did nothing else, and what a row takes of memory beside its texts. The files are those of a folder, by ten
-    names each. */
+/** What 100,000 files do to the library table's window while they are listed and read: the longest time in
+   which its event loop did nothing else, and what a row takes of memory beside its texts. The files are those
+   of a folder, by ten names each. */
 
 #include "library/library_window.h"
 #include "platform/file_path.h"
@@ -24,7 +24,8 @@ using namespace velmora;
 /** So many files come from a search in one turn of the event loop. */
 constexpr std::size_t filesAtOnce = 100;
 
-/** The longest time between two beats of a timer that is always due: by the clock, and of this thread's processor time. */
+/** The longest time between two beats of a timer that is always due: by the clock, and of this
+   thread's processor time. */
 class GapMeter {
 public:
     GapMeter() {

@@ -27,8 +27,8 @@ struct Tags {
 [[nodiscard]] bool storeAppendedId3(const char* path, const char* title);
 [[nodiscard]] bool storeAsf(const char* path, const char* title);
 [[nodiscard]] bool storeAvi(const char* path, const char* title);
-/** As storeAvi, but finds the list as a first attempt would: by reading every list in whole, the film itself
-   too. */
+/** Opens the file, reads its tag, changes the title and writes the tag back, but finds it as a first attempt
+   would: by reading every list in whole, the film itself too. */
 [[nodiscard]] bool storeAviReadingWholeLists(const char* path, const char* title);
 
 } // namespace peer

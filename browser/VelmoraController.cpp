@@ -21,8 +21,8 @@
 namespace velmora {
 namespace {
 
-/** Whether PATH is a folder that a desktop gives to one kind of media: one that it has switched off is the home
-   folder. */
+/** Whether PATH is a folder that a desktop gives to one kind of media: one that it has switched
+   off is the home folder. */
 bool isMediaFolder(const QString& path, const QString& home) {
     const std::optional<FileAttributes> attributes = fileAttributes(pathBytes(path));
     return attributes && attributes->isDirectory && path != home && path != home + u'/';

@@ -29,8 +29,8 @@ public:
     VelmoraController(MediaList& list, TagForm& form, TagWebBrowser& browser, MediaDocument& document,
                       QObject* parent = nullptr);
 
-    /** The window is loaded: queues the home folder's Movies, Music and Pictures, then the desktop's own folders
-       of videos, music and pictures where they are others, and starts the search. */
+    /** The window is loaded: queues the home folder's Movies, Music and Pictures, then the desktop's own
+       folders of videos, music and pictures where they are others, and starts the search. */
     void awakeFromNib();
 
     /** Writes the open file's values into the file. A failure is logged, and everything stays as it is. */
@@ -42,8 +42,8 @@ public:
        stay. */
     void removeTag();
 
-    /** Opens the file again whose edits were kept last, and puts them back. What stands in the way is said on a
-       sheet; the edits stay kept then. */
+    /** Opens the file again whose edits were kept last, and puts them back. What stands in the way is said on
+       a sheet; the edits stay kept then. */
     void restoreUnsavedEdits();
 
     /** Asks for a place, and saves the open file there with its changes. The copy is listed and opened. */
@@ -75,8 +75,8 @@ public:
        can't be read. */
     bool addMediaFile(const QString& path);
 
-    /** Lists the files among PATHS and searches the folders, in their order. What is neither, or can't be read,
-       is said on the log and left out. */
+    /** Lists the files among PATHS and searches the folders, in their order. What is neither, or can't be
+       read, is said on the log and left out. */
     void addPaths(const QStringList& paths);
     /** Adds PATHS; where they are a single file, it is selected, too, and so opened. */
     void openPaths(const QStringList& paths);

@@ -39,7 +39,8 @@ public:
 
     /** Takes the row at INDEX off the list. */
     void remove(std::size_t index) { mediaFiles_.remove(index); }
-    /** Puts rows in the places of those with the given numbers, each at most once; in a sorted list each at its own place. */
+    /** Puts rows in the places of those with the given numbers, each at most once; in a sorted list
+       each at its own place. */
     void replace(std::vector<std::pair<std::size_t, ColdataPointer>> rows);
 
     /** Sorts the list by COLUMN, shown ascending. When it is the sort column already, only the direction is

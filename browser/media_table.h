@@ -43,11 +43,11 @@ public:
        extension nor at the size. */
     bool addMediaFile(const QString& path);
 
-    /** Takes the rows of the file at PATH off the list. What is selected stays so; a selected row that goes closes its
-        file. */
+    /** Takes the rows of the file at PATH off the list. What is selected stays so; a selected row that
+       goes closes its file. */
     void removeFile(const QString& path);
-    /** The files at the keys of PATHS have changed and are at their values now: their rows say so. Files may have got
-        their paths from one another. */
+    /** The files at the keys of PATHS have changed and are at their values now: their rows say so. Files may
+       have got their paths from one another. */
     void updateFiles(const QHash<QString, QString>& paths);
 
     /** Inserts ROW into the list at its sorted place; the views don't know of it before reloadData. */
@@ -58,8 +58,8 @@ public:
        there is none. */
     void selectFile(const QString& path);
 
-    /** The document has opened the file at PATH by itself: selects its row, the last where there are several, which
-       opens nothing; no row where there is none. */
+    /** The document has opened the file at PATH by itself: selects its row, the last where there are several,
+       which opens nothing; no row where there is none. */
     void showAsOpen(const QString& path);
 
     /** The document has no file open any more, whatever row is selected. */

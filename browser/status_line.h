@@ -8,8 +8,8 @@ class ElidedLabel;
 struct SaveEnd;
 struct SearchSummary;
 
-/** The line at the window's foot: what the last save did, and what the last search came to. Assistive technologies are
-   told of each as it comes; the notice above the form has what can be done about it. */
+/** The line at the window's foot: what the last save did, and what the last search came to. Assistive
+   technologies are told of each as it comes; the notice above the form has what can be done about it. */
 class StatusLine : public QStatusBar {
     Q_OBJECT
 public:

@@ -46,7 +46,8 @@ public:
     /** Shows the open file in a form that was cleared before. A file without cover art takes the image
        "folder.jpg" of its folder, which counts as a change; with portable tags it shows what it has. */
     void showFile(const MediaFile& media);
-    /** Says above the form which file it edits, and in empty fields where nothing that is typed would be stored. */
+    /** Says above the form which file it edits, and in empty fields where nothing that is
+       typed would be stored. */
     void tellOpenFile();
     /** Lets the open file's tag be removed and its cover art be loaded. */
     void enableFileButtons();
@@ -54,8 +55,9 @@ public:
        fields do when the user next types in them. Null changes nothing. */
     void fillFields(const FormFillInfo* info);
 
-    /** Brings what the form shows and the open file does not have yet into it, for saves that write all of that: the
-       fields that a web lookup filled, and nobody has typed in since, and a cover that was pasted or cut. */
+    /** Brings what the form shows and the open file does not have yet into it, for saves that write
+       all of that: the fields that a web lookup filled, and nobody has typed in since, and a cover
+       that was pasted or cut. */
     void storeShownValues();
     /** The part of it that is about the fields. */
     void storeFilledFields();
@@ -108,7 +110,8 @@ signals:
     void removeClicked();
     void loadCoverArtClicked();
     void trimBorderClicked();
-    /** The open file has taken the image "folder.jpg" of its folder as its cover, which counts as a change. */
+    /** The open file has taken the image "folder.jpg" of its folder as its cover, which counts as a
+       change. */
     void folderImageTaken();
     /** hasFilledFields may have changed. */
     void filledFieldsChanged();

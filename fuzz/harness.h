@@ -23,7 +23,7 @@ public:
     [[nodiscard]] std::uint64_t number(std::size_t bytes);
     /** A length byte and so many bytes. */
     [[nodiscard]] std::string bytes();
-    /** The same up to the first zero byte. */
+    /** A length byte and so many bytes; what is in front of the first zero byte in them. */
     [[nodiscard]] std::string text();
     [[nodiscard]] std::string rest() const { return std::string(rest_); }
     [[nodiscard]] bool at_end() const { return rest_.empty(); }

@@ -9,8 +9,8 @@ using portable::SaveOutcome;
 using portable::SaveResult;
 using portable::TagEdits;
 
-/** Whether the value of FIELD is what was asked for. A genre may be a number, which reads as its name; a cover
-    that goes may have hidden a picture, which shows then. */
+/** Whether the value of FIELD is what was asked for. A genre may be a number, which reads as its name; a
+   cover that goes may have hidden a picture, which shows then. */
 bool is_as_asked(Field field, const TagEdits& edits, const ReadOutcome& before, const ReadOutcome& after) {
     if (field == Field::year) {
         return after.values.year == edits.year.applied_to(before.values.year);
@@ -69,8 +69,8 @@ void save(const MediaFile& file, const TagEdits& edits) {
 } // namespace
 } // namespace velmora::fuzz
 
-/** Input: a byte for the kind of file, what to set and to delete, a file. Twice: the second save meets what the first
-    wrote. */
+/** Input: a byte for the kind of file, what to set and to delete, a file. Twice: the second save meets
+   what the first wrote. */
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace velmora::fuzz;
     Input input(data, size);

@@ -18,9 +18,8 @@
 
 namespace velmora {
 
-/** One media file: its path, its media type, and its metadata, edited here and written back on request: in place, or
-   with portable tags, which are those that other programs read.
-   Used by one thread at a time. */
+/** One media file: its path, its media type, and its metadata, edited here and written back on request: in
+   place, or with portable tags, which are those that other programs read. Used by one thread at a time. */
 class MediaFile {
 public:
     /** Opens the file at PATH and reads its tag. Null when the file is not readable. A file without a tag
@@ -31,16 +30,20 @@ public:
        alert; the values here stay as they are either way. */
     bool saveMetadata(Error* error);
 
-    /** The same with portable tags. OBSTACLE becomes empty, or says why they can't be read, and then all values are
-       empty. */
+    /** Opens the file at PATH and reads its portable tags. Null when the file is not readable; OBSTACLE is
+       left alone then. Otherwise OBSTACLE becomes empty, or says as one sentence without a full stop why the
+       tags can't be read, and then all values are empty. */
     [[nodiscard]] static std::unique_ptr<MediaFile> initWithPortableTags(const QString& path,
                                                                          QString* obstacle);
 
-    /** A save of the values that are other than those which the file was opened with, or that were settled, into its
-       portable tags; what became empty is deleted. BREAK_LINKS: also where the file has further hard links. */
+    /** A save of the values that are other than those which the file was opened with, or that were
+       settled, into its portable tags; what became empty is deleted. BREAK_LINKS: also where the file
+       has further hard links. */
     [[nodiscard]] PortableSave portableSave(bool breakLinks) const;
-    /** The same for a copy of the file, made at TARGET, with its extension, in place of what is there. The file itself
-       is only read. */
+    /** A save of the values that are other than those which the file was opened with, or that were settled,
+       into the portable tags of a copy of the file, made at TARGET, with its extension, in place of what is
+       there; what became empty is deleted. The file itself is only read. TARGET is what it was where that
+       fails. */
     [[nodiscard]] PortableSave portableCopy(const QString& target) const;
     /** Takes the values for those that the file was opened with. */
     void settleChanges() { opened_ = metadata_; }
@@ -48,11 +51,12 @@ public:
     void takeEditsOf(const MediaFile& other);
     /** Whether the file is of a kind that portable tags can be saved in. */
     [[nodiscard]] bool canHavePortableTags() const;
-    /** Finds out, on any thread, whether the file's portable tags have a value that is missing or cut off here. Empty
-       for kinds of files in which other programs read no tag. */
+    /** Finds out, on any thread, whether the file's portable tags have a value that is missing or cut off
+       here. Empty for kinds of files in which other programs read no tag. */
     [[nodiscard]] std::function<bool()> otherProgramsSeeMore() const;
 
-    /** Whether the tag that is read in place says what the values here say. Reads the file and logs nothing. */
+    /** Whether the tag that is read in place says what the values here say. Reads the
+       file and logs nothing. */
     [[nodiscard]] bool isReadBackAsSaved() const;
     /** After a failed save in place: why. Looks at the file. */
     [[nodiscard]] SaveObstacle whyNotSaved() const;

@@ -29,8 +29,8 @@ struct PortableSaveResult {
 /** Called now and then with the bytes done and those to do; false cancels. */
 using PortableProgress = std::function<bool(quint64 done, quint64 total)>;
 
-/** A save with everything that it needs: it may be run on any thread, once, whatever becomes of the MediaFile that it
-   came from. Where it fails or is cancelled the file is what it was. */
+/** A save with everything that it needs: it may be run on any thread, once, whatever becomes of the MediaFile
+   that it came from. Where it fails or is cancelled the file is what it was. */
 using PortableSave = std::function<PortableSaveResult(const PortableProgress& progress)>;
 
 } // namespace velmora

@@ -14,10 +14,9 @@ public:
     virtual void windowWillClose() = 0;
 };
 
-/** The window of a document. It asks its delegate before it closes: also while a modal loop runs, so that
-   nobody is locked in behind a wait that does not end. A control that gets the keyboard is scrolled into
-   view.
- */
+/** The window of a document. It asks its delegate before it closes: also while a modal loop runs,
+   so that nobody is locked in behind a wait that does not end. A control that gets the keyboard
+   is scrolled into view. */
 class DocumentWindow : public QMainWindow {
     Q_OBJECT
 public:

@@ -56,10 +56,9 @@ Image* imageFromEncoded(const QByteArray& bytes) {
     return image.release();
 }
 
-/** Opens the file at PATH for reading if it is a regular one that begins as a picture does; FILE stays closed
-   otherwise. The first bytes decide before the rest is read: a film chosen by mistake is not pulled into
-   memory.
- */
+/** Opens the file at PATH for reading if it is a regular one that begins as a picture does; FILE
+   stays closed otherwise. The first bytes decide before the rest is read: a film chosen by mistake is
+   not pulled into memory. */
 void openPictureFile(const char* path, QFile& file) {
     const int descriptor = ::open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     struct stat status {};

@@ -11,7 +11,8 @@ namespace velmora {
    did. */
 [[nodiscard]] QByteArray encodedAsJpeg(QImage pixels);
 
-/** The same of quality 90 of 100 and in one pass, for pictures that are to stay as they look. */
+/** PIXELS as a JPEG stream of quality 90 of 100, in one pass, transparency flattened onto white: for pictures
+   that are to stay as they look. Empty when they can't be encoded, as those of a null image. */
 [[nodiscard]] QByteArray encodedAsFineJpeg(QImage pixels);
 
 } // namespace velmora

@@ -26,9 +26,9 @@ inline constexpr int openPanelOk = 1;
 void beginOpenPanelSheet(const OpenPanel& panel, QWidget* window,
                          std::function<void(int returnCode, const QStringList& paths)> didEnd);
 
-/** Shows a panel, called TITLE, that asks where a file is to be saved, as a sheet on WINDOW, and returns at once. It
-   starts with the place and the name of START, and asks before it takes a name that is in use. DID_END gets the return
-   code and the chosen path. */
+/** Shows a panel, called TITLE, that asks where a file is to be saved, as a sheet on WINDOW, and returns at
+   once. It starts with the place and the name of START, and asks before it takes a name that is in use.
+   DID_END gets the return code and the chosen path. */
 void beginSavePanelSheet(const QString& title, const QString& start, QWidget* window,
                          std::function<void(int returnCode, const QStringList& paths)> didEnd);
 

@@ -19,10 +19,9 @@ struct WindowLayout {
     bool isDescending = false;
 };
 
-/** The program keeps no settings that nobody asked for, and the toolkit keeps none in its name: which folders
-   a file panel showed, for one. Nothing is read from such files either. To be called before anything else of
-   the toolkit is used.
- */
+/** The program keeps no settings that nobody asked for, and the toolkit keeps none in its name: which
+   folders a file panel showed, for one. Nothing is read from such files either. To be called before anything
+   else of the toolkit is used. */
 void keepNoSettings();
 
 /** What the user asked to be remembered is in one file, "velmora/settings.ini" in the folder for programs'

@@ -12,8 +12,8 @@
 
 /** The tags that other programs read and write. A file is replaced whole, in one step, or not at all.
 
-    Nothing here throws. May run on any thread; one file is never worked on by two. Paths are in the file
-   system's encoding. */
+   Nothing here throws. May run on any thread; one file is never worked on by two. Paths are in the
+   file system's encoding. */
 namespace velmora::portable {
 
 struct ReadOutcome {

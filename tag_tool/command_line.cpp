@@ -43,8 +43,7 @@ struct Given {
 };
 
 /** ARGUMENTS for the parser: "--name=value" becomes two words, so that a value may be empty, and names behind
-   "--" can't
-    be taken for options. */
+   "--" can't be taken for options. */
 std::vector<std::string> prepared(const std::vector<std::string>& arguments) {
     std::vector<std::string> words;
     bool options = true;

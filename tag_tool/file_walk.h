@@ -12,9 +12,8 @@ struct FoundFile {
 };
 
 /** The files that PATHS stand for, in their order. With RECURSIVE a folder stands for the files in it and
-   below that
-    the program knows by their extensions, in bytewise order of names; linked folders are not entered, and a
-    DVD's folder stands for its video_ts.ifo. Without it a folder is a failure. */
+   below that the program knows by their extensions, in bytewise order of names; linked folders are not
+   entered, and a DVD's folder stands for its video_ts.ifo. Without it a folder is a failure. */
 [[nodiscard]] std::vector<FoundFile> find_files(const std::vector<std::string>& paths, bool recursive);
 
 } // namespace velmora::tag_tool

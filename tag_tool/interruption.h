@@ -3,8 +3,7 @@
 namespace velmora::tag_tool {
 
 /** From now on SIGINT and SIGTERM are noted instead of ending the program, and writes that nobody reads or
-   that are
-    beyond a file size limit fail instead of ending it. */
+   that are beyond a file size limit fail instead of ending it. */
 void note_interruptions();
 
 /** The signal that came, or 0. */

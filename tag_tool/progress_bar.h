@@ -6,8 +6,7 @@
 namespace velmora::tag_tool {
 
 /** A bar on standard error that shows how many of the files are done: where that is a terminal, and they are
-   more than
-    a handful. Gone with the object. */
+   more than a handful. Gone with the object. */
 class ProgressBar {
 public:
     explicit ProgressBar(std::size_t files);

@@ -13,7 +13,9 @@ namespace velmora {
    opened. */
 std::size_t unitobcs(const wchar_t* source, char* target, std::size_t capacity);
 
-/** UTF-8 to wide characters, under the same rules. */
+/** UTF-8 to wide characters. The source ends at its first zero byte. CAPACITY is in bytes; no terminator is
+   written, so callers zero TARGET beforehand. Returns iconv's result, the count of irreversible conversions
+   or (size_t)-1; 0 when no converter could be opened. */
 std::size_t bcstouni(const char* source, wchar_t* target, std::size_t capacity);
 
 } // namespace velmora

@@ -47,9 +47,9 @@ public slots:
 
     /** Reads the page in the view, as a page of the site that the popup shows now, and tells
        formFillInfoReady what it has. Blocks, handling events, until the page and its picture have arrived;
-       called again meanwhile, it does nothing. While a picture is waited for, the panel says so, and its Cancel button
-       or Escape end the wait: the form is then filled without a cover. The panel and its window may go away during that time, and
-       then nothing is told. */
+       called again meanwhile, it does nothing. While a picture is waited for, the panel says so, and its
+       Cancel button or Escape end the wait: the form is then filled without a cover. The panel and its window
+       may go away during that time, and then nothing is told. */
     void formFill();
 
     /** A frame, of the page or inside it, starts to load. */

@@ -5,12 +5,12 @@
 
 namespace velmora {
 
-/** Shows the address of a page, to be read and copied. What could pass for another address is not shown as it came: a
-   user name and a password are left out, and letters other than ASCII stand percent-escaped or, in the host, as IDNA
-   writes them.
+/** Shows the address of a page, to be read and copied. What could pass for another address is not shown as it
+   came: a user name and a password are left out, and letters other than ASCII stand percent-escaped or, in
+   the host, as IDNA writes them.
 
-   An address that is too long for the line loses the front of its host first, whose end tells whose page it is, then
-   the end of its path. With the keyboard's focus the line holds the whole address. */
+   An address that is too long for the line loses the front of its host first, whose end tells whose page it
+   is, then the end of its path. With the keyboard's focus the line holds the whole address. */
 class AddressLine : public QLineEdit {
     Q_OBJECT
 public:

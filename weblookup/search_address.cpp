@@ -35,8 +35,7 @@ std::optional<QUrl> searchAddress(const QString& text, int site, const SearchHos
     const auto index = static_cast<std::size_t>(site);
     const QByteArray base = "http://" + hosts[index].toLatin1() + searchPaths[index];
     // The text is escaped once and then taken as it is: a URL made of plain text would read "50%20" as
-    // escaped already and
-    // "#" as the start of a fragment.
+    // escaped already and "#" as the start of a fragment.
     return QUrl::fromEncoded(base + QUrl::toPercentEncoding(text, legalCharacters));
 }
 

@@ -6,7 +6,8 @@
 
 namespace velmora {
 
-/** Why FAILED, a save of the file at PATH by the ID3, ASF or AVI module, did not succeed. Looks at the file. */
+/** Why FAILED, a save of the file at PATH by the ID3, ASF or AVI module, did not
+   succeed. Looks at the file. */
 [[nodiscard]] SaveObstacle id3Obstacle(const QString& path, const FailedSave& failed);
 [[nodiscard]] SaveObstacle asfObstacle(const QString& path, const FailedSave& failed);
 [[nodiscard]] SaveObstacle aviObstacle(const QString& path, const FailedSave& failed);

@@ -21,8 +21,8 @@ namespace velmora {
    where no tag can be read. Logs both. */
 void readTagInPlace(const MediaKind& kind, QVariantMap& metadata);
 
-/** Writes METADATA into the tag and logs that. Gives what is left of a failure, and the file is then as the tag
-   library leaves it; nothing where it was written. */
+/** Writes METADATA into the tag and logs that. Gives what is left of a failure, and the file is then as the
+   tag library leaves it; nothing where it was written. */
 [[nodiscard]] std::optional<FailedSave> writeTagInPlace(const MediaKind& kind, const QVariantMap& metadata);
 
 /** Whether the tag says what METADATA says. Logs nothing. */

@@ -20,7 +20,8 @@ void check_read(ReadStatus status, const std::string& what);
 [[nodiscard]] std::vector<std::uint8_t> read_bytes(ReadCursor& cursor, std::uint64_t length,
                                                    const std::string& what);
 
-/** The bytes of RANGE, which CURSOR may go to and which are part of WHAT, under the same rule. */
+/** The bytes of RANGE, which CURSOR may go to and which are part of WHAT. The range's size is held against
+   what is left before anything is allocated. */
 [[nodiscard]] std::vector<std::uint8_t> read_range(ReadCursor cursor, Range range, const std::string& what);
 
 } // namespace velmora::portable

@@ -14,9 +14,8 @@ inline constexpr std::uint32_t other = 0;
 inline constexpr std::uint32_t front_cover = 3;
 } // namespace picture_type
 
-/** Which of the pictures with these TYPES (nothing: no picture) are the cover: all front covers, or else the
-   first
-    other picture. */
+/** Which of the pictures with these TYPES (nothing: no picture) are the cover: all front covers, or else
+   the first other picture. */
 [[nodiscard]] inline std::vector<std::size_t>
 cover_places(std::span<const std::optional<std::uint32_t>> types) {
     std::vector<std::size_t> covers;

@@ -17,8 +17,7 @@ inline constexpr std::uint64_t transfer_piece = 8UL * 1024 * 1024;
 void write_at(FIOFUNCSTRUCT* file, std::span<const std::uint8_t> bytes, std::uint64_t position);
 
 /** Copies RANGE of FROM to POSITION of TO, inside the system where it can do that. What FROM does not have
-   any more
-    is `changed_meanwhile`. */
+   any more is `changed_meanwhile`. */
 void copy_range(FIOFUNCSTRUCT* from, const Range& range, FIOFUNCSTRUCT* to, std::uint64_t position,
                 Progress& progress);
 

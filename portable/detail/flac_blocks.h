@@ -34,16 +34,14 @@ struct FlacBlock {
 using FlacBlocks = std::vector<FlacBlock>;
 
 /** The blocks from the stream's marker, at which CURSOR is, up to the last one, behind which it is
-   afterwards. The first
-    of them is the stream's own. */
+   afterwards. The first of them is the stream's own. */
 [[nodiscard]] FlacBlocks read_flac_blocks(ReadCursor& cursor);
 
 /** The places in BLOCKS of the pictures that are the cover, the one that counts first. */
 [[nodiscard]] std::vector<std::size_t> flac_covers(const FlacBlocks& blocks);
 
 /** Puts EDIT, which does not leave the cover alone, into BLOCKS: in the place of the first cover, else in
-   front of the first
-    padding or at the end. */
+   front of the first padding or at the end. */
 void apply_flac_cover(FlacBlocks& blocks, const Edit<Cover>& edit);
 
 /** Lets the last block of padding in BLOCKS take up the difference in size to OLD, so that the frames need

@@ -15,8 +15,7 @@ namespace velmora::portable {
 namespace {
 
 /** A FLAC stream: metadata blocks and frames. Tags of other formats, which some programs put in front of it
-   and behind
-    it, are second places. */
+   and behind it, are second places. */
 class FlacFile : public TaggedFile {
 public:
     FlacFile(FIOFUNCSTRUCT* file, std::uint64_t size, Media media);

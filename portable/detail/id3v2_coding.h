@@ -31,9 +31,9 @@ struct Id3v2ExtendedHeader {
 /** The flags of a frame of 2.4 that is unsynchronised and otherwise plain. */
 inline constexpr std::uint16_t id3v2_unsynchronised_frame = 0x0002;
 
-/** What a frame with BODY and FLAGS holds in a tag of VERSION; ALL_UNSYNCHRONISED: the tag says it of all its
-   frames.
-    Nothing where it is encrypted, does not come out whole, or is larger than this program has a use for. */
+/** What a frame with BODY and FLAGS holds in a tag of VERSION; ALL_UNSYNCHRONISED: the tag says it of
+   all its frames. Nothing where it is encrypted, does not come out whole, or is larger than this
+   program has a use for. */
 [[nodiscard]] std::optional<Bytes> id3v2_frame_content(std::span<const std::uint8_t> body,
                                                        std::uint16_t flags, std::uint8_t version,
                                                        bool all_unsynchronised);

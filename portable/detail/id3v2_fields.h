@@ -12,16 +12,14 @@ namespace velmora::portable {
 [[nodiscard]] TagValues id3v2_values(const Id3v2Tag& tag, Media media);
 
 /** What TAG says once EDITS are in it: a picture that was hidden by the cover shows when that is deleted, and
-   a genre
-    that is a number has a name. */
+   a genre that is a number has a name. */
 [[nodiscard]] TagValues id3v2_values_with(const Id3v2Tag& tag, const TagEdits& edits, Media media);
 
 /** Every frame of TAG, in its order, with the field that it is a place of. */
 [[nodiscard]] std::vector<TagItem> id3v2_items(const Id3v2Tag& tag, Media media);
 
 /** Puts EDITS into TAG. Frames that say already what is asked stay as the bytes that they are. Throws a
-   Refusal where TAG
-    is damaged. */
+   Refusal where TAG is damaged. */
 void id3v2_apply(Id3v2Tag& tag, const TagEdits& edits, Media media);
 
 } // namespace velmora::portable

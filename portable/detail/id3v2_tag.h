@@ -48,8 +48,7 @@ public:
     /** A new one, of version 2.4, without a frame. */
     Id3v2Tag() = default;
     /** The tag that BYTES are, from the header to the end of the tag. Throws a Refusal where they are no
-       whole tag, or
-        one that nothing is known of. Damage among the frames is kept for refuse_damaged(). */
+       whole tag, or one that nothing is known of. Damage among the frames is kept for refuse_damaged(). */
     explicit Id3v2Tag(ByteView bytes);
 
     [[nodiscard]] std::uint8_t version() const { return header_.version; }
@@ -63,15 +62,13 @@ public:
     void refuse_damaged() const;
 
     /** What FRAME holds, with all that its flags and the tag's say undone. Nothing where it is encrypted or
-       does not
-        come out whole. */
+       does not come out whole. */
     [[nodiscard]] std::optional<Bytes> content(const Id3v2Frame& frame) const;
     /** A frame of the tag's version that holds CONTENT. */
     [[nodiscard]] Id3v2Frame frame(std::string id, Bytes content) const;
 
     /** The tag's bytes. They are as many as it was read from where the frames fit well into these, so that
-       what
-        lies behind it need not move; a new tag gets some padding. Throws the Refusal `too_large`. */
+       what lies behind it need not move; a new tag gets some padding. Throws the Refusal `too_large`. */
     [[nodiscard]] Bytes bytes() const;
 
 private:

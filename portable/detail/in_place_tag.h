@@ -12,16 +12,14 @@
 namespace velmora::portable {
 
 /** The tag behind the media that the program writes in place, with that way's table of frames and its
-   decoding
-    (docs/id3.md): texts are UTF-8 under the encoding of ISO 8859-1, a film's title is its album. */
+   decoding (docs/id3.md): texts are UTF-8 under the encoding of ISO 8859-1, a film's title is its album. */
 class InPlaceTag {
 public:
     /** A new one, without a frame. */
     InPlaceTag() = default;
 
     /** The one that ends where the file of SIZE bytes does, and where it begins; nothing where there is none.
-       Throws a
-        Refusal where the file can't be read. */
+       Throws a Refusal where the file can't be read. */
     struct Found;
     [[nodiscard]] static std::optional<Found> find(ReadWindow& window, std::uint64_t size);
 
@@ -33,7 +31,9 @@ public:
     [[nodiscard]] std::vector<Id3v2Frame> other_frames(Media media) const;
     [[nodiscard]] std::uint8_t version() const { return version_; }
     [[nodiscard]] bool empty() const { return frames_.empty(); }
-    /** Writes the tag behind the POSITION bytes of FILE, in the same way. Throws a Refusal. */
+    /** Writes the tag behind the POSITION bytes of FILE as a save in place does, with its header, its frames
+       and its footer, and without a line in the log. Throws a Refusal where the file can't be written,
+       std::bad_alloc where memory is exhausted; what is behind POSITION is undefined then. */
     void store(FIOFUNCSTRUCT* file, std::uint64_t position) const;
 
     friend bool operator==(const InPlaceTag& left, const InPlaceTag& right);

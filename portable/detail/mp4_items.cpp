@@ -28,8 +28,7 @@ struct Place {
 };
 
 /* Of several names of one field the first that says something is read. In a list of `items` all that are
-written get
-   the value; elsewhere those get it that exist. */
+   written get the value; elsewhere those get it that exist. */
 constexpr std::array places = {
     Place{Kind::items, "©nam", Field::title},
     Place{Kind::items, "©ART", Field::artist},

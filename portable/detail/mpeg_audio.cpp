@@ -21,8 +21,7 @@ namespace {
 constexpr std::uint64_t largest_tag = 64UL * 1024 * 1024;
 
 /** MPEG audio: an ID3v2 tag in front of its frames, then an APE tag, lyrics that nobody here reads, an ID3v1
-   block, and the
-    tag that the program writes in place. Each may be missing. */
+   block, and the tag that the program writes in place. Each may be missing. */
 class MpegAudioFile : public TaggedFile {
 public:
     MpegAudioFile(FIOFUNCSTRUCT* file, std::uint64_t size, Media media);

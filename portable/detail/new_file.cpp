@@ -71,8 +71,7 @@ NewFile::~NewFile() {
 }
 
 /** Returns whether the file is this process's own: another one, which cleans up, may have been faster. A file
-   system
-    without locks has none of others to respect. */
+   system without locks has none of others to respect. */
 bool NewFile::lock() {
     const bool taken = ::flock(file_.descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
     struct stat status {};

@@ -7,9 +7,8 @@
 namespace velmora::portable {
 
 /** A file in the making, in the folder where it is to be. It has no name where the file system has such
-   files,
-    and otherwise an exclusive hidden one; it is gone with the object unless it took its place. While it is
-    made it is locked, by which what a killed process left is told from what another one works on. */
+   files, and otherwise an exclusive hidden one; it is gone with the object unless it took its place. While it
+   is made it is locked, by which what a killed process left is told from what another one works on. */
 class NewFile {
 public:
     /** In FOLDER, an open folder's descriptor, which stays the caller's. Throws a Refusal. */
@@ -21,8 +20,7 @@ public:
     [[nodiscard]] FIOFUNCSTRUCT* handle() { return &file_; }
 
     /** Gives the file the name NAME in its folder, in one step: instead of the file that has it where REPLACE
-       is set,
-        and otherwise only where none has. Throws a Refusal; NAME is then what it was. */
+       is set, and otherwise only where none has. Throws a Refusal; NAME is then what it was. */
     void take_place(const std::string& name, bool replace);
 
 private:
@@ -38,8 +36,7 @@ private:
 };
 
 /** Removes from FOLDER, an open folder's descriptor, the hidden files that nobody works on any more. What
-   can't be
-    read or removed is left. */
+   can't be read or removed is left. */
 void remove_left_behind(int folder);
 
 } // namespace velmora::portable

@@ -36,8 +36,7 @@ bool begins_with(std::span<const std::uint8_t> bytes, std::string_view text) {
 }
 
 /** Vorbis or Opus in Ogg: the first page, the pages with the comments and what else is in front of the audio,
-   and the
-    pages of the audio. */
+   and the pages of the audio. */
 class OggFile : public TaggedFile {
 public:
     OggFile(FIOFUNCSTRUCT* file, std::uint64_t size, Media media);
@@ -172,8 +171,7 @@ std::vector<TagItem> OggFile::items() const {
 }
 
 /** Calls TAKE with the place and the header of each whole page behind the comments. Returns where they end:
-   at the file's
-    end, or where no whole page follows. */
+   at the file's end, or where no whole page follows. */
 template <typename Take>
 std::uint64_t OggFile::for_each_audio_page(Take take) const {
     ReadCursor cursor(window_, audio_begin_, size_);

@@ -39,9 +39,8 @@ struct OggPageHeader {
 /** Where in a page the two numbers lie that change when pages are counted anew. */
 inline constexpr Range ogg_counted_bytes{18, 26};
 
-/** The header at CURSOR, which goes behind it. Nothing where there is no whole one. Throws a Refusal where it
-   can't be
-    read. */
+/** The header at CURSOR, which goes behind it. Nothing where there is no whole one. Throws a Refusal
+   where it can't be read. */
 [[nodiscard]] std::optional<OggPageHeader> read_ogg_page_header(ReadCursor& cursor);
 
 /** The whole page of HEADER, whose checksum is computed, and BODY. */

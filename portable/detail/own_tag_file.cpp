@@ -5,9 +5,8 @@ namespace velmora::portable {
 
 namespace {
 
-/** Media of a kind that has no tag that others read, or none at all (a side file): the program's own tag
-   stands
-    behind it. */
+/** Media of a kind that has no tag that others read, or none at all (a side file): the program's own
+   tag stands behind it. */
 class OwnTagFile : public TaggedFile {
 public:
     OwnTagFile(FIOFUNCSTRUCT* file, std::uint64_t size, Media media)

@@ -51,8 +51,9 @@ void avi_mark_incomplete(_avi_item_t* item);
    some. A "RIFF" item and an item without data are their 8-byte header only. Returns 1; 0 after a short
    write, which is logged and leaves what was written so far. */
 [[nodiscard]] int avi_store_item(FIOFUNCSTRUCT* file, const _avi_item_t* item);
-/** The same at CURSOR's position, where it is left behind the item. A large item goes to the file in several
-   commits, in its order. */
+/** Writes the item through CURSOR, at its position, as the bytes that the function above describes, and
+   commits; CURSOR is behind the item then. A large item goes to the file in several commits, in its order.
+   Returns 1; 0 after a short write, which is logged and leaves what was written so far. */
 [[nodiscard]] int avi_store_item(WriteCursor* cursor, const _avi_item_t* item);
 
 /** Inserts a copy of ITEM, whose contents then belong to the tree, in front of the child INDEX; an INDEX

@@ -1,4 +1,5 @@
-// What the line above the form says of a save to come: what it would not store, and what it would store unasked.
+// What the line above the form says of a save to come: what it would not store, and what
+// it would store unasked.
 
 #include "window_fixture.h"
 

@@ -1,6 +1,6 @@
-// The window in each language that the program has a table for: nothing is cut off on a small screen, no letter is given
-// twice, controls are called as they read, and the toolkit speaks the same language. Leaves pictures in the folder
-// "screenshots" of the build.
+// The window in each language that the program has a table for: nothing is cut off on a small screen, no
+// letter is given twice, controls are called as they read, and the toolkit speaks the same language. Leaves
+// pictures in the folder "screenshots" of the build.
 
 #include "window_fixture.h"
 

@@ -28,7 +28,8 @@ using test::written;
 
 constexpr int songs = 12;
 
-/** A song whose tag is of another sort than its neighbours': none, ID3v2.2, 2.3, 2.4, 2.4 behind the frames, ID3v1. */
+/** A song whose tag is of another sort than its neighbours': none, ID3v2.2, 2.3, 2.4, 2.4
+   behind the frames, ID3v1. */
 std::string mixedSong(int index) {
     const std::string title = "Old " + std::to_string(index);
     const std::string latin1 = std::string(1, '\0') + title;

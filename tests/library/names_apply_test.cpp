@@ -1,4 +1,5 @@
-// New names that files get from one another, and applies that follow one another, in the library table's window.
+// New names that files get from one another, and applies that follow one another, in the
+// library table's window.
 
 #include "library/library_window.h"
 #include "tagged_songs.h"

@@ -25,7 +25,8 @@ using Remedy = SaveObstacle::Remedy;
 class InPlaceObstacleTest : public testing::Test {
 protected:
     QString path(const std::string& name) { return QString::fromStdString(folder_ / name); }
-    /** Why the file of NAME, made of BYTES, can't be saved with a new title; BEFORE is called in front of the save. */
+    /** Why the file of NAME, made of BYTES, can't be saved with a new title; BEFORE is called
+       in front of the save. */
     SaveObstacle whyNotSaved(
         const std::string& name, const std::string& bytes, const std::function<void()>& before = [] {}) {
         test::write_file(folder_ / name, bytes);

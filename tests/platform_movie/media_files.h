@@ -20,7 +20,7 @@ public:
        pixels. In its first second the quarters are red and green above blue and white, in its second one all
        is yellow. */
     QString film(const std::string& name, const std::vector<std::string>& encoding);
-    /** The same with a sound track. */
+    /** The path of NAME, made with ENCODING from the film that film() describes and a sound track. */
     QString filmWithSound(const std::string& name, const std::vector<std::string>& encoding);
     /** Two seconds of sound. */
     QString sound(const std::string& name, const std::vector<std::string>& encoding);

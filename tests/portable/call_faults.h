@@ -5,9 +5,8 @@
 #include <vector>
 
 /** Makes chosen calls of the system fail in a replacement of a file: those that the portable tags and the
-   byte layer under
-    them make. Programs that link velmora_call_faults lead them through here; without an object of the class
-    they reach the system unchanged. */
+   byte layer under them make. Programs that link velmora_call_faults lead them through here; without an
+   object of the class they reach the system unchanged. */
 namespace velmora::test {
 
 /** What becomes of a call. */

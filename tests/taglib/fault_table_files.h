@@ -34,7 +34,7 @@ struct MediaSample {
 
 /** Media of SIZE bytes with an ID3v2.4 tag behind it. */
 [[nodiscard]] MediaSample id3_appended_sample(std::size_t size);
-/** The same with the tag in front. */
+/** Media of SIZE bytes with an ID3v2.4 tag in front of it. */
 [[nodiscard]] MediaSample id3_leading_sample(std::size_t size);
 /** An ID3v2.4 tag with a footer and nothing else. */
 [[nodiscard]] MediaSample id3_side_file_sample();

@@ -17,8 +17,9 @@ namespace velmora {
    beforehand. */
 void utf16le_to_utf8(const void* source, std::size_t length, char* target, std::size_t capacity);
 
-/** Converts zero-terminated UTF-8 text under the same rules; it stops at the first invalid byte. CAPACITY
-   in bytes. */
+/** Converts SOURCE, zero-terminated UTF-8 text, into TARGET, at most CAPACITY bytes. Stops at the first
+   invalid byte and at the first character that no longer fits whole; what was converted until then stays. No
+   terminator is written: callers zero TARGET beforehand. */
 void utf8_to_utf16le(const char* source, void* target, std::size_t capacity);
 
 /** A text of a file, which may lack its terminator, in the form that "%S" of DebugInfo takes: as much of it

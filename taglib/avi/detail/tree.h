@@ -17,8 +17,9 @@ public:
        other. */
     [[nodiscard]] bool read(FIOFUNCSTRUCT* file);
 
-    /** Reads the tree of FILE, which is to be written. errno as above; it is 5 also where a part of the
-       header that the file has could not be read, because what is not known would be overwritten. */
+    /** Reads the tree of FILE, which is to be written. On failure errno is 78 for a file with more than one
+       RIFF chunk and 5 for any other; it fails also where a part of the header that the file has could not be
+       read, because what is not known would be overwritten. */
     [[nodiscard]] bool read_for_writing(FIOFUNCSTRUCT* file);
 
     /** The first top-level INFO list, or null. To be asked for again after each insert into the root. */

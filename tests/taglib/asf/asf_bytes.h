@@ -33,7 +33,7 @@ inline constexpr std::string_view other_name = "{8cabdca1-a947-11cf-8ee4-00c00c2
 
 /** ASCII text as UTF-16LE without a terminator. */
 [[nodiscard]] std::string wide(std::string_view ascii);
-/** The same with its terminating zero unit; nothing for an empty text. */
+/** ASCII text as UTF-16LE with its terminating zero unit; nothing for an empty text. */
 [[nodiscard]] std::string wide_z(std::string_view ascii);
 
 /** An object whose size field tells the truth. */
@@ -59,7 +59,7 @@ inline constexpr std::string_view other_name = "{8cabdca1-a947-11cf-8ee4-00c00c2
 
 /** A header object around CHILDREN, with reserved bytes 01 02. */
 [[nodiscard]] std::string header_object(std::initializer_list<std::string> children);
-/** The same with this size field. */
+/** A header object around CHILDREN, with reserved bytes 01 02 and this size field. */
 [[nodiscard]] std::string header_object_of_size(std::uint64_t size,
                                                 std::initializer_list<std::string> children);
 
