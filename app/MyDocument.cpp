@@ -1,5 +1,7 @@
 #include "MyDocument.h"
 
+#include "ui_MyDocument.h"
+
 #include "browser/VelmoraController.h"
 #include "library/library_window.h"
 #include "platform/alert.h"
@@ -7,7 +9,6 @@
 #include "platform/localisation.h"
 #include "platform/log.h"
 #include "platform/modal_loop.h"
-#include "ui_MyDocument.h"
 #include "weblookup/TagWebBrowser.h"
 
 namespace velmora {

@@ -1,6 +1,7 @@
 // What the document's window looks like at the start, when the user wanted that to be remembered.
 
 #include "MyDocument.h"
+#include "ui_MyDocument.h"
 #include "window_layout.h"
 
 #include "browser/media_list.h"
@@ -8,7 +9,6 @@
 #include "browser/tag_form.h"
 #include "platform/localisation.h"
 #include "platform/settings.h"
-#include "ui_MyDocument.h"
 
 #include <algorithm>
 

@@ -3,6 +3,7 @@
 #include "MyDocument.h"
 #include "file_drops.h"
 #include "help_menu.h"
+#include "ui_MyDocument.h"
 
 #include "browser/VelmoraController.h"
 #include "browser/media_list.h"
@@ -13,7 +14,6 @@
 #include "platform/alt_letters.h"
 #include "platform/settings.h"
 #include "platform/symbol.h"
-#include "ui_MyDocument.h"
 #include "weblookup/TagWebBrowser.h"
 
 #include <QClipboard>

@@ -1,12 +1,12 @@
 #include "media_list.h"
 
 #include "search_summary.h"
+#include "ui_media_list.h"
 
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "platform/symbol.h"
 #include "platform/wrapping_layout.h"
-#include "ui_media_list.h"
 
 #include <algorithm>
 

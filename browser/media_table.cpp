@@ -1,6 +1,7 @@
 #include "media_table.h"
 
 #include "detail/media_table_columns.h"
+
 #include "platform/file_path.h"
 
 #include <QGuiApplication>

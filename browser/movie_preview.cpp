@@ -1,8 +1,9 @@
 #include "movie_preview.h"
 
+#include "ui_movie_preview.h"
+
 #include "platform/log.h"
 #include "platform/symbol.h"
-#include "ui_movie_preview.h"
 
 #include <QEvent>
 #include <QTimer>

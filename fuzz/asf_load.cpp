@@ -1,4 +1,5 @@
 #include "tag_edit.h"
+
 #include "taglib/asf/load_file_info.h"
 
 #include <cerrno>

@@ -1,4 +1,5 @@
 #include "tag_edit.h"
+
 #include "taglib/avi/load_file_info.h"
 
 #include <cerrno>

@@ -1,4 +1,5 @@
 #include "harness.h"
+
 #include "platform/web/detail/dom_snapshot.h"
 #include "weblookup/detail/imdb_page.h"
 #include "weblookup/detail/store_page.h"

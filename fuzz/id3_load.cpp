@@ -1,4 +1,5 @@
 #include "tag_edit.h"
+
 #include "taglib/id3/load_file_info.h"
 
 /** Input: a file with an ID3 tag. */

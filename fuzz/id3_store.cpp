@@ -1,4 +1,5 @@
 #include "tag_edit.h"
+
 #include "taglib/id3/load_file_info.h"
 #include "taglib/id3/reader.h"
 #include "taglib/id3/remove_file_info.h"

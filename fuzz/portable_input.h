@@ -1,6 +1,7 @@
 #pragma once
 
 #include "harness.h"
+
 #include "portable/portable_tags.h"
 
 /** What the targets for the portable tags share. */

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "harness.h"
+
 #include "taglib/file_info.h"
 
 /** The record that a store target stores. */

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "image_decode.h"
+
 #include "image_seam/image.h"
 
 #include <QImage>

@@ -1,9 +1,10 @@
 #include "change_files.h"
 
 #include "interruption.h"
-#include "portable/portable_tags.h"
 #include "printing.h"
 #include "progress_bar.h"
+
+#include "portable/portable_tags.h"
 
 namespace velmora::tag_tool {
 

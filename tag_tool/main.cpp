@@ -2,9 +2,10 @@
 #include "command_line.h"
 #include "file_walk.h"
 #include "interruption.h"
-#include "portable/picture_header.h"
 #include "printing.h"
 #include "show_files.h"
+
+#include "portable/picture_header.h"
 
 #include <cerrno>
 #include <cstdio>

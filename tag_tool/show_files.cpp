@@ -1,10 +1,11 @@
 #include "show_files.h"
 
 #include "interruption.h"
-#include "portable/picture_header.h"
-#include "portable/portable_tags.h"
 #include "printing.h"
 #include "progress_bar.h"
+
+#include "portable/picture_header.h"
+#include "portable/portable_tags.h"
 
 #include <nlohmann/json.hpp>
 

@@ -2,7 +2,6 @@
 
 #include "detail/trace_format.h"
 #include "detail/trace_line.h"
-
 #include "log_seam/patient_write.h"
 
 #include <cerrno>

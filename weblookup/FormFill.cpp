@@ -2,8 +2,9 @@
 
 #include "detail/imdb_page.h"
 #include "detail/store_page.h"
-#include "platform/web/web_view.h"
 #include "search_address.h"
+
+#include "platform/web/web_view.h"
 
 namespace velmora {
 

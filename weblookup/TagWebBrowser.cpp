@@ -1,13 +1,14 @@
 #include "TagWebBrowser.h"
 
 #include "FormFill.h"
+#include "ui_TagWebBrowser.h"
+
 #include "platform/alt_letters.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
 #include "platform/symbol.h"
 #include "platform/web/image_fetch.h"
 #include "platform/wheel_needs_focus.h"
-#include "ui_TagWebBrowser.h"
 
 #include <QPointer>
 #include <QTimer>

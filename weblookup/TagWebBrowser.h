@@ -1,8 +1,9 @@
 #pragma once
 
+#include "search_address.h"
+
 #include "platform/image.h"
 #include "platform/web/web_view.h"
-#include "search_address.h"
 
 #include <QUrl>
 #include <QWidget>

@@ -1,6 +1,7 @@
 #include "image_fetch.h"
 
 #include "detail/input_block.h"
+
 #include "platform/modal_loop.h"
 
 #include <QAbstractButton>

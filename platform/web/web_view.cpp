@@ -2,6 +2,7 @@
 
 #include "detail/dom_snapshot.h"
 #include "detail/input_block.h"
+
 #include "platform/accessibility.h"
 #include "platform/localisation.h"
 #include "platform/modal_loop.h"

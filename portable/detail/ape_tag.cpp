@@ -1,10 +1,11 @@
 #include "ape_tag.h"
 
-#include "../reason.h"
 #include "date_text.h"
 #include "id3v2_text.h"
 #include "picture_mime.h"
 #include "text.h"
+
+#include "portable/reason.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,8 +1,9 @@
 #include "asf_attributes.h"
 
-#include "../reason.h"
 #include "asf_guids.h"
 #include "text.h"
+
+#include "portable/reason.h"
 
 #include <array>
 

@@ -1,7 +1,8 @@
 #include "asf_edits.h"
 
-#include "../reason.h"
 #include "date_text.h"
+
+#include "portable/reason.h"
 
 #include <algorithm>
 #include <functional>

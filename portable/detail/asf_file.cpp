@@ -1,8 +1,9 @@
-#include "../reason.h"
 #include "asf_edits.h"
 #include "asf_header.h"
 #include "formats.h"
 #include "splices.h"
+
+#include "portable/reason.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "byte_appending.h"
+
 #include "taglib/asf/guids.h"
 
 #include <cstdint>

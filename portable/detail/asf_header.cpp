@@ -1,6 +1,6 @@
 #include "asf_header.h"
 
-#include "../reason.h"
+#include "portable/reason.h"
 
 #include <algorithm>
 

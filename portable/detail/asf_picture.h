@@ -1,6 +1,7 @@
 #pragma once
 
 #include "byte_appending.h"
+
 #include "portable/tag_values.h"
 
 #include <cstdint>

@@ -1,4 +1,3 @@
-#include "../reason.h"
 #include "checked_read.h"
 #include "chunk.h"
 #include "formats.h"
@@ -6,6 +5,8 @@
 #include "refusals.h"
 #include "riff_info.h"
 #include "splices.h"
+
+#include "portable/reason.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "checked_read.h"
 
-#include "../reason.h"
+#include "portable/reason.h"
 
 #include <cerrno>
 

@@ -1,6 +1,6 @@
 #include "flac_picture.h"
 
-#include "../picture_header.h"
+#include "portable/picture_header.h"
 
 #include <array>
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "portable/tag_values.h"
 #include "tagged_file.h"
+
+#include "portable/tag_values.h"
 
 #include <array>
 #include <cstdint>

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "id3v2_tag.h"
+#include "tagged_file.h"
+
 #include "portable/media_kind.h"
 #include "portable/tag_values.h"
-#include "tagged_file.h"
 
 /** The nine fields in an ID3v2 tag, of whatever version: docs/portable-tags.md says which frames they are. */
 namespace velmora::portable {

@@ -1,7 +1,8 @@
 #include "id3v2_tag.h"
 
-#include "../reason.h"
 #include "id3v2_coding.h"
+
+#include "portable/reason.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #include "in_place_frames.h"
 
-#include "../reason.h"
 #include "id3v2_text.h"
 #include "text.h"
 
+#include "portable/reason.h"
 #include "taglib/id3/genres.h"
 #include "taglib/id3/text.h"
 

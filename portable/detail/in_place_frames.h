@@ -1,6 +1,7 @@
 #pragma once
 
 #include "id3v2_tag.h"
+
 #include "portable/tag_values.h"
 
 #include <optional>

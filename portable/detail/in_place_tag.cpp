@@ -1,10 +1,10 @@
 #include "in_place_tag.h"
 
-#include "../reason.h"
 #include "checked_read.h"
 #include "in_place_frames.h"
 #include "system_refusal.h"
 
+#include "portable/reason.h"
 #include "taglib/id3/descriptor.h"
 #include "taglib/id3/reader.h"
 #include "taglib/id3/text.h"

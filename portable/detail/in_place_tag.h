@@ -1,10 +1,10 @@
 #pragma once
 
 #include "id3v2_tag.h"
-#include "portable/media_kind.h"
-#include "portable/tag_values.h"
 #include "tagged_file.h"
 
+#include "portable/media_kind.h"
+#include "portable/tag_values.h"
 #include "taglib/read_cursor.h"
 
 #include <optional>

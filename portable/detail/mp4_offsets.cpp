@@ -1,7 +1,8 @@
 #include "mp4_offsets.h"
 
-#include "../reason.h"
 #include "refusals.h"
+
+#include "portable/reason.h"
 
 #include <algorithm>
 #include <limits>

@@ -4,10 +4,10 @@
 #include "id3v1_tag.h"
 #include "id3v2_fields.h"
 #include "in_place_tag.h"
+#include "save_edits.h"
 #include "several_tags.h"
 
-#include "../reason.h"
-#include "save_edits.h"
+#include "portable/reason.h"
 
 #include <algorithm>
 #include <array>

@@ -7,7 +7,7 @@
 #include "text.h"
 #include "vorbis_comments.h"
 
-#include "../reason.h"
+#include "portable/reason.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "refusals.h"
 
-#include "../reason.h"
+#include "portable/reason.h"
 
 namespace velmora::portable {
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chunk.h"
+
 #include "portable/media_kind.h"
 
 /** The INFO lists of RIFF files. A file may have several; they are read as one, and written as one. */

@@ -1,7 +1,8 @@
 #include "save_edits.h"
 
-#include "../reason.h"
 #include "text.h"
+
+#include "portable/reason.h"
 
 namespace velmora::portable {
 

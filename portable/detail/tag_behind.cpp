@@ -1,7 +1,8 @@
 #include "tag_behind.h"
 
-#include "../reason.h"
 #include "in_place_tag.h"
+
+#include "portable/reason.h"
 
 #include <numeric>
 

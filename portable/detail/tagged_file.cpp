@@ -1,8 +1,9 @@
 #include "tagged_file.h"
 
-#include "../reason.h"
 #include "formats.h"
 #include "tag_behind.h"
+
+#include "portable/reason.h"
 
 namespace velmora::portable {
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "taglib/fio.h"
-
 #include "portable/media_kind.h"
 #include "portable/tag_values.h"
+#include "taglib/fio.h"
 
 #include <cstdint>
 #include <functional>

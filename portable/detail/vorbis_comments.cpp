@@ -1,10 +1,11 @@
 #include "vorbis_comments.h"
 
-#include "../reason.h"
 #include "date_text.h"
 #include "id3v2_text.h"
 #include "save_edits.h"
 #include "text.h"
+
+#include "portable/reason.h"
 
 #include <algorithm>
 

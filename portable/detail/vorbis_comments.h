@@ -1,8 +1,9 @@
 #pragma once
 
 #include "byte_appending.h"
-#include "portable/tag_values.h"
 #include "tagged_file.h"
+
+#include "portable/tag_values.h"
 
 #include <optional>
 #include <span>

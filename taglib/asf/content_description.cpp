@@ -1,12 +1,13 @@
 #include "content_description.h"
 
-#include "../byte_order.h"
-#include "../trace.h"
 #include "detail/cursor_readers.h"
 #include "detail/object_writer.h"
 #include "detail/owned.h"
 #include "detail/utf16.h"
 #include "guids.h"
+
+#include "taglib/byte_order.h"
+#include "taglib/trace.h"
 
 #include <array>
 

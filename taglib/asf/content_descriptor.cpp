@@ -1,13 +1,14 @@
 #include "content_descriptor.h"
 
-#include "../byte_order.h"
 #include "../detail/trace_line.h"
-#include "../trace.h"
 #include "descriptor_value.h"
 #include "detail/cursor_readers.h"
 #include "detail/object_writer.h"
 #include "detail/owned.h"
 #include "detail/utf16.h"
+
+#include "taglib/byte_order.h"
+#include "taglib/trace.h"
 
 #include <array>
 #include <cstring>

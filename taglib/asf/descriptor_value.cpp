@@ -1,8 +1,9 @@
 #include "descriptor_value.h"
 
-#include "../byte_order.h"
 #include "detail/owned.h"
 #include "detail/utf16.h"
+
+#include "taglib/byte_order.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,8 +1,6 @@
 #include "ext_content_description.h"
 
-#include "../byte_order.h"
 #include "../detail/trace_line.h"
-#include "../trace.h"
 #include "descriptor_value.h"
 #include "detail/cursor_readers.h"
 #include "detail/object_writer.h"
@@ -10,6 +8,9 @@
 #include "detail/packed_descriptors.h"
 #include "detail/utf16.h"
 #include "guids.h"
+
+#include "taglib/byte_order.h"
+#include "taglib/trace.h"
 
 #include <algorithm>
 #include <array>

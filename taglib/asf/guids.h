@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../guid.h"
+#include "taglib/guid.h"
 
 #include <cstdint>
 

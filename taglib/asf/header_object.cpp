@@ -1,13 +1,14 @@
 #include "header_object.h"
 
-#include "../byte_order.h"
-#include "../trace.h"
 #include "content_description.h"
 #include "detail/cursor_readers.h"
 #include "detail/object_writer.h"
 #include "detail/owned.h"
 #include "ext_content_description.h"
 #include "guids.h"
+
+#include "taglib/byte_order.h"
+#include "taglib/trace.h"
 
 #include <algorithm>
 #include <array>

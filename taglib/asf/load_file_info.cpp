@@ -1,7 +1,5 @@
 #include "load_file_info.h"
 
-#include "../byte_order.h"
-#include "../trace.h"
 #include "content_description.h"
 #include "descriptor_value.h"
 #include "detail/owned_header.h"
@@ -10,6 +8,9 @@
 #include "ext_content_description.h"
 #include "guids.h"
 #include "picture.h"
+
+#include "taglib/byte_order.h"
+#include "taglib/trace.h"
 
 #include <algorithm>
 #include <cerrno>

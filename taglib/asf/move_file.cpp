@@ -1,10 +1,11 @@
 #include "move_file.h"
 
 #include "../detail/move_pieces.h"
-#include "../trace.h"
-#include "../write_cursor.h"
 #include "detail/cursor_readers.h"
 #include "detail/owned.h"
+
+#include "taglib/trace.h"
+#include "taglib/write_cursor.h"
 
 #include <algorithm>
 #include <unistd.h>

@@ -1,9 +1,10 @@
 #include "object.h"
 
-#include "../byte_order.h"
 #include "../detail/trace_line.h"
 #include "detail/cursor_readers.h"
 #include "detail/object_writer.h"
+
+#include "taglib/byte_order.h"
 
 #include <algorithm>
 #include <array>

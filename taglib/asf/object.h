@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../fio.h"
-#include "../guid.h"
+#include "taglib/fio.h"
+#include "taglib/guid.h"
 
 #include <cstdint>
 

@@ -1,11 +1,12 @@
 #include "picture.h"
 
-#include "../byte_order.h"
 #include "../detail/image_calls.h"
-#include "../trace.h"
 #include "descriptor_value.h"
 #include "detail/owned.h"
 #include "detail/utf16.h"
+
+#include "taglib/byte_order.h"
+#include "taglib/trace.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ext_content_description.h"
+
 #include "image_seam/image.h"
 
 /** Cover art: the value of the "WM/Picture" attribute, a byte array (docs/asf.md, "Cover picture"). */

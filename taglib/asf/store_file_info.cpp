@@ -1,6 +1,5 @@
 #include "store_file_info.h"
 
-#include "../trace.h"
 #include "content_description.h"
 #include "detail/apply_file_info.h"
 #include "detail/object_writer.h"
@@ -8,6 +7,8 @@
 #include "ext_content_description.h"
 #include "guids.h"
 #include "move_file.h"
+
+#include "taglib/trace.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,6 +1,6 @@
 #include "fourcc.h"
 
-#include "../byte_order.h"
+#include "taglib/byte_order.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,10 @@
 #include "header_reader.h"
 
-#include "../byte_order.h"
-#include "../read_cursor.h"
-#include "../trace.h"
 #include "detail/item_memory.h"
+
+#include "taglib/byte_order.h"
+#include "taglib/read_cursor.h"
+#include "taglib/trace.h"
 
 #include <algorithm>
 #include <array>

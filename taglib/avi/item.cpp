@@ -1,7 +1,8 @@
 #include "item.h"
 
-#include "../trace.h"
 #include "detail/item_memory.h"
+
+#include "taglib/trace.h"
 
 #include <algorithm>
 #include <functional>

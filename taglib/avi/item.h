@@ -1,8 +1,9 @@
 #pragma once
 
-#include "../fio.h"
-#include "../write_cursor.h"
 #include "fourcc.h"
+
+#include "taglib/fio.h"
+#include "taglib/write_cursor.h"
 
 #include <cstdint>
 

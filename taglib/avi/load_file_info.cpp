@@ -1,11 +1,12 @@
 #include "load_file_info.h"
 
-#include "../byte_file.h"
-#include "../trace.h"
 #include "detail/tag_fields.h"
 #include "detail/tree.h"
 #include "item_data.h"
 #include "picture.h"
+
+#include "taglib/byte_file.h"
+#include "taglib/trace.h"
 
 #include <array>
 #include <cerrno>

@@ -1,9 +1,10 @@
 #include "move_file.h"
 
 #include "../detail/move_pieces.h"
-#include "../read_cursor.h"
-#include "../trace.h"
-#include "../write_cursor.h"
+
+#include "taglib/read_cursor.h"
+#include "taglib/trace.h"
+#include "taglib/write_cursor.h"
 
 #include <algorithm>
 #include <memory>

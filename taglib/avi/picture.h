@@ -1,7 +1,8 @@
 #pragma once
 
-#include "image_seam/image.h"
 #include "item.h"
+
+#include "image_seam/image.h"
 
 /** Cover art in the INFO list: an encoded image as the bytes of a sub-chunk, without a header of its own. */
 namespace velmora {

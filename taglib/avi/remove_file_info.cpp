@@ -1,9 +1,10 @@
 #include "remove_file_info.h"
 
-#include "../byte_file.h"
-#include "../trace.h"
-#include "../write_cursor.h"
 #include "detail/tree.h"
+
+#include "taglib/byte_file.h"
+#include "taglib/trace.h"
+#include "taglib/write_cursor.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,12 +1,13 @@
 #include "store_file_info.h"
 
-#include "../byte_file.h"
-#include "../trace.h"
-#include "../write_cursor.h"
 #include "detail/tag_fields.h"
 #include "detail/tree.h"
 #include "item_data.h"
 #include "picture.h"
+
+#include "taglib/byte_file.h"
+#include "taglib/trace.h"
+#include "taglib/write_cursor.h"
 
 #include <array>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #include "trace_format.h"
 
-#include "../byte_order.h"
+#include "taglib/byte_order.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "taglib/trace.h"
 #include "trace_format.h"
+
+#include "taglib/trace.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "header_v1.h"
 
-#include "../read_cursor.h"
-#include "../trace.h"
+#include "taglib/read_cursor.h"
+#include "taglib/trace.h"
 
 namespace velmora {
 

@@ -1,7 +1,5 @@
 #include "load_file_info.h"
 
-#include "../byte_file.h"
-#include "../trace.h"
 #include "detail/tag_fields.h"
 #include "genres.h"
 #include "header_v1.h"
@@ -9,6 +7,9 @@
 #include "reader.h"
 #include "text.h"
 #include "time_text.h"
+
+#include "taglib/byte_file.h"
+#include "taglib/trace.h"
 
 #include <algorithm>
 #include <cstdlib>

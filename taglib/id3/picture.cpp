@@ -1,9 +1,10 @@
 #include "picture.h"
 
 #include "../detail/image_calls.h"
-#include "../path.h"
-#include "../trace.h"
 #include "text.h"
+
+#include "taglib/path.h"
+#include "taglib/trace.h"
 
 #include <climits>
 #include <cstdio>

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "../guid.h"
 #include "descriptor.h"
+
 #include "image_seam/image.h"
+#include "taglib/guid.h"
 
 /** Cover art in APIC frames and in album art files (docs/id3.md, "Pictures"). */
 namespace velmora {

@@ -1,10 +1,11 @@
 #include "reader.h"
 
-#include "../byte_order.h"
-#include "../read_cursor.h"
-#include "../trace.h"
 #include "detail/tag_search.h"
 #include "text.h"
+
+#include "taglib/byte_order.h"
+#include "taglib/read_cursor.h"
+#include "taglib/trace.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "../read_window.h"
 #include "descriptor.h"
+
+#include "taglib/read_window.h"
 
 /** Finding and reading an ID3v2 tag. With AT_END set the tag is looked for through its footer in the file's
    last ten bytes, else at offset 0. Version 2 tags pass the version test but are read with the ten-byte frame

@@ -1,11 +1,12 @@
 #include "remove_file_info.h"
 
-#include "../byte_file.h"
-#include "../trace.h"
-#include "../write_cursor.h"
 #include "detail/tag_search.h"
 #include "header_v1.h"
 #include "reader.h"
+
+#include "taglib/byte_file.h"
+#include "taglib/trace.h"
+#include "taglib/write_cursor.h"
 
 #include <fcntl.h>
 #include <limits>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../fio.h"
+#include "taglib/fio.h"
 
 namespace velmora {
 

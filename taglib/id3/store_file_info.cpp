@@ -1,14 +1,15 @@
 #include "store_file_info.h"
 
-#include "../byte_file.h"
-#include "../path.h"
-#include "../trace.h"
-#include "../write_cursor.h"
 #include "detail/store_fields.h"
 #include "header_v1.h"
 #include "reader.h"
 #include "tag_header.h"
 #include "writer.h"
+
+#include "taglib/byte_file.h"
+#include "taglib/path.h"
+#include "taglib/trace.h"
+#include "taglib/write_cursor.h"
 
 #include <cerrno>
 #include <cstdio>

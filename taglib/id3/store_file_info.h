@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../file_info.h"
+#include "taglib/file_info.h"
 
 namespace velmora {
 

@@ -1,6 +1,6 @@
 #include "text.h"
 
-#include "../trace.h"
+#include "taglib/trace.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../filetime.h"
+#include "taglib/filetime.h"
 
 #include <cstddef>
 

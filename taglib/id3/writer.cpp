@@ -1,10 +1,11 @@
 #include "writer.h"
 
-#include "../byte_order.h"
-#include "../trace.h"
-#include "../write_cursor.h"
 #include "tag_header.h"
 #include "text.h"
+
+#include "taglib/byte_order.h"
+#include "taglib/trace.h"
+#include "taglib/write_cursor.h"
 
 #include <cstring>
 

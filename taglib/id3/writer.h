@@ -1,7 +1,8 @@
 #pragma once
 
-#include "../fio.h"
 #include "descriptor.h"
+
+#include "taglib/fio.h"
 
 #include <cstdint>
 

@@ -2,10 +2,9 @@
 
 #include "window_fixture.h"
 
-#include "support/bytes.h"
-
 #include "app/guide_window.h"
 #include "app/keyboard_window.h"
+#include "support/bytes.h"
 
 #include <QAbstractButton>
 #include <QAction>

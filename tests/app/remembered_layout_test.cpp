@@ -2,9 +2,8 @@
 
 #include "window_fixture.h"
 
-#include "support/bytes.h"
-
 #include "browser/notice_bar.h"
+#include "support/bytes.h"
 
 #include <QAction>
 #include <QFile>

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "browser/media_document.h"
-
 #include "platform/file_path.h"
 
 #include <QStringList>

@@ -1,8 +1,8 @@
 #include "browser/media_row.h"
 
-#include "platform/file_path.h"
-
 #include "made_locale.h"
+
+#include "platform/file_path.h"
 #include "support/bytes.h"
 #include "support/qt_printing.h"
 #include "support/scratch_folder.h"

@@ -1,6 +1,7 @@
 #include "browser/media_rows.h"
 
 #include "row_maker.h"
+
 #include "support/qt_printing.h"
 
 #include <QStringList>

@@ -1,7 +1,6 @@
 #include "browser/media_search.h"
 
 #include "platform/file_path.h"
-
 #include "support/bytes.h"
 #include "support/qt_printing.h"
 #include "support/scratch_folder.h"

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "browser/media_table.h"
-
 #include "fake_media_document.h"
 #include "row_maker.h"
+
+#include "browser/media_table.h"
 #include "support/qt_printing.h"
 
 #include <QApplication>

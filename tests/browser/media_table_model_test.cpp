@@ -1,8 +1,8 @@
 #include "browser/media_table_model.h"
 
-#include "platform/assertion.h"
-
 #include "row_maker.h"
+
+#include "platform/assertion.h"
 #include "support/qt_printing.h"
 
 #include <QAbstractItemModelTester>

@@ -1,4 +1,5 @@
 #include "cover_art_fixture.h"
+
 #include "support/contrast.h"
 #include "support/drag_session.h"
 

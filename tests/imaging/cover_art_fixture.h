@@ -1,7 +1,6 @@
 #pragma once
 
 #include "imaging/CoverArtView.h"
-
 #include "support/pictures.h"
 #include "support/stream_capture.h"
 

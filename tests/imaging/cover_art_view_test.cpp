@@ -1,7 +1,7 @@
 #include "cover_art_fixture.h"
-#include "support/drag_session.h"
 
 #include "support/bytes.h"
+#include "support/drag_session.h"
 #include "support/pictures.h"
 #include "support/scratch_folder.h"
 

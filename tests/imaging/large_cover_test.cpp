@@ -1,6 +1,7 @@
 // Covers that are too large to be decoded at once.
 
 #include "cover_art_fixture.h"
+
 #include "support/pictures.h"
 
 #include <QApplication>

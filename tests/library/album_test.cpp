@@ -1,8 +1,8 @@
 // An album of mixed tags, edited as a whole with the keyboard; mutagen reads it as other programs do.
 
-#include "library/library_window.h"
 #include "tagged_songs.h"
 
+#include "library/library_window.h"
 #include "support/command.h"
 #include "support/pictures.h"
 #include "support/waiting.h"

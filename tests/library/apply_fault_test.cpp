@@ -1,9 +1,9 @@
 // An apply of many files that is killed, or whose disk is full, in the middle.
 
 #include "../portable/call_faults.h"
-#include "library/apply_run.h"
 #include "tagged_songs.h"
 
+#include "library/apply_run.h"
 #include "portable/portable_tags.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // Edits of many files written into them and taken back; mutagen reads them as other programs do.
 
-#include "library/apply_run.h"
-#include "library/library_columns.h"
 #include "tagged_songs.h"
 
+#include "library/apply_run.h"
+#include "library/library_columns.h"
 #include "portable/portable_tags.h"
 #include "support/command.h"
 

@@ -1,8 +1,8 @@
 // The library table's window with songs that lie on the disk.
 
-#include "library/library_window.h"
 #include "tagged_songs.h"
 
+#include "library/library_window.h"
 #include "support/waiting.h"
 
 #include <QHeaderView>

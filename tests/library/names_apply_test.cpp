@@ -1,9 +1,9 @@
 // New names that files get from one another, and applies that follow one another, in the
 // library table's window.
 
-#include "library/library_window.h"
 #include "tagged_songs.h"
 
+#include "library/library_window.h"
 #include "support/waiting.h"
 
 #include <QApplication>

@@ -1,9 +1,9 @@
 // Tags from names and names from tags, asked for in the library table's window with the keyboard.
 
-#include "library/library_window.h"
-#include "library/names_dialog.h"
 #include "tagged_songs.h"
 
+#include "library/library_window.h"
+#include "library/names_dialog.h"
 #include "support/waiting.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
-#include "library/tag_reader.h"
 #include "tagged_songs.h"
 
+#include "library/tag_reader.h"
 #include "support/waiting.h"
 
 #include <gtest/gtest.h>

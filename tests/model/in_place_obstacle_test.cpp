@@ -2,10 +2,8 @@
 
 #include "model/MediaFile.h"
 #include "model/detail/in_place_obstacle.h"
-
 #include "support/bytes.h"
 #include "support/id3_tags.h"
-
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
 

@@ -1,7 +1,6 @@
 #include "platform/file_icon.h"
 
 #include "platform/file_path.h"
-
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 

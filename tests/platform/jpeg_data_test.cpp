@@ -3,7 +3,6 @@
 
 #include "platform/detail/jpeg_stream.h"
 #include "platform/image.h"
-
 #include "support/bytes.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,6 @@
 #include "platform/detail/jpeg_stream.h"
 #include "platform/detail/png_decode.h"
 #include "platform/image.h"
-
 #include "support/bytes.h"
 #include "support/pictures.h"
 #include "support/scratch_folder.h"

@@ -5,7 +5,6 @@
 #include "platform/document_window.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
-
 #include "support/stream_capture.h"
 
 #include <QApplication>

@@ -1,7 +1,6 @@
 #include "movie_fixture.h"
 
 #include "platform/movie/movie_view.h"
-
 #include "support/contrast.h"
 
 #include <QAbstractButton>

@@ -1,6 +1,7 @@
 #include "platform/web/image_fetch.h"
 
 #include "page_server.h"
+
 #include "support/pictures.h"
 #include "support/scratch_folder.h"
 

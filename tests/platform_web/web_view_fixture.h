@@ -1,6 +1,7 @@
 #pragma once
 
 #include "page_server.h"
+
 #include "platform/web/web_view.h"
 #include "support/qt_printing.h"
 #include "support/waiting.h"

@@ -1,8 +1,9 @@
 // Pages that want more than to be looked at. Each is clicked first, as pages may do more once they were.
 
+#include "web_view_fixture.h"
+
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
-#include "web_view_fixture.h"
 
 #include <QApplication>
 #include <QDesktopServices>

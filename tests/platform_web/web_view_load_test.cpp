@@ -1,5 +1,6 @@
-#include "support/scratch_folder.h"
 #include "web_view_fixture.h"
+
+#include "support/scratch_folder.h"
 
 #include <QFile>
 #include <QLabel>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "portable/detail/formats.h"
-
 #include "../taglib/asf/asf_bytes.h"
+
+#include "portable/detail/formats.h"
 
 #include <cstdint>
 #include <initializer_list>

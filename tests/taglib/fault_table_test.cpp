@@ -1,6 +1,7 @@
-#include "fake_image/fake_image.h"
 #include "fault_table_reader.h"
 #include "live_blocks.h"
+
+#include "fake_image/fake_image.h"
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"

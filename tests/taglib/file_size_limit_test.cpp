@@ -1,4 +1,5 @@
 #include "fault_table_files.h"
+
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "taglib/taglib.h"

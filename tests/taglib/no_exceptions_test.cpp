@@ -1,5 +1,6 @@
-#include "fake_image/fake_image.h"
 #include "fault_table_files.h"
+
+#include "fake_image/fake_image.h"
 #include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/scratch_folder.h"

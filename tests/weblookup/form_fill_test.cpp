@@ -2,6 +2,7 @@
 
 #include "dom_builder.h"
 #include "fetch_script.h"
+
 #include "platform/web/web_view.h"
 #include "support/stream_capture.h"
 

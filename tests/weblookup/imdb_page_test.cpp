@@ -2,6 +2,7 @@
 
 #include "dom_builder.h"
 #include "fetch_script.h"
+
 #include "support/stream_capture.h"
 
 #include <gtest/gtest.h>

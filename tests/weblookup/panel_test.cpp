@@ -1,5 +1,6 @@
 #include "fake_engine.h"
 #include "panel_fixture.h"
+
 #include "support/stream_capture.h"
 
 #include <QApplication>

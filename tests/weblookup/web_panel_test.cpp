@@ -1,4 +1,5 @@
 #include "panel_fixture.h"
+
 #include "support/pictures.h"
 #include "support/qt_printing.h"
 #include "support/stream_capture.h"

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/web/web_engine.h"
 #include "web_page.h"
+
+#include "platform/web/web_engine.h"
 
 #include <QTimer>
 #include <QWebEngineProfile>

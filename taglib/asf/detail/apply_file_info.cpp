@@ -1,8 +1,9 @@
 #include "apply_file_info.h"
 
-#include "../descriptor_value.h"
-#include "../picture.h"
 #include "tag_fields.h"
+
+#include "taglib/asf/descriptor_value.h"
+#include "taglib/asf/picture.h"
 
 #include <algorithm>
 #include <cinttypes>

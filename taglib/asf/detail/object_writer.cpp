@@ -1,9 +1,10 @@
 #include "object_writer.h"
 
-#include "../../trace.h"
-#include "../guids.h"
 #include "cursor_readers.h"
 #include "packed_descriptors.h"
+
+#include "taglib/asf/guids.h"
+#include "taglib/trace.h"
 
 #include <algorithm>
 #include <unistd.h>

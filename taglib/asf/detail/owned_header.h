@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cursor_readers.h"
+
 #include "taglib/asf/header_object.h"
 #include "taglib/byte_file.h"
 

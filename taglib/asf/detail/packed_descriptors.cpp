@@ -1,8 +1,9 @@
 #include "packed_descriptors.h"
 
-#include "../../byte_order.h"
 #include "cursor_readers.h"
 #include "owned.h"
+
+#include "taglib/byte_order.h"
 
 #include <algorithm>
 #include <cstring>

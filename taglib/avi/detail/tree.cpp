@@ -1,8 +1,8 @@
 #include "tree.h"
 
-#include "../../trace.h"
-#include "../../write_cursor.h"
-#include "../header_reader.h"
+#include "taglib/avi/header_reader.h"
+#include "taglib/trace.h"
+#include "taglib/write_cursor.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,9 +1,10 @@
 #include "store_fields.h"
 
-#include "../picture.h"
-#include "../text.h"
-#include "../time_text.h"
 #include "tag_fields.h"
+
+#include "taglib/id3/picture.h"
+#include "taglib/id3/text.h"
+#include "taglib/id3/time_text.h"
 
 #include <cstdio>
 

@@ -1,7 +1,7 @@
 #include "tag_search.h"
 
-#include "../../trace.h"
-#include "../text.h"
+#include "taglib/id3/text.h"
+#include "taglib/trace.h"
 
 namespace velmora {
 

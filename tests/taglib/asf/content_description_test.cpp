@@ -1,6 +1,7 @@
 #include "taglib/asf/content_description.h"
 
 #include "asf_bytes.h"
+
 #include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/stream_capture.h"

@@ -1,6 +1,7 @@
 #include "taglib/asf/descriptor_value.h"
 
 #include "asf_bytes.h"
+
 #include "support/allocation_faults.h"
 #include "support/bytes.h"
 

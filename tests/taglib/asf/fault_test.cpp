@@ -1,4 +1,5 @@
 #include "asf_bytes.h"
+
 #include "fake_image/fake_image.h"
 #include "support/allocation_faults.h"
 #include "support/bytes.h"

@@ -1,6 +1,7 @@
 #include "taglib/asf/move_file.h"
 
 #include "asf_bytes.h"
+
 #include "support/allocation_faults.h"
 #include "support/bytes.h"
 #include "support/scratch_folder.h"

@@ -1,6 +1,7 @@
 #include "taglib/asf/object.h"
 
 #include "asf_bytes.h"
+
 #include "support/bytes.h"
 #include "support/stream_capture.h"
 #include "taglib/asf/detail/owned.h"

@@ -1,6 +1,7 @@
 #include "taglib/asf/picture.h"
 
 #include "asf_bytes.h"
+
 #include "fake_image/fake_image.h"
 #include "support/allocation_faults.h"
 #include "support/bytes.h"

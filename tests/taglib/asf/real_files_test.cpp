@@ -1,3 +1,5 @@
+#include "taglib_reader.h"
+
 #include "fake_image/fake_image.h"
 #include "support/bytes.h"
 #include "support/command.h"
@@ -6,7 +8,6 @@
 #include "taglib/asf/load_file_info.h"
 #include "taglib/asf/store_file_info.h"
 #include "taglib/byte_order.h"
-#include "taglib_reader.h"
 
 #include <gmock/gmock.h>
 

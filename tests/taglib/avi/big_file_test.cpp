@@ -1,4 +1,5 @@
 #include "avi_bytes.h"
+
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"

@@ -1,6 +1,7 @@
 #include "taglib/avi/header_reader.h"
 
 #include "avi_bytes.h"
+
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"

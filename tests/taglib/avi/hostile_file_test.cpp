@@ -1,4 +1,5 @@
 #include "avi_bytes.h"
+
 #include "fake_image/fake_image.h"
 #include "support/bytes.h"
 #include "support/scratch_folder.h"

@@ -1,6 +1,7 @@
 #include "taglib/avi/move_file.h"
 
 #include "avi_bytes.h"
+
 #include "support/bytes.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"

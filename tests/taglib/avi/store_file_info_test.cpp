@@ -1,6 +1,7 @@
 #include "taglib/avi/store_file_info.h"
 
 #include "avi_bytes.h"
+
 #include "fake_image/fake_image.h"
 #include "support/bytes.h"
 #include "support/scratch_folder.h"

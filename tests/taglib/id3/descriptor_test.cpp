@@ -1,6 +1,7 @@
 #include "taglib/id3/descriptor.h"
 
 #include "id3_bytes.h"
+
 #include "support/allocation_faults.h"
 
 #include <gtest/gtest.h>

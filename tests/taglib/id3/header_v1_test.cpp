@@ -1,6 +1,7 @@
 #include "taglib/id3/header_v1.h"
 
 #include "id3_bytes.h"
+
 #include "support/stream_capture.h"
 #include "support/system_call_faults.h"
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../open_file.h"
+
 #include "support/bytes.h"
 #include "support/id3_tags.h"
 #include "support/scratch_folder.h"

@@ -1,11 +1,12 @@
 #include "taglib/id3/load_file_info.h"
 
-#include "fake_image/fake_image.h"
 #include "id3_bytes.h"
+#include "zone.h"
+
+#include "fake_image/fake_image.h"
 #include "support/allocation_faults.h"
 #include "support/stream_capture.h"
 #include "support/system_call_faults.h"
-#include "zone.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,8 @@
 #include "taglib/id3/picture.h"
 
-#include "fake_image/fake_image.h"
 #include "id3_bytes.h"
+
+#include "fake_image/fake_image.h"
 #include "support/allocation_faults.h"
 #include "support/stream_capture.h"
 

@@ -1,7 +1,8 @@
-#include "fake_image/fake_image.h"
 #include "id3_bytes.h"
 #include "libid3tag_reader.h"
 #include "stored_info.h"
+
+#include "fake_image/fake_image.h"
 #include "support/command.h"
 #include "support/system_call_faults.h"
 #include "taglib/id3/load_file_info.h"

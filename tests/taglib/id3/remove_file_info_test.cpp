@@ -1,6 +1,7 @@
 #include "taglib/id3/remove_file_info.h"
 
 #include "id3_bytes.h"
+
 #include "support/stream_capture.h"
 #include "support/system_call_faults.h"
 

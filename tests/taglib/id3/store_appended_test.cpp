@@ -1,6 +1,7 @@
-#include "fake_image/fake_image.h"
 #include "id3_bytes.h"
 #include "stored_info.h"
+
+#include "fake_image/fake_image.h"
 #include "support/system_call_faults.h"
 #include "taglib/id3/load_file_info.h"
 

@@ -1,5 +1,6 @@
 #include "id3_bytes.h"
 #include "stored_info.h"
+
 #include "support/allocation_faults.h"
 #include "support/system_call_faults.h"
 

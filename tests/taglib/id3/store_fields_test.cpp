@@ -1,10 +1,11 @@
 #include "taglib/id3/detail/store_fields.h"
 
-#include "fake_image/fake_image.h"
 #include "id3_bytes.h"
 #include "stored_info.h"
-#include "support/allocation_faults.h"
 #include "zone.h"
+
+#include "fake_image/fake_image.h"
+#include "support/allocation_faults.h"
 
 #include <gtest/gtest.h>
 

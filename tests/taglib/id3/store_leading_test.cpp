@@ -1,5 +1,6 @@
 #include "id3_bytes.h"
 #include "stored_info.h"
+
 #include "support/system_call_faults.h"
 #include "taglib/path.h"
 

@@ -1,6 +1,7 @@
 #include "taglib/id3/text.h"
 
 #include "id3_bytes.h"
+
 #include "support/stream_capture.h"
 
 #include <gtest/gtest.h>

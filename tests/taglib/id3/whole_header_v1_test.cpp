@@ -1,4 +1,5 @@
 #include "id3_bytes.h"
+
 #include "support/stream_capture.h"
 #include "taglib/id3/header_v1.h"
 #include "taglib/id3/load_file_info.h"
