@@ -90,9 +90,7 @@ void EditPanel::makeFields(QFormLayout& layout) {
         QWidget* const widget = widgetOf(field.column);
         widget->setObjectName(QLatin1String(field.name));
         widget->setToolTip(localised(field.tip));
-        const QString caption = localised(field.caption);
-        layout.addRow(caption, widget);
-        widget->setAccessibleName(QString(caption).remove(u'&').remove(u':'));
+        layout.addRow(localised(field.caption), widget);
         fields_.emplace(field.column, widget);
         const LibraryColumn column = field.column;
         if (auto* const line = qobject_cast<QLineEdit*>(widget)) {

@@ -43,7 +43,6 @@ QByteArray bytesOf(const portable::Cover& cover) {
 void EditPanel::makeCover(QFormLayout& layout) {
     cover_ = new CoverArtView;
     cover_->setObjectName(QStringLiteral("img_covers"));
-    cover_->setAccessibleName(localised("Cover"));
     cover_->setToolTip(localised("The cover of the selected files: drop a picture here, or paste one"));
     cover_->setMinimumHeight(120);
     coverText_ = new QLabel;

@@ -12,6 +12,7 @@ namespace velmora {
 namespace {
 
 constexpr std::chrono::milliseconds scrollingPause{20};
+constexpr int roomForSortSign = 12; ///< beside a header's text, in pixels
 
 /** Of the shown columns' widths, in average characters. */
 int widthInCharacters(LibraryColumn column) {
@@ -40,6 +41,7 @@ int widthInCharacters(LibraryColumn column) {
 LibraryView::LibraryView(LibraryModel& model, QWidget* parent) : QTableView(parent), model_(model) {
     setObjectName(QStringLiteral("tbl_library"));
     setAccessibleName(localised("Library"));
+    setToolTip(localised("The listed files and what their tags say"));
     setModel(&model_);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
@@ -73,7 +75,8 @@ void LibraryView::setUpHeader() {
     header.setSortIndicatorShown(false);
     for (const LibraryColumn column : libraryColumns()) {
         const int section = static_cast<int>(column);
-        header.resizeSection(section, widthInCharacters(column) * fontMetrics().averageCharWidth());
+        const int usual = widthInCharacters(column) * fontMetrics().averageCharWidth();
+        header.resizeSection(section, std::max(usual, header.sectionSizeHint(section) + roomForSortSign));
         header.setSectionHidden(section, !isShownAtFirst(column));
     }
     connect(&header, &QHeaderView::sectionClicked, this, [this](int section) {

@@ -1,5 +1,7 @@
 #include "library_window.h"
 
+#include "platform/accessibility.h"
+#include "platform/alt_letters.h"
 #include "platform/localisation.h"
 #include "platform/symbol.h"
 
@@ -24,6 +26,8 @@ LibraryWindow::LibraryWindow(QWidget* parent) : DocumentWindow(parent) {
     setWindowTitle(localised("Library Table"));
     makeLayout();
     makeMenus();
+    keepAltLettersFromTyping(*this);
+    nameControlsByCaptions(*this);
     resize(1280, 760);
     panelTimer_.setSingleShot(true);
     panelTimer_.setInterval(panelPause);
@@ -91,12 +95,11 @@ QWidget* LibraryWindow::makeFilter() {
     layout->setContentsMargins(0, 0, 0, 0);
     filter_ = new QLineEdit;
     filter_->setObjectName(QStringLiteral("entry_filter"));
-    filter_->setAccessibleName(localised("Filter"));
     filter_->setPlaceholderText(localised("Words, artist:name, year:1990-1999, missing:cover"));
     filter_->setToolTip(localised("Show only the files that have these words in any column; "
                                   "artist:, year:1990-1999, missing:cover and the like look closer"));
     filter_->setClearButtonEnabled(true);
-    auto* const caption = new QLabel(localised("Filter:"));
+    auto* const caption = new QLabel(localised("Fi&lter:"));
     caption->setBuddy(filter_);
     layout->addWidget(caption);
     layout->addWidget(filter_, 1);

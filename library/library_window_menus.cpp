@@ -25,40 +25,40 @@ void LibraryWindow::makeMenus() {
     makeEditMenu();
     makeViewMenu();
     auto* const names = new NamesCommands(model_, *view_, this);
-    names->addTo(*menuBar()->addMenu(localised("&Names")));
+    names->addTo(*menuBar()->addMenu(localised("Name&s")));
     makeContextMenu();
 }
 
 void LibraryWindow::makeFileMenu() {
     QMenu& menu = *menuBar()->addMenu(localised("&File"));
-    addCommand(menu, localised("Apply"), localised("Write what was edited into the files"),
+    addCommand(menu, localised("&Apply"), localised("Write what was edited into the files"),
                QKeySequence(Qt::CTRL | Qt::Key_S), &LibraryWindow::apply);
-    addCommand(menu, localised("Export…"),
+    addCommand(menu, localised("&Export…"),
                localised("Write the rows and columns that are shown into a file, as CSV or JSON"),
                QKeySequence(Qt::CTRL | Qt::Key_E), &LibraryWindow::exportTable);
     menu.addSeparator();
-    QAction* const close = menu.addAction(localised("Close"), this, &QWidget::close);
+    QAction* const close = menu.addAction(localised("&Close"), this, &QWidget::close);
     close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
 }
 
 void LibraryWindow::makeEditMenu() {
     QMenu& menu = *menuBar()->addMenu(localised("&Edit"));
-    undoAction_ = addCommand(menu, localised("Undo Apply"),
+    undoAction_ = addCommand(menu, localised("&Undo Apply"),
                              localised("Give the files of the last apply their old values and names back"),
                              QKeySequence(Qt::CTRL | Qt::Key_Z), &LibraryWindow::undoApply);
-    addCommand(menu, localised("Revert"),
+    addCommand(menu, localised("&Revert"),
                localised("Drop what was edited in the selected files and not applied"), {},
                &LibraryWindow::revert);
     menu.addSeparator();
     const qsizetype firstOfTable = menu.actions().size();
-    addCommand(menu, localised("Edit Cell"), localised("Edit the text of the current cell"), {},
+    addCommand(menu, localised("&Edit Cell"), localised("Edit the text of the current cell"), {},
                &LibraryWindow::editCell);
-    addCommand(menu, localised("Copy Rows"),
+    addCommand(menu, localised("&Copy Rows"),
                localised("Copy the selected rows with the columns that are shown, for a spreadsheet"),
                QKeySequence(Qt::CTRL | Qt::Key_C), &LibraryWindow::copyRows);
-    addCommand(menu, localised("Copy Column"), localised("Copy the current column of the selected rows"),
+    addCommand(menu, localised("Copy Co&lumn"), localised("Copy the current column of the selected rows"),
                QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), &LibraryWindow::copyColumn);
-    addCommand(menu, localised("Paste Cells"),
+    addCommand(menu, localised("&Paste Cells"),
                localised("Put the cells of the clipboard into the table from the current cell on"),
                QKeySequence(Qt::CTRL | Qt::Key_V), &LibraryWindow::paste);
     // These keys have a meaning of their own in the fields and in the cover.
@@ -67,15 +67,15 @@ void LibraryWindow::makeEditMenu() {
         view_->addAction(action);
     }
     menu.addSeparator();
-    addCommand(menu, localised("Filter"), localised("Type what is to be shown"),
+    addCommand(menu, localised("&Filter"), localised("Type what is to be shown"),
                QKeySequence(Qt::CTRL | Qt::Key_F), &LibraryWindow::findText);
 }
 
 void LibraryWindow::makeViewMenu() {
     QMenu& menu = *menuBar()->addMenu(localised("&View"));
-    QMenu* const sort = menu.addMenu(localised("Sort By"));
-    QMenu* const also = menu.addMenu(localised("Then By"));
-    columnMenu_ = menu.addMenu(localised("Columns"));
+    QMenu* const sort = menu.addMenu(localised("&Sort By"));
+    QMenu* const also = menu.addMenu(localised("&Then By"));
+    columnMenu_ = menu.addMenu(localised("&Columns"));
     for (const LibraryColumn column : libraryColumns()) {
         sort->addAction(columnTitle(column), view_, [this, column] { view_->sortByColumn(column, false); });
         also->addAction(columnTitle(column), view_, [this, column] { view_->sortByColumn(column, true); });
@@ -105,16 +105,16 @@ void LibraryWindow::showColumnMenu(const QPoint& position) {
 }
 
 void LibraryWindow::makeContextMenu() {
-    rowMenu_ = menuBar()->addMenu(localised("&Row"));
-    addCommand(*rowMenu_, localised("Open in Editor"),
+    rowMenu_ = menuBar()->addMenu(localised("Ro&w"));
+    addCommand(*rowMenu_, localised("&Open in Editor"),
                localised("Open the file in the program's main window"), QKeySequence(Qt::CTRL | Qt::Key_O),
                &LibraryWindow::openSelected);
-    addCommand(*rowMenu_, localised("Show in Folder"), localised("Open the folder in which the file is"), {},
+    addCommand(*rowMenu_, localised("&Show in Folder"), localised("Open the folder in which the file is"), {},
                &LibraryWindow::showInFolder);
-    addCommand(*rowMenu_, localised("Copy Path"), localised("Copy the paths of the selected files"), {},
+    addCommand(*rowMenu_, localised("&Copy Path"), localised("Copy the paths of the selected files"), {},
                &LibraryWindow::copyPaths);
     rowMenu_->addSeparator();
-    addCommand(*rowMenu_, localised("Remove from List"),
+    addCommand(*rowMenu_, localised("&Remove from List"),
                localised("Take the selected files off the list; they stay where they are"),
                QKeySequence(Qt::CTRL | Qt::Key_Backspace), &LibraryWindow::removeSelected)
         ->setShortcutContext(Qt::WidgetShortcut);

@@ -804,10 +804,6 @@
         <translation>Den ausgewählten Dateien nach einem Muster Namen aus ihren Tags geben</translation>
     </message>
     <message>
-        <source>&amp;Names</source>
-        <translation>&amp;Namen</translation>
-    </message>
-    <message>
         <source>The pattern is empty.</source>
         <translation>Das Muster ist leer.</translation>
     </message>
@@ -1196,11 +1192,7 @@
     </message>
     <message>
         <source>&amp;Revert</source>
-        <translation>&amp;Zurücksetzen</translation>
-    </message>
-    <message>
-        <source>&amp;Row</source>
-        <translation>Zei&amp;le</translation>
+        <translation>Zurück&amp;setzen</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
@@ -1224,7 +1216,7 @@
     </message>
     <message>
         <source>C&amp;over:</source>
-        <translation>Titel&amp;bild:</translation>
+        <translation>Tite&amp;lbild:</translation>
     </message>
     <message>
         <source>Cancelled before its turn</source>
@@ -1247,22 +1239,6 @@
         <translation>Die Zusammenfassung schließen</translation>
     </message>
     <message>
-        <source>Columns</source>
-        <translation>Spalten</translation>
-    </message>
-    <message>
-        <source>Copy Column</source>
-        <translation>Spalte kopieren</translation>
-    </message>
-    <message>
-        <source>Copy Path</source>
-        <translation>Pfad kopieren</translation>
-    </message>
-    <message>
-        <source>Copy Rows</source>
-        <translation>Zeilen kopieren</translation>
-    </message>
-    <message>
         <source>Copy the current column of the selected rows</source>
         <translation>Die aktuelle Spalte der ausgewählten Zeilen kopieren</translation>
     </message>
@@ -1283,10 +1259,6 @@
         <translation>Verwerfen, was in den ausgewählten Dateien bearbeitet und nicht angewendet wurde</translation>
     </message>
     <message>
-        <source>Edit Cell</source>
-        <translation>Zelle bearbeiten</translation>
-    </message>
-    <message>
         <source>Edit the text of the current cell</source>
         <translation>Den Text der aktuellen Zelle bearbeiten</translation>
     </message>
@@ -1299,24 +1271,12 @@
         <translation>Exportieren</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>Exportieren …</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>Datei</translation>
     </message>
     <message>
         <source>Files that were not changed</source>
         <translation>Dateien, die nicht geändert wurden</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
-        <source>Filter:</source>
-        <translation>Filter:</translation>
     </message>
     <message>
         <source>Give the files of the last apply their old values and names back</source>
@@ -1331,20 +1291,12 @@
         <translation>Spalte nach rechts verschieben</translation>
     </message>
     <message>
-        <source>Open in Editor</source>
-        <translation>Im Editor öffnen</translation>
-    </message>
-    <message>
         <source>Open the file in the program&#x27;s main window</source>
         <translation>Die Datei im Hauptfenster des Programms öffnen</translation>
     </message>
     <message>
         <source>Open the folder in which the file is</source>
         <translation>Den Ordner öffnen, in dem die Datei liegt</translation>
-    </message>
-    <message>
-        <source>Paste Cells</source>
-        <translation>Zellen einfügen</translation>
     </message>
     <message>
         <source>Put the cells of the clipboard into the table from the current cell on</source>
@@ -1363,28 +1315,12 @@
         <translation>Grund</translation>
     </message>
     <message>
-        <source>Remove from List</source>
-        <translation>Aus der Liste entfernen</translation>
-    </message>
-    <message>
         <source>Remove the cover from the selected files</source>
         <translation>Das Titelbild aus den ausgewählten Dateien entfernen</translation>
     </message>
     <message>
-        <source>Revert</source>
-        <translation>Zurücksetzen</translation>
-    </message>
-    <message>
-        <source>Show in Folder</source>
-        <translation>Im Ordner anzeigen</translation>
-    </message>
-    <message>
         <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
         <translation>Nur Dateien zeigen, die diese Wörter in irgendeiner Spalte haben; mit artist:, year:1990-1999, missing:cover und Ähnlichem wird genauer gesucht</translation>
-    </message>
-    <message>
-        <source>Sort By</source>
-        <translation>Sortieren nach</translation>
     </message>
     <message>
         <source>Stop; each file is as it was or as it was to be</source>
@@ -1443,10 +1379,6 @@
         <translation>Das Erscheinungsjahr, bis zu vier Ziffern</translation>
     </message>
     <message>
-        <source>Then By</source>
-        <translation>Dann nach</translation>
-    </message>
-    <message>
         <source>There is no room to keep the old cover for an undo</source>
         <translation>Es ist kein Platz, um das alte Titelbild zum Rückgängigmachen aufzubewahren</translation>
     </message>
@@ -1501,6 +1433,86 @@
     <message>
         <source>%@ files</source>
         <translation>%@ Dateien</translation>
+    </message>
+    <message>
+        <source>Name&amp;s</source>
+        <translation>Na&amp;men</translation>
+    </message>
+    <message>
+        <source>Ro&amp;w</source>
+        <translation>&amp;Zeile</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter:</source>
+        <translation>Filte&amp;r:</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Apply</source>
+        <translation>Anwenden &amp;rückgängig machen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cell</source>
+        <translation>Zelle &amp;bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Rows</source>
+        <translation>Zeilen &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Co&amp;lumn</source>
+        <translation>S&amp;palte kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Cells</source>
+        <translation>Zellen &amp;einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filter</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>&amp;Sortieren nach</translation>
+    </message>
+    <message>
+        <source>&amp;Then By</source>
+        <translation>&amp;Dann nach</translation>
+    </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>S&amp;palten</translation>
+    </message>
+    <message>
+        <source>&amp;Open in Editor</source>
+        <translation>Im &amp;Editor öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>Im &amp;Ordner anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>Aus der &amp;Liste entfernen</translation>
+    </message>
+    <message>
+        <source>The listed files and what their tags say</source>
+        <translation>Die Dateien der Liste und was in ihren Tags steht</translation>
     </message>
 </context>
 <context>

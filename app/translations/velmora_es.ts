@@ -892,10 +892,6 @@
         <translation>Dar a los archivos seleccionados nombres formados con sus etiquetas, según un patrón</translation>
     </message>
     <message>
-        <source>&amp;Names</source>
-        <translation>&amp;Nombres</translation>
-    </message>
-    <message>
         <source>The pattern is empty.</source>
         <translation>El patrón está vacío.</translation>
     </message>
@@ -1184,11 +1180,11 @@
     </message>
     <message>
         <source>&amp;Artist or cast:</source>
-        <translation>&amp;Artista o reparto:</translation>
+        <translation>Arti&amp;sta o reparto:</translation>
     </message>
     <message>
         <source>&amp;Choose…</source>
-        <translation>&amp;Elegir…</translation>
+        <translation>E&amp;legir…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -1203,16 +1199,12 @@
         <translation>&amp;Revertir</translation>
     </message>
     <message>
-        <source>&amp;Row</source>
-        <translation>Fi&amp;la</translation>
-    </message>
-    <message>
         <source>&amp;Title:</source>
         <translation>&amp;Título:</translation>
     </message>
     <message>
         <source>&amp;Year:</source>
-        <translation>A&amp;ño:</translation>
+        <translation>Añ&amp;o:</translation>
     </message>
     <message>
         <source>A&amp;pply</source>
@@ -1251,22 +1243,6 @@
         <translation>Cerrar el resumen</translation>
     </message>
     <message>
-        <source>Columns</source>
-        <translation>Columnas</translation>
-    </message>
-    <message>
-        <source>Copy Column</source>
-        <translation>Copiar columna</translation>
-    </message>
-    <message>
-        <source>Copy Path</source>
-        <translation>Copiar ruta</translation>
-    </message>
-    <message>
-        <source>Copy Rows</source>
-        <translation>Copiar filas</translation>
-    </message>
-    <message>
         <source>Copy the current column of the selected rows</source>
         <translation>Copiar la columna actual de las filas seleccionadas</translation>
     </message>
@@ -1287,10 +1263,6 @@
         <translation>Descartar los cambios sin aplicar de los archivos seleccionados</translation>
     </message>
     <message>
-        <source>Edit Cell</source>
-        <translation>Editar celda</translation>
-    </message>
-    <message>
         <source>Edit the text of the current cell</source>
         <translation>Editar el texto de la celda actual</translation>
     </message>
@@ -1303,24 +1275,12 @@
         <translation>Exportar</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>Exportar…</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>Archivo</translation>
     </message>
     <message>
         <source>Files that were not changed</source>
         <translation>Archivos no modificados</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtro</translation>
-    </message>
-    <message>
-        <source>Filter:</source>
-        <translation>Filtro:</translation>
     </message>
     <message>
         <source>Give the files of the last apply their old values and names back</source>
@@ -1335,10 +1295,6 @@
         <translation>Mover columna a la derecha</translation>
     </message>
     <message>
-        <source>Open in Editor</source>
-        <translation>Abrir en el editor</translation>
-    </message>
-    <message>
         <source>Open the file in the program&#x27;s main window</source>
         <translation>Abrir el archivo en la ventana principal del programa</translation>
     </message>
@@ -1347,48 +1303,28 @@
         <translation>Abrir la carpeta que contiene el archivo</translation>
     </message>
     <message>
-        <source>Paste Cells</source>
-        <translation>Pegar celdas</translation>
-    </message>
-    <message>
         <source>Put the cells of the clipboard into the table from the current cell on</source>
         <translation>Pegar las celdas del portapapeles en la tabla a partir de la celda actual</translation>
     </message>
     <message>
         <source>Rat&amp;ing:</source>
-        <translation>Clas&amp;ificación:</translation>
+        <translation>&amp;Clasificación:</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation>Quita&amp;r</translation>
+        <translation>&amp;Quitar</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>Motivo</translation>
     </message>
     <message>
-        <source>Remove from List</source>
-        <translation>Quitar de la lista</translation>
-    </message>
-    <message>
         <source>Remove the cover from the selected files</source>
         <translation>Quitar la carátula de los archivos seleccionados</translation>
     </message>
     <message>
-        <source>Revert</source>
-        <translation>Revertir</translation>
-    </message>
-    <message>
-        <source>Show in Folder</source>
-        <translation>Mostrar en la carpeta</translation>
-    </message>
-    <message>
         <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
         <translation>Mostrar solo los archivos que tienen estas palabras en alguna columna; artist:, year:1990-1999, missing:cover y similares afinan la búsqueda</translation>
-    </message>
-    <message>
-        <source>Sort By</source>
-        <translation>Ordenar por</translation>
     </message>
     <message>
         <source>Stop; each file is as it was or as it was to be</source>
@@ -1396,7 +1332,7 @@
     </message>
     <message>
         <source>Sy&amp;nopsis or comment:</source>
-        <translation>Si&amp;nopsis o comentario:</translation>
+        <translation>Sinopsis o co&amp;mentario:</translation>
     </message>
     <message>
         <source>Take the selected files off the list; they stay where they are</source>
@@ -1445,10 +1381,6 @@
     <message>
         <source>The year of release, of up to four digits</source>
         <translation>El año de publicación, de hasta cuatro cifras</translation>
-    </message>
-    <message>
-        <source>Then By</source>
-        <translation>Después por</translation>
     </message>
     <message>
         <source>There is no room to keep the old cover for an undo</source>
@@ -1501,6 +1433,86 @@
     <message>
         <source>several values</source>
         <translation>varios valores</translation>
+    </message>
+    <message>
+        <source>Name&amp;s</source>
+        <translation>&amp;Nombres</translation>
+    </message>
+    <message>
+        <source>Ro&amp;w</source>
+        <translation>&amp;Fila</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter:</source>
+        <translation>F&amp;iltro:</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Aplicar</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportar…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Apply</source>
+        <translation>&amp;Deshacer «Aplicar»</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cell</source>
+        <translation>&amp;Editar celda</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Rows</source>
+        <translation>&amp;Copiar filas</translation>
+    </message>
+    <message>
+        <source>Copy Co&amp;lumn</source>
+        <translation>Copiar co&amp;lumna</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Cells</source>
+        <translation>&amp;Pegar celdas</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filtro</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>&amp;Ordenar por</translation>
+    </message>
+    <message>
+        <source>&amp;Then By</source>
+        <translation>&amp;Después por</translation>
+    </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Columnas</translation>
+    </message>
+    <message>
+        <source>&amp;Open in Editor</source>
+        <translation>&amp;Abrir en el editor</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>&amp;Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Path</source>
+        <translation>&amp;Copiar ruta</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>&amp;Quitar de la lista</translation>
+    </message>
+    <message>
+        <source>The listed files and what their tags say</source>
+        <translation>Los archivos de la lista y lo que dicen sus etiquetas</translation>
     </message>
 </context>
 <context>

@@ -892,10 +892,6 @@
         <translation>Former les noms des fichiers sélectionnés à partir de leurs tags, selon un modèle</translation>
     </message>
     <message>
-        <source>&amp;Names</source>
-        <translation>&amp;Noms</translation>
-    </message>
-    <message>
         <source>The pattern is empty.</source>
         <translation>Le modèle est vide.</translation>
     </message>
@@ -1184,7 +1180,7 @@
     </message>
     <message>
         <source>&amp;Artist or cast:</source>
-        <translation>&amp;Artiste ou distribution :</translation>
+        <translation>Arti&amp;ste ou distribution :</translation>
     </message>
     <message>
         <source>&amp;Choose…</source>
@@ -1201,10 +1197,6 @@
     <message>
         <source>&amp;Revert</source>
         <translation>&amp;Rétablir</translation>
-    </message>
-    <message>
-        <source>&amp;Row</source>
-        <translation>&amp;Ligne</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
@@ -1251,22 +1243,6 @@
         <translation>Fermer le résumé</translation>
     </message>
     <message>
-        <source>Columns</source>
-        <translation>Colonnes</translation>
-    </message>
-    <message>
-        <source>Copy Column</source>
-        <translation>Copier la colonne</translation>
-    </message>
-    <message>
-        <source>Copy Path</source>
-        <translation>Copier le chemin</translation>
-    </message>
-    <message>
-        <source>Copy Rows</source>
-        <translation>Copier les lignes</translation>
-    </message>
-    <message>
         <source>Copy the current column of the selected rows</source>
         <translation>Copier la colonne actuelle des lignes sélectionnées</translation>
     </message>
@@ -1287,10 +1263,6 @@
         <translation>Abandonner ce qui a été modifié sans être appliqué dans les fichiers sélectionnés</translation>
     </message>
     <message>
-        <source>Edit Cell</source>
-        <translation>Modifier la cellule</translation>
-    </message>
-    <message>
         <source>Edit the text of the current cell</source>
         <translation>Modifier le texte de la cellule actuelle</translation>
     </message>
@@ -1303,24 +1275,12 @@
         <translation>Exporter</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>Exporter…</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>Fichier</translation>
     </message>
     <message>
         <source>Files that were not changed</source>
         <translation>Fichiers non modifiés</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtre</translation>
-    </message>
-    <message>
-        <source>Filter:</source>
-        <translation>Filtre :</translation>
     </message>
     <message>
         <source>Give the files of the last apply their old values and names back</source>
@@ -1335,20 +1295,12 @@
         <translation>Déplacer la colonne vers la droite</translation>
     </message>
     <message>
-        <source>Open in Editor</source>
-        <translation>Ouvrir dans l’éditeur</translation>
-    </message>
-    <message>
         <source>Open the file in the program&#x27;s main window</source>
         <translation>Ouvrir le fichier dans la fenêtre principale du programme</translation>
     </message>
     <message>
         <source>Open the folder in which the file is</source>
         <translation>Ouvrir le dossier où se trouve le fichier</translation>
-    </message>
-    <message>
-        <source>Paste Cells</source>
-        <translation>Coller les cellules</translation>
     </message>
     <message>
         <source>Put the cells of the clipboard into the table from the current cell on</source>
@@ -1367,28 +1319,12 @@
         <translation>Raison</translation>
     </message>
     <message>
-        <source>Remove from List</source>
-        <translation>Retirer de la liste</translation>
-    </message>
-    <message>
         <source>Remove the cover from the selected files</source>
         <translation>Supprimer la jaquette des fichiers sélectionnés</translation>
     </message>
     <message>
-        <source>Revert</source>
-        <translation>Rétablir</translation>
-    </message>
-    <message>
-        <source>Show in Folder</source>
-        <translation>Afficher dans le dossier</translation>
-    </message>
-    <message>
         <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
         <translation>N’afficher que les fichiers qui contiennent ces mots dans une colonne ; artist:, year:1990-1999, missing:cover, etc. précisent la recherche</translation>
-    </message>
-    <message>
-        <source>Sort By</source>
-        <translation>Trier par</translation>
     </message>
     <message>
         <source>Stop; each file is as it was or as it was to be</source>
@@ -1447,10 +1383,6 @@
         <translation>L’année de sortie, quatre chiffres au plus</translation>
     </message>
     <message>
-        <source>Then By</source>
-        <translation>Puis par</translation>
-    </message>
-    <message>
         <source>There is no room to keep the old cover for an undo</source>
         <translation>Pas de place pour conserver l’ancienne jaquette en vue d’une annulation</translation>
     </message>
@@ -1501,6 +1433,86 @@
     <message>
         <source>several values</source>
         <translation>plusieurs valeurs</translation>
+    </message>
+    <message>
+        <source>Name&amp;s</source>
+        <translation>N&amp;oms</translation>
+    </message>
+    <message>
+        <source>Ro&amp;w</source>
+        <translation>&amp;Ligne</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter:</source>
+        <translation>Filtr&amp;e :</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Appliquer</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exporter…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Apply</source>
+        <translation>&amp;Annuler « Appliquer »</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cell</source>
+        <translation>&amp;Modifier la cellule</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Rows</source>
+        <translation>&amp;Copier les lignes</translation>
+    </message>
+    <message>
+        <source>Copy Co&amp;lumn</source>
+        <translation>Copier la c&amp;olonne</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Cells</source>
+        <translation>Co&amp;ller les cellules</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filtre</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>&amp;Trier par</translation>
+    </message>
+    <message>
+        <source>&amp;Then By</source>
+        <translation>&amp;Puis par</translation>
+    </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Colonnes</translation>
+    </message>
+    <message>
+        <source>&amp;Open in Editor</source>
+        <translation>&amp;Ouvrir dans l’éditeur</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>&amp;Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Path</source>
+        <translation>&amp;Copier le chemin</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>&amp;Retirer de la liste</translation>
+    </message>
+    <message>
+        <source>The listed files and what their tags say</source>
+        <translation>Les fichiers de la liste et ce que disent leurs tags</translation>
     </message>
 </context>
 <context>

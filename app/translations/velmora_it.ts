@@ -892,10 +892,6 @@
         <translation>Assegna ai file selezionati nomi formati dai loro tag, secondo un modello</translation>
     </message>
     <message>
-        <source>&amp;Names</source>
-        <translation>&amp;Nomi</translation>
-    </message>
-    <message>
         <source>The pattern is empty.</source>
         <translation>Il modello è vuoto.</translation>
     </message>
@@ -1196,15 +1192,11 @@
     </message>
     <message>
         <source>&amp;Genre:</source>
-        <translation>&amp;Genere:</translation>
+        <translation>G&amp;enere:</translation>
     </message>
     <message>
         <source>&amp;Revert</source>
         <translation>&amp;Ripristina</translation>
-    </message>
-    <message>
-        <source>&amp;Row</source>
-        <translation>Ri&amp;ga</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
@@ -1212,11 +1204,11 @@
     </message>
     <message>
         <source>&amp;Year:</source>
-        <translation>A&amp;nno:</translation>
+        <translation>Ann&amp;o:</translation>
     </message>
     <message>
         <source>A&amp;pply</source>
-        <translation>A&amp;pplica</translation>
+        <translation>App&amp;lica</translation>
     </message>
     <message>
         <source>Al&amp;bum or director:</source>
@@ -1228,7 +1220,7 @@
     </message>
     <message>
         <source>C&amp;over:</source>
-        <translation>C&amp;opertina:</translation>
+        <translation>Co&amp;pertina:</translation>
     </message>
     <message>
         <source>Cancelled before its turn</source>
@@ -1251,22 +1243,6 @@
         <translation>Chiudi il riepilogo</translation>
     </message>
     <message>
-        <source>Columns</source>
-        <translation>Colonne</translation>
-    </message>
-    <message>
-        <source>Copy Column</source>
-        <translation>Copia colonna</translation>
-    </message>
-    <message>
-        <source>Copy Path</source>
-        <translation>Copia percorso</translation>
-    </message>
-    <message>
-        <source>Copy Rows</source>
-        <translation>Copia righe</translation>
-    </message>
-    <message>
         <source>Copy the current column of the selected rows</source>
         <translation>Copia la colonna corrente delle righe selezionate</translation>
     </message>
@@ -1287,10 +1263,6 @@
         <translation>Scarta ciò che è stato modificato e non applicato nei file selezionati</translation>
     </message>
     <message>
-        <source>Edit Cell</source>
-        <translation>Modifica cella</translation>
-    </message>
-    <message>
         <source>Edit the text of the current cell</source>
         <translation>Modifica il testo della cella corrente</translation>
     </message>
@@ -1303,24 +1275,12 @@
         <translation>Esporta</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>Esporta…</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>File</translation>
     </message>
     <message>
         <source>Files that were not changed</source>
         <translation>File non modificati</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtro</translation>
-    </message>
-    <message>
-        <source>Filter:</source>
-        <translation>Filtro:</translation>
     </message>
     <message>
         <source>Give the files of the last apply their old values and names back</source>
@@ -1335,10 +1295,6 @@
         <translation>Sposta colonna a destra</translation>
     </message>
     <message>
-        <source>Open in Editor</source>
-        <translation>Apri nell’editor</translation>
-    </message>
-    <message>
         <source>Open the file in the program&#x27;s main window</source>
         <translation>Apri il file nella finestra principale del programma</translation>
     </message>
@@ -1347,48 +1303,28 @@
         <translation>Apri la cartella in cui si trova il file</translation>
     </message>
     <message>
-        <source>Paste Cells</source>
-        <translation>Incolla celle</translation>
-    </message>
-    <message>
         <source>Put the cells of the clipboard into the table from the current cell on</source>
         <translation>Inserisci nella tabella le celle degli appunti a partire dalla cella corrente</translation>
     </message>
     <message>
         <source>Rat&amp;ing:</source>
-        <translation>Class&amp;ificazione:</translation>
+        <translation>Classifica&amp;zione:</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation>Ri&amp;muovi</translation>
+        <translation>Rim&amp;uovi</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>Motivo</translation>
     </message>
     <message>
-        <source>Remove from List</source>
-        <translation>Rimuovi dall’elenco</translation>
-    </message>
-    <message>
         <source>Remove the cover from the selected files</source>
         <translation>Rimuovi la copertina dai file selezionati</translation>
     </message>
     <message>
-        <source>Revert</source>
-        <translation>Ripristina</translation>
-    </message>
-    <message>
-        <source>Show in Folder</source>
-        <translation>Mostra nella cartella</translation>
-    </message>
-    <message>
         <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
         <translation>Mostra solo i file che hanno queste parole in una colonna; artist:, year:1990-1999, missing:cover e simili affinano la ricerca</translation>
-    </message>
-    <message>
-        <source>Sort By</source>
-        <translation>Ordina per</translation>
     </message>
     <message>
         <source>Stop; each file is as it was or as it was to be</source>
@@ -1447,10 +1383,6 @@
         <translation>L’anno di uscita, fino a quattro cifre</translation>
     </message>
     <message>
-        <source>Then By</source>
-        <translation>Poi per</translation>
-    </message>
-    <message>
         <source>There is no room to keep the old cover for an undo</source>
         <translation>Non c’è spazio per conservare la vecchia copertina in vista di un annullamento</translation>
     </message>
@@ -1501,6 +1433,86 @@
     <message>
         <source>several values</source>
         <translation>più valori</translation>
+    </message>
+    <message>
+        <source>Name&amp;s</source>
+        <translation>&amp;Nomi</translation>
+    </message>
+    <message>
+        <source>Ro&amp;w</source>
+        <translation>Ri&amp;ga</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter:</source>
+        <translation>F&amp;iltro:</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Applica</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Esporta…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Apply</source>
+        <translation>&amp;Annulla “Applica”</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cell</source>
+        <translation>&amp;Modifica cella</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Rows</source>
+        <translation>&amp;Copia righe</translation>
+    </message>
+    <message>
+        <source>Copy Co&amp;lumn</source>
+        <translation>Copia co&amp;lonna</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Cells</source>
+        <translation>&amp;Incolla celle</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filtro</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>&amp;Ordina per</translation>
+    </message>
+    <message>
+        <source>&amp;Then By</source>
+        <translation>&amp;Poi per</translation>
+    </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Colonne</translation>
+    </message>
+    <message>
+        <source>&amp;Open in Editor</source>
+        <translation>&amp;Apri nell’editor</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>&amp;Mostra nella cartella</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Path</source>
+        <translation>&amp;Copia percorso</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>&amp;Rimuovi dall’elenco</translation>
+    </message>
+    <message>
+        <source>The listed files and what their tags say</source>
+        <translation>I file dell’elenco e che cosa dicono i loro tag</translation>
     </message>
 </context>
 <context>

@@ -892,10 +892,6 @@
         <translation>選択したファイルに、パターンに従ってタグから作った名前を付けます</translation>
     </message>
     <message>
-        <source>&amp;Names</source>
-        <translation>名前(&amp;N)</translation>
-    </message>
-    <message>
         <source>The pattern is empty.</source>
         <translation>パターンが空です。</translation>
     </message>
@@ -1202,10 +1198,6 @@
         <translation>変更を破棄(&amp;R)</translation>
     </message>
     <message>
-        <source>&amp;Row</source>
-        <translation>行(&amp;R)</translation>
-    </message>
-    <message>
         <source>&amp;Title:</source>
         <translation>タイトル(&amp;T):</translation>
     </message>
@@ -1250,22 +1242,6 @@
         <translation>結果のまとめを閉じます</translation>
     </message>
     <message>
-        <source>Columns</source>
-        <translation>列</translation>
-    </message>
-    <message>
-        <source>Copy Column</source>
-        <translation>列をコピー</translation>
-    </message>
-    <message>
-        <source>Copy Path</source>
-        <translation>パスをコピー</translation>
-    </message>
-    <message>
-        <source>Copy Rows</source>
-        <translation>行をコピー</translation>
-    </message>
-    <message>
         <source>Copy the current column of the selected rows</source>
         <translation>選択した行の現在の列をコピーします</translation>
     </message>
@@ -1286,10 +1262,6 @@
         <translation>選択したファイルの未適用の編集を破棄します</translation>
     </message>
     <message>
-        <source>Edit Cell</source>
-        <translation>セルを編集</translation>
-    </message>
-    <message>
         <source>Edit the text of the current cell</source>
         <translation>現在のセルの文字を編集します</translation>
     </message>
@@ -1302,24 +1274,12 @@
         <translation>エクスポート</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>エクスポート…</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>ファイル</translation>
     </message>
     <message>
         <source>Files that were not changed</source>
         <translation>変更されなかったファイル</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>フィルター</translation>
-    </message>
-    <message>
-        <source>Filter:</source>
-        <translation>フィルター:</translation>
     </message>
     <message>
         <source>Give the files of the last apply their old values and names back</source>
@@ -1334,20 +1294,12 @@
         <translation>列を右へ移動</translation>
     </message>
     <message>
-        <source>Open in Editor</source>
-        <translation>エディターで開く</translation>
-    </message>
-    <message>
         <source>Open the file in the program&#x27;s main window</source>
         <translation>ファイルをプログラムのメインウィンドウで開きます</translation>
     </message>
     <message>
         <source>Open the folder in which the file is</source>
         <translation>ファイルのあるフォルダーを開きます</translation>
-    </message>
-    <message>
-        <source>Paste Cells</source>
-        <translation>セルを貼り付け</translation>
     </message>
     <message>
         <source>Put the cells of the clipboard into the table from the current cell on</source>
@@ -1366,28 +1318,12 @@
         <translation>理由</translation>
     </message>
     <message>
-        <source>Remove from List</source>
-        <translation>一覧から外す</translation>
-    </message>
-    <message>
         <source>Remove the cover from the selected files</source>
         <translation>選択したファイルからカバーアートを削除します</translation>
     </message>
     <message>
-        <source>Revert</source>
-        <translation>変更を破棄</translation>
-    </message>
-    <message>
-        <source>Show in Folder</source>
-        <translation>フォルダーで表示</translation>
-    </message>
-    <message>
         <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
         <translation>いずれかの列にこれらの語があるファイルだけを表示します。artist:、year:1990-1999、missing:cover などで絞り込めます</translation>
-    </message>
-    <message>
-        <source>Sort By</source>
-        <translation>並べ替え</translation>
     </message>
     <message>
         <source>Stop; each file is as it was or as it was to be</source>
@@ -1446,10 +1382,6 @@
         <translation>公開・発売された年（4 桁まで）</translation>
     </message>
     <message>
-        <source>Then By</source>
-        <translation>次の並べ替え</translation>
-    </message>
-    <message>
         <source>There is no room to keep the old cover for an undo</source>
         <translation>元に戻すために以前のカバーアートを残しておく空きがありません</translation>
     </message>
@@ -1500,6 +1432,86 @@
     <message>
         <source>several values</source>
         <translation>複数の値</translation>
+    </message>
+    <message>
+        <source>Name&amp;s</source>
+        <translation>名前(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Ro&amp;w</source>
+        <translation>行(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter:</source>
+        <translation>フィルター(&amp;L):</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>適用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>エクスポート(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Apply</source>
+        <translation>適用を元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cell</source>
+        <translation>セルを編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Rows</source>
+        <translation>行をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy Co&amp;lumn</source>
+        <translation>列をコピー(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Cells</source>
+        <translation>セルを貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>フィルター(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>並べ替え(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Then By</source>
+        <translation>次の並べ替え(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>列(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Open in Editor</source>
+        <translation>エディターで開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>フォルダーで表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Path</source>
+        <translation>パスをコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>一覧から外す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The listed files and what their tags say</source>
+        <translation>一覧にあるファイルと、そのタグの内容</translation>
     </message>
 </context>
 <context>

@@ -892,10 +892,6 @@
         <translation>按模式用标签为所选文件命名</translation>
     </message>
     <message>
-        <source>&amp;Names</source>
-        <translation>名称(&amp;N)</translation>
-    </message>
-    <message>
         <source>The pattern is empty.</source>
         <translation>模式为空。</translation>
     </message>
@@ -1202,10 +1198,6 @@
         <translation>还原(&amp;R)</translation>
     </message>
     <message>
-        <source>&amp;Row</source>
-        <translation>行(&amp;R)</translation>
-    </message>
-    <message>
         <source>&amp;Title:</source>
         <translation>标题(&amp;T)：</translation>
     </message>
@@ -1250,22 +1242,6 @@
         <translation>关闭摘要</translation>
     </message>
     <message>
-        <source>Columns</source>
-        <translation>列</translation>
-    </message>
-    <message>
-        <source>Copy Column</source>
-        <translation>复制列</translation>
-    </message>
-    <message>
-        <source>Copy Path</source>
-        <translation>复制路径</translation>
-    </message>
-    <message>
-        <source>Copy Rows</source>
-        <translation>复制行</translation>
-    </message>
-    <message>
         <source>Copy the current column of the selected rows</source>
         <translation>复制所选行的当前列</translation>
     </message>
@@ -1286,10 +1262,6 @@
         <translation>放弃所选文件中尚未应用的编辑</translation>
     </message>
     <message>
-        <source>Edit Cell</source>
-        <translation>编辑单元格</translation>
-    </message>
-    <message>
         <source>Edit the text of the current cell</source>
         <translation>编辑当前单元格的文字</translation>
     </message>
@@ -1302,24 +1274,12 @@
         <translation>导出</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>导出…</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>文件</translation>
     </message>
     <message>
         <source>Files that were not changed</source>
         <translation>未更改的文件</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>筛选</translation>
-    </message>
-    <message>
-        <source>Filter:</source>
-        <translation>筛选：</translation>
     </message>
     <message>
         <source>Give the files of the last apply their old values and names back</source>
@@ -1334,20 +1294,12 @@
         <translation>右移列</translation>
     </message>
     <message>
-        <source>Open in Editor</source>
-        <translation>在编辑器中打开</translation>
-    </message>
-    <message>
         <source>Open the file in the program&#x27;s main window</source>
         <translation>在程序的主窗口中打开文件</translation>
     </message>
     <message>
         <source>Open the folder in which the file is</source>
         <translation>打开文件所在的文件夹</translation>
-    </message>
-    <message>
-        <source>Paste Cells</source>
-        <translation>粘贴单元格</translation>
     </message>
     <message>
         <source>Put the cells of the clipboard into the table from the current cell on</source>
@@ -1366,28 +1318,12 @@
         <translation>原因</translation>
     </message>
     <message>
-        <source>Remove from List</source>
-        <translation>从列表中移除</translation>
-    </message>
-    <message>
         <source>Remove the cover from the selected files</source>
         <translation>移除所选文件的封面</translation>
     </message>
     <message>
-        <source>Revert</source>
-        <translation>还原</translation>
-    </message>
-    <message>
-        <source>Show in Folder</source>
-        <translation>在文件夹中显示</translation>
-    </message>
-    <message>
         <source>Show only the files that have these words in any column; artist:, year:1990-1999, missing:cover and the like look closer</source>
         <translation>只显示任一列含有这些词的文件；可用 artist:、year:1990-1999、missing:cover 等细查</translation>
-    </message>
-    <message>
-        <source>Sort By</source>
-        <translation>排序方式</translation>
     </message>
     <message>
         <source>Stop; each file is as it was or as it was to be</source>
@@ -1446,10 +1382,6 @@
         <translation>发行年份，最多四位数字</translation>
     </message>
     <message>
-        <source>Then By</source>
-        <translation>然后按</translation>
-    </message>
-    <message>
         <source>There is no room to keep the old cover for an undo</source>
         <translation>没有空间保留旧封面以供撤销</translation>
     </message>
@@ -1500,6 +1432,86 @@
     <message>
         <source>several values</source>
         <translation>多个值</translation>
+    </message>
+    <message>
+        <source>Name&amp;s</source>
+        <translation>名称(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Ro&amp;w</source>
+        <translation>行(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter:</source>
+        <translation>筛选(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>导出(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Apply</source>
+        <translation>撤销应用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Cell</source>
+        <translation>编辑单元格(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Rows</source>
+        <translation>复制行(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy Co&amp;lumn</source>
+        <translation>复制列(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Cells</source>
+        <translation>粘贴单元格(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>筛选(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By</source>
+        <translation>排序方式(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Then By</source>
+        <translation>然后按(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>列(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Open in Editor</source>
+        <translation>在编辑器中打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>在文件夹中显示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Path</source>
+        <translation>复制路径(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>从列表中移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The listed files and what their tags say</source>
+        <translation>列表中的文件及其标签内容</translation>
     </message>
 </context>
 <context>

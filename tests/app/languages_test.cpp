@@ -2,54 +2,27 @@
 // letter is given twice, controls are called as they read, and the toolkit speaks the same language. Leaves
 // pictures in the folder "screenshots" of the build.
 
+#include "spoken_languages.h"
 #include "window_fixture.h"
+#include "window_inspection.h"
 
 #include "imaging/CoverArtView.h"
 #include "platform/localisation.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
-#include <QShortcut>
-#include <QTranslator>
 
 namespace velmora {
 namespace {
 
+using test::altLetters;
+using test::controlsOutside;
+using test::cutTexts;
+using test::givenTwice;
 using test::text4;
+using test::wrongMenuLetters;
 
-/** A language, and what a word of its own and of the toolkit's is in it. */
-struct Language {
-    QLocale::Language language;
-    const char* save;   ///< of the program
-    const char* cancel; ///< of the toolkit
-};
-
-void PrintTo(const Language& language, std::ostream* stream) {
-    *stream << QLocale::languageToCode(language.language).toStdString();
-}
-
-/** Speaks the language from before the window is made. */
-class Speaking : public testing::WithParamInterface<Language> {
-protected:
-    Speaking() {
-        QLocale::setDefault(QLocale(GetParam().language));
-        installLocalisation();
-    }
-    ~Speaking() override {
-        QLocale::setDefault(former_);
-        qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
-    }
-
-private:
-    QLocale former_;
-};
-
-class LanguageTest : public Speaking, public test::WindowTest {
+class LanguageTest : public test::Speaking, public test::WindowTest {
 protected:
     QWidget& window() { return *document().window(); }
 
@@ -65,73 +38,7 @@ protected:
     }
     void keepPicture(const QString& name) {
         QDir().mkpath("screenshots");
-        const QString code = QLocale::languageToCode(GetParam().language);
-        EXPECT_TRUE(window().grab().save(QStringLiteral("screenshots/%1-%2.png").arg(name, code)));
-    }
-    /** Texts that have less room than they need. */
-    QStringList cutTexts() {
-        QStringList cut;
-        for (const auto* button : window().findChildren<QPushButton*>()) {
-            if (button->isVisible() && button->width() < button->minimumSizeHint().width()) {
-                cut += button->text();
-            }
-        }
-        for (const auto* label : window().findChildren<QLabel*>()) {
-            const bool giveWay = label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
-            if (label->isVisible() && label->wordWrap() &&
-                label->height() < label->heightForWidth(label->width())) {
-                cut += label->text();
-            } else if (label->isVisible() && !label->wordWrap() && !giveWay &&
-                       label->width() < label->sizeHint().width()) {
-                cut += label->text();
-            }
-        }
-        return cut;
-    }
-    /** The controls and texts that reach beyond the window or have nothing to be seen. */
-    QStringList hiddenControls() {
-        QStringList hidden;
-        for (const auto* control : window().findChildren<QWidget*>()) {
-            const bool counts =
-                qobject_cast<const QAbstractButton*>(control) || qobject_cast<const QLabel*>(control);
-            const QRect place(control->mapTo(&window(), QPoint()), control->size());
-            if (counts && control->isVisible() && !window().rect().contains(place)) {
-                hidden += control->objectName();
-            }
-        }
-        return hidden;
-    }
-    /** The window's letters for the Alt key, once for each thing that has them. */
-    QStringList letters() {
-        QStringList all;
-        const auto add = [&all](const QKeySequence& keys) {
-            if (keys.count() == 1 && keys[0].keyboardModifiers() == Qt::AltModifier) {
-                all += keys.toString();
-            }
-        };
-        for (const auto* button : window().findChildren<QAbstractButton*>()) {
-            add(button->shortcut());
-        }
-        for (const auto* label : window().findChildren<QLabel*>()) {
-            add(label->buddy() ? QKeySequence::mnemonic(label->text()) : QKeySequence());
-        }
-        for (const auto* shortcut : window().findChildren<QShortcut*>()) {
-            add(shortcut->key());
-        }
-        for (const QAction* menu : document().window()->menuBar()->actions()) {
-            add(QKeySequence::mnemonic(menu->text()));
-        }
-        return all;
-    }
-    static QStringList givenTwice(QStringList all) {
-        QStringList twice;
-        all.sort();
-        for (qsizetype i = 1; i < all.size(); ++i) {
-            if (all[i] == all[i - 1]) {
-                twice += all[i];
-            }
-        }
-        return twice;
+        EXPECT_TRUE(window().grab().save(QStringLiteral("screenshots/%1-%2.png").arg(name, code())));
     }
 };
 
@@ -145,8 +52,8 @@ TEST_P(LanguageTest, NothingIsCutOffOnASmallScreen) {
         show(name);
         EXPECT_EQ(QSize(1024, 700), window().size());
         EXPECT_LE(window().minimumSizeHint().width(), 1024);
-        EXPECT_EQ(QStringList(), cutTexts()) << name;
-        EXPECT_EQ(QStringList(), hiddenControls()) << name;
+        EXPECT_EQ(QStringList(), cutTexts(window())) << name;
+        EXPECT_EQ(QStringList(), controlsOutside(window())) << name;
         keepPicture(name);
     }
 }
@@ -160,27 +67,17 @@ TEST_P(LanguageTest, NoticeIsReadWholeOnASmallScreen) {
     test::settle();
     EXPECT_TRUE(widget<QLabel>("lbl_notice").isVisible());
     EXPECT_EQ(QSize(1024, 700), window().size());
-    EXPECT_EQ(QStringList(), cutTexts());
+    EXPECT_EQ(QStringList(), cutTexts(window()));
     keepPicture("notice");
 }
 
 TEST_P(LanguageTest, NoLetterIsGivenTwiceInTheWindow) {
-    EXPECT_GE(letters().size(), 25);
-    EXPECT_EQ(QStringList(), givenTwice(letters()));
+    EXPECT_GE(altLetters(window()).size(), 25);
+    EXPECT_EQ(QStringList(), givenTwice(altLetters(window())));
 }
 
-TEST_P(LanguageTest, NoLetterIsGivenTwiceInAMenu) {
-    for (const QAction* title : document().window()->menuBar()->actions()) {
-        QStringList all;
-        for (const QAction* command : title->menu()->actions()) {
-            if (!command->isSeparator()) {
-                const QKeySequence letter = QKeySequence::mnemonic(command->text());
-                EXPECT_FALSE(letter.isEmpty()) << command->text().toStdString();
-                all += letter.toString();
-            }
-        }
-        EXPECT_EQ(QStringList(), givenTwice(all)) << title->text().toStdString();
-    }
+TEST_P(LanguageTest, EachCommandHasALetterAndNoneIsGivenTwiceInAMenu) {
+    EXPECT_EQ(QStringList(), wrongMenuLetters(window()));
 }
 
 TEST_P(LanguageTest, ControlsAreCalledAsTheirCaptionsReadWithoutTheLetters) {
@@ -194,17 +91,7 @@ TEST_P(LanguageTest, ControlsAreCalledAsTheirCaptionsReadWithoutTheLetters) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, LanguageTest,
-                         testing::Values(Language{QLocale::English, "Save", "Cancel"},
-                                         Language{QLocale::German, "Speichern", "Abbrechen"},
-                                         Language{QLocale::French, "Enregistrer", "Annuler"},
-                                         Language{QLocale::Spanish, "Guardar", "Cancelar"},
-                                         Language{QLocale::Italian, "Salva", "Annulla"},
-                                         Language{QLocale::Japanese, "保存", "キャンセル"},
-                                         Language{QLocale::Chinese, "保存", "取消"}),
-                         [](const auto& language) {
-                             return QLocale::languageToCode(language.param.language).toStdString();
-                         });
+INSTANTIATE_TEST_SUITE_P(Languages, LanguageTest, test::allLanguages(), test::languageName);
 
 } // namespace
 } // namespace velmora

@@ -5,6 +5,7 @@
 #include "browser/media_table.h"
 #include "browser/tag_form.h"
 #include "support/id3_tags.h"
+#include "support/qt_printing.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
 #include "support/waiting.h"
