@@ -15,6 +15,8 @@ namespace velmora {
 
 namespace {
 
+constexpr int windowMargin = 8; // as the forms above it keep
+
 /** TEXT with the time of day. */
 QString withTime(const QString& text) {
     return text + QStringLiteral(" (") + QLocale().toString(QTime::currentTime(), QLocale::ShortFormat) +
@@ -37,6 +39,7 @@ StatusLine::StatusLine(QWidget* parent)
     addWidget(save_, 3);
     addWidget(search_, 2);
     setSizeGripEnabled(false);
+    setContentsMargins(windowMargin, 0, windowMargin, 0);
 }
 
 void StatusLine::tellSave(const SaveEnd& end) {
