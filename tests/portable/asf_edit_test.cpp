@@ -1,4 +1,5 @@
 #include "asf_fixture.h"
+#include "rewriting.h"
 
 #include "portable/reason.h"
 #include "support/bytes.h"

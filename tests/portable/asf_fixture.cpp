@@ -97,18 +97,6 @@ std::string asf_without_tags(const std::string& bytes) {
     return made(portable::open_asf(file.file(), bytes.size(), portable::Media::audio)->without_tags(), bytes);
 }
 
-TagEdits set_text(portable::Field field, std::string text) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::set(std::move(text));
-    return edits;
-}
-
-TagEdits remove_text(portable::Field field) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::remove();
-    return edits;
-}
-
 TagEdits set_year(int year) {
     TagEdits edits;
     edits.year = Edit<int>::set(year);

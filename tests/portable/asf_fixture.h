@@ -45,8 +45,6 @@ inline constexpr std::string_view data_guid = "36 26 B2 75 8E 66 CF 11 A6 D9 00 
 /** BYTES without tags. */
 [[nodiscard]] std::string asf_without_tags(const std::string& bytes);
 
-[[nodiscard]] portable::TagEdits set_text(portable::Field field, std::string text);
-[[nodiscard]] portable::TagEdits remove_text(portable::Field field);
 [[nodiscard]] portable::TagEdits set_year(int year);
 [[nodiscard]] portable::TagEdits set_cover(std::string_view mime, std::string_view bytes);
 

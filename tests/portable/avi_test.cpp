@@ -13,7 +13,9 @@ using test::chunk;
 using test::edited;
 using test::info;
 using test::list;
+using test::remove_text;
 using test::riff;
+using test::set_text;
 using test::to_hex;
 using test::values_in;
 
@@ -27,18 +29,6 @@ std::string film(const std::string& in_front, const std::string& behind) {
 
 std::string junk(std::size_t size) {
     return chunk("JUNK", std::string(size, '\0'));
-}
-
-TagEdits set(Field field, const std::string& text) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::set(text);
-    return edits;
-}
-
-TagEdits remove(Field field) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::remove();
-    return edits;
 }
 
 TEST(AviTags, EachFieldHasItsCode) {
@@ -73,7 +63,7 @@ TEST(AviTags, AListIsMadeDirectlyBehindTheIndex) {
         "69647831 10000000 30313233343536373839616263646566"
         "4C495354 10000000 494E464F 494E414D 04000000 4E657700");   // the list: "INAM", "New"
     // clang-format on
-    EXPECT_EQ(to_hex(expected), to_hex(edited(film("", ""), "avi", set(Field::title, "New"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(film("", ""), "avi", set_text(Field::title, "New"))));
 }
 
 TEST(AviTags, AListInFrontOfTheMediaBecomesFreeAndItsOtherItemsGoOver) {
@@ -83,14 +73,14 @@ TEST(AviTags, AListInFrontOfTheMediaBecomesFreeAndItsOtherItemsGoOver) {
         list("INFO", info("ICOP", "Copyright") + info("INAM", "Longer") + info("ISFT", "Maker"));
     const std::string expected = film(junk(old_list.size() - 8) + junk(20), new_list);
     EXPECT_EQ(to_hex(expected),
-              to_hex(edited(film(old_list + junk(20), ""), "avi", set(Field::title, "Longer"))));
+              to_hex(edited(film(old_list + junk(20), ""), "avi", set_text(Field::title, "Longer"))));
 }
 
 TEST(AviTags, NothingFreeStaysBetweenTheIndexAndTheList) {
     const std::string list_of_title = list("INFO", info("INAM", "New"));
     const std::string expected = film("", list_of_title + chunk("XTRA", "more"));
     EXPECT_EQ(to_hex(expected), to_hex(edited(film("", junk(100) + chunk("XTRA", "more") + junk(2)), "avi",
-                                              set(Field::title, "New"))));
+                                              set_text(Field::title, "New"))));
 }
 
 TEST(AviTags, BothOfTwoListsAndOfTwoItemsAreReplaced) {
@@ -100,12 +90,12 @@ TEST(AviTags, BothOfTwoListsAndOfTwoItemsAreReplaced) {
         film(junk(first.size() - 8),
              list("INFO", info("INAM", "New") + info("IGNR", "Drama") + info("IKEY", "x")));
     EXPECT_EQ("One; Two; Three", values_in(film(first, second), "avi").text(Field::title));
-    EXPECT_EQ(to_hex(expected), to_hex(edited(film(first, second), "avi", set(Field::title, "New"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(film(first, second), "avi", set_text(Field::title, "New"))));
 }
 
 TEST(AviTags, TheLastItemTakesTheListWithIt) {
     const std::string old = film("", list("INFO", info("INAM", "Old")));
-    EXPECT_EQ(to_hex(film("", "")), to_hex(edited(old, "avi", remove(Field::title))));
+    EXPECT_EQ(to_hex(film("", "")), to_hex(edited(old, "avi", remove_text(Field::title))));
     EXPECT_EQ(to_hex(film("", "")), to_hex(test::without_tags(old, "avi")));
 }
 
@@ -120,7 +110,7 @@ TEST(AviTags, AWrongSizeInFrontIsPutRight) {
     std::string old = film("", "");
     old.replace(4, 4, test::le32(0));
     EXPECT_EQ(to_hex(film("", list("INFO", info("INAM", "New")))),
-              to_hex(edited(old, "avi", set(Field::title, "New"))));
+              to_hex(edited(old, "avi", set_text(Field::title, "New"))));
 }
 
 TEST(AviTags, AFilmThatIsCutOffIsShownAndNotSaved) {
@@ -128,8 +118,9 @@ TEST(AviTags, AFilmThatIsCutOffIsShownAndNotSaved) {
     for (const std::size_t less : {1U, 20U, 30U}) {
         const std::string cut = whole.substr(0, whole.size() - less);
         EXPECT_EQ("Title", values_in(cut, "avi").text(Field::title));
-        EXPECT_EQ("the file is damaged (the last chunk reaches behind the end of the file)",
-                  test::refusal_of([&] { static_cast<void>(edited(cut, "avi", set(Field::title, "New"))); }));
+        EXPECT_EQ(
+            "the file is damaged (the last chunk reaches behind the end of the file)",
+            test::refusal_of([&] { static_cast<void>(edited(cut, "avi", set_text(Field::title, "New"))); }));
     }
 }
 
@@ -137,8 +128,9 @@ TEST(AviTags, AnItemThatReachesOutOfItsListIsNotLost) {
     std::string items = info("INAM", "Old") + chunk("IKEY", "1234");
     items[items.size() - 8] = 9;
     const std::string old = film("", list("INFO", items));
-    EXPECT_EQ("the file is damaged (an item reaches out of the INFO list)",
-              test::refusal_of([&] { static_cast<void>(edited(old, "avi", set(Field::title, "New"))); }));
+    EXPECT_EQ("the file is damaged (an item reaches out of the INFO list)", test::refusal_of([&] {
+                  static_cast<void>(edited(old, "avi", set_text(Field::title, "New")));
+              }));
 }
 
 TEST(AviTags, AnotherFormIsNoFilm) {
@@ -176,20 +168,20 @@ TEST(OpenDmlTags, AListGoesIntoTheRoomOfTheOldOneAndTheFreeChunkBesideIt) {
     const std::string new_list = list("INFO", info("INAM", "Longer") + info("ISFT", "Maker"));
     const std::size_t more = new_list.size() - old_list.size();
     EXPECT_EQ(to_hex(long_film(new_list + junk(20 - more))),
-              to_hex(edited(long_film(old_list + junk(20)), "avi", set(Field::title, "Longer"))));
+              to_hex(edited(long_film(old_list + junk(20)), "avi", set_text(Field::title, "Longer"))));
 }
 
 TEST(OpenDmlTags, AListMayFillItsRoom) {
     const std::string new_list = list("INFO", info("INAM", "Title"));
     EXPECT_EQ(to_hex(long_film(new_list)),
-              to_hex(edited(long_film(junk(new_list.size() - 8)), "avi", set(Field::title, "Title"))));
+              to_hex(edited(long_film(junk(new_list.size() - 8)), "avi", set_text(Field::title, "Title"))));
 }
 
 TEST(OpenDmlTags, AListBehindTheMediaMovesToTheRoomInFront) {
     const std::string old_list = list("INFO", info("INAM", "Old"));
     const std::string new_list = list("INFO", info("INAM", "New"));
     EXPECT_EQ(to_hex(long_film(new_list + junk(100 - new_list.size()), junk(old_list.size() - 8))),
-              to_hex(edited(long_film(junk(100), old_list), "avi", set(Field::title, "New"))));
+              to_hex(edited(long_film(junk(100), old_list), "avi", set_text(Field::title, "New"))));
 }
 
 TEST(OpenDmlTags, WithoutRoomItIsRefused) {
@@ -199,7 +191,7 @@ TEST(OpenDmlTags, WithoutRoomItIsRefused) {
                   "can't be moved)",
                   test::refusal_of([&] {
                       static_cast<void>(
-                          edited(long_film(in_front), "avi", set(Field::title, "A longer title")));
+                          edited(long_film(in_front), "avi", set_text(Field::title, "A longer title")));
                   }));
     }
 }

@@ -14,7 +14,9 @@ using test::chunk;
 using test::edited;
 using test::info;
 using test::list;
+using test::remove_text;
 using test::riff;
+using test::set_text;
 using test::to_hex;
 using test::values_in;
 
@@ -41,18 +43,6 @@ std::string old_tag(const std::string& title) {
            test::hex("58595A57 00000004 0000 01020304");
 }
 
-TagEdits set(Field field, const std::string& text) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::set(text);
-    return edits;
-}
-
-TagEdits remove(Field field) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::remove();
-    return edits;
-}
-
 TEST(WavTags, TheId3ChunkCountsBeforeTheInfoList) {
     const std::string items = info("INAM", "In INFO") + info("IART", "Artist") + info("IPRD", "Album") +
                               info("ICMT", "Comment") + info("IGNR", "Folk") + info("ICRD", "1994-05-03");
@@ -67,7 +57,7 @@ TEST(WavTags, TheId3ChunkCountsBeforeTheInfoList) {
 
 TEST(WavTags, ATagIsMadeAtTheEndAndNoInfoList) {
     EXPECT_EQ(to_hex(wav("", chunk("id3 ", new_tag("Title")))),
-              to_hex(edited(wav("", ""), "wav", set(Field::title, "Title"))));
+              to_hex(edited(wav("", ""), "wav", set_text(Field::title, "Title"))));
 }
 
 TEST(WavTags, AMissingPadByteIsPutInFrontOfTheTag) {
@@ -75,7 +65,7 @@ TEST(WavTags, AMissingPadByteIsPutInFrontOfTheTag) {
     old.pop_back();
     old[4] = static_cast<char>(old[4] - 1);
     EXPECT_EQ(to_hex(wav("", chunk("id3 ", new_tag("Title")))),
-              to_hex(edited(old, "wav", set(Field::title, "Title"))));
+              to_hex(edited(old, "wav", set_text(Field::title, "Title"))));
 }
 
 TEST(WavTags, BothTagsAreUpdatedAndOtherItemsStay) {
@@ -85,12 +75,12 @@ TEST(WavTags, BothTagsAreUpdatedAndOtherItemsStay) {
                    chunk("cue ", "cues"));
     };
     EXPECT_EQ(to_hex(with("Other", old_tag("Other"))),
-              to_hex(edited(with("Title", old_tag("Title")), "wav", set(Field::title, "Other"))));
+              to_hex(edited(with("Title", old_tag("Title")), "wav", set_text(Field::title, "Other"))));
 }
 
 TEST(WavTags, ANewTagSaysWhatTheInfoListDoes) {
     const std::string old = wav("", list("INFO", info("IART", "Artist")));
-    const std::string made = edited(old, "wav", set(Field::title, "Title"));
+    const std::string made = edited(old, "wav", set_text(Field::title, "Title"));
     EXPECT_THAT(made, testing::HasSubstr("TPE1" + test::hex("00000007 0000 03") + "Artist"));
     EXPECT_THAT(made, testing::HasSubstr(list("INFO", info("IART", "Artist") + info("INAM", "Title"))));
 }
@@ -98,7 +88,7 @@ TEST(WavTags, ANewTagSaysWhatTheInfoListDoes) {
 TEST(WavTags, DeletingDeletesInBothAndMakesNone) {
     const std::string old = wav("", list("INFO", info("INAM", "Title") + info("ISFT", "Maker")));
     EXPECT_EQ(to_hex(wav("", list("INFO", info("ISFT", "Maker")))),
-              to_hex(edited(old, "wav", remove(Field::title))));
+              to_hex(edited(old, "wav", remove_text(Field::title))));
 }
 
 TEST(WavTags, TwoInfoListsBecomeOne) {
@@ -106,7 +96,7 @@ TEST(WavTags, TwoInfoListsBecomeOne) {
     const std::string old = wav(list("INFO", info("INAM", "One")),
                                 list("INFO", info("ISFT", "Maker")) + chunk("id3 ", old_tag("Title")));
     const std::string expected = wav(list("INFO", info("INAM", "Other") + info("ISFT", "Maker")), tag);
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "wav", set(Field::title, "Other"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "wav", set_text(Field::title, "Other"))));
 }
 
 TEST(WavTags, RemovalTakesBoth) {
@@ -119,8 +109,9 @@ TEST(WavTags, SamplesThatAreCutOffAreShownAndNotSaved) {
     const std::string old = wav(list("INFO", info("INAM", "Title")), "");
     const std::string cut = old.substr(0, old.size() - 3);
     EXPECT_EQ("Title", values_in(cut, "wav").text(Field::title));
-    EXPECT_EQ("the file is damaged (the last chunk reaches behind the end of the file)",
-              test::refusal_of([&] { static_cast<void>(edited(cut, "wav", set(Field::title, "New"))); }));
+    EXPECT_EQ(
+        "the file is damaged (the last chunk reaches behind the end of the file)",
+        test::refusal_of([&] { static_cast<void>(edited(cut, "wav", set_text(Field::title, "New"))); }));
 }
 
 TEST(WavTags, A64BitFileIsRefused) {
@@ -145,7 +136,7 @@ TEST(WavTags, FilesOfManyShapesAreReadOrRefused) {
 
 TEST(AiffTags, ATagIsMadeAtTheEnd) {
     EXPECT_EQ(to_hex(aiff("", aiff_chunk("ID3 ", new_tag("Title")))),
-              to_hex(edited(aiff("", ""), "aiff", set(Field::title, "Title"))));
+              to_hex(edited(aiff("", ""), "aiff", set_text(Field::title, "Title"))));
 }
 
 TEST(AiffTags, TextsOfItsOwnAreReadAndUpdated) {
@@ -154,7 +145,7 @@ TEST(AiffTags, TextsOfItsOwnAreReadAndUpdated) {
                     aiff_chunk("ID3 ", old_tag(name)));
     };
     EXPECT_EQ("Author", values_in(with("Title"), "aif").text(Field::artist));
-    EXPECT_EQ(to_hex(with("Other")), to_hex(edited(with("Title"), "aif", set(Field::title, "Other"))));
+    EXPECT_EQ(to_hex(with("Other")), to_hex(edited(with("Title"), "aif", set_text(Field::title, "Other"))));
 }
 
 TEST(AiffTags, RemovalTakesTheTagAndTheTexts) {

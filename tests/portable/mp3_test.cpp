@@ -18,22 +18,12 @@ using test::hex;
 using test::le32;
 using test::pattern;
 using test::refusal_of;
+using test::remove_text;
+using test::set_text;
 using test::to_hex;
 using test::values_in;
 
 const std::string frames = hex("FFFB9064") + pattern(500);
-
-TagEdits set(Field field, const std::string& text) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::set(text);
-    return edits;
-}
-
-TagEdits remove(Field field) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::remove();
-    return edits;
-}
 
 /** A synchsafe size. */
 std::string synchsafe(std::size_t size) {
@@ -60,20 +50,20 @@ const std::string padding(40, '\0');
 TEST(Mp3Tags, AFileWithoutOneGetsATagOfVersion4InFront) {
     const std::string content = frame("TIT2", "\x03Größe");
     EXPECT_EQ(to_hex(tag(4, content + std::string(1024, '\0')) + frames),
-              to_hex(edited(frames, "mp3", set(Field::title, "Größe"))));
+              to_hex(edited(frames, "mp3", set_text(Field::title, "Größe"))));
 }
 
 TEST(Mp3Tags, ANewValueTakesThePlaceOfTheOldOneAndThePaddingMakesUpForIt) {
     const std::string kept = frame("TPE1", latin1 + "Ann") + frame("RVAD", "\x03\x10\x01\x02");
     const std::string old = tag(3, frame("TIT2", latin1 + "Harbour") + kept + padding);
     const std::string made = tag(3, frame("TIT2", latin1 + "Harb") + kept + padding + std::string(3, '\0'));
-    EXPECT_EQ(to_hex(made + frames), to_hex(edited(old + frames, "mp3", set(Field::title, "Harb"))));
+    EXPECT_EQ(to_hex(made + frames), to_hex(edited(old + frames, "mp3", set_text(Field::title, "Harb"))));
 }
 
 TEST(Mp3Tags, Version3TakesUtf16WithAMark) {
     const std::string old = tag(3, frame("TIT2", latin1 + "Harbour") + padding);
     const std::string made = tag(3, frame("TIT2", hex("01 FFFE F600 1E26")) + padding + std::string(1, '\0'));
-    EXPECT_EQ(to_hex(made + frames), to_hex(edited(old + frames, "mp3", set(Field::title, "ö☞"))));
+    EXPECT_EQ(to_hex(made + frames), to_hex(edited(old + frames, "mp3", set_text(Field::title, "ö☞"))));
 }
 
 TEST(Mp3Tags, EveryEncodingIsRead) {
@@ -99,7 +89,7 @@ TEST(Mp3Tags, ACommentWithADescriptionIsNoSynopsis) {
     const std::string old = tag(3, described + comment + padding);
     EXPECT_EQ("Old", values_in(old + frames, "mp3").text(Field::synopsis));
     const std::string made = tag(3, described + frame("COMM", latin1 + "deu" + latin1 + "New") + padding);
-    EXPECT_EQ(to_hex(made + frames), to_hex(edited(old + frames, "mp3", set(Field::synopsis, "New"))));
+    EXPECT_EQ(to_hex(made + frames), to_hex(edited(old + frames, "mp3", set_text(Field::synopsis, "New"))));
 }
 
 TEST(Mp3Tags, MonthAndDayStayWithTheYearAndGoWithIt) {
@@ -114,8 +104,8 @@ TEST(Mp3Tags, MonthAndDayStayWithTheYearAndGoWithIt) {
 }
 
 TEST(Mp3Tags, ATagThatHasNothingLeftGoes) {
-    EXPECT_EQ(to_hex(frames),
-              to_hex(edited(tag(4, frame("TIT2", "\x03X") + padding) + frames, "mp3", remove(Field::title))));
+    EXPECT_EQ(to_hex(frames), to_hex(edited(tag(4, frame("TIT2", "\x03X") + padding) + frames, "mp3",
+                                            remove_text(Field::title))));
 }
 
 TEST(Mp3Tags, TheCoverIsTheFrontOneAndOthersStay) {
@@ -140,7 +130,7 @@ TEST(Mp3Tags, AFrameThatReachesBeyondTheTagIsReadPastAndNotSaved) {
     const std::string broken = tag(3, frame("TIT2", latin1 + "Old") + "TALB" + hex("00001000 0000 00"));
     EXPECT_EQ("Old", values_in(broken + frames, "mp3").text(Field::title));
     EXPECT_EQ("the file is damaged (ID3v2 frame)", test::refusal_of([&] {
-                  static_cast<void>(edited(broken + frames, "mp3", set(Field::title, "X")));
+                  static_cast<void>(edited(broken + frames, "mp3", set_text(Field::title, "X")));
               }));
 }
 
@@ -167,8 +157,9 @@ TEST(Mp3Tags, MoreItemsThanAnyApeTagHasAreRefused) {
 
 TEST(Mp3Tags, WhatHoldsAnotherFormatIsNotTouched) {
     const std::string film = hex("00000018") + "ftypisom" + pattern(100);
-    EXPECT_THAT(test::refusal_of([&] { static_cast<void>(edited(film, "mp3", set(Field::title, "X"))); }),
-                testing::HasSubstr("another format"));
+    EXPECT_THAT(
+        test::refusal_of([&] { static_cast<void>(edited(film, "mp3", set_text(Field::title, "X"))); }),
+        testing::HasSubstr("another format"));
 }
 
 /** A file at whose end the program wrote in place. */

@@ -17,23 +17,13 @@ using test::edited;
 using test::free_item;
 using test::item;
 using test::item_list;
+using test::remove_text;
+using test::set_text;
 using test::to_hex;
 using test::track;
 
 const std::string file_type = box("ftyp", "isom");
 const std::string media = box("mdat", "media");
-
-TagEdits set(Field field, const std::string& text) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::set(text);
-    return edits;
-}
-
-TagEdits remove(Field field) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::remove();
-    return edits;
-}
 
 TagEdits cover(const std::string& bytes, const std::string& mime) {
     TagEdits edits;
@@ -54,8 +44,8 @@ TEST(Mp4Edit, AListIsMadeWhereThereIsNone) {
         "41207469746C6520696E205554462D38 20 C3A9"
         "0000000D 6D646174 6D65646961");                              // mdat
     // clang-format on
-    const std::string made =
-        edited(file_type + box("moov", "") + media, "mp4", set(Field::title, "A title in UTF-8 \xC3\xA9"));
+    const std::string made = edited(file_type + box("moov", "") + media, "mp4",
+                                    set_text(Field::title, "A title in UTF-8 \xC3\xA9"));
     EXPECT_EQ(to_hex(expected), to_hex(made));
 }
 
@@ -68,7 +58,7 @@ TEST(Mp4Edit, OtherItemsStayInTheirPlaces) {
         file_type + media + box("moov", item_list(before + item("\xA9nam", "Old") + after));
     const std::string expected =
         file_type + media + box("moov", item_list(before + item("\xA9nam", "Longer") + after));
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", set(Field::title, "Longer"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", set_text(Field::title, "Longer"))));
 }
 
 TEST(Mp4Edit, ADeletedItemGoes) {
@@ -80,12 +70,12 @@ TEST(Mp4Edit, ADeletedItemGoes) {
                                  box("moov", item_list(item("\xA9"
                                                             "cmt",
                                                             "Comment")));
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", remove(Field::title))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", remove_text(Field::title))));
 }
 
 TEST(Mp4Edit, DeletingWhatIsNotThereChangesNothing) {
     const std::string old = file_type + box("moov", track(be32(20))) + media;
-    EXPECT_EQ(to_hex(old), to_hex(edited(old, "mp4", remove(Field::title))));
+    EXPECT_EQ(to_hex(old), to_hex(edited(old, "mp4", remove_text(Field::title))));
 }
 
 TEST(Mp4Edit, OffsetsFollowTheMediaBehindMoov) {
@@ -93,7 +83,7 @@ TEST(Mp4Edit, OffsetsFollowTheMediaBehindMoov) {
     const std::string old = file_type + box("moov", track(be32(small))) + media;
     const std::string list = item_list(item("\xA9nam", "Title"));
     const std::string expected = file_type + box("moov", track(be32(small + list.size())) + list) + media;
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", set(Field::title, "Title"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", set_text(Field::title, "Title"))));
 }
 
 TEST(Mp4Edit, OffsetsInFrontOfMoovStay) {
@@ -101,7 +91,7 @@ TEST(Mp4Edit, OffsetsInFrontOfMoovStay) {
     const std::string old = file_type + media + box("moov", track(offsets));
     const std::string expected =
         file_type + media + box("moov", track(offsets) + item_list(item("\xA9nam", "Title")));
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", set(Field::title, "Title"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", set_text(Field::title, "Title"))));
 }
 
 TEST(Mp4Edit, MediaOnBothSidesOfMoovAreFoundAgain) {
@@ -113,7 +103,7 @@ TEST(Mp4Edit, MediaOnBothSidesOfMoovAreFoundAgain) {
     const std::string old = file_type + media + box("moov", track(be32(second) + be32(first))) + other;
     const std::string expected =
         file_type + media + box("moov", track(be32(second + list.size()) + be32(first)) + list) + other;
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mov", set(Field::title, "Title"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mov", set_text(Field::title, "Title"))));
 }
 
 TEST(Mp4Edit, OffsetsOf64BitsFollowToo) {
@@ -125,13 +115,14 @@ TEST(Mp4Edit, OffsetsOf64BitsFollowToo) {
     const std::string list = item_list(item("\xA9nam", "Title"));
     const std::size_t place = with(0, "").size() - 5;
     EXPECT_EQ(to_hex(with(place + list.size(), list)),
-              to_hex(edited(with(place, ""), "mp4", set(Field::title, "Title"))));
+              to_hex(edited(with(place, ""), "mp4", set_text(Field::title, "Title"))));
 }
 
 TEST(Mp4Edit, AnOffsetThatWouldNotFitIsRefused) {
     const std::string old = file_type + box("moov", track(be32(0xFFFFFFF0))) + media;
-    EXPECT_EQ("the file is damaged (an offset points behind the end of the file)",
-              test::refusal_of([&] { static_cast<void>(edited(old, "mp4", set(Field::title, "Title"))); }));
+    EXPECT_EQ("the file is damaged (an offset points behind the end of the file)", test::refusal_of([&] {
+                  static_cast<void>(edited(old, "mp4", set_text(Field::title, "Title")));
+              }));
 }
 
 TEST(Mp4Edit, OffsetsIntoOtherFilesStay) {
@@ -144,7 +135,7 @@ TEST(Mp4Edit, OffsetsIntoOtherFilesStay) {
                media;
     };
     const std::string list = item_list(item("\xA9nam", "Title"));
-    EXPECT_EQ(to_hex(with(list)), to_hex(edited(with(""), "mov", set(Field::title, "Title"))));
+    EXPECT_EQ(to_hex(with(list)), to_hex(edited(with(""), "mov", set_text(Field::title, "Title"))));
 }
 
 /** A film in fragments, with offsets that count from the file's beginning in their headers and behind
@@ -162,7 +153,7 @@ std::string fragments(const std::string& list) {
 
 TEST(Mp4Edit, OffsetsOfFragmentsFollow) {
     const std::string list = item_list(item("\xA9nam", "Title"));
-    EXPECT_EQ(to_hex(fragments(list)), to_hex(edited(fragments(""), "mp4", set(Field::title, "Title"))));
+    EXPECT_EQ(to_hex(fragments(list)), to_hex(edited(fragments(""), "mp4", set_text(Field::title, "Title"))));
 }
 
 TEST(Mp4Edit, AnIndexInFrontOfMoovFindsItsMediaAgain) {
@@ -173,7 +164,7 @@ TEST(Mp4Edit, AnIndexInFrontOfMoovFindsItsMediaAgain) {
         return file_type + index + moov + media;
     };
     const std::string list = item_list(item("\xA9nam", "Title"));
-    EXPECT_EQ(to_hex(with(list)), to_hex(edited(with(""), "mp4", set(Field::title, "Title"))));
+    EXPECT_EQ(to_hex(with(list)), to_hex(edited(with(""), "mp4", set_text(Field::title, "Title"))));
 }
 
 TEST(Mp4Edit, FreeBytesBesideTheListTakeUpTheDifference) {
@@ -183,8 +174,8 @@ TEST(Mp4Edit, FreeBytesBesideTheListTakeUpTheDifference) {
                box("moov", track(be32(file_type.size())) + item_list(item("\xA9nam", title), free)) + media;
     };
     EXPECT_EQ(to_hex(with("Longer", 97)),
-              to_hex(edited(with("Old", 100), "mp4", set(Field::title, "Longer"))));
-    EXPECT_EQ(to_hex(with("X", 102)), to_hex(edited(with("Old", 100), "mp4", set(Field::title, "X"))));
+              to_hex(edited(with("Old", 100), "mp4", set_text(Field::title, "Longer"))));
+    EXPECT_EQ(to_hex(with("X", 102)), to_hex(edited(with("Old", 100), "mp4", set_text(Field::title, "X"))));
 }
 
 TEST(Mp4Edit, FreeBytesBehindMoovTakeUpTheDifference) {
@@ -192,7 +183,7 @@ TEST(Mp4Edit, FreeBytesBehindMoovTakeUpTheDifference) {
     const std::string old =
         file_type + box("moov", "") + box("free", std::string(list.size() + 10, '\0')) + media;
     const std::string expected = file_type + box("moov", list) + box("free", std::string(10, '\0')) + media;
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", set(Field::title, "Title"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", set_text(Field::title, "Title"))));
 }
 
 TEST(Mp4Edit, WhatATagNoLongerNeedsBecomesFreeWhereMediaFollow) {
@@ -201,15 +192,16 @@ TEST(Mp4Edit, WhatATagNoLongerNeedsBecomesFreeWhereMediaFollow) {
     const std::string old = file_type + box("moov", item_list(rest + gone)) + media;
     const std::string expected =
         file_type + box("moov", item_list(rest, box("free", std::string(gone.size() - 8, '\0')))) + media;
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", remove(Field::title))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", remove_text(Field::title))));
 }
 
 TEST(Mp4Edit, MediaInFreeBytesAreNotOverwritten) {
     const std::string free = box("free", std::string(200, 'm'));
     const std::size_t moov = 8 + track(be32(0)).size();
     const std::string old = file_type + box("moov", track(be32(file_type.size() + moov + 8))) + free + media;
-    EXPECT_EQ("the file is of a sort that can't be saved safely (media among the tags)",
-              test::refusal_of([&] { static_cast<void>(edited(old, "mp4", set(Field::title, "Title"))); }));
+    EXPECT_EQ(
+        "the file is of a sort that can't be saved safely (media among the tags)",
+        test::refusal_of([&] { static_cast<void>(edited(old, "mp4", set_text(Field::title, "Title"))); }));
 }
 
 TEST(Mp4Edit, ASynopsisIsWrittenWholeAndInShort) {
@@ -222,13 +214,13 @@ TEST(Mp4Edit, ASynopsisIsWrittenWholeAndInShort) {
     const std::string old = file_type + media + box("moov", item_list(item("desc", "Old")));
     const std::string expected =
         file_type + media + box("moov", item_list(item("desc", beginning) + item("ldes", text)));
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", set(Field::synopsis, text))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mp4", set_text(Field::synopsis, text))));
 }
 
 TEST(Mp4Edit, ANumberedGenreGivesWayToItsName) {
     const std::string old = file_type + media + box("moov", item_list(item("gnre", be16(18), 0)));
     const std::string expected = file_type + media + box("moov", item_list(item("\xA9gen", "Jazz")));
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "m4a", set(Field::genre, "Jazz"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "m4a", set_text(Field::genre, "Jazz"))));
 }
 
 TEST(Mp4Edit, ARatingHasItsSystemAndNumber) {
@@ -236,11 +228,11 @@ TEST(Mp4Edit, ARatingHasItsSystemAndNumber) {
         return file_type + media + box("moov", item_list(free_item("com.apple.iTunes", "iTunEXTC", value)));
     };
     EXPECT_EQ(to_hex(with("mpaa|PG-13|300|")),
-              to_hex(edited(with("mpaa|R|400|violence"), "mp4", set(Field::rating, "PG-13"))));
+              to_hex(edited(with("mpaa|R|400|violence"), "mp4", set_text(Field::rating, "PG-13"))));
     EXPECT_EQ(to_hex(with("us-tv|TV-MA|600|x")),
-              to_hex(edited(with("us-tv|TV-MA|600|x"), "mp4", set(Field::rating, "TV-MA"))));
+              to_hex(edited(with("us-tv|TV-MA|600|x"), "mp4", set_text(Field::rating, "TV-MA"))));
     EXPECT_EQ(to_hex(with("mpaa|Other|0|")),
-              to_hex(edited(with("mpaa|R|400|"), "mp4", set(Field::rating, "Other"))));
+              to_hex(edited(with("mpaa|R|400|"), "mp4", set_text(Field::rating, "Other"))));
 }
 
 TEST(Mp4Edit, ADateKeepsItsMonthWhileItsYearStays) {
@@ -286,7 +278,7 @@ TEST(Mp4Edit, QuickTimeUserDataAreUpdatedWhereTheyExist) {
     const std::string old = file_type + media + box("moov", user_data("Old", ""));
     const std::string list = item_list(item("\xA9nam", "New title")).substr(8);
     const std::string expected = file_type + media + box("moov", user_data("New title", list));
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mov", set(Field::title, "New title"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mov", set_text(Field::title, "New title"))));
 }
 
 TEST(Mp4Edit, QuickTimeKeysAreUpdatedWhereTheyExist) {
@@ -301,9 +293,9 @@ TEST(Mp4Edit, QuickTimeKeysAreUpdatedWhereTheyExist) {
     const std::string expected =
         file_type + media +
         box("moov", keys(item(be32(1), "New") + place) + item_list(item("\xA9nam", "New")));
-    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mov", set(Field::title, "New"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(old, "mov", set_text(Field::title, "New"))));
     EXPECT_EQ(to_hex(file_type + media + box("moov", keys(place))),
-              to_hex(edited(old, "mov", remove(Field::title))));
+              to_hex(edited(old, "mov", remove_text(Field::title))));
 }
 
 TEST(Mp4Edit, AMoovOf64BitsOfSizeStaysOne) {
@@ -311,13 +303,14 @@ TEST(Mp4Edit, AMoovOf64BitsOfSizeStaysOne) {
         return file_type + media + be32(1) + "moov" + be64(16 + content.size()) + content;
     };
     const std::string expected = with(item_list(item("\xA9nam", "Title")));
-    EXPECT_EQ(to_hex(expected), to_hex(edited(with(""), "mp4", set(Field::title, "Title"))));
+    EXPECT_EQ(to_hex(expected), to_hex(edited(with(""), "mp4", set_text(Field::title, "Title"))));
 }
 
 TEST(Mp4Edit, AFileWhoseMediaWereCutOffIsRefused) {
     const std::string old = file_type + box("moov", "") + media.substr(0, media.size() - 1);
-    EXPECT_EQ("the file is damaged (the last box reaches behind the end of the file)",
-              test::refusal_of([&] { static_cast<void>(edited(old, "mp4", set(Field::title, "Title"))); }));
+    EXPECT_EQ("the file is damaged (the last box reaches behind the end of the file)", test::refusal_of([&] {
+                  static_cast<void>(edited(old, "mp4", set_text(Field::title, "Title")));
+              }));
 }
 
 TEST(Mp4Edit, RemovalTakesEveryTag) {
@@ -336,7 +329,7 @@ TEST(Mp4Edit, AMetaBoxWithoutAListGetsOne) {
         return file_type + media + box("moov", box("udta", box("meta", be32(0) + handler + in_meta)));
     };
     EXPECT_EQ(to_hex(with(box("ilst", item("\xA9nam", "Title")))),
-              to_hex(edited(with(""), "mp4", set(Field::title, "Title"))));
+              to_hex(edited(with(""), "mp4", set_text(Field::title, "Title"))));
 }
 
 TEST(Mp4Edit, AListOfKeysInUserDataStaysBehindTheNewList) {
@@ -346,7 +339,7 @@ TEST(Mp4Edit, AListOfKeysInUserDataStaysBehindTheNewList) {
     const std::string list = item_list(item("\xA9nam", "Title")).substr(8);
     const std::string expected = file_type + media + box("moov", box("udta", list + keys));
     EXPECT_EQ(to_hex(expected), to_hex(edited(file_type + media + box("moov", box("udta", keys)), "mov",
-                                              set(Field::title, "Title"))));
+                                              set_text(Field::title, "Title"))));
 }
 
 TEST(Mp4Edit, AnOffsetThatDidNotFollowIsFound) {

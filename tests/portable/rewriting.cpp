@@ -117,6 +117,18 @@ void check_moved(std::string_view old, std::string_view made, std::string_view e
     new_file.taken_apart()->check_against(*old_file.taken_apart());
 }
 
+TagEdits set_text(Field field, std::string text) {
+    TagEdits edits;
+    edits.text(field) = Edit<std::string>::set(std::move(text));
+    return edits;
+}
+
+TagEdits remove_text(Field field) {
+    TagEdits edits;
+    edits.text(field) = Edit<std::string>::remove();
+    return edits;
+}
+
 std::string refusal_of(const std::function<void()>& action) {
     try {
         action();

@@ -25,6 +25,10 @@ namespace velmora::test {
 /** Checks MADE, as what OLD became, by the format's own check of what moved. Throws a Refusal. */
 void check_moved(std::string_view old, std::string_view made, std::string_view extension);
 
+/** The edits that set FIELD, one of the text fields, to TEXT or delete it, and leave all others alone. */
+[[nodiscard]] portable::TagEdits set_text(portable::Field field, std::string text);
+[[nodiscard]] portable::TagEdits remove_text(portable::Field field);
+
 /** The sentence of the refusal that ACTION throws; empty when it throws none. */
 [[nodiscard]] std::string refusal_of(const std::function<void()>& action);
 

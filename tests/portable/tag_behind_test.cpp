@@ -26,7 +26,9 @@ using test::hex;
 using test::item;
 using test::item_list;
 using test::pattern;
+using test::remove_text;
 using test::riff;
+using test::set_text;
 using test::to_hex;
 using test::track;
 using test::values_in;
@@ -58,18 +60,6 @@ std::string film(const std::string& title) {
            box("moov", track(be32(type.size() + 8)) + item_list(items, box("free", std::string(300, '\0'))));
 }
 
-TagEdits set(Field field, const std::string& text) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::set(text);
-    return edits;
-}
-
-TagEdits remove(Field field) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::remove();
-    return edits;
-}
-
 std::string end_of(const std::string& file, std::size_t size) {
     return to_hex(file.substr(file.size() - std::min(file.size(), size)));
 }
@@ -83,8 +73,8 @@ TEST(TagBehind, IsNotRead) {
 }
 
 TEST(TagBehind, FollowsAFieldThatItHas) {
-    const std::string made =
-        edited(film("Harbour") + tag(unknown + frame("TALB", "Later")), "mp4", set(Field::title, "Evening"));
+    const std::string made = edited(film("Harbour") + tag(unknown + frame("TALB", "Later")), "mp4",
+                                    set_text(Field::title, "Evening"));
     EXPECT_EQ("Evening", values_in(made, "mp4").text(Field::title));
     const std::string expected = tag(unknown + frame("TALB", "Evening"));
     EXPECT_EQ(to_hex(expected), end_of(made, expected.size()));
@@ -92,17 +82,18 @@ TEST(TagBehind, FollowsAFieldThatItHas) {
 
 TEST(TagBehind, GetsNoFieldThatItDoesNotHave) {
     const std::string behind = tag(unknown + frame("TALB", "Later"));
-    const std::string made = edited(film("Harbour") + behind, "mp4", set(Field::genre, "Drama"));
+    const std::string made = edited(film("Harbour") + behind, "mp4", set_text(Field::genre, "Drama"));
     EXPECT_EQ(to_hex(behind), end_of(made, behind.size()));
 }
 
 TEST(TagBehind, LosesAFieldThatIsDeletedAndGoesWithItsLast) {
     const std::string with_two = tag(unknown + frame("TIT2", "Later"));
-    const std::string made = edited(song("Harbour") + with_two, "wav", remove(Field::title));
+    const std::string made = edited(song("Harbour") + with_two, "wav", remove_text(Field::title));
     EXPECT_EQ(to_hex(tag(unknown)), end_of(made, tag(unknown).size()));
 
-    EXPECT_EQ(to_hex(edited(song("Harbour"), "wav", remove(Field::title))),
-              to_hex(edited(song("Harbour") + tag(frame("TIT2", "Later")), "wav", remove(Field::title))));
+    EXPECT_EQ(
+        to_hex(edited(song("Harbour"), "wav", remove_text(Field::title))),
+        to_hex(edited(song("Harbour") + tag(frame("TIT2", "Later")), "wav", remove_text(Field::title))));
 }
 
 TEST(TagBehind, LosesWhatItCanNotHold) {
@@ -132,7 +123,7 @@ TEST(TagBehind, LeavesNoLineInTheLogWhenTheDiskIsFull) {
     ByteFile full;
     ASSERT_TRUE(full.open("/dev/full", O_WRONLY | O_CLOEXEC));
     InPlaceTag tag;
-    tag.apply(set(Field::title, "Evening"), Media::audio);
+    tag.apply(set_text(Field::title, "Evening"), Media::audio);
     try {
         tag.store(full.handle(), 0);
         ADD_FAILURE() << "it was stored";

@@ -15,16 +15,11 @@ using test::hex;
 using test::le32;
 using test::pattern;
 using test::refusal_of;
+using test::set_text;
 using test::to_hex;
 using test::values_in;
 
 const std::string frames = hex("FFF8C918") + pattern(300);
-
-TagEdits set(Field field, const std::string& text) {
-    TagEdits edits;
-    edits.text(field) = Edit<std::string>::set(text);
-    return edits;
-}
 
 /** A block of FLAC of less than 256 bytes; KIND has the top bit set for the last one. */
 std::string block(unsigned kind, const std::string& content) {
@@ -42,7 +37,7 @@ TEST(FlacTags, ANewListOfCommentsStandsBehindTheStreamsOwnBlock) {
     const std::string comments = counted("Velmora") + le32(1) + counted("TITLE=Größe");
     EXPECT_EQ(to_hex("fLaC" + stream_info + block(4, comments) + block(0x83, "seek") + frames),
               to_hex(edited("fLaC" + stream_info + block(0x83, "seek") + frames, "flac",
-                            set(Field::title, "Größe"))));
+                            set_text(Field::title, "Größe"))));
 }
 
 TEST(FlacTags, PaddingTakesUpWhatChanges) {
@@ -53,7 +48,7 @@ TEST(FlacTags, PaddingTakesUpWhatChanges) {
     };
     std::string made = file("Harb", 23);
     made.replace(made.find("title"), 5, "TITLE");
-    EXPECT_EQ(to_hex(made), to_hex(edited(file("Harbour", 20), "flac", set(Field::title, "Harb"))));
+    EXPECT_EQ(to_hex(made), to_hex(edited(file("Harbour", 20), "flac", set_text(Field::title, "Harb"))));
 }
 
 TEST(FlacTags, MoreEmptyBlocksThanMemoryIsGrantedForAreRefused) {
@@ -79,7 +74,7 @@ TEST(FlacTags, SeveralValuesAreJoinedAndBecomeOne) {
     const std::string old = file(le32(3) + counted("ARTIST=A") + counted("X=1") + counted("artist=B"));
     EXPECT_EQ("A; B", values_in(old, "flac").text(Field::artist));
     EXPECT_EQ(to_hex(file(le32(2) + counted("ARTIST=C") + counted("X=1"))),
-              to_hex(edited(old, "flac", set(Field::artist, "C"))));
+              to_hex(edited(old, "flac", set_text(Field::artist, "C"))));
 }
 
 TEST(FlacTags, WhatIsCutOffIsDamaged) {
@@ -127,7 +122,7 @@ TEST(OggTags, CommentsThatFitOnTheirPageMoveNoOther) {
     const std::string old = head + page(0, 1, "\x1E", comments("Old")) + audio(2);
     EXPECT_EQ("Old", values_in(old, "opus").text(Field::title));
     EXPECT_EQ(to_hex(head + page(0, 1, "\x22", comments("Harbour")) + audio(2)),
-              to_hex(edited(old, "opus", set(Field::title, "Harbour"))));
+              to_hex(edited(old, "opus", set_text(Field::title, "Harbour"))));
 }
 
 TEST(OggTags, PagesBehindAreCountedAnew) {
@@ -139,7 +134,7 @@ TEST(OggTags, PagesBehindAreCountedAnew) {
         page(1, 2, std::string(1, static_cast<char>(packet.size() - 255 * 255)), packet.substr(255 * 255)) +
         audio(3);
     EXPECT_EQ(to_hex(made), to_hex(edited(head + page(0, 1, "\x1E", comments("Old")) + audio(2), "opus",
-                                          set(Field::title, title))));
+                                          set_text(Field::title, title))));
 }
 
 TEST(OggTags, FewerBytesStayOnAsManyPages) {
@@ -152,7 +147,7 @@ TEST(OggTags, FewerBytesStayOnAsManyPages) {
     const std::string made =
         head + page(0, 1, "\xFF", rest.substr(0, 255), std::string(8, '\xFF')) +
         page(1, 2, std::string(1, static_cast<char>(rest.size() - 255)), rest.substr(255)) + audio(3);
-    EXPECT_EQ(to_hex(made), to_hex(edited(old, "opus", set(Field::title, "X"))));
+    EXPECT_EQ(to_hex(made), to_hex(edited(old, "opus", set_text(Field::title, "X"))));
 }
 
 TEST(OggTags, StreamsSideBySideAreRefused) {
