@@ -6,6 +6,7 @@
 #include "model/MediaFile.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
+#include "platform/sentences.h"
 #include "platform/settings.h"
 
 namespace velmora {
@@ -13,10 +14,6 @@ namespace velmora {
 namespace {
 
 constexpr std::chrono::seconds savedIsShown{6};
-
-QString asSentence(const QString& text) {
-    return text + QLatin1Char('.');
-}
 
 /** NAME, or its beginning and end where it is long. */
 QString shortened(const QString& name) {
@@ -26,13 +23,9 @@ QString shortened(const QString& name) {
                                   : name.first(longest - ending - 1) + QChar(0x2026) + name.last(ending);
 }
 
-QString together(const QString& first, const QString& second) {
-    return first + QLatin1Char(' ') + second;
-}
-
 QString notSaved(const SaveEnd& end) {
-    return together(localised("\"%@\" was not saved.", shortened(lastPathComponent(end.path))),
-                    asSentence(end.obstacle.reason));
+    return joinedSentences({localised("\"%@\" was not saved.", shortened(lastPathComponent(end.path))),
+                            asSentence(end.obstacle.reason)});
 }
 
 } // namespace
@@ -66,8 +59,8 @@ void PortableNotices::fileOpened() {
     const QString obstacle = document_.portableObstacle();
     if (!obstacle.isEmpty()) {
         bar_.show({Notice::Kind::Warning,
-                   together(localised("The portable tags of \"%@\" can't be read.", fileName()),
-                            asSentence(obstacle)),
+                   joinedSentences({localised("The portable tags of \"%@\" can't be read.", fileName()),
+                                    asSentence(obstacle)}),
                    {},
                    {}});
     } else if (!document_.portableTags()) {
@@ -104,12 +97,12 @@ void PortableNotices::lookForMore() {
 }
 
 void PortableNotices::editsKept(const QString& path, const QString& reason) {
-    Notice notice{
-        Notice::Kind::Warning,
-        together(localised("\"%@\" was not saved; its edits are kept.", shortened(lastPathComponent(path))),
-                 asSentence(reason)),
-        {},
-        {}};
+    Notice notice{Notice::Kind::Warning,
+                  joinedSentences({localised("\"%@\" was not saved; its edits are kept.",
+                                             shortened(lastPathComponent(path))),
+                                   asSentence(reason)}),
+                  {},
+                  {}};
     notice.actions = {{localised("Restore Unsaved Edits"),
                        localised("Open the file again whose edits could not be saved, and put them back"),
                        QStringLiteral("edit-undo"), [this] { emit restoreWanted(); }}};
@@ -147,10 +140,11 @@ void PortableNotices::removalEnded(const SaveEnd& end) {
                    savedIsShown});
         return;
     }
-    Notice notice{Notice::Kind::Warning,
-                  together(localised("\"%@\" keeps its tags.", name), asSentence(end.obstacle.reason)),
-                  {},
-                  {}};
+    Notice notice{
+        Notice::Kind::Warning,
+        joinedSentences({localised("\"%@\" keeps its tags.", name), asSentence(end.obstacle.reason)}),
+        {},
+        {}};
     if (end.portable->end == PortableSaveResult::End::MoreLinks) {
         notice.actions = {{localised("Replace Anyway"), localised("The other links keep the old contents"),
                            QStringLiteral("document-save"), [this] { document_.deleteAllTags(true); }}};
@@ -201,7 +195,7 @@ void PortableNotices::savedPortably(const SaveEnd& end) {
     if (result.warning.isEmpty()) {
         bar_.show({Notice::Kind::Information, text, {}, savedIsShown});
     } else {
-        bar_.show({Notice::Kind::Warning, together(text, asSentence(result.warning)), {}, {}});
+        bar_.show({Notice::Kind::Warning, joinedSentences({text, asSentence(result.warning)}), {}, {}});
     }
 }
 

@@ -6,6 +6,7 @@
 #include "platform/elided_label.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
+#include "platform/sentences.h"
 
 #include <QAccessible>
 #include <QLocale>
@@ -48,7 +49,7 @@ void StatusLine::tellSave(const SaveEnd& end) {
         end.removal ? localised("Deleted all tags of \"%@\"", name) : localised("Saved \"%@\"", name);
     const QString failed =
         end.removal ? localised("\"%@\" keeps its tags.", name) : localised("\"%@\" was not saved.", name);
-    const QString text = end.saved ? done : failed + QLatin1Char(' ') + end.obstacle.reason;
+    const QString text = end.saved ? done : joinedSentences({failed, end.obstacle.reason});
     say(*save_, withTime(text));
     save_->setToolTip(end.path);
 }

@@ -11,12 +11,12 @@ NamesCommands::NamesCommands(LibraryModel& model, LibraryView& view, QWidget* wi
 
 void NamesCommands::addTo(QMenu& menu) {
     QAction* const tags =
-        menu.addAction(localised("&Tags from Names..."), this, [this] { ask(NamePattern::Use::read); });
+        menu.addAction(localised("&Tags from Names…"), this, [this] { ask(NamePattern::Use::read); });
     tags->setObjectName(QStringLiteral("action_tagsFromNames"));
     tags->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T));
     tags->setStatusTip(localised("Take the tags of the selected files from their names, by a pattern"));
     QAction* const names =
-        menu.addAction(localised("&Names from Tags..."), this, [this] { ask(NamePattern::Use::write); });
+        menu.addAction(localised("&Names from Tags…"), this, [this] { ask(NamePattern::Use::write); });
     names->setObjectName(QStringLiteral("action_namesFromTags"));
     names->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N));
     names->setStatusTip(localised("Give the selected files names made of their tags, by a pattern"));

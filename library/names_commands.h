@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-/** The commands "Tags from Names..." and "Names from Tags..." of the library table. Both are about the
+/** The commands "Tags from Names…" and "Names from Tags…" of the library table. Both are about the
    selected files, or all that are shown where none is, and both make edits, which the table applies with the
    others. */
 class NamesCommands : public QObject {

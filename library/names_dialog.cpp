@@ -3,6 +3,7 @@
 #include "platform/accessibility.h"
 #include "platform/alt_letters.h"
 #include "platform/localisation.h"
+#include "platform/sentences.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -211,7 +212,7 @@ void NamesDialog::take(std::vector<NamesPreviewRow> rows) {
         parts += localised("Files that something is wrong with: %@; they are left alone.",
                            number(static_cast<int>(failing)));
     }
-    tell(parts.join(u' '));
+    tell(joinedSentences(parts));
     set_->setEnabled(applying > 0);
 }
 

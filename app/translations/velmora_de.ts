@@ -128,6 +128,10 @@
         <translation>Speichern</translation>
     </message>
     <message>
+        <source>%@.</source>
+        <translation>%@.</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
@@ -788,7 +792,7 @@
         <translation>Dateien, bei denen etwas nicht stimmt: %@; sie bleiben, wie sie sind.</translation>
     </message>
     <message>
-        <source>&amp;Tags from Names...</source>
+        <source>&amp;Tags from Names…</source>
         <translation>&amp;Tags aus Namen …</translation>
     </message>
     <message>
@@ -796,7 +800,7 @@
         <translation>Die Tags der ausgewählten Dateien nach einem Muster aus ihren Namen nehmen</translation>
     </message>
     <message>
-        <source>&amp;Names from Tags...</source>
+        <source>&amp;Names from Tags…</source>
         <translation>&amp;Namen aus Tags …</translation>
     </message>
     <message>

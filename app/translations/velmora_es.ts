@@ -216,6 +216,10 @@
         <translation>Guardar</translation>
     </message>
     <message>
+        <source>%@.</source>
+        <translation>%@.</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
@@ -876,7 +880,7 @@
         <translation>Archivos con algún problema: %@; se dejan como están.</translation>
     </message>
     <message>
-        <source>&amp;Tags from Names...</source>
+        <source>&amp;Tags from Names…</source>
         <translation>&amp;Etiquetas a partir de nombres…</translation>
     </message>
     <message>
@@ -884,7 +888,7 @@
         <translation>Obtener las etiquetas de los archivos seleccionados a partir de sus nombres, según un patrón</translation>
     </message>
     <message>
-        <source>&amp;Names from Tags...</source>
+        <source>&amp;Names from Tags…</source>
         <translation>&amp;Nombres a partir de etiquetas…</translation>
     </message>
     <message>

@@ -216,6 +216,10 @@
         <translation>Enregistrer</translation>
     </message>
     <message>
+        <source>%@.</source>
+        <translation>%@.</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
@@ -876,7 +880,7 @@
         <translation>Fichiers posant problème : %@ ; ils restent tels quels.</translation>
     </message>
     <message>
-        <source>&amp;Tags from Names...</source>
+        <source>&amp;Tags from Names…</source>
         <translation>&amp;Tags d’après les noms…</translation>
     </message>
     <message>
@@ -884,7 +888,7 @@
         <translation>Déduire les tags des fichiers sélectionnés de leurs noms, selon un modèle</translation>
     </message>
     <message>
-        <source>&amp;Names from Tags...</source>
+        <source>&amp;Names from Tags…</source>
         <translation>&amp;Noms d’après les tags…</translation>
     </message>
     <message>

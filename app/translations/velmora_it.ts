@@ -216,6 +216,10 @@
         <translation>Salva</translation>
     </message>
     <message>
+        <source>%@.</source>
+        <translation>%@.</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
@@ -876,7 +880,7 @@
         <translation>File con qualche problema: %@; restano come sono.</translation>
     </message>
     <message>
-        <source>&amp;Tags from Names...</source>
+        <source>&amp;Tags from Names…</source>
         <translation>&amp;Tag dai nomi…</translation>
     </message>
     <message>
@@ -884,7 +888,7 @@
         <translation>Ricava i tag dei file selezionati dai loro nomi, secondo un modello</translation>
     </message>
     <message>
-        <source>&amp;Names from Tags...</source>
+        <source>&amp;Names from Tags…</source>
         <translation>&amp;Nomi dai tag…</translation>
     </message>
     <message>

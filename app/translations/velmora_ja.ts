@@ -216,6 +216,10 @@
         <translation>保存</translation>
     </message>
     <message>
+        <source>%@.</source>
+        <translation>%@。</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
@@ -876,7 +880,7 @@
         <translation>問題のあるファイル: %@。これらはそのままにします。</translation>
     </message>
     <message>
-        <source>&amp;Tags from Names...</source>
+        <source>&amp;Tags from Names…</source>
         <translation>名前からタグを作成(&amp;T)…</translation>
     </message>
     <message>
@@ -884,7 +888,7 @@
         <translation>選択したファイルのタグを、パターンに従って名前から作ります</translation>
     </message>
     <message>
-        <source>&amp;Names from Tags...</source>
+        <source>&amp;Names from Tags…</source>
         <translation>タグから名前を作成(&amp;N)…</translation>
     </message>
     <message>

@@ -216,6 +216,10 @@
         <translation>保存</translation>
     </message>
     <message>
+        <source>%@.</source>
+        <translation>%@。</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
@@ -876,7 +880,7 @@
         <translation>有问题的文件：%@；将保持不变。</translation>
     </message>
     <message>
-        <source>&amp;Tags from Names...</source>
+        <source>&amp;Tags from Names…</source>
         <translation>由名称生成标签(&amp;T)…</translation>
     </message>
     <message>
@@ -884,7 +888,7 @@
         <translation>按模式从名称提取所选文件的标签</translation>
     </message>
     <message>
-        <source>&amp;Names from Tags...</source>
+        <source>&amp;Names from Tags…</source>
         <translation>由标签生成名称(&amp;N)…</translation>
     </message>
     <message>

@@ -71,6 +71,19 @@ TEST_P(LanguageTest, NoticeIsReadWholeOnASmallScreen) {
     keepPicture("notice");
 }
 
+TEST_P(LanguageTest, NoticeHasTheFullStopsOfTheLanguage) {
+    addFile("a.mp3", test::fileTaggedInFront());
+    select(0);
+    type("entry_title", "Evening");
+    button("btn_saveTag").click();
+    const QString text = widget<QLabel>("lbl_notice").text();
+    const QLocale::Language language = GetParam().language;
+    const bool isFullWidth = language == QLocale::Japanese || language == QLocale::Chinese;
+    EXPECT_TRUE(text.endsWith(isFullWidth ? u'。' : u'.')) << text.toStdString();
+    EXPECT_EQ(isFullWidth ? 0 : 1, text.count(". ")) << text.toStdString();
+    EXPECT_EQ(0, text.count("。 ")) << text.toStdString();
+}
+
 TEST_P(LanguageTest, NoLetterIsGivenTwiceInTheWindow) {
     EXPECT_GE(altLetters(window()).size(), 25);
     EXPECT_EQ(QStringList(), givenTwice(altLetters(window())));

@@ -1,4 +1,5 @@
 #include "platform/localisation.h"
+#include "platform/sentences.h"
 
 #include "support/qt_printing.h"
 
@@ -115,6 +116,26 @@ TEST_F(LocalisationTest, EachLanguageHasItsPluralForms) {
         EXPECT_EQ(QString::fromUtf8(forms.two), localised("%Ln file(s)", 2));
         EXPECT_EQ(QString::fromUtf8(forms.many), localised("%Ln file(s)", 12345));
     }
+}
+
+TEST_F(LocalisationTest, SentencesEndAndFollowOneAnotherAsInTheLanguage) {
+    struct Sentences {
+        QLocale::Language language;
+        const char* one;
+        const char* two;
+    };
+    const Sentences all[] = {
+        {QLocale::English, "50%@.", "50%@. a."},   {QLocale::German, "50%@.", "50%@. a."},
+        {QLocale::French, "50%@.", "50%@. a."},    {QLocale::Spanish, "50%@.", "50%@. a."},
+        {QLocale::Italian, "50%@.", "50%@. a."},   {QLocale::Japanese, "50%@。", "50%@。a。"},
+        {QLocale::Chinese, "50%@。", "50%@。a。"},
+    };
+    for (const Sentences& sentences : all) {
+        speak(sentences.language);
+        EXPECT_EQ(QString::fromUtf8(sentences.one), asSentence("50%@"));
+        EXPECT_EQ(QString::fromUtf8(sentences.two), joinedSentences({asSentence("50%@"), asSentence("a")}));
+    }
+    EXPECT_EQ("", joinedSentences({}));
 }
 
 TEST_F(LocalisationTest, WithoutATableOfItsOwnTheWholeProgramIsEnglishFromLeftToRight) {
