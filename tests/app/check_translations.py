@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Every text that the program shows stands in every translation table, with its placeholders, and no table holds a text
-that is not shown any more. In no language does the window, or a menu, give one letter to two controls: the Alt key would
-then only move between them. Usage: check_translations.py SOURCE_FOLDER"""
+"""Every text that the program shows stands in every translation table, with its placeholders and with the quotes, dots
+and spaces of its language, and no table holds a text that is not shown any more. In no language does the window, or a
+menu, give one letter to two controls: the Alt key would then only move between them.
+Usage: check_translations.py SOURCE_FOLDER"""
 
 import pathlib
 import re
@@ -13,6 +14,10 @@ LANGUAGES = ["de", "en", "es", "fr", "it", "ja", "zh_CN"]
 PLURAL_FORMS = {"ja": 1, "zh_CN": 1}  # two in the others
 # Their own letters are on no key, so that their captions have a Latin one in brackets.
 SCRIPTS_WITHOUT_KEYS = ["ja", "zh_CN"]
+# What is not written so in the language: signs of a typewriter, French signs that a line's end could part from their word,
+# half-width signs at full-width letters.
+WRONG_SIGNS = {"de": r'["\']', "es": r'["\']', "fr": r'["\']| [:;!?»]|« ', "it": r'["\']', "ja": r'["\']|[ぁ-鿿][,.;!?]',
+               "zh_CN": r'["\']|[一-鿿][,.:;!?]'}
 LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
 
 
@@ -99,6 +104,10 @@ def wrong_translations(table, text, is_plural):
     for mark in ("%@", "%1", "%2"):
         if any(form.count(mark) != text[1].count(mark) for form in forms):
             wrong.append(f"placeholders differ in {text}")
+    if any(re.search(WRONG_SIGNS.get(table.language, "(?!)"), form) for form in forms):
+        wrong.append(f"signs of another language in {text}")
+    if any("..." in form for form in forms) and "..." not in text[1]:
+        wrong.append(f"three dots for an ellipsis in {text}")
     # A single one may be a word.
     if is_plural and "%Ln" not in forms[-1]:
         wrong.append(f"no number in {text}")
