@@ -68,7 +68,7 @@ double bytesInUse() {
 double bytesOfTexts(const LibraryModel& model) {
     double bytes = 0;
     for (int file = 0; file < model.rows().end(); ++file) {
-        bytes += static_cast<double>(model.rows().at(file).path.toUtf8().size());
+        bytes += static_cast<double>(model.rows().at(file).path().toUtf8().size());
         for (const LibraryColumn column : libraryColumns()) {
             if (column != LibraryColumn::name && column != LibraryColumn::folder) {
                 bytes += static_cast<double>(model.rows().text(file, column).toUtf8().size());

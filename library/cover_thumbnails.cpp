@@ -56,7 +56,7 @@ void CoverThumbnails::ask(int file, std::uint64_t hash) {
     asked_.insert(file);
     const RowEdits* const edits = model_.rows().edits(file);
     const CoverPointer edited = edits ? edits->cover.value().value_or(nullptr) : nullptr;
-    const std::string path = pathBytes(model_.rows().at(file).path).toStdString();
+    const std::string path = pathBytes(model_.rows().at(file).path()).toStdString();
     thread_.start(
         [this, file, hash, edited, path] {
             const auto read =

@@ -110,7 +110,7 @@ void EditPanel::loadCover(int file) {
         return;
     }
     thread_.clear();
-    thread_.start([this, asked = coverAsked_, path = pathBytes(model_.rows().at(file).path).toStdString()] {
+    thread_.start([this, asked = coverAsked_, path = pathBytes(model_.rows().at(file).path()).toStdString()] {
         const portable::ReadOutcome read = portable::read_tags(path);
         const QByteArray bytes = read.values.cover ? bytesOf(*read.values.cover) : QByteArray();
         QMetaObject::invokeMethod(

@@ -177,21 +177,21 @@ FilterQuery::FilterQuery(const QString& text) {
     });
 }
 
-bool FilterQuery::matches(const Term& term, const FilterText& row) {
+bool FilterQuery::matches(const Term& term, const FilterView& row) {
     switch (term.kind) {
     case Term::Kind::year:
-        return row.year() >= term.firstYear && row.year() <= term.lastYear;
+        return row.year >= term.firstYear && row.year <= term.lastYear;
     case Term::Kind::missing:
-        return (row.missing() & term.missing) != 0;
+        return (row.missing & term.missing) != 0;
     case Term::Kind::inColumn:
         // Most rows have the word nowhere, which is found out faster than where the column is.
-        return contains(row.folded(), term.word) && contains(columnOf(row.folded(), term.column), term.word);
+        return contains(row.folded, term.word) && contains(columnOf(row.folded, term.column), term.word);
     default:
-        return contains(row.folded(), term.word);
+        return contains(row.folded, term.word);
     }
 }
 
-bool FilterQuery::matches(const FilterText& row) const {
+bool FilterQuery::matches(const FilterView& row) const {
     return std::all_of(terms_.begin(), terms_.end(), [&row](const Term& term) { return matches(term, row); });
 }
 

@@ -32,7 +32,7 @@ public:
 
     /** Whether every row matches. */
     [[nodiscard]] bool isEmpty() const { return terms_.empty(); }
-    [[nodiscard]] bool matches(const FilterText& row) const;
+    [[nodiscard]] bool matches(const FilterView& row) const;
 
 private:
     struct Term {
@@ -46,7 +46,7 @@ private:
     };
 
     static std::optional<Term> termOf(const QString& prefix, const QString& word, const QString& whole);
-    static bool matches(const Term& term, const FilterText& row);
+    static bool matches(const Term& term, const FilterView& row);
 
     std::vector<Term> terms_;
 };

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace velmora {
 
@@ -23,6 +24,13 @@ inline constexpr MissingBits missingTag = 1U << portable::field_count;
    could not be read. */
 [[nodiscard]] MissingBits missingIn(const portable::ReadOutcome& read);
 
+/** What a filter looks at in a row, wherever it is kept. */
+struct FilterView {
+    std::string_view folded; ///< the columns' texts, folded, each with a line break behind it
+    int year = 0;            ///< 0: not known
+    MissingBits missing = 0;
+};
+
 /** What a filter looks at in a row: 16 bytes and one text, in which the columns stand folded one behind the
    other. */
 class FilterText {
@@ -36,6 +44,8 @@ public:
     [[nodiscard]] const std::string& folded() const { return folded_; }
     [[nodiscard]] int year() const { return year_; }
     [[nodiscard]] MissingBits missing() const { return missing_; }
+    /** Good as long as this object. */
+    operator FilterView() const { return {folded_, year_, missing_}; }
 
 private:
     std::string folded_;

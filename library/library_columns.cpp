@@ -69,7 +69,7 @@ QString fieldText(const LibraryRow& row, const RowEdits* edits, Field field) {
     if (edits && !edits->text(field).leaves_alone()) {
         return fromUtf8(edits->text(field).value().value_or(""));
     }
-    return fromUtf8(row.texts.text(field));
+    return fromUtf8(row.text(field));
 }
 
 QString yearText(int year) {
@@ -92,7 +92,7 @@ bool editYear(RowEdits& edits, const LibraryRow& row, const QString& text) {
 
 void editField(RowEdits& edits, const LibraryRow& row, Field field, const QString& text) {
     std::string value = text.toStdString();
-    if (row.state == ReadState::read && value == row.texts.text(field)) {
+    if (row.state == ReadState::read && value == row.text(field)) {
         edits.text(field) = {};
     } else {
         edits.text(field) =
@@ -102,7 +102,7 @@ void editField(RowEdits& edits, const LibraryRow& row, Field field, const QStrin
 
 /** The extension stays what it is: it tells what the file is. */
 bool editName(RowEdits& edits, const LibraryRow& row, const QString& text) {
-    const QString extension = QString::fromUtf8(extensionOf(pathBytes(row.path)));
+    const QString extension = QString::fromUtf8(extensionOf(pathBytes(row.path())));
     const bool hasIt = !extension.isEmpty() && text.endsWith(extension, Qt::CaseInsensitive);
     const QString stem = hasIt ? text.chopped(extension.size()) : text;
     const QString name = stem + extension;
@@ -189,7 +189,7 @@ QString columnText(const LibraryRow& row, const RowEdits* edits, LibraryColumn c
     case LibraryColumn::cover:
         return hasCover(row, edits) ? localised("Cover") : QString();
     case LibraryColumn::tags:
-        return row.tags;
+        return row.tags();
     case LibraryColumn::size:
         return sizeText(row.size);
     case LibraryColumn::date:
@@ -240,7 +240,7 @@ MissingBits missingOf(const LibraryRow& row, const RowEdits* edits) {
     if (row.state != ReadState::read) {
         return 0;
     }
-    MissingBits missing = row.tags.isEmpty() ? missingTag : MissingBits{0};
+    MissingBits missing = row.tags().isEmpty() ? missingTag : MissingBits{0};
     for (std::size_t i = 0; i < portable::field_count; ++i) {
         const auto field = static_cast<Field>(i);
         const bool isThere = field == Field::year    ? yearOf(row, edits) != 0

@@ -87,7 +87,7 @@ QVariant LibraryModel::font(int file, LibraryColumn column) const {
 
 QString LibraryModel::tip(int file, LibraryColumn column) const {
     const bool saysItself = column != LibraryColumn::name && column != LibraryColumn::cover;
-    return literally(saysItself ? rows_.text(file, column) : rows_.at(file).path);
+    return literally(saysItself ? rows_.text(file, column) : rows_.at(file).path());
 }
 
 QString LibraryModel::spokenText(int file, LibraryColumn column) const {

@@ -6,6 +6,7 @@
 #include "portable/tag_values.h"
 
 #include <QByteArray>
+#include <QSet>
 #include <QString>
 
 #include <cstdint>
@@ -21,36 +22,64 @@ public:
     PackedTexts() = default;
     explicit PackedTexts(const portable::TagValues& values);
 
-    /** The value of FIELD, one of the text fields, in UTF-8; empty where there is none. Good as long as this object.
-     */
+    /** The value of FIELD, one of the text fields, in UTF-8; empty where there is none. Good as long as this object. */
     [[nodiscard]] std::string_view text(portable::Field field) const;
+    /** The texts one behind the other, each with a zero behind it. */
+    [[nodiscard]] const QByteArray& block() const { return block_; }
 
 private:
-    /** The end of each text, and the texts one behind the other; empty when all of them are. */
-    QByteArray block_;
+    QByteArray block_ = QByteArray(portable::text_field_count, '\0');
 };
 
 /** What is known of a file's tags. */
 enum class ReadState : std::uint8_t { waiting, read, failed };
 
-/** A file of the library table as it was last read; rows of 100,000 files are kept. */
-struct LibraryRow {
-    QString path;
+/** A file of the library table as it was last read. Rows of 100,000 files are kept: a row's texts are one block of memory
+    in UTF-8, and its folder's path is shared with other rows. */
+class LibraryRow {
+public:
+    LibraryRow() = default;
+    /** A file that was not read yet. */
+    LibraryRow(const QString& path, std::uint64_t size);
+
     portable::Media media = portable::Media::other;
     ReadState state = ReadState::waiting;
-    bool removed = false;     ///< no longer listed; the place is not given to another file
-    std::int16_t year = 0;    ///< 0: none
-    std::uint32_t ticket = 0; ///< of the last request to read it
-    PackedTexts texts;
-    QString tags;                ///< which tags there are; or, where these can't be read, why
+    bool removed = false;        ///< no longer listed; the place is not given to another file
+    std::int16_t year = 0;       ///< 0: none
+    MissingBits missing = 0;     ///< known with the filter's text
+    std::uint32_t ticket = 0;    ///< of the last request to read it
     std::uint64_t coverHash = 0; ///< tells different covers apart; 0: no cover
     std::uint64_t size = 0;      ///< bytes
     std::int64_t created = 0;    ///< seconds since 1970-01-01 UTC
 
-    FilterText filter; ///< what a filter looks at; empty until it is asked for
-
     [[nodiscard]] QString name() const;
     [[nodiscard]] QString folder() const;
+    [[nodiscard]] QString path() const;
+    /** Whether the file is at PATH, in the file system's bytes. */
+    [[nodiscard]] bool isAt(const QByteArray& path) const;
+    /** The value of FIELD, one of the text fields, in UTF-8; empty where there is none. Good until the row changes. */
+    [[nodiscard]] std::string_view text(portable::Field field) const;
+    /** Which tags there are; or, where these can't be read, why. */
+    [[nodiscard]] QString tags() const;
+    /** What a filter looks at; empty until it was set. Good until the row changes. */
+    [[nodiscard]] FilterView filter() const;
+
+    /** The file is at PATH now. The filter's text is empty afterwards. */
+    void setPath(const QString& path);
+    void setTexts(const PackedTexts& texts, const QString& tags, const FilterText& filter);
+    void setFilter(const FilterText& filter);
+    /** Takes the folder's path out of FOLDERS, or puts it there. */
+    void shareFolder(QSet<QByteArray>& folders);
+
+private:
+    void pack(std::string_view filter, std::string_view texts, std::string_view name);
+    /** What the block holds behind the filter's text: the tags' texts, which tags there are, each with a zero behind it,
+        and the name. */
+    [[nodiscard]] std::string_view packed() const;
+    [[nodiscard]] std::string_view nameBytes() const;
+
+    QByteArray folder_; ///< its path with the slash behind it
+    QByteArray block_;  ///< the length of the filter's text, that text, and the others
 };
 
 /** A number that is the same for the same bytes, and hardly ever for others; never 0. */

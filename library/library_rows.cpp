@@ -1,7 +1,6 @@
 #include "library_rows.h"
 
 #include "platform/file_path.h"
-#include "portable/media_kind.h"
 
 #include <algorithm>
 
@@ -9,68 +8,74 @@ namespace velmora {
 
 namespace {
 
-portable::Media mediaOf(const QString& path) {
-    const auto kind = portable::media_kind(pathBytes(path).toStdString());
-    return kind ? kind->media : portable::Media::other;
+std::uint32_t hashOf(const QByteArray& path) {
+    return static_cast<std::uint32_t>(qHash(path));
 }
 
 } // namespace
 
+LibraryRow& LibraryRows::change(int row) {
+    const auto place = static_cast<std::size_t>(row);
+    return pieces_[place / pieceSize][static_cast<qsizetype>(place % pieceSize)];
+}
+
+int LibraryRows::find(const QString& path) const {
+    const QByteArray bytes = pathBytes(path);
+    return numbers_.find(hashOf(bytes), [&](int row) { return at(row).isAt(bytes); });
+}
+
 int LibraryRows::add(const QString& path, std::uint64_t size) {
-    if (numbers_.contains(path)) {
+    if (find(path) >= 0) {
         return -1;
     }
-    const int number = end();
-    numbers_.insert(path, number);
-    LibraryRow row;
-    row.path = path;
-    row.media = mediaOf(path);
-    row.size = size;
-    rows_.push_back(std::move(row));
-    return number;
+    if (static_cast<std::size_t>(end_) == pieces_.size() * pieceSize) {
+        pieces_.emplace_back().reserve(pieceSize);
+    }
+    LibraryRow row(path, size);
+    row.shareFolder(folders_);
+    pieces_.back().push_back(std::move(row));
+    numbers_.insert(hashOf(pathBytes(path)), end_);
+    return end_++;
 }
 
 void LibraryRows::remove(int row) {
-    LibraryRow& removed = rows_[static_cast<std::size_t>(row)];
-    numbers_.remove(removed.path);
+    numbers_.remove(hashOf(pathBytes(at(row).path())), row);
     edits_.erase(row);
-    removed = LibraryRow();
-    removed.removed = true;
+    editedTexts_.erase(row);
+    change(row) = LibraryRow();
+    change(row).removed = true;
 }
 
 void LibraryRows::move(int row, const QString& path) {
-    LibraryRow& moved = rows_[static_cast<std::size_t>(row)];
-    // Another file may have got this one's old path already.
-    if (find(moved.path) == row) {
-        numbers_.remove(moved.path);
-    }
-    numbers_.insert(path, row);
-    moved.path = path;
-    moved.filter = {};
+    numbers_.remove(hashOf(pathBytes(at(row).path())), row);
+    numbers_.insert(hashOf(pathBytes(path)), row);
+    change(row).setPath(path);
+    change(row).shareFolder(folders_);
+    editedTexts_.erase(row);
 }
 
 TagReader::Request LibraryRows::requestFor(int row) {
-    rows_[static_cast<std::size_t>(row)].ticket = ++lastTicket_;
+    change(row).ticket = ++lastTicket_;
     return lastRequest(row);
 }
 
 TagReader::Request LibraryRows::lastRequest(int row) const {
-    return {row, at(row).ticket, at(row).path};
+    return {row, at(row).ticket, at(row).path()};
 }
 
 bool LibraryRows::take(const RowReading& reading) {
-    LibraryRow& row = rows_[static_cast<std::size_t>(reading.row)];
-    if (row.removed || row.ticket != reading.ticket) {
+    const LibraryRow& asked = at(reading.row);
+    if (asked.removed || asked.ticket != reading.ticket) {
         return false;
     }
+    LibraryRow& row = change(reading.row);
     row.state = reading.state;
     row.year = reading.year;
-    row.texts = reading.texts;
-    row.tags = reading.tags;
     row.coverHash = reading.coverHash;
     row.size = reading.size;
     row.created = reading.created;
-    row.filter = edits(reading.row) ? FilterText() : reading.filter;
+    row.setTexts(reading.texts, reading.tags, reading.filter);
+    editedTexts_.erase(reading.row);
     return true;
 }
 
@@ -80,7 +85,7 @@ const RowEdits* LibraryRows::edits(int row) const {
 }
 
 void LibraryRows::setEdits(int row, RowEdits edits) {
-    rows_[static_cast<std::size_t>(row)].filter = {};
+    editedTexts_.erase(row);
     if (edits.empty()) {
         edits_.erase(row);
     } else {
@@ -98,17 +103,24 @@ std::vector<int> LibraryRows::editedRows() const {
     return rows;
 }
 
-const FilterText& LibraryRows::filterText(int row) {
-    LibraryRow& asked = rows_[static_cast<std::size_t>(row)];
-    if (asked.filter.folded().empty()) {
-        asked.filter = filterTextOf(asked, edits(row));
+FilterView LibraryRows::filterText(int row) {
+    if (const RowEdits* const edited = edits(row)) {
+        FilterText& text = editedTexts_[row];
+        if (text.folded().empty()) {
+            text = filterTextOf(at(row), edited);
+        }
+        return text;
     }
-    return asked.filter;
+    if (at(row).filter().folded.empty()) {
+        change(row).setFilter(filterTextOf(at(row), nullptr));
+    }
+    return at(row).filter();
 }
 
 LibraryRows LibraryRows::snapshot() const {
     LibraryRows copy;
-    copy.rows_ = rows_;
+    copy.pieces_ = pieces_;
+    copy.end_ = end_;
     copy.edits_ = edits_;
     return copy;
 }

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "library_columns.h"
+#include "path_index.h"
 #include "tag_reader.h"
 
-#include <QHash>
+#include <QList>
 
 #include <unordered_map>
 #include <vector>
@@ -22,10 +23,13 @@ public:
     void move(int row, const QString& path);
 
     /** One more than the largest number; those of removed files are among them. */
-    [[nodiscard]] int end() const { return static_cast<int>(rows_.size()); }
-    [[nodiscard]] const LibraryRow& at(int row) const { return rows_[static_cast<std::size_t>(row)]; }
+    [[nodiscard]] int end() const { return end_; }
+    [[nodiscard]] const LibraryRow& at(int row) const {
+        const auto place = static_cast<std::size_t>(row);
+        return pieces_[place / pieceSize][static_cast<qsizetype>(place % pieceSize)];
+    }
     /** The number of the file at PATH; -1 for none. */
-    [[nodiscard]] int find(const QString& path) const { return numbers_.value(path, -1); }
+    [[nodiscard]] int find(const QString& path) const;
 
     /** A request to read the file, which makes all earlier ones void. */
     [[nodiscard]] TagReader::Request requestFor(int row);
@@ -42,9 +46,9 @@ public:
     [[nodiscard]] std::size_t editedCount() const { return edits_.size(); }
 
     /** What a filter looks at in the file, its edits taken for done. Good until the file or its edits change. */
-    [[nodiscard]] const FilterText& filterText(int row);
+    [[nodiscard]] FilterView filterText(int row);
 
-    /** A copy to be read on another thread, in which no paths are found. */
+    /** A copy to be read on another thread, in which no paths are found. Takes a moment only, however many rows there are. */
     [[nodiscard]] LibraryRows snapshot() const;
 
     [[nodiscard]] QString text(int row, LibraryColumn column) const {
@@ -52,9 +56,18 @@ public:
     }
 
 private:
-    std::vector<LibraryRow> rows_;
-    QHash<QString, int> numbers_;
+    /** So many rows are copied when one of them changes and a snapshot has it, too. */
+    static constexpr std::size_t pieceSize = 256;
+
+    [[nodiscard]] LibraryRow& change(int row);
+    void setPath(int row, const QString& path);
+
+    std::vector<QList<LibraryRow>> pieces_; ///< shared with snapshots
+    int end_ = 0;
+    PathIndex numbers_;
+    QSet<QByteArray> folders_;
     std::unordered_map<int, RowEdits> edits_;
+    std::unordered_map<int, FilterText> editedTexts_; ///< of rows that have edits, once a filter has asked
     std::uint32_t lastTicket_ = 0;
 };
 

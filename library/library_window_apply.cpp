@@ -25,7 +25,7 @@ QStringList pathsOf(const std::vector<ApplyItem>& items) {
 std::vector<ApplyItem> LibraryWindow::items() const {
     std::vector<ApplyItem> items;
     for (const int file : model_.rows().editedRows()) {
-        items.push_back({file, model_.rows().at(file).path, *model_.rows().edits(file)});
+        items.push_back({file, model_.rows().at(file).path(), *model_.rows().edits(file)});
     }
     return items;
 }

@@ -47,7 +47,7 @@ QVariant exportValue(const LibraryRow& row, const RowEdits* edits, LibraryColumn
 QStringList LibraryWindow::selectedPaths() const {
     QStringList paths;
     for (const int file : view_->selectedFiles()) {
-        paths += model_.rows().at(file).path;
+        paths += model_.rows().at(file).path();
     }
     return paths;
 }
@@ -142,7 +142,7 @@ void LibraryWindow::exportTable() {
 void LibraryWindow::openSelected() {
     const QModelIndex current = view_->currentIndex();
     if (current.isValid()) {
-        emit openRequested(model_.rows().at(model_.fileAt(current.row())).path);
+        emit openRequested(model_.rows().at(model_.fileAt(current.row())).path());
     }
 }
 

@@ -128,12 +128,12 @@ NamesPreviewRow namePreview(const NamesSource& source, const PlannedRename& plan
 NamesSource namesSource(int file, const LibraryRow& row, const RowEdits* edits) {
     NamesSource source;
     source.file = file;
-    source.path = row.path;
+    source.path = row.path();
     source.name = edits && edits->name ? *edits->name : row.name();
     source.media = row.media;
     source.state = row.state;
     for (std::size_t index = 0; index < portable::text_field_count; ++index) {
-        const std::string_view text = row.texts.text(static_cast<Field>(index));
+        const std::string_view text = row.text(static_cast<Field>(index));
         std::optional<std::string> value;
         if (!text.empty()) {
             value = text;

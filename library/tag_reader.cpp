@@ -33,8 +33,10 @@ QString namesOfTags(const std::vector<std::string>& tags) {
 
 RowReading readRow(int row, std::uint32_t ticket, const QString& path) {
     const QByteArray bytes = pathBytes(path);
-    LibraryRow file;
-    file.path = path;
+    RowReading reading;
+    reading.row = row;
+    reading.ticket = ticket;
+    LibraryRow file(path, 0);
     if (const auto attributes = fileAttributes(bytes)) {
         file.size = attributes->size.value_or(0);
         file.created = attributes->creationDate.value_or(FileTime{}).seconds;
@@ -43,16 +45,22 @@ RowReading readRow(int row, std::uint32_t ticket, const QString& path) {
     file.media = outcome.kind ? outcome.kind->media : portable::Media::other;
     if (outcome.failure) {
         file.state = ReadState::failed;
-        file.tags = localisedReason(*outcome.failure);
+        reading.tags = localisedReason(*outcome.failure);
     } else {
         file.state = ReadState::read;
         file.year = static_cast<std::int16_t>(outcome.values.year.value_or(0));
-        file.texts = PackedTexts(outcome.values);
-        file.tags = namesOfTags(outcome.tags);
+        reading.texts = PackedTexts(outcome.values);
+        reading.tags = namesOfTags(outcome.tags);
         file.coverHash = outcome.values.cover ? coverHash(*outcome.values.cover) : 0;
     }
-    return {row,       ticket,         file.state, file.year,    file.texts,
-            file.tags, file.coverHash, file.size,  file.created, filterTextOf(file, nullptr)};
+    file.setTexts(reading.texts, reading.tags, {});
+    reading.state = file.state;
+    reading.year = file.year;
+    reading.coverHash = file.coverHash;
+    reading.size = file.size;
+    reading.created = file.created;
+    reading.filter = filterTextOf(file, nullptr);
+    return reading;
 }
 
 TagReader::TagReader(QObject* parent) : QObject(parent) {
@@ -81,7 +89,7 @@ void TagReader::request(Request request) {
 
 void TagReader::prefer(std::vector<Request> requests) {
     const std::lock_guard lock(mutex_);
-    preferred_ = std::move(requests);
+    preferred_.assign(std::make_move_iterator(requests.begin()), std::make_move_iterator(requests.end()));
 }
 
 std::size_t TagReader::waiting() const {
@@ -109,7 +117,7 @@ bool TagReader::takes(const Request& request) {
 /** The request to be answered now. Nothing ends the worker that asked. */
 std::optional<TagReader::Request> TagReader::next() {
     const std::lock_guard lock(mutex_);
-    for (std::vector<Request>* list : {&preferred_, &stack_}) {
+    for (std::deque<Request>* list : {&preferred_, &stack_}) {
         while (!list->empty() && !ending_) {
             Request request = std::move(list->back());
             list->pop_back();

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QThreadPool>
 
+#include <deque>
 #include <mutex>
 #include <vector>
 
@@ -63,10 +64,10 @@ private:
 
     mutable std::mutex mutex_;
     // All of these under the mutex.
-    std::vector<Request> stack_;
-    std::vector<Request> preferred_;
+    std::deque<Request> stack_; ///< gives its memory back as it empties, as readings_ does
+    std::deque<Request> preferred_;
     std::vector<std::uint32_t> pending_; ///< the ticket of the request that a row waits for; 0: none
-    std::vector<RowReading> readings_;
+    std::deque<RowReading> readings_;
     std::size_t unanswered_ = 0;
     int workers_ = 0;
     bool deliveryPosted_ = false;
