@@ -2,6 +2,8 @@
 
 #include "library_model.h"
 
+#include "background_thread.h"
+
 #include <QLocale>
 
 #include <algorithm>
@@ -192,6 +194,7 @@ void LibraryModel::startOrdering() {
     }
     ordering_ = true;
     thread_.start([this, version = version_, keys = keys_, rows = rows_.snapshot()] {
+        stayInBackground();
         std::vector<int> order = sortedRows(rows, keys, QLocale());
         QMetaObject::invokeMethod(
             this, [this, version, order = std::move(order)] { takeOrder(version, order); },

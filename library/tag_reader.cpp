@@ -1,5 +1,6 @@
 #include "tag_reader.h"
 
+#include "background_thread.h"
 #include "library_columns.h"
 
 #include "model/portable_reason.h"
@@ -131,6 +132,7 @@ std::optional<TagReader::Request> TagReader::next() {
 }
 
 void TagReader::work() {
+    stayInBackground();
     while (const std::optional<Request> request = next()) {
         keep(readRow(request->row, request->ticket, request->path));
     }
