@@ -13,13 +13,9 @@ namespace velmora::portable {
 
 using Bytes = std::vector<std::uint8_t>;
 
-inline void append(Bytes& bytes, std::span<const std::uint8_t> more) {
-    bytes.insert(bytes.end(), more.begin(), more.end());
-}
-
-inline void append(Bytes& bytes, std::string_view more) {
-    bytes.insert(bytes.end(), more.begin(), more.end());
-}
+/* Not inline: the compiler, seeing the whole of them, takes their copies for writes behind an empty vector. */
+void append(Bytes& bytes, std::span<const std::uint8_t> more);
+void append(Bytes& bytes, std::string_view more);
 
 template <typename Value, typename Store>
 void append_number(Bytes& bytes, Value value, Store store) {
