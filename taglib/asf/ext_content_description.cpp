@@ -68,6 +68,7 @@ void free_descriptors(_asf_ext_content_description_t* ecd) {
 }
 
 [[nodiscard]] bool resize_array(_asf_ext_content_description_t* ecd, std::size_t entries) {
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): a table of pointers
     void* const array = std::realloc(ecd->descriptors, entries * sizeof *ecd->descriptors);
     if (!array) {
         return false;

@@ -26,6 +26,7 @@ static_assert(std::endian::native == std::endian::little && offsetof(_asf_object
               sizeof(_asf_object_t) == asf_object_header_size);
 
 [[nodiscard]] bool resize_array(_asf_header_object_t* header, std::size_t entries) {
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): a table of pointers
     void* const array = std::realloc(header->children, entries * sizeof *header->children);
     if (!array) {
         return false;

@@ -145,6 +145,7 @@ bool asf_unpack_descriptors(_asf_ext_content_description_t* ecd) {
     }
     const std::size_t count = ecd->count;
     AsfOwned<_asf_content_descriptor_t*> array(
+        // NOLINTNEXTLINE(bugprone-sizeof-expression): a table of pointers
         static_cast<_asf_content_descriptor_t**>(std::calloc(count, sizeof(_asf_content_descriptor_t*))));
     std::size_t done = 0;
     AsfPackedWalk walk(ecd);
