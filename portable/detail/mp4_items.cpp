@@ -197,7 +197,8 @@ std::string mp4_item_name(std::span<const std::uint8_t> bytes) {
         if ((child.type == box_type("mean") || child.type == box_type("name")) &&
             child.content().size() >= 4) {
             const std::span<const std::uint8_t> text = child.content().subspan(4);
-            name += ":" + valid_utf8({reinterpret_cast<const char*>(text.data()), text.size()});
+            name += ':';
+            name += valid_utf8({reinterpret_cast<const char*>(text.data()), text.size()});
         }
     }
     return name;
