@@ -34,7 +34,8 @@ int answer(const CommandLine& line) {
     }
 }
 
-/** The program's icon, read as what it is: a look for its format would load the library of every picture format. */
+/** The program's icon, read as what it is: a look for its format would load the library of
+   every picture format. */
 QIcon windowIcon() {
     QImageReader reader(QStringLiteral(":/velmora.png"), "png");
     reader.setAutoDetectImageFormat(false);

@@ -10,9 +10,9 @@ class MediaDocument;
 class NoticeBar;
 class TagForm;
 
-/** Tells the user, in the line above the form, what of it a save would not store or would store unasked: a cover from the
-   folder, fields that a web lookup filled, a cover that is only shown. With portable tags there is nothing of that to
-   tell. */
+/** Tells the user, in the line above the form, what of it a save would not store or would store unasked: a
+   cover from the folder, fields that a web lookup filled, a cover that is only shown. With portable tags
+   there is nothing of that to tell. */
 class FormNotices : public QObject {
     Q_OBJECT
 public:

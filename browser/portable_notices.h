@@ -11,8 +11,9 @@ class MediaDocument;
 class NoticeBar;
 struct Notice;
 
-/** Tells the user, in the line above the form, where tags in place and the tags that other programs read part ways: after
-   a save, and when a file opens. It changes nothing by itself; what its buttons do the document does. */
+/** Tells the user, in the line above the form, where tags in place and the tags that other programs
+   read part ways: after a save, and when a file opens. It changes nothing by itself; what its buttons
+   do the document does. */
 class PortableNotices : public QObject {
     Q_OBJECT
 public:

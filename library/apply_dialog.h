@@ -15,8 +15,8 @@
 
 namespace velmora {
 
-/** Runs work over many files beside the main thread: shows how far it is, how fast it goes and how long it takes, and what
-    became of it at the end, with the files that failed and a button that tries these again. */
+/** Runs work over many files beside the main thread: shows how far it is, how fast it goes and how long it
+   takes, and what became of it at the end, with the files that failed and a button that tries these again. */
 class ApplyDialog : public QDialog {
     Q_OBJECT
 public:

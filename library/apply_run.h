@@ -52,7 +52,8 @@ struct ApplyResult {
     bool written = false; ///< whether its tags or its name were changed, also where the rest failed
     bool renamed = false;
     bool tagsDone = false; ///< the tags say what they were to say
-    /** Of an undo that went well: what the file system said of the file before the apply, and says of it now. */
+    /** Of an undo that went well: what the file system said of the file before the
+       apply, and says of it now. */
     std::optional<std::pair<FileMark, FileMark>> takenBack;
 };
 
@@ -71,22 +72,22 @@ struct UndoEntry {
 /** All that an apply changed. */
 using UndoStep = std::vector<UndoEntry>;
 
-/** RESULTS of an undo brought files back to what they were when the apply before it had ended: what STEPS, the applies that
-    are left, know of these files is what they are now. */
+/** RESULTS of an undo brought files back to what they were when the apply before it had ended: what STEPS,
+   the applies that are left, know of these files is what they are now. */
 void followUndo(std::vector<UndoStep>& steps, const std::vector<ApplyResult>& results);
 
 /** Called before each file and now and then while one is written; false cancels. */
 using ApplyProgress = std::function<bool(std::size_t done, std::size_t total)>;
 
-/** Writes the edits of ITEMS into their files, one after the other, each of which is old or new at any time; then gives
-    them their new names, which never overwrite. UNDO gets what takes it back, COVERS the covers that were there. One
-    result for each item. For any thread. */
+/** Writes the edits of ITEMS into their files, one after the other, each of which is old or new at any time;
+   then gives them their new names, which never overwrite. UNDO gets what takes it back, COVERS the covers
+   that were there. One result for each item. For any thread. */
 [[nodiscard]] std::vector<ApplyResult> applyItems(const std::vector<ApplyItem>& items,
                                                   const ApplyProgress& progress, UndoStep& undo,
                                                   CoverStore& covers);
 
-/** Takes STEP back: names, then values. A file that was changed since is left alone, and told. What was taken back is no
-    longer in STEP. For any thread. */
+/** Takes STEP back: names, then values. A file that was changed since is left alone, and told. What was taken
+   back is no longer in STEP. For any thread. */
 [[nodiscard]] std::vector<ApplyResult> undoStep(UndoStep& step, const ApplyProgress& progress,
                                                 CoverStore& covers);
 

@@ -13,8 +13,8 @@ constexpr int niceness = 5;
 } // namespace
 
 void stayInBackground() {
-    // On Linux the priority is the thread's own, and raising this number is always allowed. Where it can't be set, all is as fair
-    // as before.
+    // On Linux the priority is the thread's own, and raising this number is always allowed. Where it can't be
+    // set, all is as fair as before.
     static_cast<void>(::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), niceness));
 }
 

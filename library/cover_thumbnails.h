@@ -10,8 +10,8 @@
 
 namespace velmora {
 
-/** Small pictures of covers for the table's cells, read and decoded beside the main thread, those that were asked for last
-    first; as many are kept as are looked at in a while. */
+/** Small pictures of covers for the table's cells, read and decoded beside the main thread, those that were
+   asked for last first; as many are kept as are looked at in a while. */
 class CoverThumbnails : public QObject {
     Q_OBJECT
 public:
@@ -20,8 +20,8 @@ public:
     /** Waits for the picture that is being decoded. */
     ~CoverThumbnails() override;
 
-    /** The picture of the cover that FILE has with its edits; invalid while there is none, or none yet: then the model
-        tells when it comes. */
+    /** The picture of the cover that FILE has with its edits; invalid while there is none, or none yet: then
+       the model tells when it comes. */
     [[nodiscard]] QVariant picture(int file);
 
 private:

@@ -19,8 +19,8 @@ namespace velmora {
 
 class CoverArtView;
 
-/** The fields of the selected files: what these have in common, and that there are several values otherwise. What is typed
-    into a field becomes an edit of all of them; what is not touched is left alone. */
+/** The fields of the selected files: what these have in common, and that there are several values otherwise.
+   What is typed into a field becomes an edit of all of them; what is not touched is left alone. */
 class EditPanel : public QWidget {
     Q_OBJECT
 public:

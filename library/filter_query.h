@@ -18,8 +18,8 @@ namespace velmora {
    album:"kind of blue". These are their own:
    - year:1994, year:1990-1999, year:1990-, year:-1990. Each end may be the beginning of a year, so that
      year:199 is the nineties.
-   - missing:cover, missing:title, missing:tags and so on: what the row could have and does not. The beginning of
-     a name stands for all that begin with it.
+   - missing:cover, missing:title, missing:tags and so on: what the row could have and does not. The
+     beginning of a name stands for all that begin with it.
    A column's name without a word is not looked at: it is still being typed. A name that is none of these
    makes the whole an ordinary word, and so does a year that is none.
 

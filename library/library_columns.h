@@ -24,8 +24,8 @@ namespace velmora {
 /** The field that the texts of COLUMN are in files of MEDIA. Nothing for columns and files without one. */
 [[nodiscard]] std::optional<portable::Field> fieldOf(LibraryColumn column, portable::Media media);
 
-/** What the column says of the file ROW, with EDITS, unless null, taken for done: whole, in the user's language. Of the
-    cover, whether there is one. */
+/** What the column says of the file ROW, with EDITS, unless null, taken for done: whole, in the user's
+   language. Of the cover, whether there is one. */
 [[nodiscard]] QString columnText(const LibraryRow& row, const RowEdits* edits, LibraryColumn column);
 /** Whether EDITS, which may be null, change what COLUMN says of ROW. */
 [[nodiscard]] bool isEdited(const LibraryRow& row, const RowEdits* edits, LibraryColumn column);
@@ -37,11 +37,12 @@ namespace velmora {
 /** The hash of the cover that ROW has with EDITS, unless null, taken for done; 0: none. */
 [[nodiscard]] std::uint64_t coverHashOf(const LibraryRow& row, const RowEdits* edits);
 
-/** What a filter looks at in ROW with EDITS, unless null, taken for done. Takes about 10 microseconds; for any thread. */
+/** What a filter looks at in ROW with EDITS, unless null, taken for done. Takes about 10
+   microseconds; for any thread. */
 [[nodiscard]] FilterText filterTextOf(const LibraryRow& row, const RowEdits* edits);
 
-/** Puts into EDITS that COLUMN is to say TEXT of ROW; an empty text deletes. What ROW says already is no edit. False,
-    with EDITS as they were, where the column can't say that. */
+/** Puts into EDITS that COLUMN is to say TEXT of ROW; an empty text deletes. What ROW says already is no
+   edit. False, with EDITS as they were, where the column can't say that. */
 [[nodiscard]] bool editText(RowEdits& edits, const LibraryRow& row, LibraryColumn column,
                             const QString& text);
 /** Puts into EDITS that ROW is to have COVER; null deletes it. */

@@ -13,10 +13,11 @@
 
 namespace velmora {
 
-/** What the library table shows: the listed files, those that the filter lets through, in the order that was asked for.
+/** What the library table shows: the listed files, those that the filter lets through, in the
+   order that was asked for.
 
-    New files are shown at the end, and what changes stays where it is; both get their places a moment later, in an order
-    that is found beside the main thread. */
+   New files are shown at the end, and what changes stays where it is; both get their places a moment later,
+   in an order that is found beside the main thread. */
 class LibraryModel : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -42,7 +43,7 @@ public:
 
     /** Edits of the file FILE; nothing is written into it. */
     void setEdits(int file, RowEdits edits);
-    /** The same of many files at once. */
+    /** Edits of many files at once, each with its number; nothing is written into them. */
     void setEdits(const std::vector<std::pair<int, RowEdits>>& edits);
     void revert(const std::vector<int>& files);
 

@@ -235,8 +235,8 @@ std::vector<int> LibraryModel::filtered() {
     return files;
 }
 
-/** Shows FILES instead of what is shown, in such steps that the views' selections, their current cell and an editor in it
-    stay with their files. */
+/** Shows FILES instead of what is shown, in such steps that the views' selections, their current cell and an
+   editor in it stay with their files. */
 void LibraryModel::show(std::vector<int> files) {
     std::vector<bool> stays(static_cast<std::size_t>(rows_.end()), false);
     for (const int file : files) {

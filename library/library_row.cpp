@@ -12,7 +12,8 @@ namespace {
 
 using FilterLength = std::uint32_t;
 
-/** The number of texts in a row's block that have a zero behind them: the fields, and which tags there are. */
+/** The number of texts in a row's block that have a zero behind them: the fields, and
+   which tags there are. */
 constexpr std::size_t endedTexts = portable::text_field_count + 1;
 
 /** TEXTS without the first COUNT texts, each of which has a zero behind it. */

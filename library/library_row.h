@@ -22,7 +22,8 @@ public:
     PackedTexts() = default;
     explicit PackedTexts(const portable::TagValues& values);
 
-    /** The value of FIELD, one of the text fields, in UTF-8; empty where there is none. Good as long as this object. */
+    /** The value of FIELD, one of the text fields, in UTF-8; empty where there is none. Good
+       as long as this object. */
     [[nodiscard]] std::string_view text(portable::Field field) const;
     /** The texts one behind the other, each with a zero behind it. */
     [[nodiscard]] const QByteArray& block() const { return block_; }
@@ -34,8 +35,8 @@ private:
 /** What is known of a file's tags. */
 enum class ReadState : std::uint8_t { waiting, read, failed };
 
-/** A file of the library table as it was last read. Rows of 100,000 files are kept: a row's texts are one block of memory
-    in UTF-8, and its folder's path is shared with other rows. */
+/** A file of the library table as it was last read. Rows of 100,000 files are kept: a row's texts are one
+   block of memory in UTF-8, and its folder's path is shared with other rows. */
 class LibraryRow {
 public:
     LibraryRow() = default;
@@ -57,7 +58,8 @@ public:
     [[nodiscard]] QString path() const;
     /** Whether the file is at PATH, in the file system's bytes. */
     [[nodiscard]] bool isAt(const QByteArray& path) const;
-    /** The value of FIELD, one of the text fields, in UTF-8; empty where there is none. Good until the row changes. */
+    /** The value of FIELD, one of the text fields, in UTF-8; empty where there is none. Good
+       until the row changes. */
     [[nodiscard]] std::string_view text(portable::Field field) const;
     /** Which tags there are; or, where these can't be read, why. */
     [[nodiscard]] QString tags() const;
@@ -73,8 +75,8 @@ public:
 
 private:
     void pack(std::string_view filter, std::string_view texts, std::string_view name);
-    /** What the block holds behind the filter's text: the tags' texts, which tags there are, each with a zero behind it,
-        and the name. */
+    /** What the block holds behind the filter's text: the tags' texts, which tags there are, each with a zero
+       behind it, and the name. */
     [[nodiscard]] std::string_view packed() const;
     [[nodiscard]] std::string_view nameBytes() const;
 

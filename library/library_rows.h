@@ -11,8 +11,8 @@
 
 namespace velmora {
 
-/** The files of the library table in the order in which they came, and what is to become of them. A file's number stays
-    what it is. */
+/** The files of the library table in the order in which they came, and what is to become of them. A file's
+   number stays what it is. */
 class LibraryRows {
 public:
     /** Lists the file at PATH of SIZE bytes and gives its number; -1 where it is listed already. */
@@ -45,10 +45,12 @@ public:
     [[nodiscard]] std::vector<int> editedRows() const;
     [[nodiscard]] std::size_t editedCount() const { return edits_.size(); }
 
-    /** What a filter looks at in the file, its edits taken for done. Good until the file or its edits change. */
+    /** What a filter looks at in the file, its edits taken for done. Good until the file or its edits
+       change. */
     [[nodiscard]] FilterView filterText(int row);
 
-    /** A copy to be read on another thread, in which no paths are found. Takes a moment only, however many rows there are. */
+    /** A copy to be read on another thread, in which no paths are found. Takes a moment only,
+       however many rows there are. */
     [[nodiscard]] LibraryRows snapshot() const;
 
     [[nodiscard]] QString text(int row, LibraryColumn column) const {

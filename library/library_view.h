@@ -6,8 +6,8 @@
 
 namespace velmora {
 
-/** The table of the library window. A click on a header sorts by its column, and once more the other way round; with Shift
-    it makes it a further key. The headers' menu chooses columns; they can be moved. */
+/** The table of the library window. A click on a header sorts by its column, and once more the other way
+   round; with Shift it makes it a further key. The headers' menu chooses columns; they can be moved. */
 class LibraryView : public QTableView {
     Q_OBJECT
 public:

@@ -21,8 +21,9 @@ struct WrittenFile {
     QString newPath;
 };
 
-/** The library table's window: all listed files with their tags, a filter, and the fields of those that are selected. Edits
-    are kept until they are applied or reverted. It hides when it is closed, and stays what it is. */
+/** The library table's window: all listed files with their tags, a filter, and the fields of those
+   that are selected. Edits are kept until they are applied or reverted. It hides when it is closed,
+   and stays what it is. */
 class LibraryWindow : public DocumentWindow {
     Q_OBJECT
 public:
@@ -57,10 +58,11 @@ public:
 
     /** Copies the selected rows with the shown columns, or of these the current one alone. */
     void copy(bool currentColumnOnly);
-    /** Puts the clipboard's cells into the table from the current one on; a single one into all selected rows. */
+    /** Puts the clipboard's cells into the table from the current one on; a single one
+       into all selected rows. */
     void paste();
-    /** Writes the rows shown and the columns shown into the file at PATH, as its extension says: JSON or else CSV.
-        False where that failed; there is no such file then, or the old one. */
+    /** Writes the rows shown and the columns shown into the file at PATH, as its extension says: JSON or else
+       CSV. False where that failed; there is no such file then, or the old one. */
     [[nodiscard]] bool exportTo(const QString& path);
 
 signals:

@@ -6,7 +6,8 @@
 
 namespace velmora {
 
-/** Finds a row's number by the hash of its path, in 8 bytes a slot; the paths themselves are kept by the rows. */
+/** Finds a row's number by the hash of its path, in 8 bytes a slot; the paths themselves
+   are kept by the rows. */
 class PathIndex {
 public:
     /** The number with HASH for which IS_MEANT(number) holds; -1 for none. */
@@ -25,7 +26,8 @@ public:
     void remove(std::uint32_t hash, int number);
 
 private:
-    /** A number stands in the first slot from its hash's place on that was free: what stands between is of others. */
+    /** A number stands in the first slot from its hash's place on that was free: what stands
+       between is of others. */
     struct Slot {
         std::uint32_t hash = 0;
         int number = -1; ///< -1: free

@@ -44,7 +44,8 @@ public:
     ~TagReader() override;
 
     void request(Request request);
-    /** REQUESTS, which were made before, come first now; what was preferred before comes in its turn again. */
+    /** REQUESTS, which were made before, come first now; what was preferred before comes in its turn
+       again. */
     void prefer(std::vector<Request> requests);
     /** How many requests were not answered yet. */
     [[nodiscard]] std::size_t waiting() const;

@@ -135,8 +135,8 @@ void LegibleStyle::drawComplexControl(ComplexControl control, const QStyleOption
 
 QIcon LegibleStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* option,
                                  const QWidget* widget) const {
-    // Every menu bar and many a field ask for these before anything is shown. The toolkit's own are files whose format is
-    // looked for with the libraries of all formats.
+    // Every menu bar and many a field ask for these before anything is shown. The toolkit's own are files
+    // whose format is looked for with the libraries of all formats.
     switch (standardIcon) {
     case SP_ToolBarHorizontalExtensionButton:
         return symbol(QStringLiteral("view-more-horizontal"));

@@ -13,7 +13,8 @@ namespace velmora::portable {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/* Not inline: the compiler, seeing the whole of them, takes their copies for writes behind an empty vector. */
+/* Not inline: the compiler, seeing the whole of them, takes their copies for writes
+   behind an empty vector. */
 void append(Bytes& bytes, std::span<const std::uint8_t> more);
 void append(Bytes& bytes, std::string_view more);
 

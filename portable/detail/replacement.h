@@ -11,14 +11,12 @@
 namespace velmora::portable {
 
 /** A file that is replaced by a new one, whole or not at all: until take_place() has renamed the new file it
-   is
-    untouched, and after that it is the new one. All members throw a Refusal where something fails. */
+   is untouched, and after that it is the new one. All members throw a Refusal where something fails. */
 class Replacement {
 public:
     /** Opens the file that PATH leads to, links in it resolved. Refuses what is no regular file, what its
-       mode or the
-        system protects against writing, and, unless BREAK_LINKS, what has further hard links. With
-        MAY_BE_MISSING a file that is not there counts as an empty one. */
+       mode or the system protects against writing, and, unless BREAK_LINKS, what has further hard links. With
+       MAY_BE_MISSING a file that is not there counts as an empty one. */
     Replacement(const std::string& path, bool break_links, bool may_be_missing);
 
     /** The old file, open for reading, and its bytes. */
@@ -34,8 +32,7 @@ public:
     [[nodiscard]] std::uint64_t replacement_size();
 
     /** Puts the new file in the place of the old one, when that is still what was opened. Returns a warning
-       where it is
-        done, and yet not known to be on the disk. */
+       where it is done, and yet not known to be on the disk. */
     [[nodiscard]] std::optional<Reason> take_place();
 
     /** Removes the file instead, when it is still what was opened. Returns a warning as take_place() does. */

@@ -53,8 +53,7 @@ std::vector<const TagItem*> sorted_by_name(const std::vector<TagItem>& items) {
 }
 
 /** Whether the items of FEWER that nobody asked for are among those of MORE, for each name in the same order.
-   The first
-    that is not is the result. */
+   The first that is not is the result. */
 const TagItem* first_missing(const std::vector<TagItem>& fewer, const std::vector<TagItem>& more,
                              const TagEdits& edits) {
     const std::vector<const TagItem*> sorted = sorted_by_name(more);
@@ -133,8 +132,8 @@ std::pair<std::vector<Range>, std::vector<Range>> split(const std::vector<Range>
     return parts;
 }
 
-/** Compares what the readers give, of the same number of bytes, up to their end or until ADVANCE, which is told how many
-    bytes were equal, returns false. */
+/** Compares what the readers give, of the same number of bytes, up to their end or until ADVANCE, which is
+   told how many bytes were equal, returns false. */
 template <typename Advance>
 void compare(RangeReader old_bytes, RangeReader new_bytes, Advance advance) {
     std::span<const std::uint8_t> old_piece;

@@ -11,9 +11,9 @@ struct OpenTags {
     const TaggedFile& tags;
 };
 
-/** Throws the Refusal `would_lose` unless AFTER is BEFORE with EDITS, which are completed, in it: the values that were
-   asked for, every other item of every tag as the bytes that it was, and the same media. Large media is compared by two
-   threads; PROGRESS is told on this one alone. */
+/** Throws the Refusal `would_lose` unless AFTER is BEFORE with EDITS, which are completed, in it: the values
+   that were asked for, every other item of every tag as the bytes that it was, and the same media. Large
+   media is compared by two threads; PROGRESS is told on this one alone. */
 void verify_edits(const OpenTags& before, const OpenTags& after, const TagEdits& edits, Progress& progress);
 
 /** Throws the Refusal `would_lose` unless AFTER has the media of BEFORE and no values. */

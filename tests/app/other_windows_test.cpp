@@ -1,6 +1,6 @@
-// The windows beside the main one, in each language that the program has a table for: every control is named, has a tip and
-// is reached by the Tab key, no letter is given twice, nothing is cut off on a small screen. Leaves pictures in the folder
-// "screenshots" of the build.
+// The windows beside the main one, in each language that the program has a table for: every control is named,
+// has a tip and is reached by the Tab key, no letter is given twice, nothing is cut off on a small screen.
+// Leaves pictures in the folder "screenshots" of the build.
 
 #include "spoken_languages.h"
 #include "window_fixture.h"
