@@ -1,6 +1,5 @@
 #include "platform/localisation.h"
 #include "platform/sentences.h"
-
 #include "support/qt_printing.h"
 
 #include <QCoreApplication>
