@@ -3,24 +3,19 @@
 #include "model/portable_reason.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
-#include "portable/portable_tags.h"
 
 #include <algorithm>
-#include <sys/stat.h>
 #include <unordered_map>
 
 namespace velmora {
 
 namespace {
 
-using portable::Edit;
-using portable::Field;
+using portable::KeptBytes;
 using portable::Reason;
 using portable::ReasonCode;
 using portable::SaveOutcome;
 using portable::SaveResult;
-using portable::TagEdits;
-using portable::TagValues;
 
 std::string bytesOf(const QString& path) {
     return pathBytes(path).toStdString();
@@ -30,23 +25,8 @@ QString pathBeside(const QString& path, const QString& name) {
     return pathFromBytes(joinedPath(pathBytes(pathFolder(path)), pathBytes(name).toStdString()));
 }
 
-template <typename Value>
-Edit<Value> backTo(const std::optional<Value>& old) {
-    return old ? Edit<Value>::set(*old) : Edit<Value>::remove();
-}
-
-/** What makes the fields that EDITS change say what they said in OLD, but for the cover. */
-TagEdits editsBack(const RowEdits& edits, const TagValues& old) {
-    TagEdits back;
-    for (std::size_t i = 0; i < back.texts.size(); ++i) {
-        if (!edits.texts[i].leaves_alone()) {
-            back.texts[i] = backTo(old.texts[i]);
-        }
-    }
-    if (!edits.year.leaves_alone()) {
-        back.year = backTo(old.year);
-    }
-    return back;
+TagMark markOf(const QString& path) {
+    return portable::file_mark(bytesOf(path));
 }
 
 /** One run over many files, whatever is done with each. */
@@ -85,29 +65,14 @@ void take(ApplyResult& result, const SaveOutcome& outcome) {
     result.end = result.written ? ApplyEnd::done : ApplyEnd::unchanged;
 }
 
-/** Keeps what the file's cover was. False where it can't be kept, and so the file must not be changed. */
-bool keepCover(UndoEntry& entry, const RowEdits& edits, const TagValues& old, CoverStore& covers) {
-    entry.coverChanged = !edits.cover.leaves_alone();
-    if (entry.coverChanged && old.cover) {
-        entry.cover = covers.put(*old.cover);
-        return entry.cover.has_value();
-    }
-    return true;
-}
-
-void applyTags(const ApplyItem& item, Run& run, ApplyResult& result, UndoEntry& entry, CoverStore& covers) {
-    const portable::ReadOutcome old = portable::read_tags(bytesOf(item.path));
-    if (old.failure) {
-        fail(result, *old.failure);
-        return;
-    }
-    if (!keepCover(entry, item.edits, old.values, covers)) {
-        result.end = ApplyEnd::failed;
-        result.reason = localised("There is no room to keep the old cover for an undo");
-        return;
-    }
-    entry.back = editsBack(item.edits, old.values);
-    take(result, portable::save_tags(bytesOf(item.path), item.edits.tagEdits(), run.saveOptions()));
+void applyTags(const ApplyItem& item, Run& run, ApplyResult& result, UndoEntry& entry, KeptBytes& kept) {
+    portable::SaveOptions options = run.saveOptions();
+    options.kept = &kept;
+    const SaveOutcome outcome = portable::save_tags(bytesOf(item.path), item.edits.tagEdits(), options);
+    take(result, outcome);
+    entry.wayBack = outcome.way_back;
+    entry.before = outcome.before;
+    entry.after = outcome.after;
 }
 
 /** Puts the outcome of a rename beside that of the tags. */
@@ -143,17 +108,8 @@ void applyNames(const std::vector<ApplyItem>& items, Run& run, std::vector<Apply
 
 } // namespace
 
-std::optional<FileMark> fileMark(const QString& path) {
-    struct stat status = {};
-    if (lstat(pathBytes(path).constData(), &status) != 0) {
-        return std::nullopt;
-    }
-    return FileMark{status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
-                    status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
-}
-
 std::vector<ApplyResult> applyItems(const std::vector<ApplyItem>& items, const ApplyProgress& progress,
-                                    UndoStep& undo, CoverStore& covers) {
+                                    UndoStep& undo, KeptBytes& kept) {
     Run run(items.size(), progress);
     std::vector<ApplyResult> results(items.size());
     std::vector<UndoEntry> entries(items.size());
@@ -164,9 +120,8 @@ std::vector<ApplyResult> applyItems(const std::vector<ApplyItem>& items, const A
         if (!run.goesOn()) {
             continue;
         }
-        entries[i].before = fileMark(item.path).value_or(FileMark());
         if (item.edits.changesTags()) {
-            applyTags(item, run, results[i], entries[i], covers);
+            applyTags(item, run, results[i], entries[i], kept);
         } else {
             results[i].end = ApplyEnd::unchanged;
             results[i].tagsDone = true;
@@ -175,11 +130,11 @@ std::vector<ApplyResult> applyItems(const std::vector<ApplyItem>& items, const A
     }
     applyNames(items, run, results);
     for (std::size_t i = 0; i < items.size(); ++i) {
-        const auto mark = results[i].written ? fileMark(results[i].newPath) : std::nullopt;
-        if (mark) {
-            entries[i].newPath = results[i].newPath;
-            entries[i].after = *mark;
-            undo.push_back(std::move(entries[i]));
+        if (results[i].written) {
+            UndoEntry& entry = entries[i];
+            entry.newPath = results[i].newPath;
+            entry.after = entry.wayBack ? entry.after : markOf(entry.newPath);
+            undo.push_back(std::move(entry));
         }
     }
     return results;
@@ -187,27 +142,21 @@ std::vector<ApplyResult> applyItems(const std::vector<ApplyItem>& items, const A
 
 namespace {
 
-bool isUnchanged(const UndoEntry& entry) {
-    const std::optional<FileMark> mark = fileMark(entry.newPath);
-    return mark && *mark == entry.after;
-}
-
-void undoTags(const UndoEntry& entry, Run& run, ApplyResult& result, CoverStore& covers) {
-    TagEdits edits = entry.back;
-    if (entry.coverChanged) {
-        const auto cover = entry.cover ? covers.get(*entry.cover) : std::nullopt;
-        if (entry.cover && !cover) {
-            result.end = ApplyEnd::failed;
-            result.reason = localised("The old cover can't be read any more");
-            return;
-        }
-        edits.cover = backTo(cover);
+void undoTags(const UndoEntry& entry, Run& run, ApplyResult& result, const KeptBytes& kept) {
+    if (markOf(entry.newPath) != entry.after) {
+        result.end = ApplyEnd::changedSince;
+        return;
     }
-    if (edits.empty()) {
+    if (!entry.wayBack) {
         result.end = ApplyEnd::unchanged;
         return;
     }
-    take(result, portable::save_tags(bytesOf(result.newPath), edits, run.saveOptions()));
+    const SaveOutcome outcome =
+        portable::put_back(bytesOf(entry.newPath), *entry.wayBack, entry.after, kept, run.saveOptions());
+    take(result, outcome);
+    if (result.written) {
+        result.takenBack = {entry.before, outcome.after};
+    }
 }
 
 /** Files get their names back; results of those that don't say why. */
@@ -233,17 +182,16 @@ bool remains(UndoEntry& entry, const ApplyResult& result) {
     if (result.end == ApplyEnd::done || result.end == ApplyEnd::unchanged) {
         return false;
     }
-    if (result.tagsDone) {
-        entry.back = {};
-        entry.coverChanged = false;
-        entry.after = fileMark(entry.newPath).value_or(FileMark());
+    if (result.takenBack) {
+        entry.wayBack.reset();
+        entry.after = result.takenBack->second;
     }
     return true;
 }
 
 } // namespace
 
-std::vector<ApplyResult> undoStep(UndoStep& step, const ApplyProgress& progress, CoverStore& covers) {
+std::vector<ApplyResult> undoStep(UndoStep& step, const ApplyProgress& progress, const KeptBytes& kept) {
     Run run(step.size(), progress);
     std::vector<ApplyResult> results(step.size());
     for (std::size_t i = 0; i < step.size(); ++i) {
@@ -252,11 +200,7 @@ std::vector<ApplyResult> undoStep(UndoStep& step, const ApplyProgress& progress,
         if (!run.goesOn()) {
             continue;
         }
-        if (isUnchanged(step[i])) {
-            undoTags(step[i], run, results[i], covers);
-        } else {
-            results[i].end = ApplyEnd::changedSince;
-        }
+        undoTags(step[i], run, results[i], kept);
         run.fileDone();
     }
     undoNames(step, run, results);
@@ -264,8 +208,6 @@ std::vector<ApplyResult> undoStep(UndoStep& step, const ApplyProgress& progress,
     for (std::size_t i = 0; i < step.size(); ++i) {
         if (remains(step[i], results[i])) {
             rest.push_back(std::move(step[i]));
-        } else if (const std::optional<FileMark> now = fileMark(results[i].newPath)) {
-            results[i].takenBack = {step[i].before, *now};
         }
     }
     step = std::move(rest);
@@ -273,7 +215,7 @@ std::vector<ApplyResult> undoStep(UndoStep& step, const ApplyProgress& progress,
 }
 
 void followUndo(std::vector<UndoStep>& steps, const std::vector<ApplyResult>& results) {
-    std::unordered_map<int, std::pair<FileMark, FileMark>> takenBack;
+    std::unordered_map<int, std::pair<TagMark, TagMark>> takenBack;
     for (const ApplyResult& result : results) {
         if (result.takenBack) {
             takenBack.emplace(result.file, *result.takenBack);
@@ -287,6 +229,16 @@ void followUndo(std::vector<UndoStep>& steps, const std::vector<ApplyResult>& re
             }
         }
     }
+}
+
+void forgetUnneeded(const std::vector<UndoStep>& steps, KeptBytes& kept) {
+    std::uint64_t end = 0;
+    for (const UndoStep& step : steps) {
+        for (const UndoEntry& entry : step) {
+            end = std::max(end, entry.wayBack ? entry.wayBack->end : 0);
+        }
+    }
+    kept.shrink_to(end);
 }
 
 } // namespace velmora

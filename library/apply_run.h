@@ -1,8 +1,9 @@
 #pragma once
 
-#include "cover_store.h"
 #include "library_row.h"
 #include "rename_files.h"
+
+#include "portable/portable_tags.h"
 
 #include <QString>
 
@@ -29,18 +30,8 @@ enum class ApplyEnd {
     changedSince, ///< of an undo: another program, or a later edit, changed the file, which was left alone
 };
 
-/** What the file system says of a file, to find out whether it was changed since. */
-struct FileMark {
-    std::uint64_t device = 0;
-    std::uint64_t inode = 0;
-    std::uint64_t size = 0;
-    std::int64_t modifiedSeconds = 0;
-    std::int64_t modifiedNanoseconds = 0;
-
-    bool operator==(const FileMark&) const = default;
-};
-/** Nothing where there is no file at PATH. */
-[[nodiscard]] std::optional<FileMark> fileMark(const QString& path);
+/** The file that holds a file's tags; nothing where there is none. */
+using TagMark = std::optional<portable::FileMark>;
 
 /** How it went with a file. */
 struct ApplyResult {
@@ -52,21 +43,19 @@ struct ApplyResult {
     bool written = false; ///< whether its tags or its name were changed, also where the rest failed
     bool renamed = false;
     bool tagsDone = false; ///< the tags say what they were to say
-    /** Of an undo that went well: what the file system said of the file before the
-       apply, and says of it now. */
-    std::optional<std::pair<FileMark, FileMark>> takenBack;
+    /** Of an undo that put the old bytes back: the file that had them before the apply, and the one that has
+       them now. */
+    std::optional<std::pair<TagMark, TagMark>> takenBack;
 };
 
 /** How a file was before an apply changed it. */
 struct UndoEntry {
     int file = 0;
-    QString path;            ///< where it was
-    QString newPath;         ///< where it was put
-    portable::TagEdits back; ///< makes the tags say what they said, but for the cover
-    bool coverChanged = false;
-    std::optional<CoverStore::Number> cover; ///< what the cover was; nothing: there was none
-    FileMark before;
-    FileMark after;
+    QString path;                             ///< where it was
+    QString newPath;                          ///< where it was put
+    std::optional<portable::WayBack> wayBack; ///< to the old bytes; nothing: they are those that it has
+    TagMark before;                           ///< only where there is a way back
+    TagMark after;
 };
 
 /** All that an apply changed. */
@@ -80,15 +69,19 @@ void followUndo(std::vector<UndoStep>& steps, const std::vector<ApplyResult>& re
 using ApplyProgress = std::function<bool(std::size_t done, std::size_t total)>;
 
 /** Writes the edits of ITEMS into their files, one after the other, each of which is old or new at any time;
-   then gives them their new names, which never overwrite. UNDO gets what takes it back, COVERS the covers
-   that were there. One result for each item. For any thread. */
+   then gives them their new names, which never overwrite. UNDO gets what takes it back, KEPT the bytes that
+   the files had. One result for each item. For any thread. */
 [[nodiscard]] std::vector<ApplyResult> applyItems(const std::vector<ApplyItem>& items,
                                                   const ApplyProgress& progress, UndoStep& undo,
-                                                  CoverStore& covers);
+                                                  portable::KeptBytes& kept);
 
-/** Takes STEP back: names, then values. A file that was changed since is left alone, and told. What was taken
-   back is no longer in STEP. For any thread. */
+/** Takes STEP back, an apply that KEPT has the old bytes of: each file gets every byte back that it had, then
+   its name. A file that was changed since is left alone, and told. What was taken back is no longer in STEP.
+   For any thread. */
 [[nodiscard]] std::vector<ApplyResult> undoStep(UndoStep& step, const ApplyProgress& progress,
-                                                CoverStore& covers);
+                                                const portable::KeptBytes& kept);
+
+/** Gives up what of KEPT none of STEPS needs. */
+void forgetUnneeded(const std::vector<UndoStep>& steps, portable::KeptBytes& kept);
 
 } // namespace velmora

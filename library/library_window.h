@@ -124,7 +124,7 @@ private:
 
     std::function<bool(const QStringList& paths)> mayWrite_;
     std::unique_ptr<ApplyDialog> dialog_;
-    CoverStore covers_;          ///< used by the worker while it runs
+    portable::KeptBytes kept_;   ///< for the undo; used by the worker while it runs
     std::vector<UndoStep> undo_; ///< the last apply is the last one
     UndoStep running_;           ///< of the worker that runs
 };

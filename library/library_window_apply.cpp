@@ -49,7 +49,7 @@ void LibraryWindow::showDialog(const QString& title) {
 void LibraryWindow::runApply() {
     running_.clear();
     dialog_->start([this, all = items()](const ApplyProgress& progress) {
-        return applyItems(all, progress, running_, covers_);
+        return applyItems(all, progress, running_, kept_);
     });
 }
 
@@ -86,8 +86,7 @@ void LibraryWindow::undoApply() {
     showDialog(localised("Undo Apply"));
     connect(dialog_.get(), &ApplyDialog::ended, this, &LibraryWindow::undoEnded);
     const auto run = [this] {
-        dialog_->start(
-            [this](const ApplyProgress& progress) { return undoStep(running_, progress, covers_); });
+        dialog_->start([this](const ApplyProgress& progress) { return undoStep(running_, progress, kept_); });
     };
     connect(dialog_.get(), &ApplyDialog::tryAgain, this, [this, run] {
         running_ = std::move(undo_.back());
@@ -115,6 +114,7 @@ void LibraryWindow::undoEnded(const std::vector<ApplyResult>& results) {
     if (!rest.empty()) {
         undo_.push_back(std::move(rest));
     }
+    forgetUnneeded(undo_, kept_);
     takeResults(results);
 }
 

@@ -40,6 +40,9 @@ QString wording(const portable::Reason& reason) {
         return localised("The system could not confirm that the folder is on the disk");
     case ReasonCode::cancelled:
         return localised("The save was cancelled");
+    case ReasonCode::not_kept:
+        return localised("The file's old contents can't be kept for an undo: %@",
+                         qt_error_string(reason.error));
     }
     return {};
 }

@@ -5,10 +5,12 @@
 #include "detail/save_edits.h"
 #include "detail/system_refusal.h"
 #include "detail/verification.h"
+#include "detail/way_back.h"
 
 #include <algorithm>
 #include <fcntl.h>
 #include <new>
+#include <utility>
 
 namespace velmora::portable {
 
@@ -127,6 +129,51 @@ bool leaves_nothing(const Rewrite& rewrite) {
     return !rewrite.finish && std::all_of(rewrite.segments.begin(), rewrite.segments.end(), is_empty);
 }
 
+/** What is kept for a save, unless that fails. */
+class KeptForSave {
+public:
+    KeptForSave(KeptBytes* kept, Replacement& file, const Rewrite& rewrite) : kept_(kept) {
+        if (kept_) {
+            way_back_ = keep_way_back(file.original(), file.size(), rewrite, *kept_);
+            way_back_->existed = file.exists();
+        }
+    }
+    ~KeptForSave() {
+        if (way_back_) {
+            kept_->shrink_to(way_back_->begin);
+        }
+    }
+    KeptForSave(const KeptForSave&) = delete;
+    KeptForSave& operator=(const KeptForSave&) = delete;
+
+    /** The save has succeeded. */
+    [[nodiscard]] std::optional<WayBack> release() { return std::exchange(way_back_, std::nullopt); }
+
+private:
+    KeptBytes* kept_;
+    std::optional<WayBack> way_back_;
+};
+
+/** Puts the new file of FILE in the place of the old one, or only removes that. */
+void take_place(Replacement& file, bool removes, SaveOutcome& outcome) {
+    outcome.warning = removes ? file.remove() : file.take_place();
+    outcome.before = file.original_mark();
+    outcome.after = file.replacement_mark();
+}
+
+/** Fills the new file of FILE as REWRITE says, when VERIFY finds in it what it should. */
+template <typename Verify>
+void make_new(Replacement& file, const TaggedFile& old, const MediaKind& kind, const Rewrite& rewrite,
+              Progress& progress, Verify verify) {
+    const OpenTags before{file.original(), old};
+    progress.set_total(copied_bytes(rewrite) + verified_bytes(before));
+    file.fill(rewrite, progress);
+    const std::unique_ptr<TaggedFile> made =
+        open_tagged_file(file.replacement(), file.replacement_size(), kind);
+    verify(before, OpenTags{file.replacement(), *made}, progress);
+    progress.check();
+}
+
 /** Replaces the file by the one that MAKE says, when VERIFY finds in it what it should. */
 template <typename Make, typename Verify>
 void replace(const std::string& path, const MediaKind& kind, const SaveOptions& options, SaveOutcome& outcome,
@@ -140,18 +187,27 @@ void replace(const std::string& path, const MediaKind& kind, const SaveOptions& 
         outcome.result = SaveResult::unchanged;
         return;
     }
-    if (!options.dry_run && kind.container == Container::side_file && leaves_nothing(rewrite)) {
-        outcome.warning = file.remove(); // it held a tag, and nothing else
-    } else if (!options.dry_run) {
-        progress.set_total(copied_bytes(rewrite) + verified_bytes(*old));
-        file.fill(rewrite, progress);
-        const std::unique_ptr<TaggedFile> made =
-            open_tagged_file(file.replacement(), file.replacement_size(), kind);
-        verify(OpenTags{file.original(), *old}, OpenTags{file.replacement(), *made}, progress);
-        progress.check();
-        outcome.warning = file.take_place();
+    if (!options.dry_run) {
+        KeptForSave kept(options.kept, file, rewrite);
+        const bool removes = kind.container == Container::side_file && leaves_nothing(rewrite);
+        if (!removes) { // else it held a tag, and nothing else
+            make_new(file, *old, kind, rewrite, progress, verify);
+        }
+        take_place(file, removes, outcome);
+        outcome.way_back = kept.release();
     }
     outcome.result = SaveResult::saved;
+}
+
+/** Puts the file together of the parts that WAY_BACK says, and reads it back. */
+void make_old_again(Replacement& file, const WayBack& way_back, const KeptBytes& kept, Progress& progress) {
+    FIOFUNCSTRUCT kept_file{kept.descriptor()};
+    const std::vector<FileRange> parts = parts_of_old_file(way_back, &kept_file, file.original());
+    const std::uint64_t size = size_of(parts);
+    progress.set_total(2 * size);
+    file.fill(parts, progress);
+    verify_bytes(parts, {{file.replacement(), {0, file.replacement_size()}}}, progress);
+    progress.check();
 }
 
 bool read_by_others(const MediaKind& kind) {
@@ -191,6 +247,36 @@ SaveOutcome remove_tags(const std::string& path, const SaveOptions& options) {
         replace(
             path, writable_kind(path), options, outcome,
             [](const TaggedFile& old) { return old.without_tags(); }, verify_removal);
+    });
+}
+
+std::optional<FileMark> file_mark(const std::string& path) {
+    const std::optional<MediaKind> kind = media_kind(path);
+    struct stat status {};
+    if (::fstatat(AT_FDCWD, (kind ? tag_path(path, *kind) : path).c_str(), &status, 0) != 0) {
+        return std::nullopt;
+    }
+    return mark_of(status);
+}
+
+SaveOutcome put_back(const std::string& path, const WayBack& way_back, const std::optional<FileMark>& made,
+                     const KeptBytes& kept, const SaveOptions& options) {
+    return contained<SaveOutcome>([&](SaveOutcome& outcome) {
+        const MediaKind kind = writable_kind(path);
+        Progress progress(options.progress);
+        progress.check();
+        Replacement file(tag_path(path, kind), options.break_links, kind.container == Container::side_file);
+        if (file.original_mark() != made) {
+            throw Refusal({ReasonCode::changed_meanwhile, 0, {}});
+        }
+        if (!options.dry_run) {
+            if (way_back.existed) {
+                make_old_again(file, way_back, kept, progress);
+            }
+            take_place(file, !way_back.existed, outcome);
+        }
+        outcome.result = SaveResult::saved;
+        outcome.others_read_it = read_by_others(kind);
     });
 }
 

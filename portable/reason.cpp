@@ -42,6 +42,8 @@ std::string sentence(const Reason& reason) {
         return "saved, but the system could not confirm that the folder is on the disk";
     case ReasonCode::cancelled:
         return "cancelled";
+    case ReasonCode::not_kept:
+        return with_detail("what the file was can't be kept for an undo", std::strerror(reason.error));
     }
     return {};
 }

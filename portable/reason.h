@@ -21,6 +21,7 @@ enum class ReasonCode {
     would_lose,        ///< the check of the new file found a difference; detail: what would have been lost
     folder_not_synced, ///< a warning: the new file is there, its folder was not synced
     cancelled,
+    not_kept, ///< what the file was can't be kept, and so it is not changed
 };
 
 struct Reason {

@@ -556,6 +556,10 @@
         <translation>Das Speichern wurde abgebrochen</translation>
     </message>
     <message>
+        <source>The file&#x27;s old contents can&#x27;t be kept for an undo: %@</source>
+        <translation>Der alte Inhalt der Datei kann nicht zum Rückgängigmachen aufbewahrt werden: %@</translation>
+    </message>
+    <message>
         <source>Its tag can&#x27;t be changed in place</source>
         <translation>Das Tag der Datei lässt sich nicht an Ort und Stelle ändern</translation>
     </message>
@@ -1359,10 +1363,6 @@
         <translation>Das Genre: Wählen Sie eines oder geben Sie ein eigenes ein</translation>
     </message>
     <message>
-        <source>The old cover can&#x27;t be read any more</source>
-        <translation>Das alte Titelbild kann nicht mehr gelesen werden</translation>
-    </message>
-    <message>
         <source>The parental rating of the selected films</source>
         <translation>Die Altersfreigabe der ausgewählten Filme</translation>
     </message>
@@ -1381,10 +1381,6 @@
     <message>
         <source>The year of release, of up to four digits</source>
         <translation>Das Erscheinungsjahr, bis zu vier Ziffern</translation>
-    </message>
-    <message>
-        <source>There is no room to keep the old cover for an undo</source>
-        <translation>Es ist kein Platz, um das alte Titelbild zum Rückgängigmachen aufzubewahren</translation>
     </message>
     <message>
         <source>They are lost when the program ends.</source>

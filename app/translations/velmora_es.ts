@@ -644,6 +644,10 @@
         <translation>Se ha cancelado el guardado</translation>
     </message>
     <message>
+        <source>The file&#x27;s old contents can&#x27;t be kept for an undo: %@</source>
+        <translation>No se puede conservar el contenido anterior del archivo para poder deshacer: %@</translation>
+    </message>
+    <message>
         <source>Its tag can&#x27;t be changed in place</source>
         <translation>Su etiqueta no se puede cambiar in situ</translation>
     </message>
@@ -1363,10 +1367,6 @@
         <translation>El género: elija uno o escriba el suyo</translation>
     </message>
     <message>
-        <source>The old cover can&#x27;t be read any more</source>
-        <translation>Ya no se puede leer la carátula anterior</translation>
-    </message>
-    <message>
         <source>The parental rating of the selected films</source>
         <translation>La clasificación por edades de las películas seleccionadas</translation>
     </message>
@@ -1385,10 +1385,6 @@
     <message>
         <source>The year of release, of up to four digits</source>
         <translation>El año de publicación, de hasta cuatro cifras</translation>
-    </message>
-    <message>
-        <source>There is no room to keep the old cover for an undo</source>
-        <translation>No hay espacio para conservar la carátula anterior y poder deshacer</translation>
     </message>
     <message>
         <source>They are lost when the program ends.</source>

@@ -644,6 +644,10 @@
         <translation>L’enregistrement a été annulé</translation>
     </message>
     <message>
+        <source>The file&#x27;s old contents can&#x27;t be kept for an undo: %@</source>
+        <translation>L’ancien contenu du fichier ne peut pas être conservé en vue d’une annulation : %@</translation>
+    </message>
+    <message>
         <source>Its tag can&#x27;t be changed in place</source>
         <translation>Son tag ne peut pas être modifié sur place</translation>
     </message>
@@ -1363,10 +1367,6 @@
         <translation>Le genre : choisissez-en un ou saisissez le vôtre</translation>
     </message>
     <message>
-        <source>The old cover can&#x27;t be read any more</source>
-        <translation>L’ancienne jaquette n’est plus lisible</translation>
-    </message>
-    <message>
         <source>The parental rating of the selected films</source>
         <translation>La classification par âge des films sélectionnés</translation>
     </message>
@@ -1385,10 +1385,6 @@
     <message>
         <source>The year of release, of up to four digits</source>
         <translation>L’année de sortie, quatre chiffres au plus</translation>
-    </message>
-    <message>
-        <source>There is no room to keep the old cover for an undo</source>
-        <translation>Pas de place pour conserver l’ancienne jaquette en vue d’une annulation</translation>
     </message>
     <message>
         <source>They are lost when the program ends.</source>

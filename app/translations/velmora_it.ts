@@ -644,6 +644,10 @@
         <translation>Il salvataggio è stato annullato</translation>
     </message>
     <message>
+        <source>The file&#x27;s old contents can&#x27;t be kept for an undo: %@</source>
+        <translation>Il vecchio contenuto del file non può essere conservato in vista di un annullamento: %@</translation>
+    </message>
+    <message>
         <source>Its tag can&#x27;t be changed in place</source>
         <translation>Il suo tag non può essere modificato sul posto</translation>
     </message>
@@ -1363,10 +1367,6 @@
         <translation>Il genere: scegline uno o scrivi il tuo</translation>
     </message>
     <message>
-        <source>The old cover can&#x27;t be read any more</source>
-        <translation>La vecchia copertina non si può più leggere</translation>
-    </message>
-    <message>
         <source>The parental rating of the selected films</source>
         <translation>La classificazione per età dei film selezionati</translation>
     </message>
@@ -1385,10 +1385,6 @@
     <message>
         <source>The year of release, of up to four digits</source>
         <translation>L’anno di uscita, fino a quattro cifre</translation>
-    </message>
-    <message>
-        <source>There is no room to keep the old cover for an undo</source>
-        <translation>Non c’è spazio per conservare la vecchia copertina in vista di un annullamento</translation>
     </message>
     <message>
         <source>They are lost when the program ends.</source>

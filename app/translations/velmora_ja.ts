@@ -644,6 +644,10 @@
         <translation>保存はキャンセルされました</translation>
     </message>
     <message>
+        <source>The file&#x27;s old contents can&#x27;t be kept for an undo: %@</source>
+        <translation>元に戻すためにファイルの以前の内容を残しておくことができません: %@</translation>
+    </message>
+    <message>
         <source>Its tag can&#x27;t be changed in place</source>
         <translation>タグをその場で書き換えられません</translation>
     </message>
@@ -1362,10 +1366,6 @@
         <translation>ジャンル。選ぶか、自由に入力します</translation>
     </message>
     <message>
-        <source>The old cover can&#x27;t be read any more</source>
-        <translation>以前のカバーアートを読み込めません</translation>
-    </message>
-    <message>
         <source>The parental rating of the selected films</source>
         <translation>選択した映画の年齢区分</translation>
     </message>
@@ -1384,10 +1384,6 @@
     <message>
         <source>The year of release, of up to four digits</source>
         <translation>公開・発売された年（4 桁まで）</translation>
-    </message>
-    <message>
-        <source>There is no room to keep the old cover for an undo</source>
-        <translation>元に戻すために以前のカバーアートを残しておく空きがありません</translation>
     </message>
     <message>
         <source>They are lost when the program ends.</source>

@@ -644,6 +644,10 @@
         <translation>保存已取消</translation>
     </message>
     <message>
+        <source>The file&#x27;s old contents can&#x27;t be kept for an undo: %@</source>
+        <translation>无法保留文件的原有内容以供撤销：%@</translation>
+    </message>
+    <message>
         <source>Its tag can&#x27;t be changed in place</source>
         <translation>无法就地更改其标签</translation>
     </message>
@@ -1362,10 +1366,6 @@
         <translation>类型：选择一个或自行输入</translation>
     </message>
     <message>
-        <source>The old cover can&#x27;t be read any more</source>
-        <translation>无法再读取旧封面</translation>
-    </message>
-    <message>
         <source>The parental rating of the selected films</source>
         <translation>所选影片的年龄分级</translation>
     </message>
@@ -1384,10 +1384,6 @@
     <message>
         <source>The year of release, of up to four digits</source>
         <translation>发行年份，最多四位数字</translation>
-    </message>
-    <message>
-        <source>There is no room to keep the old cover for an undo</source>
-        <translation>没有空间保留旧封面以供撤销</translation>
     </message>
     <message>
         <source>They are lost when the program ends.</source>

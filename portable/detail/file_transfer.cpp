@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <fcntl.h>
+#include <numeric>
 #include <unistd.h>
 
 namespace velmora::portable {
@@ -43,6 +44,11 @@ std::uint64_t copy_in_system(FIOFUNCSTRUCT* from, const Range& range, FIOFUNCSTR
 }
 
 } // namespace
+
+std::uint64_t size_of(const std::vector<FileRange>& ranges) {
+    return std::accumulate(ranges.begin(), ranges.end(), std::uint64_t{0},
+                           [](std::uint64_t sum, const FileRange& part) { return sum + part.range.size(); });
+}
 
 void write_at(FIOFUNCSTRUCT* file, std::span<const std::uint8_t> bytes, std::uint64_t position) {
     while (!bytes.empty()) {

@@ -13,6 +13,15 @@ namespace velmora::portable {
 /** Work is done in pieces of at most this many bytes, between which it can be cancelled. */
 inline constexpr std::uint64_t transfer_piece = 8UL * 1024 * 1024;
 
+/** A range of one of several files. */
+struct FileRange {
+    FIOFUNCSTRUCT* file = nullptr;
+    Range range;
+};
+
+/** The bytes of all RANGES. */
+[[nodiscard]] std::uint64_t size_of(const std::vector<FileRange>& ranges);
+
 /** Writes BYTES at POSITION. */
 void write_at(FIOFUNCSTRUCT* file, std::span<const std::uint8_t> bytes, std::uint64_t position);
 

@@ -187,6 +187,9 @@ Rewrite Mp4File::rewrite(const Mp4Change& change) const {
     if (!offsets.immovable.empty()) {
         refuse_unsupported(offsets.immovable);
     }
+    for (const OffsetTable& table : offsets.tables) {
+        rewrite.patched.push_back(table.bytes());
+    }
     rewrite.finish = [tables = std::move(offsets.tables), splices = change.splices,
                       size = change.splices.moved(layout_.file_size)](FIOFUNCSTRUCT* file) {
         mend_offsets(file, size, tables, splices);

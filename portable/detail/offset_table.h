@@ -1,6 +1,7 @@
 #pragma once
 
 #include "byte_appending.h"
+#include "tagged_file.h"
 
 #include "taglib/read_cursor.h"
 
@@ -19,6 +20,9 @@ struct OffsetTable {
     /** What they are counted from: the beginning of the file, but for `sidx`, which counts from its own
        end. */
     std::uint64_t origin = 0;
+
+    /** Where it lies, from its first offset, of which there has to be one, to the end of its last. */
+    [[nodiscard]] Range bytes() const { return {position, position + (count - 1) * stride + width}; }
 };
 
 /** Reads the offsets of a table in order. */

@@ -294,7 +294,12 @@ Rewrite OggFile::made_of(const VorbisComments& comments) const {
     rewrite.segments.emplace_back(Range{audio_begin_, size_});
     const auto moved = static_cast<std::uint32_t>(pages.size() - packet_pages_);
     if (moved != 0) {
-        if (for_each_audio_page([](std::uint64_t, const OggPageHeader&) {}) != size_) {
+        const std::uint64_t end = for_each_audio_page([&](std::uint64_t begin, const OggPageHeader& header) {
+            if (header.serial == serial_) {
+                rewrite.patched.push_back({begin + ogg_counted_bytes.begin, begin + ogg_counted_bytes.end});
+            }
+        });
+        if (end != size_) {
             throw Refusal({ReasonCode::damaged, 0, "Ogg page"});
         }
         rewrite.finish = [this, head_size, moved](FIOFUNCSTRUCT* file) {

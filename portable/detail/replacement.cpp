@@ -100,10 +100,14 @@ void Replacement::open_original(bool break_links, bool may_be_missing) {
     }
 }
 
-void Replacement::fill(const Rewrite& rewrite, Progress& progress) {
+FIOFUNCSTRUCT* Replacement::open_new_file() {
     remove_left_behind(folder_.handle()->descriptor);
     new_file_.emplace(folder_.handle()->descriptor);
-    FIOFUNCSTRUCT* const target = new_file_->handle();
+    return new_file_->handle();
+}
+
+void Replacement::fill(const Rewrite& rewrite, Progress& progress) {
+    FIOFUNCSTRUCT* const target = open_new_file();
     std::uint64_t position = 0;
     for (const Segment& segment : rewrite.segments) {
         if (const auto* const range = std::get_if<Range>(&segment)) {
@@ -116,6 +120,22 @@ void Replacement::fill(const Rewrite& rewrite, Progress& progress) {
     if (rewrite.finish) {
         rewrite.finish(target);
     }
+    complete_new_file();
+}
+
+void Replacement::fill(const std::vector<FileRange>& parts, Progress& progress) {
+    FIOFUNCSTRUCT* const target = open_new_file();
+    std::uint64_t position = 0;
+    for (const FileRange& part : parts) {
+        copy_range(part.file, part.range, target, position, progress);
+        position += part.range.size();
+    }
+    complete_new_file();
+}
+
+/** Gives the new file its attributes and puts it on the disk. */
+void Replacement::complete_new_file() {
+    FIOFUNCSTRUCT* const target = new_file_->handle();
     if (exists_) {
         copy_attributes(original(), status_, target);
     } else {
@@ -128,14 +148,17 @@ void Replacement::fill(const Rewrite& rewrite, Progress& progress) {
     if (uninterrupted([&] { return ::fsync(target->descriptor); }) != 0) {
         throw system_refusal("writing the new file to the disk");
     }
-}
-
-std::uint64_t Replacement::replacement_size() {
-    struct stat status {};
-    if (::fstat(new_file_->handle()->descriptor, &status) != 0) {
+    if (::fstat(target->descriptor, &new_status_) != 0) {
         throw system_refusal();
     }
-    return static_cast<std::uint64_t>(status.st_size);
+}
+
+std::optional<FileMark> Replacement::original_mark() const {
+    return exists_ ? std::optional(mark_of(status_)) : std::nullopt;
+}
+
+std::optional<FileMark> Replacement::replacement_mark() const {
+    return new_file_ ? std::optional(mark_of(new_status_)) : std::nullopt;
 }
 
 void Replacement::check_unchanged() {
@@ -169,6 +192,11 @@ std::optional<Reason> Replacement::sync_folder() {
         return Reason{ReasonCode::folder_not_synced, errno, {}};
     }
     return std::nullopt;
+}
+
+FileMark mark_of(const struct stat& status) {
+    return {status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size), status.st_mtim.tv_sec,
+            status.st_mtim.tv_nsec};
 }
 
 } // namespace velmora::portable

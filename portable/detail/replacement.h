@@ -1,8 +1,11 @@
 #pragma once
 
+#include "file_transfer.h"
 #include "new_file.h"
 #include "progress.h"
 #include "tagged_file.h"
+
+#include "portable/portable_tags.h"
 
 #include <optional>
 #include <string>
@@ -27,9 +30,17 @@ public:
 
     /** Makes the new file as REWRITE says, with the attributes of the old one, on the disk. */
     void fill(const Rewrite& rewrite, Progress& progress);
+    /** Makes the new file of PARTS, one behind the other, in the same way. */
+    void fill(const std::vector<FileRange>& parts, Progress& progress);
     /** The new file, open for reading and writing, and its bytes; once it is filled. */
     [[nodiscard]] FIOFUNCSTRUCT* replacement() { return new_file_->handle(); }
-    [[nodiscard]] std::uint64_t replacement_size();
+    [[nodiscard]] std::uint64_t replacement_size() const {
+        return static_cast<std::uint64_t>(new_status_.st_size);
+    }
+
+    /** Of the old file, and of the new one once it is filled; nothing where there is none. */
+    [[nodiscard]] std::optional<FileMark> original_mark() const;
+    [[nodiscard]] std::optional<FileMark> replacement_mark() const;
 
     /** Puts the new file in the place of the old one, when that is still what was opened. Returns a warning
        where it is done, and yet not known to be on the disk. */
@@ -39,6 +50,8 @@ public:
     [[nodiscard]] std::optional<Reason> remove();
 
 private:
+    FIOFUNCSTRUCT* open_new_file();
+    void complete_new_file();
     [[nodiscard]] std::optional<Reason> sync_folder();
     void open_folder(const std::string& path);
     void open_original(bool break_links, bool may_be_missing);
@@ -50,6 +63,10 @@ private:
     struct stat status_ {}; ///< of the original, when it was opened
     bool exists_ = true;
     std::optional<NewFile> new_file_;
+    struct stat new_status_ {}; ///< of the new file, when it was filled
 };
+
+/** What tells the contents of the file of that STATUS from other ones. */
+[[nodiscard]] FileMark mark_of(const struct stat& status);
 
 } // namespace velmora::portable

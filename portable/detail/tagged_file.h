@@ -47,6 +47,9 @@ struct Rewrite {
     /** Run on the new file when its segments are in it, for formats that a library edits in place. May be
        empty. Throws a Refusal. */
     std::function<void(FIOFUNCSTRUCT* file)> finish;
+    /** What of the segments' ranges `finish` changes in the new file: the same ranges of the old one, in any
+       order. */
+    std::vector<Range> patched{};
 };
 
 /** A file that was taken apart. It stays open, and is the caller's, while this lives. All members may throw a

@@ -8,7 +8,6 @@
 #include <atomic>
 #include <cstring>
 #include <future>
-#include <numeric>
 #include <utility>
 
 namespace velmora::portable {
@@ -87,46 +86,47 @@ void compare_items(const TaggedFile& before, const TaggedFile& after, const TagE
 /** The bytes of several ranges, one behind the other. */
 class RangeReader {
 public:
-    RangeReader(FIOFUNCSTRUCT* file, std::vector<Range> ranges)
-        : file_(file), ranges_(std::move(ranges)), buffer_(buffer_size) {}
+    explicit RangeReader(std::vector<FileRange> ranges) : ranges_(std::move(ranges)), buffer_(buffer_size) {}
 
-    /** The next bytes, at most MOST of them; none at the end. */
-    [[nodiscard]] std::span<const std::uint8_t> read(std::size_t most) {
-        while (next_ < ranges_.size() && ranges_[next_].size() == 0) {
+    /** The next bytes; none at the end. */
+    [[nodiscard]] std::span<const std::uint8_t> read() {
+        while (next_ < ranges_.size() && ranges_[next_].range.size() == 0) {
             ++next_;
         }
         if (next_ == ranges_.size()) {
             return {};
         }
-        Range& range = ranges_[next_];
-        const auto length =
-            static_cast<std::size_t>(std::min<std::uint64_t>({range.size(), buffer_.size(), most}));
+        Range& range = ranges_[next_].range;
+        const auto length = static_cast<std::size_t>(std::min<std::uint64_t>(range.size(), buffer_.size()));
         const std::span<std::uint8_t> bytes(buffer_.data(), length);
-        read_at(file_, bytes, range.begin);
+        read_at(ranges_[next_].file, bytes, range.begin);
         range.begin += length;
         return bytes;
     }
 
 private:
-    FIOFUNCSTRUCT* file_;
-    std::vector<Range> ranges_;
+    std::vector<FileRange> ranges_;
     std::size_t next_ = 0;
     std::vector<std::uint8_t> buffer_;
 };
 
-std::uint64_t size_of(const std::vector<Range>& ranges) {
-    return std::accumulate(ranges.begin(), ranges.end(), std::uint64_t{0},
-                           [](std::uint64_t sum, const Range& range) { return sum + range.size(); });
+/** The ranges of the media of OPEN. */
+std::vector<FileRange> payload_of(const OpenTags& open) {
+    std::vector<FileRange> ranges;
+    for (const Range& range : open.tags.payload()) {
+        ranges.push_back({open.file, range});
+    }
+    return ranges;
 }
 
 /** The first SIZE bytes of RANGES, and the rest. */
-std::pair<std::vector<Range>, std::vector<Range>> split(const std::vector<Range>& ranges,
-                                                        std::uint64_t size) {
-    std::pair<std::vector<Range>, std::vector<Range>> parts;
-    for (const Range& range : ranges) {
+std::pair<std::vector<FileRange>, std::vector<FileRange>> split(const std::vector<FileRange>& ranges,
+                                                                std::uint64_t size) {
+    std::pair<std::vector<FileRange>, std::vector<FileRange>> parts;
+    for (const auto& [file, range] : ranges) {
         const std::uint64_t middle = range.begin + std::min(range.size(), size);
-        parts.first.push_back({range.begin, middle});
-        parts.second.push_back({middle, range.end});
+        parts.first.push_back({file, {range.begin, middle}});
+        parts.second.push_back({file, {middle, range.end}});
         size -= middle - range.begin;
     }
     return parts;
@@ -140,10 +140,10 @@ void compare(RangeReader old_bytes, RangeReader new_bytes, Advance advance) {
     std::span<const std::uint8_t> new_piece;
     while (true) {
         if (old_piece.empty()) {
-            old_piece = old_bytes.read(buffer_size);
+            old_piece = old_bytes.read();
         }
         if (new_piece.empty()) {
-            new_piece = new_bytes.read(buffer_size);
+            new_piece = new_bytes.read();
         }
         const std::size_t length = std::min(old_piece.size(), new_piece.size());
         if (length == 0) {
@@ -160,31 +160,32 @@ void compare(RangeReader old_bytes, RangeReader new_bytes, Advance advance) {
     }
 }
 
-/** Of large media one half is compared beside the other. */
-void compare_payload(const OpenTags& before, const OpenTags& after, Progress& progress) {
-    const std::vector<Range> old_ranges = before.tags.payload();
-    const std::vector<Range> new_ranges = after.tags.payload();
-    const std::uint64_t size = size_of(old_ranges);
-    if (size != size_of(new_ranges)) {
+} // namespace
+
+/** Of many bytes one half is compared beside the other. */
+void verify_bytes(const std::vector<FileRange>& before, const std::vector<FileRange>& after,
+                  Progress& progress) {
+    const std::uint64_t size = size_of(before);
+    if (size != size_of(after)) {
         refuse("media data");
     }
     const std::uint64_t beside = size < smallest_divided ? 0 : size / 2;
-    const auto old_parts = split(old_ranges, size - beside);
-    const auto new_parts = split(new_ranges, size - beside);
+    const auto old_parts = split(before, size - beside);
+    const auto new_parts = split(after, size - beside);
     std::atomic<bool> stopped = false;
     std::atomic<std::uint64_t> done_beside = 0;
     std::future<void> other;
     if (beside > 0) {
         // Deferred where the system gives no thread.
         other = std::async(std::launch::async | std::launch::deferred, [&] {
-            compare({before.file, old_parts.second}, {after.file, new_parts.second}, [&](std::size_t length) {
+            compare(RangeReader(old_parts.second), RangeReader(new_parts.second), [&](std::size_t length) {
                 done_beside += length;
                 return !stopped;
             });
         });
     }
     try {
-        compare({before.file, old_parts.first}, {after.file, new_parts.first}, [&](std::size_t length) {
+        compare(RangeReader(old_parts.first), RangeReader(new_parts.first), [&](std::size_t length) {
             progress.advance(length + done_beside.exchange(0));
             return true;
         });
@@ -198,23 +199,21 @@ void compare_payload(const OpenTags& before, const OpenTags& after, Progress& pr
     }
 }
 
-} // namespace
-
-std::uint64_t verified_bytes(const TaggedFile& tags) {
-    return size_of(tags.payload());
+std::uint64_t verified_bytes(const OpenTags& open) {
+    return size_of(payload_of(open));
 }
 
 void verify_edits(const OpenTags& before, const OpenTags& after, const TagEdits& edits, Progress& progress) {
     compare_values(before.tags.values_with(edits), after.tags.values());
     compare_items(before.tags, after.tags, edits);
     after.tags.check_against(before.tags);
-    compare_payload(before, after, progress);
+    verify_bytes(payload_of(before), payload_of(after), progress);
 }
 
 void verify_removal(const OpenTags& before, const OpenTags& after, Progress& progress) {
     compare_values({}, after.tags.values());
     after.tags.check_against(before.tags);
-    compare_payload(before, after, progress);
+    verify_bytes(payload_of(before), payload_of(after), progress);
 }
 
 } // namespace velmora::portable

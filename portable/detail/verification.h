@@ -1,5 +1,6 @@
 #pragma once
 
+#include "file_transfer.h"
 #include "progress.h"
 #include "tagged_file.h"
 
@@ -19,7 +20,12 @@ void verify_edits(const OpenTags& before, const OpenTags& after, const TagEdits&
 /** Throws the Refusal `would_lose` unless AFTER has the media of BEFORE and no values. */
 void verify_removal(const OpenTags& before, const OpenTags& after, Progress& progress);
 
-/** Bytes that either compares. */
-[[nodiscard]] std::uint64_t verified_bytes(const TaggedFile& tags);
+/** Throws the Refusal `would_lose` unless the bytes of BEFORE, one range behind the other, are those of
+   AFTER. */
+void verify_bytes(const std::vector<FileRange>& before, const std::vector<FileRange>& after,
+                  Progress& progress);
+
+/** Bytes that either of the first two compares. */
+[[nodiscard]] std::uint64_t verified_bytes(const OpenTags& open);
 
 } // namespace velmora::portable

@@ -95,7 +95,7 @@ protected:
 };
 
 TEST_F(AlbumTest, IsTaggedAsAWholeAndTakenBack) {
-    std::string before = readByOthers();
+    const std::string before = readByOthers();
     press(Qt::Key_A, Qt::ControlModifier);
     EXPECT_TRUE(waitUntil([this] { return window_.findChild<QLineEdit*>("entry_titles")->isEnabled(); }));
     EXPECT_EQ("several values", window_.findChild<QLineEdit*>("entry_titles")->placeholderText());
@@ -148,12 +148,6 @@ TEST_F(AlbumTest, IsTaggedAsAWholeAndTakenBack) {
     EXPECT_EQ("1972", window_.model().rows().text(3, LibraryColumn::year).toStdString());
     EXPECT_EQ(0U, window_.undoCount());
     EXPECT_NE(before, after);
-    // A tag behind the frames, which mutagen does not see, stands in front of them since.
-    for (const int i : {4, 10}) {
-        const std::string other = name(i) + " without a tag";
-        ASSERT_NE(std::string::npos, before.find(other));
-        before.replace(before.find(other), other.size(), name(i) + " Old " + std::to_string(i) + " - - -");
-    }
     EXPECT_EQ(before, readByOthers());
 }
 

@@ -36,8 +36,8 @@ protected:
     }
     std::vector<ApplyResult> apply() {
         UndoStep undo;
-        CoverStore covers;
-        return applyItems(items_, {}, undo, covers);
+        portable::KeptBytes kept;
+        return applyItems(items_, {}, undo, kept);
     }
     std::string titleOf(int file) {
         const auto read = portable::read_tags(folder_ / (std::to_string(file) + ".mp3"));

@@ -34,7 +34,7 @@ protected:
         return item;
     }
     std::vector<ApplyResult> apply(const std::vector<ApplyItem>& items, const ApplyProgress& progress = {}) {
-        return applyItems(items, progress, undo_, covers_);
+        return applyItems(items, progress, undo_, kept_);
     }
     portable::TagValues valuesOf(const std::string& name) {
         const auto read = portable::read_tags(folder_ / name);
@@ -45,7 +45,7 @@ protected:
 
     test::ScratchFolder folder_;
     UndoStep undo_;
-    CoverStore covers_;
+    portable::KeptBytes kept_;
     int files_ = 0;
 };
 
@@ -69,7 +69,7 @@ TEST_F(ApplyRunTest, WritesEachFileAndTakesItBack) {
     EXPECT_EQ("Boat", titleOf("a.mp3"));
     EXPECT_EQ(*fresh, valuesOf("b.mp3").cover);
     EXPECT_EQ(std::nullopt, valuesOf("b.mp3").text(Field::artist));
-    for (const ApplyResult& result : undoStep(undo_, {}, covers_)) {
+    for (const ApplyResult& result : undoStep(undo_, {}, kept_)) {
         EXPECT_EQ(ApplyEnd::done, result.end);
     }
     EXPECT_EQ(a, valuesOf("a.mp3"));
@@ -87,7 +87,7 @@ TEST_F(ApplyRunTest, NamesAreExchangedAndGivenBack) {
     EXPECT_TRUE(results[0].renamed);
     EXPECT_EQ("Boat", titleOf("a.mp3"));
     EXPECT_EQ("Sea", titleOf("b.mp3"));
-    for (const ApplyResult& result : undoStep(undo_, {}, covers_)) {
+    for (const ApplyResult& result : undoStep(undo_, {}, kept_)) {
         EXPECT_EQ(ApplyEnd::done, result.end);
     }
     EXPECT_EQ("Sea", titleOf("a.mp3"));
@@ -128,25 +128,12 @@ TEST_F(ApplyRunTest, AFileThatWasChangedSinceIsLeftAlone) {
     written(folder_, "b.mp3", song("Sea", "Ann"));
     static_cast<void>(apply({titled("a.mp3", "Boat"), titled("b.mp3", "Boat")}));
     written(folder_, "a.mp3", song("Another", "Somebody"));
-    const auto results = undoStep(undo_, {}, covers_);
+    const auto results = undoStep(undo_, {}, kept_);
     EXPECT_EQ(ApplyEnd::changedSince, results[0].end);
     EXPECT_EQ(ApplyEnd::done, results[1].end);
     EXPECT_EQ("Another", titleOf("a.mp3"));
     EXPECT_EQ("Sea", titleOf("b.mp3"));
     EXPECT_EQ(1U, undo_.size());
-}
-
-TEST(CoverStoreTest, KeepsCoversByWhatTheyAre) {
-    CoverStore store;
-    const Cover one{{1, 2, 3}, "image/png"};
-    const Cover other{{4}, "image/jpeg"};
-    const auto first = store.put(one);
-    const auto second = store.put(other);
-    ASSERT_TRUE(first && second);
-    EXPECT_EQ(first, store.put(one));
-    EXPECT_NE(first, second);
-    EXPECT_EQ(one, store.get(*first));
-    EXPECT_EQ(other, store.get(*second));
 }
 
 } // namespace
