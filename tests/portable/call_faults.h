@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,9 @@ public:
 
     /** The NTH call from now on (1 is the first) meets with FAULT. */
     void set(std::size_t nth, const CallFault& fault);
+    /** From the NTH call from now on the disk is full: what needs space there fails, but for writes into the
+       file open as EXCEPT, which lies on another one. */
+    void fill_disk(std::size_t nth, int except = -1);
     /** The file system has no files without a name, or it has. */
     void refuse_unnamed_files(bool refuse) { no_unnamed_files_ = refuse; }
     /** The system can't copy from file to file. */
@@ -49,13 +53,16 @@ public:
     [[nodiscard]] static CallFaults* current();
     [[nodiscard]] bool unnamed_files_refused() const { return no_unnamed_files_; }
     [[nodiscard]] bool copying_refused() const { return no_copying_; }
-    /** Records a call; the fault that it meets with, or null. */
-    [[nodiscard]] const CallFault* next(const char* name, std::size_t length);
+    /** Records a call; the fault that it meets with, or null. WRITTEN is the file that it needs space for, -1
+       a new one, nothing where it needs none. */
+    [[nodiscard]] const CallFault* next(const char* name, std::size_t length, std::optional<int> written);
 
 private:
     std::vector<CallRecord> records_;
     std::size_t nth_ = 0;
     CallFault fault_;
+    std::size_t full_from_ = 0; ///< 0: the disk has room
+    int not_full_ = -1;
     bool no_unnamed_files_ = false;
     bool no_copying_ = false;
 };
