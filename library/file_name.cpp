@@ -1,6 +1,7 @@
 #include "file_name.h"
 
 #include "platform/file_path.h"
+#include "portable/media_kind.h"
 
 #include <QRegularExpression>
 #include <QTextBoundaryFinder>
@@ -65,6 +66,11 @@ std::optional<FileName> fileNameOf(const QString& text, const QByteArray& extens
         return std::nullopt;
     }
     return FileName{pathBytes(whole) + extension, whole != name};
+}
+
+bool hasFixedName(const QByteArray& path) {
+    const auto kind = portable::media_kind(path.toStdString());
+    return kind && kind->container == portable::Container::side_file;
 }
 
 QByteArray extensionOf(const QByteArray& path) {

@@ -24,6 +24,9 @@ inline constexpr qsizetype longestFileName = 255;
    pairs are bytes that are no UTF-8, as in every path. Nothing where no text or no room is left. */
 [[nodiscard]] std::optional<FileName> fileNameOf(const QString& text, const QByteArray& extension);
 
+/** Whether the file at PATH has to keep its name: its tag lies in another file, which goes by it. */
+[[nodiscard]] bool hasFixedName(const QByteArray& path);
+
 /** The extension of the file at PATH with its dot, as media files are told by it; empty where it has none. */
 [[nodiscard]] QByteArray extensionOf(const QByteArray& path);
 

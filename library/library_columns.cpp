@@ -102,18 +102,20 @@ void editField(RowEdits& edits, const LibraryRow& row, Field field, const QStrin
 
 /** The extension stays what it is: it tells what the file is. */
 bool editName(RowEdits& edits, const LibraryRow& row, const QString& text) {
-    const QString extension = QString::fromUtf8(extensionOf(pathBytes(row.path())));
-    const bool hasIt = !extension.isEmpty() && text.endsWith(extension, Qt::CaseInsensitive);
-    const QString stem = hasIt ? text.chopped(extension.size()) : text;
-    const QString name = stem + extension;
-    if (stem.isEmpty() || stem.startsWith(u'.') || stem.contains(u'/') || stem.contains(QChar(0)) ||
-        pathBytes(name).size() > 255) {
+    if (text == row.name()) { // whatever it looks like
+        edits.name.reset();
+        return true;
+    }
+    const QByteArray path = pathBytes(row.path());
+    const QString extension = pathFromBytes(extensionOf(path));
+    const bool hasIt = text.endsWith(extension, Qt::CaseInsensitive);
+    const auto name = fileNameOf(hasIt ? text.chopped(extension.size()) : text, extensionOf(path));
+    if (!name || hasFixedName(path)) {
         return false;
     }
-    if (name == row.name()) {
+    edits.name = pathFromBytes(name->bytes);
+    if (edits.name == row.name()) {
         edits.name.reset();
-    } else {
-        edits.name = name;
     }
     return true;
 }

@@ -2,7 +2,10 @@
 
 #include "names_dialog.h"
 
+#include "platform/file_path.h"
 #include "platform/localisation.h"
+
+#include <unordered_set>
 
 namespace velmora {
 
@@ -22,11 +25,12 @@ void NamesCommands::addTo(QMenu& menu) {
     names->setStatusTip(localised("Give the selected files names made of their tags, by a pattern"));
 }
 
-std::vector<NamesSource> NamesCommands::sources() const {
-    std::vector<int> files = view_.selectedFiles();
-    if (files.empty()) {
-        files = model_.shownFiles();
-    }
+std::vector<int> NamesCommands::files() const {
+    const std::vector<int> selected = view_.selectedFiles();
+    return selected.empty() ? model_.shownFiles() : selected;
+}
+
+std::vector<NamesSource> NamesCommands::sources(const std::vector<int>& files) const {
     std::vector<NamesSource> sources;
     sources.reserve(files.size());
     for (const int file : files) {
@@ -35,9 +39,26 @@ std::vector<NamesSource> NamesCommands::sources() const {
     return sources;
 }
 
+/** The names that files besides FILES are to get. */
+std::vector<FileRename> NamesCommands::otherNames(const std::vector<int>& files) const {
+    const std::unordered_set<int> asked(files.begin(), files.end());
+    std::vector<FileRename> others;
+    for (const int file : model_.rows().editedRows()) {
+        const std::optional<QString>& name = model_.rows().edits(file)->name;
+        if (name && asked.count(file) == 0) {
+            const LibraryRow& row = model_.rows().at(file);
+            others.push_back({pathBytes(row.path()),
+                              joinedPath(pathBytes(row.folder()), pathBytes(*name).toStdString()),
+                              {}});
+        }
+    }
+    return others;
+}
+
 void NamesCommands::ask(NamePattern::Use use) {
     QStringList& history = use == NamePattern::Use::read ? readHistory_ : writeHistory_;
-    auto* const dialog = new NamesDialog(use, sources(), history, window_);
+    const std::vector<int> files = this->files();
+    auto* const dialog = new NamesDialog(use, sources(files), otherNames(files), history, window_);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, use, dialog] { take(use, *dialog); });
     dialog->open();

@@ -3,6 +3,7 @@
 #include "library_model.h"
 #include "library_view.h"
 #include "name_pattern.h"
+#include "rename_files.h"
 
 #include <QMenu>
 #include <QPointer>
@@ -23,7 +24,9 @@ public:
 private:
     void ask(NamePattern::Use use);
     void take(NamePattern::Use use, const class NamesDialog& dialog);
-    [[nodiscard]] std::vector<struct NamesSource> sources() const;
+    [[nodiscard]] std::vector<int> files() const;
+    [[nodiscard]] std::vector<struct NamesSource> sources(const std::vector<int>& files) const;
+    [[nodiscard]] std::vector<FileRename> otherNames(const std::vector<int>& files) const;
 
     LibraryModel& model_;
     LibraryView& view_;

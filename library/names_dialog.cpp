@@ -35,8 +35,9 @@ QStringList usualPatterns(Use use) {
 }
 
 std::vector<NamesPreviewRow> previewOf(Use use, const std::vector<NamesSource>& sources,
-                                       const NamePattern& pattern) {
-    return use == Use::read ? previewTagsFromNames(sources, pattern) : previewNamesFromTags(sources, pattern);
+                                       const std::vector<FileRename>& others, const NamePattern& pattern) {
+    return use == Use::read ? previewTagsFromNames(sources, pattern)
+                            : previewNamesFromTags(sources, pattern, others);
 }
 
 QString number(int count) {
@@ -45,9 +46,11 @@ QString number(int count) {
 
 } // namespace
 
-NamesDialog::NamesDialog(Use use, std::vector<NamesSource> sources, QStringList& history, QWidget* parent)
+NamesDialog::NamesDialog(Use use, std::vector<NamesSource> sources, std::vector<FileRename> others,
+                         QStringList& history, QWidget* parent)
     : QDialog(parent), use_(use),
-      sources_(std::make_shared<const std::vector<NamesSource>>(std::move(sources))), history_(history) {
+      sources_(std::make_shared<const std::vector<NamesSource>>(std::move(sources))),
+      others_(std::make_shared<const std::vector<FileRename>>(std::move(others))), history_(history) {
     setObjectName(QStringLiteral("NamesDialog"));
     setWindowTitle(use == Use::read ? localised("Tags from Names") : localised("Names from Tags"));
     setLayout(new QVBoxLayout);
@@ -180,13 +183,14 @@ void NamesDialog::readPattern() {
 
 void NamesDialog::makeRows(const NamePattern& pattern) {
     if (sources_->size() <= fewRows) {
-        take(previewOf(use_, *sources_, pattern));
+        take(previewOf(use_, *sources_, *others_, pattern));
         return;
     }
     tell(localised("The preview is being made."));
     thread_.clear();
-    thread_.start([this, pattern, use = use_, sources = sources_, version = version_] {
-        auto rows = std::make_shared<std::vector<NamesPreviewRow>>(previewOf(use, *sources, pattern));
+    thread_.start([this, pattern, use = use_, sources = sources_, others = others_, version = version_] {
+        auto rows =
+            std::make_shared<std::vector<NamesPreviewRow>>(previewOf(use, *sources, *others, pattern));
         QMetaObject::invokeMethod(
             this,
             [this, rows, version] {

@@ -18,10 +18,11 @@ namespace velmora {
 class NamesDialog : public QDialog {
     Q_OBJECT
 public:
-    /** For tags from names (read) or names from tags (write) of SOURCES. HISTORY has the patterns that were
-       used before, the last one first; a dialog that is accepted adds its own. It outlives the dialog. */
-    NamesDialog(NamePattern::Use use, std::vector<NamesSource> sources, QStringList& history,
-                QWidget* parent);
+    /** For tags from names (read) or names from tags (write) of SOURCES. OTHERS are further files, which are
+       to get other names. HISTORY has the patterns that were used before, the last one first; a dialog that
+       is accepted adds its own. It outlives the dialog. */
+    NamesDialog(NamePattern::Use use, std::vector<NamesSource> sources, std::vector<FileRename> others,
+                QStringList& history, QWidget* parent);
     /** Waits for a preview that is being made. */
     ~NamesDialog() override;
 
@@ -45,6 +46,7 @@ private:
 
     const NamePattern::Use use_;
     const std::shared_ptr<const std::vector<NamesSource>> sources_;
+    const std::shared_ptr<const std::vector<FileRename>> others_;
     QStringList& history_;
     std::optional<NamePattern> pattern_;
     NamesPreviewModel model_;

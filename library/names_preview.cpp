@@ -158,13 +158,14 @@ std::vector<NamesPreviewRow> previewTagsFromNames(const std::vector<NamesSource>
 }
 
 std::vector<NamesPreviewRow> previewNamesFromTags(const std::vector<NamesSource>& sources,
-                                                  const NamePattern& pattern) {
+                                                  const NamePattern& pattern,
+                                                  const std::vector<FileRename>& others) {
     std::vector<RenameRow> renames;
     renames.reserve(sources.size());
     for (const NamesSource& source : sources) {
         renames.push_back({source.path, source.values});
     }
-    const std::vector<PlannedRename> plan = planRenames(renames, pattern);
+    const std::vector<PlannedRename> plan = planRenames(renames, pattern, others);
     std::vector<NamesPreviewRow> rows;
     rows.reserve(sources.size());
     for (std::size_t index = 0; index < sources.size(); ++index) {

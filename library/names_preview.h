@@ -2,6 +2,7 @@
 
 #include "library_row.h"
 #include "name_pattern.h"
+#include "rename_files.h"
 
 #include <QString>
 #include <QStringList>
@@ -40,9 +41,11 @@ struct NamesPreviewRow {
 [[nodiscard]] std::vector<NamesPreviewRow> previewTagsFromNames(const std::vector<NamesSource>& sources,
                                                                 const NamePattern& pattern);
 
-/** The names that the tags of SOURCES give by PATTERN, one for each. Looks at the folders. */
+/** The names that the tags of SOURCES give by PATTERN, one for each, beside those that OTHERS, further files,
+    are to get. Looks at the folders. */
 [[nodiscard]] std::vector<NamesPreviewRow> previewNamesFromTags(const std::vector<NamesSource>& sources,
-                                                                const NamePattern& pattern);
+                                                                const NamePattern& pattern,
+                                                                const std::vector<FileRename>& others);
 
 /** EDITS of the file ROW and what PREVIEW, which applies, says of the fields in FIELDS. */
 [[nodiscard]] RowEdits withTags(RowEdits edits, const LibraryRow& row,

@@ -3,7 +3,6 @@
 #include "file_name.h"
 
 #include "platform/file_path.h"
-#include "portable/media_kind.h"
 
 #include <QHash>
 
@@ -20,8 +19,7 @@ PlannedRename renameOf(const RenameRow& row, const NamePattern& pattern) {
     PlannedRename planned;
     planned.from = pathBytes(row.path);
     planned.to = planned.from;
-    const auto kind = portable::media_kind(planned.from.toStdString());
-    if (kind && kind->container == portable::Container::side_file) {
+    if (hasFixedName(planned.from)) {
         planned.mark = RenameMark::fixedName;
         return planned;
     }
@@ -46,7 +44,8 @@ PlannedRename renameOf(const RenameRow& row, const NamePattern& pattern) {
 /** Finds the names that can't be given. */
 class ClashSearch {
 public:
-    explicit ClashSearch(std::vector<PlannedRename>& plan) : plan_(plan) {
+    /** Of PLAN only the first OWN rows can be told that they clash with another one of it. */
+    ClashSearch(std::vector<PlannedRename>& plan, std::size_t own) : plan_(plan), own_(own) {
         for (std::size_t index = 0; index < plan.size(); ++index) {
             byOldName_.insert(plan[index].from, index);
             if (plan[index].isRenamed()) {
@@ -71,7 +70,7 @@ private:
         for (const QString& name : byNewName_.uniqueKeys()) {
             const QList<std::size_t> rows = byNewName_.values(name);
             for (const std::size_t index : rows) {
-                if (rows.size() > 1) {
+                if (rows.size() > 1 && index < own_) {
                     plan_[index].mark = RenameMark::clashesWithRow;
                 }
             }
@@ -110,19 +109,25 @@ private:
     }
 
     std::vector<PlannedRename>& plan_;
+    std::size_t own_;
     QHash<QByteArray, std::size_t> byOldName_;
     QMultiHash<QString, std::size_t> byNewName_;
 };
 
 } // namespace
 
-std::vector<PlannedRename> planRenames(const std::vector<RenameRow>& rows, const NamePattern& pattern) {
+std::vector<PlannedRename> planRenames(const std::vector<RenameRow>& rows, const NamePattern& pattern,
+                                       const std::vector<FileRename>& others) {
     std::vector<PlannedRename> plan;
-    plan.reserve(rows.size());
+    plan.reserve(rows.size() + others.size());
     for (const RenameRow& row : rows) {
         plan.push_back(renameOf(row, pattern));
     }
-    ClashSearch(plan).run();
+    for (const FileRename& other : others) {
+        plan.push_back({other.from, other.to, RenameMark::renamed});
+    }
+    ClashSearch(plan, rows.size()).run();
+    plan.resize(rows.size());
     return plan;
 }
 

@@ -45,10 +45,11 @@ struct PlannedRename {
 
 /** The new names of ROWS, which are different files, by PATTERN. Each file stays in its folder and keeps its
    extension. A name that another row leaves may be taken, also in a circle; two rows never get names that
-   differ in case alone, which some file systems do not tell apart. Looks at the folders, and changes nothing.
-   One for each row. */
+   differ in case alone, which some file systems do not tell apart. OTHERS are further files, which get their
+   names whatever becomes of ROWS. Looks at the folders, and changes nothing. One for each row. */
 [[nodiscard]] std::vector<PlannedRename> planRenames(const std::vector<RenameRow>& rows,
-                                                     const NamePattern& pattern);
+                                                     const NamePattern& pattern,
+                                                     const std::vector<FileRename>& others = {});
 
 /** What is to be done of PLAN: the rows that are renamed. */
 [[nodiscard]] std::vector<FileRename> renamesOf(const std::vector<PlannedRename>& plan);

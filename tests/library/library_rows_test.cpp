@@ -101,16 +101,38 @@ TEST(LibraryRowsTest, TheAlbumOfAFilmIsItsDirectorAndOnlyFilmsHaveARating) {
     EXPECT_TRUE(editText(ofFilm, rows.at(film), LibraryColumn::rating, "PG"));
 }
 
-TEST(LibraryRowsTest, ANewNameKeepsTheExtensionAndIsOneThatAFolderTakes) {
+TEST(LibraryRowsTest, ANewNameKeepsTheExtensionAndBecomesOneThatAFolderTakes) {
     LibraryRows rows;
     const int row = rows.add("/music/x.MP3", 10);
     RowEdits edits;
     EXPECT_TRUE(editText(edits, rows.at(row), LibraryColumn::name, "y.z"));
     EXPECT_EQ("y.z.MP3", edits.name);
-    for (const char* name : {"", "a/b", ".hidden"}) {
+    EXPECT_TRUE(editText(edits, rows.at(row), LibraryColumn::name, "AC/DC: live? .mp3"));
+    EXPECT_EQ("AC_DC_ live_.MP3", edits.name);
+    EXPECT_TRUE(editText(edits, rows.at(row), LibraryColumn::name, ".hidden"));
+    EXPECT_EQ("_hidden.MP3", edits.name);
+    for (const char* name : {"", " ", ".MP3"}) {
         EXPECT_FALSE(editText(edits, rows.at(row), LibraryColumn::name, name)) << name;
+        EXPECT_EQ("_hidden.MP3", edits.name);
     }
     EXPECT_TRUE(editText(edits, rows.at(row), LibraryColumn::name, "x"));
+    EXPECT_TRUE(edits.empty());
+}
+
+TEST(LibraryRowsTest, ANameThatAFolderShouldNotTakeIsNoEditWhereTheFileHasIt) {
+    LibraryRows rows;
+    const int row = rows.add("/music/what?.mp3", 10);
+    RowEdits edits;
+    EXPECT_TRUE(editText(edits, rows.at(row), LibraryColumn::name, "other"));
+    EXPECT_TRUE(editText(edits, rows.at(row), LibraryColumn::name, "what?.mp3"));
+    EXPECT_TRUE(edits.empty());
+}
+
+TEST(LibraryRowsTest, ADiscImageWhoseTagGoesByItsNameKeepsIt) {
+    LibraryRows rows;
+    const int row = rows.add("/films/disc.iso", 10);
+    RowEdits edits;
+    EXPECT_FALSE(editText(edits, rows.at(row), LibraryColumn::name, "other"));
     EXPECT_TRUE(edits.empty());
 }
 

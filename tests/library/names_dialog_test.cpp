@@ -150,6 +150,28 @@ TEST_F(NamesDialogTest, OnlySelectedFilesAreMeant) {
     EXPECT_EQ("Two.mp3", shown(1, LibraryColumn::name));
 }
 
+TEST_F(NamesDialogTest, ANameThatAnotherRowIsToGetClashesWhereThatRowIsNotSelected) {
+    add("1.mp3", song("Same: name", "A"));
+    add("2.mp3", song("Two", "B"));
+    LibraryView& view = window_.view();
+    view.setCurrentIndex(window_.model().index(1, static_cast<int>(LibraryColumn::name)));
+    QTest::keyClick(&view, Qt::Key_F2);
+    auto* const editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(nullptr, editor);
+    editor->selectAll();
+    QTest::keyClicks(editor, "Same: name");
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_TRUE(waitUntil([&] { return shown(1, LibraryColumn::name) == "Same_ name.mp3"; }));
+    view.selectRow(0);
+    NamesDialog* const dialog = openedForNames();
+    ASSERT_NE(nullptr, dialog);
+    type(*dialog, "%title%");
+    EXPECT_EQ(QStringList({"1.mp3", "Same_ name.mp3", "Another row has that name or is to get it"}),
+              row(*dialog, 0));
+    QTest::keyClick(lineOf(*dialog), Qt::Key_Escape);
+    closed(dialog);
+}
+
 TEST_F(NamesDialogTest, EscapeLeavesEverythingAsItIs) {
     add("A - B.mp3", song("x", "y"));
     NamesDialog* const dialog = openedForTags();

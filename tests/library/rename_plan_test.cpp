@@ -122,6 +122,23 @@ TEST_F(RenamePlanTest, WhereOneRowMustStayAllStayThatWantItsName) {
                 ElementsAre(RenameMark::clashesWithRow, RenameMark::missingValue));
 }
 
+TEST_F(RenamePlanTest, NamesThatFurtherFilesAreToGetAreTakenAndThoseThatTheyLeaveAreFree) {
+    for (const char* name : {"x.mp3", "y.mp3", "z.mp3"}) {
+        make(name);
+    }
+    make("there.mp3");
+    const std::vector<FileRename> others = {{path("x.mp3"), path("taken.mp3"), {}},
+                                            {path("y.mp3"), path("y2.mp3"), {}},
+                                            {path("z.mp3"), path("there.mp3"), {}}};
+    const auto pattern = std::get<NamePattern>(NamePattern::parsed("%title%", NamePattern::Use::write));
+    const auto planned =
+        planRenames({row("a.mp3", "Taken"), row("b.mp3", "y"), row("c.mp3", "z")}, pattern, others);
+    ASSERT_EQ(3U, planned.size());
+    EXPECT_EQ(RenameMark::clashesWithRow, planned[0].mark);
+    EXPECT_EQ(RenameMark::renamed, planned[1].mark);
+    EXPECT_EQ(RenameMark::clashesWithRow, planned[2].mark) << "z can't leave its name";
+}
+
 TEST_F(RenamePlanTest, TheFoldersNameHasAPlace) {
     const auto planned = plan({row("a.mp3", "b")}, "%folder% %title%");
     const std::string folder = folder_.path().substr(folder_.path().rfind('/') + 1);
