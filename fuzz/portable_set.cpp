@@ -4,6 +4,7 @@ namespace velmora::fuzz {
 namespace {
 
 using portable::Field;
+using portable::KeptBytes;
 using portable::ReadOutcome;
 using portable::SaveOutcome;
 using portable::SaveResult;
@@ -46,15 +47,17 @@ bool has_damaged_texts(const TagEdits& edits) {
     return false;
 }
 
-void save(const MediaFile& file, const TagEdits& edits) {
+SaveOutcome save(const MediaFile& file, const TagEdits& edits, KeptBytes& kept) {
     const std::string bytes = file.bytes();
     const ReadOutcome before = portable::read_tags(file.path());
-    const SaveOutcome saved = portable::save_tags(file.path(), edits);
+    portable::SaveOptions options;
+    options.kept = &kept;
+    SaveOutcome saved = portable::save_tags(file.path(), edits, options);
     require(!file.has_neighbours(), "nothing stays beside the file");
     require((saved.result == SaveResult::failed) == saved.failure.has_value(), "a failure has a reason");
     if (saved.result != SaveResult::saved) {
         require(file.bytes() == bytes, "a file that is not saved stays as it is");
-        return;
+        return saved;
     }
     const ReadOutcome after = portable::read_tags(file.path());
     require(!before.failure && !after.failure, "what is saved can be read");
@@ -64,13 +67,26 @@ void save(const MediaFile& file, const TagEdits& edits) {
         require(is_as_asked(static_cast<Field>(i), asked, before, after),
                 "a field is what was asked for, or as it was");
     }
+    return saved;
+}
+
+/** Makes FILE the BYTES again that it had before the save of OUTCOME, where it was saved, and puts what it is now
+   under `after`. */
+void put_back(const MediaFile& file, SaveOutcome& outcome, const std::string& bytes, const KeptBytes& kept) {
+    if (outcome.result == SaveResult::saved) {
+        require(outcome.way_back.has_value(), "a saved file has a way back");
+        outcome = portable::put_back(file.path(), *outcome.way_back, outcome.after, kept);
+        require(outcome.result == SaveResult::saved, "the way back is open");
+    }
+    require(file.bytes() == bytes, "every byte comes back");
+    require(!file.has_neighbours(), "nothing stays beside the file");
 }
 
 } // namespace
 } // namespace velmora::fuzz
 
 /** Input: a byte for the kind of file, what to set and to delete, a file. Twice: the second save meets
-   what the first wrote. */
+   what the first wrote. Then both are taken back. */
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace velmora::fuzz;
     Input input(data, size);
@@ -78,9 +94,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const TagEdits edits = take_edits(input, extension);
     const MediaFile file(input.rest(), extension);
     const DescriptorCheck descriptors;
-    save(file, edits);
+    KeptBytes kept;
+    const std::string original = file.bytes();
+    SaveOutcome first = save(file, edits, kept);
     TagEdits other;
     other.text(Field::title) = velmora::portable::Edit<std::string>::set("Another title");
-    save(file, other);
+    const std::string made = file.bytes();
+    SaveOutcome second = save(file, other, kept);
+    put_back(file, second, made, kept);
+    first.after = second.result == SaveResult::saved ? second.after : first.after;
+    put_back(file, first, original, kept);
     return 0;
 }
