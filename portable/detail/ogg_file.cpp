@@ -1,10 +1,8 @@
 #include "checked_read.h"
-#include "cover_choice.h"
 #include "file_transfer.h"
-#include "flac_picture.h"
 #include "formats.h"
+#include "ogg_cover.h"
 #include "ogg_page.h"
-#include "text.h"
 #include "vorbis_comments.h"
 
 #include "portable/reason.h"
@@ -15,7 +13,6 @@ namespace velmora::portable {
 
 namespace {
 
-constexpr std::string_view picture_key = "METADATA_BLOCK_PICTURE";
 constexpr std::uint64_t largest_headers = 64UL * 1024 * 1024;
 
 /** How a codec begins its stream. */
@@ -133,35 +130,15 @@ void OggFile::read_packets(ReadCursor& cursor) {
     audio_begin_ = cursor.position();
 }
 
-std::vector<std::size_t> cover_comments(const VorbisComments& comments) {
-    std::vector<std::optional<std::uint32_t>> types;
-    for (const std::string& comment : comments.comments()) {
-        std::optional<FlacPicture> picture;
-        if (equal_ignoring_case(VorbisComments::key_of(comment), picture_key)) {
-            const auto block = from_base64(VorbisComments::value_of(comment));
-            picture = block ? flac_picture(*block) : std::nullopt;
-        }
-        types.push_back(picture ? std::optional(picture->type) : std::nullopt);
-    }
-    return cover_places(types);
-}
-
-FlacPicture picture_in(const std::string& comment) {
-    return *flac_picture(*from_base64(VorbisComments::value_of(comment)));
-}
-
 TagValues OggFile::values_in(const VorbisComments& comments) const {
     TagValues values = comments.values(media_);
-    const std::vector<std::size_t> covers = cover_comments(comments);
-    if (!covers.empty()) {
-        values.cover = picture_in(comments.comments()[covers.front()]).cover();
-    }
+    values.cover = ogg_cover(comments);
     return values;
 }
 
 std::vector<TagItem> OggFile::items() const {
     std::vector<TagItem> items = comments_.items(media_);
-    for (const std::size_t cover : cover_comments(comments_)) {
+    for (const std::size_t cover : ogg_covers(comments_)) {
         items[1 + cover].field = Field::cover; // the vendor comes first
     }
     for (std::size_t i = 1; i < packets_.size(); ++i) {
@@ -217,36 +194,11 @@ void OggFile::check_against(const TaggedFile& original) const {
     });
 }
 
-void apply_cover(VorbisComments& comments, const Edit<Cover>& edit) {
-    const std::vector<std::size_t> covers = cover_comments(comments);
-    std::vector<std::string>& list = comments.comments();
-    if (edit.deletes()) {
-        for (auto place = covers.rbegin(); place != covers.rend(); ++place) {
-            list.erase(list.begin() + static_cast<std::ptrdiff_t>(*place));
-        }
-        return;
-    }
-    FlacPicture picture;
-    if (!covers.empty()) {
-        picture = picture_in(list[covers.front()]);
-    }
-    if (picture.cover() == *edit.value() && picture.type == picture_type::front_cover) {
-        return;
-    }
-    picture = {picture_type::front_cover, edit.value()->mime, picture.description, edit.value()->bytes};
-    std::string comment = std::string(picture_key) + '=' + base64(flac_picture_block(picture));
-    if (covers.empty()) {
-        list.push_back(std::move(comment));
-    } else {
-        list[covers.front()] = std::move(comment);
-    }
-}
-
 TagValues OggFile::values_with(const TagEdits& edits) const {
     TagValues values = edits.applied_to(this->values());
     if (edits.cover.deletes()) {
         VorbisComments comments = comments_;
-        apply_cover(comments, edits.cover);
+        apply_ogg_cover(comments, edits.cover);
         values.cover = values_in(comments).cover; // a picture that was hidden by the cover
     }
     return values;
@@ -256,7 +208,7 @@ Rewrite OggFile::with(const TagEdits& edits) const {
     VorbisComments comments = comments_;
     comments.apply(edits, media_);
     if (!edits.cover.leaves_alone()) {
-        apply_cover(comments, edits.cover);
+        apply_ogg_cover(comments, edits.cover);
     }
     return made_of(comments);
 }
