@@ -1,3 +1,5 @@
+// How the form is put together, and what it shows of a file or of a web lookup.
+
 #include "tag_form.h"
 
 #include "detail/image_file_drops.h"

@@ -1,3 +1,5 @@
+// What the user, or a button, changes in the form: how it gets into the open file's values.
+
 #include "tag_form.h"
 
 #include "media_document.h"
@@ -69,6 +71,11 @@ void TagForm::storeFilledFields() {
         controlTextDidChange(control);
     }
     emit filledFieldsChanged();
+}
+
+bool TagForm::showsOtherCover() const {
+    const MediaFile* const media = file();
+    return media && media->coverArt().get() != ui_->img_coverArt->cover().get();
 }
 
 void TagForm::storeShownCover() {

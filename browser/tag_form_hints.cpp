@@ -42,11 +42,6 @@ void TagForm::tellWhatIsStored() {
     ui_->entry_desc->setPlaceholderText(hasSynopsis ? QString() : lost);
 }
 
-bool TagForm::showsOtherCover() const {
-    const MediaFile* const media = file();
-    return media && media->coverArt().get() != ui_->img_coverArt->cover().get();
-}
-
 /** Says in the field that its text is no number, whoever put it there. */
 void TagForm::markYear() {
     const QString year = ui_->entry_year->text();
