@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <map>
+#include <sstream>
 #include <tuple>
 
 namespace velmora::test {
@@ -44,6 +44,18 @@ std::string run_on_file(const std::string& front, const std::string& path, const
         return known->second;
     }
     return printed[run] = run_command(front + " " + shell_word(path) + " " + behind);
+}
+
+std::map<std::string, std::string> probed_tags(const std::string& path) {
+    std::istringstream lines(run_command(
+        "ffprobe -v error -show_entries format_tags -of default=noprint_wrappers=1 " + shell_word(path)));
+    std::map<std::string, std::string> tags;
+    for (std::string line; std::getline(lines, line);) {
+        const std::size_t equals = line.find('=');
+        EXPECT_TRUE(line.starts_with("TAG:") && equals != std::string::npos) << line;
+        tags[line.substr(4, equals - 4)] = line.substr(equals + 1);
+    }
+    return tags;
 }
 
 std::string shell_word(const std::string& text) {

@@ -1,6 +1,7 @@
 #include "taglib/asf/ext_content_description.h"
 
 #include "asf_bytes.h"
+#include "owned_ecd.h"
 
 #include "support/allocation_faults.h"
 #include "support/bytes.h"
@@ -10,17 +11,10 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 namespace velmora {
 namespace {
 
 using namespace test;
-
-struct FreeEcd {
-    void operator()(_asf_ext_content_description_t* ecd) const { asf_free_ext_content_description(ecd); }
-};
-using Ecd = std::unique_ptr<_asf_ext_content_description_t, FreeEcd>;
 
 /** Read from bytes. */
 Ecd ecd_of(const std::string& bytes) {

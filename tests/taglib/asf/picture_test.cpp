@@ -1,6 +1,7 @@
 #include "taglib/asf/picture.h"
 
 #include "asf_bytes.h"
+#include "owned_ecd.h"
 
 #include "fake_image/fake_image.h"
 #include "support/allocation_faults.h"
@@ -15,11 +16,6 @@ namespace velmora {
 namespace {
 
 using namespace test;
-
-struct FreeEcd {
-    void operator()(_asf_ext_content_description_t* ecd) const { asf_free_ext_content_description(ecd); }
-};
-using Ecd = std::unique_ptr<_asf_ext_content_description_t, FreeEcd>;
 
 struct ReleaseImage {
     void operator()(Image* image) const { image_release(image); }

@@ -14,7 +14,6 @@
 #include <list>
 #include <map>
 #include <ostream>
-#include <sstream>
 
 /** Songs and films made by ffmpeg. What is stored is read back by ffprobe, TagLib and mutagen, what mutagen
    stored is loaded, and the media decodes as before. */
@@ -35,20 +34,6 @@ std::string mutagen(const std::string& path, const std::string& script) {
     const ScratchFolder folder;
     write_file(folder / "script.py", program);
     return run_command(std::string(SYSTEM_PYTHON) + " '" + (folder / "script.py") + "' '" + path + "'");
-}
-
-/** The tags that ffprobe finds. */
-std::map<std::string, std::string> probed_tags(const std::string& path) {
-    std::istringstream lines(run_command("ffprobe -v error -show_entries format_tags"
-                                         " -of default=noprint_wrappers=1 '" +
-                                         path + "'"));
-    std::map<std::string, std::string> tags;
-    for (std::string line; std::getline(lines, line);) {
-        const std::size_t equals = line.find('=');
-        EXPECT_TRUE(line.starts_with("TAG:") && equals != std::string::npos) << line;
-        tags[line.substr(4, equals - 4)] = line.substr(equals + 1);
-    }
-    return tags;
 }
 
 /** Decodes the whole file: the checksum of the audio and that of the pictures where HAS_VIDEO. ffmpeg must

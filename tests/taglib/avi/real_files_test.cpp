@@ -14,7 +14,6 @@
 #include <cerrno>
 #include <map>
 #include <ostream>
-#include <sstream>
 
 using namespace std::string_literals;
 
@@ -32,19 +31,6 @@ void make_film(const std::string& path, const std::string& options) {
 
 std::string decoded_checksum(const std::string& path) {
     return run_on_file("ffmpeg -v error -nostdin -i", path, "-f md5 -");
-}
-
-/** The tags that ffprobe finds. */
-std::map<std::string, std::string> probed_tags(const std::string& path) {
-    std::istringstream lines(run_command(
-        "ffprobe -v error -show_entries format_tags -of default=noprint_wrappers=1 '" + path + "'"));
-    std::map<std::string, std::string> tags;
-    for (std::string line; std::getline(lines, line);) {
-        const std::size_t equals = line.find('=');
-        EXPECT_TRUE(line.starts_with("TAG:") && equals != std::string::npos) << line;
-        tags[line.substr(4, equals - 4)] = line.substr(equals + 1);
-    }
-    return tags;
 }
 
 /** Puts BEHIND at the end of the file and gives the RIFF chunk the size that then is right. */
