@@ -4,6 +4,7 @@
 #include "window_fixture.h"
 
 #include "imaging/CoverArtView.h"
+#include "support/pictures.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -35,9 +36,7 @@ protected:
         openFile("A film.mp4", text4("TALB", "Harbour Lights") + text4("TPE1", "Ann, Bob, Cy") +
                                    text4("TIT2", "Two people meet.\nThey part.") + text4("TPE3", "Di") +
                                    text4("TCON", "Drama") + text4("TYER", "2005"));
-        QImage cover(300, 420, QImage::Format_RGB32);
-        cover.fill(QColor(0x2F, 0x5F, 0x8F));
-        widget<CoverArtView>("img_coverArt").setImage(cover);
+        widget<CoverArtView>("img_coverArt").setImage(test::plain({300, 420}, QColor(0x2F, 0x5F, 0x8F)));
         test::settle();
     }
     QImage picture(const QString& name) {

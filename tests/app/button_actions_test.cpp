@@ -301,8 +301,7 @@ TEST_F(ButtonActionsTest, CoverArtFileThatIsNoImageIsIgnoredSilently) {
 
 TEST_F(ButtonActionsTest, TrimCutsTheBorderAndStoresTheResult) {
     openFile();
-    QImage framed(100, 100, QImage::Format_RGB32);
-    framed.fill(Qt::black);
+    QImage framed = test::plain({100, 100}, Qt::black);
     QPainter(&framed).fillRect(10, 10, 80, 80, Qt::white);
     well().setImage(framed);
     controller().trimBorder();
@@ -316,9 +315,7 @@ TEST_F(ButtonActionsTest, TrimCutsTheBorderAndStoresTheResult) {
 
 TEST_F(ButtonActionsTest, TrimOfAnImageWithoutBorderChangesNothing) {
     openFile();
-    QImage plain(10, 10, QImage::Format_RGB32);
-    plain.fill(Qt::black);
-    well().setImage(plain);
+    well().setImage(test::plain({10, 10}, Qt::black));
     controller().trimBorder();
     EXPECT_EQ(QSize(10, 10), well().image().size());
     EXPECT_FALSE(document().isDocumentEdited());

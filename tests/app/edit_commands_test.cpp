@@ -2,7 +2,6 @@
 
 #include "window_fixture.h"
 
-#include "browser/notice_bar.h"
 #include "imaging/CoverArtView.h"
 #include "portable/portable_tags.h"
 #include "support/bytes.h"
@@ -42,10 +41,6 @@ protected:
     void trigger(const char* name) {
         action(name).trigger();
         settle();
-    }
-    QString notice() {
-        auto& bar = widget<NoticeBar>("bar_notice");
-        return bar.holdsNotice() ? bar.findChild<QLabel*>("lbl_notice")->text() : QString();
     }
     void loadCover(const QImage& picture) {
         ASSERT_TRUE(picture.save(path("cover.png"), "PNG"));

@@ -1,6 +1,7 @@
 #include "window_fixture.h"
 
 #include "imaging/CoverArtView.h"
+#include "support/pictures.h"
 #include "weblookup/form_fill_info.h"
 
 #include <QComboBox>
@@ -23,9 +24,7 @@ protected:
         info.year = "2005";
         info.genres = QStringList{"Drama", "Crime"};
         info.rating = "PG-13";
-        QImage cover(12, 10, QImage::Format_RGB32);
-        cover.fill(Qt::blue);
-        info.coverArt = cover;
+        info.coverArt = test::plain({12, 10}, Qt::blue);
         info.releaseDate = QDate(2005, 5, 12);
         return info;
     }

@@ -1,6 +1,7 @@
 #include "window_fixture.h"
 
 #include "imaging/CoverArtView.h"
+#include "support/pictures.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -306,10 +307,8 @@ TEST_F(FormEditsTest, DateInThePickerNeverReachesTheModel) {
 
 TEST_F(FormEditsTest, NewCoverArtReachesTheModel) {
     openAudio();
-    QImage image(10, 8, QImage::Format_RGB32);
-    image.fill(Qt::red);
     auto& well = widget<CoverArtView>("img_coverArt");
-    well.setImage(image);
+    well.setImage(test::plain({10, 8}, Qt::red));
     expectMarked(false);
     controller().form().coverArtImageChanged(well.image());
     EXPECT_EQ(QSize(10, 8), file().coverArt().toQImage().size());

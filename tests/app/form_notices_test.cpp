@@ -3,7 +3,6 @@
 
 #include "window_fixture.h"
 
-#include "browser/notice_bar.h"
 #include "imaging/CoverArtView.h"
 #include "support/bytes.h"
 #include "support/pictures.h"
@@ -13,7 +12,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QLabel>
 #include <QTest>
 #include <QToolButton>
 
@@ -26,15 +24,6 @@ using test::text4;
 
 class FormNoticesTest : public test::WindowTest {
 protected:
-    NoticeBar& bar() { return widget<NoticeBar>("bar_notice"); }
-    QString notice() {
-        const auto* const label = bar().findChild<QLabel*>("lbl_notice");
-        return bar().holdsNotice() ? label->text() : QString();
-    }
-    void press(const char* name) {
-        button(name).click();
-        settle();
-    }
     void fillForm() {
         FormFillInfo info;
         info.title = QStringLiteral("Evening");

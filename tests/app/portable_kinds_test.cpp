@@ -6,6 +6,7 @@
 #include "imaging/CoverArtView.h"
 #include "support/bytes.h"
 #include "support/command.h"
+#include "support/pictures.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -149,9 +150,7 @@ TEST_P(PortableKindsTest, CoverIsSetChangedAndCut) {
     save();
     const std::string rest = read();
     for (const int width : {40, 300}) {
-        QImage pixels(width, 30, QImage::Format_RGB32);
-        pixels.fill(width == 40 ? Qt::red : Qt::blue);
-        ASSERT_TRUE(pixels.save(path("cover.png")));
+        ASSERT_TRUE(test::plain({width, 30}, width == 40 ? Qt::red : Qt::blue).save(path("cover.png")));
         controller().loadCoverArtSelected(1, {path("cover.png")});
         save();
         const std::string bytes = test::read_file(folder_ / "cover.png");

@@ -7,6 +7,7 @@
 #include "imaging/CoverArtView.h"
 #include "portable/portable_tags.h"
 #include "support/bytes.h"
+#include "support/pictures.h"
 #include "weblookup/form_fill_info.h"
 
 #include <QAccessible>
@@ -60,15 +61,6 @@ protected:
         ASSERT_NE(nullptr, document().mediaFile());
     }
     QAction& action() { return *document().window()->findChild<QAction*>("action_portableTags"); }
-    NoticeBar& bar() { return widget<NoticeBar>("bar_notice"); }
-    QString notice() {
-        const auto* const label = bar().findChild<QLabel*>("lbl_notice");
-        return bar().holdsNotice() ? label->text() : QString();
-    }
-    void press(const char* name) {
-        button(name).click();
-        settle();
-    }
     /** A save in place of a song that can't be saved so. */
     void failToSave() {
         open("song.mp3", songTaggedInFront());
@@ -172,9 +164,7 @@ TEST_F(PortableTagsTest, TakeEverythingThatALookUpFilled) {
 }
 
 TEST_F(PortableTagsTest, TakeALoadedCoverAsItIsAndLoseItWhenItIsCut) {
-    QImage pixels(30, 20, QImage::Format_RGB32);
-    pixels.fill(Qt::red);
-    ASSERT_TRUE(pixels.save(path("cover.png")));
+    ASSERT_TRUE(test::plain({30, 20}, Qt::red).save(path("cover.png")));
     action().trigger();
     open("song.mp3", songTaggedInFront());
     controller().loadCoverArtSelected(1, {path("cover.png")});
@@ -191,9 +181,7 @@ TEST_F(PortableTagsTest, TakeALoadedCoverAsItIsAndLoseItWhenItIsCut) {
 }
 
 TEST_F(PortableTagsTest, TakeAPastedCover) {
-    QImage pixels(30, 20, QImage::Format_RGB32);
-    pixels.fill(Qt::red);
-    QGuiApplication::clipboard()->setImage(pixels);
+    QGuiApplication::clipboard()->setImage(test::plain({30, 20}, Qt::red));
     open("song.mp3", songTaggedInFront());
     widget<CoverArtView>("img_coverArt").paste();
     EXPECT_FALSE(enabled("btn_saveTag")) << "in place it is shown and not stored";
@@ -207,9 +195,7 @@ TEST_F(PortableTagsTest, TakeAPastedCover) {
 }
 
 TEST_F(PortableTagsTest, KeepTheCoverOfEachFileThatIsOpened) {
-    QImage pixels(30, 20, QImage::Format_RGB32);
-    pixels.fill(Qt::red);
-    ASSERT_TRUE(pixels.save(path("cover.png")));
+    ASSERT_TRUE(test::plain({30, 20}, Qt::red).save(path("cover.png")));
     action().trigger();
     open("a.mp3", songTaggedInFront());
     controller().loadCoverArtSelected(1, {path("cover.png")});
@@ -222,9 +208,7 @@ TEST_F(PortableTagsTest, KeepTheCoverOfEachFileThatIsOpened) {
 }
 
 TEST_F(PortableTagsTest, DoNotTakeTheFoldersImage) {
-    QImage pixels(3, 2, QImage::Format_RGB32);
-    pixels.fill(Qt::red);
-    ASSERT_TRUE(pixels.save(path("folder.jpg")));
+    ASSERT_TRUE(test::plain({3, 2}, Qt::red).save(path("folder.jpg")));
     action().trigger();
     open("song.mp3", songTaggedInFront());
 

@@ -2,13 +2,11 @@
 
 #include "window_fixture.h"
 
-#include "browser/notice_bar.h"
 #include "support/bytes.h"
 
 #include <QAction>
 #include <QFile>
 #include <QHeaderView>
-#include <QLabel>
 #include <QSplitter>
 #include <QTableView>
 
@@ -37,10 +35,6 @@ protected:
     }
     QSplitter& upper() { return widget<QSplitter>("split_upper"); }
     QTableView& table() { return widget<QTableView>("tbl_mediaFiles"); }
-    QString notice() {
-        const auto& bar = widget<NoticeBar>("bar_notice");
-        return bar.holdsNotice() ? bar.findChild<QLabel*>("lbl_notice")->text() : QString();
-    }
     QString settings() { return path("config/velmora/settings.ini"); }
     static constexpr int sizeColumn = 2;
 };

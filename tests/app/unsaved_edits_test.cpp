@@ -2,14 +2,12 @@
 
 #include "window_fixture.h"
 
-#include "browser/notice_bar.h"
 #include "support/bytes.h"
 #include "support/pictures.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QFile>
-#include <QLabel>
 #include <QTableView>
 #include <QTest>
 
@@ -26,11 +24,6 @@ using test::waitUntil;
 class UnsavedEditsTest : public test::WindowTest {
 protected:
     QAction& action() { return *document().window()->findChild<QAction*>("action_restoreEdits"); }
-    NoticeBar& bar() { return widget<NoticeBar>("bar_notice"); }
-    QString notice() {
-        const auto* const label = bar().findChild<QLabel*>("lbl_notice");
-        return bar().holdsNotice() ? label->text() : QString();
-    }
     int selectedRow() {
         const auto rows = widget<QTableView>("tbl_mediaFiles").selectionModel()->selectedRows();
         return rows.isEmpty() ? -1 : rows.first().row();

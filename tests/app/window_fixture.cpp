@@ -1,10 +1,12 @@
 #include "window_fixture.h"
 
+#include "browser/notice_bar.h"
 #include "support/bytes.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QInputMethodEvent>
+#include <QLabel>
 #include <QTableView>
 #include <QTest>
 
@@ -89,6 +91,19 @@ QString WindowTest::openFile(const std::string& name, const std::string& frames)
     select(controller().table().model().numberOfRowsInTableView() - 1);
     EXPECT_NE(nullptr, document().mediaFile());
     return added;
+}
+
+void WindowTest::press(const char* name) {
+    button(name).click();
+    settle();
+}
+
+NoticeBar& WindowTest::bar() {
+    return widget<NoticeBar>("bar_notice");
+}
+
+QString WindowTest::notice() {
+    return bar().holdsNotice() ? bar().findChild<QLabel*>("lbl_notice")->text() : QString();
 }
 
 void WindowTest::type(const char* name, const QString& text) {

@@ -74,6 +74,12 @@ protected:
     [[nodiscard]] QLineEdit& entry(const char* name) { return widget<QLineEdit>(name); }
     [[nodiscard]] QPushButton& button(const char* name) { return widget<QPushButton>(name); }
     [[nodiscard]] bool enabled(const char* name) { return widget<QWidget>(name).isEnabled(); }
+    /** Clicks the button called NAME, and lets the window act on it. */
+    void press(const char* name);
+    /** The line above the form. */
+    [[nodiscard]] NoticeBar& bar();
+    /** What that line says; empty while it holds no notice. */
+    [[nodiscard]] QString notice();
     /** Replaces a field's text by typing, one key after another. */
     void type(const char* name, const QString& text);
 

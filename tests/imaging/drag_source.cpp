@@ -2,6 +2,8 @@
 // view sees it. Its arguments are the paths of the files; "--image" instead drags a green image without a
 // file, and "--move" in front offers no copy. Prints what became of each drag: the number of Qt::DropAction.
 
+#include "support/pictures.h"
+
 #include <QApplication>
 #include <QDrag>
 #include <QImage>
@@ -34,9 +36,7 @@ private:
         auto* data = new QMimeData;
         const QStringList arguments = QApplication::arguments().mid(1);
         if (arguments.contains(QStringLiteral("--image"))) {
-            QImage image(30, 20, QImage::Format_RGB32);
-            image.fill(Qt::green);
-            data->setImageData(image);
+            data->setImageData(velmora::test::plain({30, 20}, Qt::green));
             return data;
         }
         QList<QUrl> urls;

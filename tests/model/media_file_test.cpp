@@ -3,6 +3,7 @@
 #include "platform/file_path.h"
 #include "support/bytes.h"
 #include "support/id3_tags.h"
+#include "support/pictures.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
 
@@ -360,8 +361,7 @@ TEST_F(MediaFileTest, FailedSaveWithoutAnErrorSlotOnlyLogs) {
 }
 
 TEST_F(MediaFileTest, CoverArtIsReadAndWrittenAsAPicture) {
-    QImage picture(32, 24, QImage::Format_RGB32);
-    picture.fill(Qt::darkGreen);
+    const QImage picture = test::plain({32, 24}, Qt::darkGreen);
     for (const char* name : {"a.mp3", "a.mp4", "a.png"}) {
         test::write_file(folder_ / name, test::pattern(64));
         auto file = MediaFile::initWithFile(path(name));

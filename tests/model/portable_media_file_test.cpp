@@ -2,10 +2,9 @@
 
 #include "portable/portable_tags.h"
 #include "support/bytes.h"
+#include "support/pictures.h"
 #include "support/scratch_folder.h"
 #include "support/stream_capture.h"
-
-#include <QBuffer>
 
 #include <gtest/gtest.h>
 
@@ -97,11 +96,7 @@ TEST_F(PortableMediaFileTest, LeavesTheFileAloneWithoutChangesAndAfterTheyWereSe
 }
 
 TEST_F(PortableMediaFileTest, KeepsACoversOwnBytes) {
-    QImage pixels(3, 2, QImage::Format_RGB32);
-    pixels.fill(Qt::red);
-    QByteArray png;
-    QBuffer buffer(&png);
-    ASSERT_TRUE(pixels.save(&buffer, "png"));
+    const QByteArray png = test::encoded(test::plain({3, 2}, Qt::red), "png");
     const auto file = open();
     file->setCoverArt(ImageRef::fromBytes(png));
 

@@ -2,6 +2,7 @@
 
 #include "platform/movie/movie_view.h"
 #include "support/contrast.h"
+#include "support/pictures.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -108,8 +109,7 @@ TEST_F(MovieViewTest, SoundAloneIsPlayedAndPausedToo) {
 }
 
 TEST_F(MovieViewTest, SoundAloneShowsItsCover) {
-    QImage cover(300, 300, QImage::Format_RGB32);
-    cover.fill(Qt::red);
+    const QImage cover = plain({300, 300}, Qt::red);
     open(mp3());
     view.setCover(cover);
     EXPECT_EQ(0, share(Qt::red)) << "not before there is sound to show it for";
@@ -129,8 +129,7 @@ TEST_F(MovieViewTest, SoundWithoutACoverShowsANote) {
 }
 
 TEST_F(MovieViewTest, AFilmShowsItsFramesAndNotItsCover) {
-    QImage cover(300, 300, QImage::Format_RGB32);
-    cover.fill(Qt::cyan);
+    const QImage cover = plain({300, 300}, Qt::cyan);
     view.setCover(cover);
     openFilm();
     EXPECT_EQ(0, share(Qt::cyan));

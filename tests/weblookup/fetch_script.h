@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/pictures.h"
 #include "weblookup/form_fill_info.h"
 
 #include <QImage>
@@ -14,11 +15,7 @@ struct FetchScript {
     QStringList asked;
 
     /** A picture that is told from others by its width. */
-    static QImage picture(int width) {
-        QImage image(width, 1, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        return image;
-    }
+    static QImage picture(int width) { return plain({width, 1}, Qt::red); }
 
     [[nodiscard]] ImageFetch fetch() {
         return [this](const QUrl& url) {
