@@ -165,7 +165,8 @@ def with_hole(path, source, at):
 
 
 def make_large_files(folder):
-    # The hole lies in the media data: anywhere in a song, behind the header object, at the end of the movi list.
+    # The hole lies in the media data: anywhere in a song, behind the header object, at the
+    # end of the movi list.
     song = read(f"{folder}/store/song.mp3")
     with_hole(f"{folder}/large/song.mp3", song, 100_000)
     with_hole(f"{folder}/large/song.wma", read(f"{folder}/store/song.wma"), 100_000)

@@ -1,5 +1,5 @@
-# What every folder of the source tree has in common: one target a folder, and headers that are seen only by the
-# targets that link it.
+# What every folder of the source tree has in common: one target a folder, and headers that are seen only by
+# the targets that link it.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -17,9 +17,9 @@ target_compile_options(velmora_options INTERFACE -Wall -Wextra -Wpedantic -Wshad
 if(VELMORA_WERROR)
   target_compile_options(velmora_options INTERFACE -Werror)
 endif()
-# What files and pages hold is not to be trusted, and neither is the code that reads them: what the compiler and the
-# loader can do against a slip is done. Builds that look for slips do without; of a debug build only the program and its
-# module are compiled so.
+# What files and pages hold is not to be trusted, and neither is the code that reads them: what the compiler
+# and the loader can do against a slip is done. Builds that look for slips do without; of a debug build only
+# the program and its module are compiled so.
 set(VELMORA_HARDENING "")
 if(NOT VELMORA_SANITIZE)
   include(CheckPIESupported)
@@ -90,8 +90,9 @@ function(velmora_folder name)
   velmora_expose(velmora_${name} ${name})
 endfunction()
 
-# velmora_precompile_qt(TARGET... ): these Qt rooms share the headers that most of their files include, compiled once. Where a
-# room is compiled in one piece it reads them once anyway, and what it forgot to include is found out.
+# velmora_precompile_qt(TARGET... ): these Qt rooms share the headers that most of their files include,
+# compiled once. Where a room is compiled in one piece it reads them once anyway, and what it forgot to
+# include is found out.
 function(velmora_precompile_qt)
   if(VELMORA_ONE_PIECE)
     return()

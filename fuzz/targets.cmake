@@ -1,4 +1,5 @@
-# The fuzz targets and what each is linked with, for libFuzzer's programs here and for the replay in tests/fuzz.
+# The fuzz targets and what each is linked with, for libFuzzer's programs here and for the
+# replay in tests/fuzz.
 set(velmora_fuzz_targets id3_load id3_store asf_load asf_store avi_load avi_store portable_read portable_set)
 if(VELMORA_DESKTOP)
   list(APPEND velmora_fuzz_targets bitmap_trim dom_extract)

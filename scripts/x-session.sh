@@ -1,6 +1,7 @@
-# A virtual display with the program on it, for scripts that work it with mouse and keyboard. Sourced, after build= is
-# set to the build folder; with accessible=yes, controls can be found by their names. Gives: work (a folder that goes at the end), HOME inside it, start_program, wait_for_log,
-# screenshot, cut_out, point_at, quit_program.
+# A virtual display with the program on it, for scripts that work it with mouse and keyboard. Sourced, after
+# build= is set to the build folder; with accessible=yes, controls can be found by their names. Gives: work
+# (a folder that goes at the end), HOME inside it, start_program, wait_for_log, screenshot, cut_out,
+# point_at, quit_program.
 
 if [ -z "${VELMORA_DISPLAY_READY:-}" ]; then
   export VELMORA_DISPLAY_READY=1 VELMORA_WORK
@@ -42,7 +43,8 @@ wait_for_log() {
   return 1
 }
 
-# Starts the program, waits for the end of its first search, and gives its window a fixed place and the keyboard.
+# Starts the program, waits for the end of its first search, and gives its window a fixed
+# place and the keyboard.
 start_program() {
   "$build/app/velmora" >"$work/out.log" 2>"$work/log" &
   program=$!

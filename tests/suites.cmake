@@ -1,5 +1,5 @@
-# What ctest reads of a program that is entered suite by suite: the program itself says which suites it has, those of types and
-# of parameters included. Set by who includes it: PROGRAM, NAME, ENVIRONMENT and LABEL.
+# What ctest reads of a program that is entered suite by suite: the program itself says which suites it has,
+# those of types and of parameters included. Set by who includes it: PROGRAM, NAME, ENVIRONMENT and LABEL.
 if(NOT EXISTS "${PROGRAM}")
   add_test("${NAME}_is_not_built" "${PROGRAM}")
   set_tests_properties("${NAME}_is_not_built" PROPERTIES LABELS "${LABEL}")

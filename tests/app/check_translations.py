@@ -14,8 +14,8 @@ LANGUAGES = ["de", "en", "es", "fr", "it", "ja", "zh_CN"]
 PLURAL_FORMS = {"ja": 1, "zh_CN": 1}  # two in the others
 # Their own letters are on no key, so that their captions have a Latin one in brackets.
 SCRIPTS_WITHOUT_KEYS = ["ja", "zh_CN"]
-# What is not written so in the language: signs of a typewriter, French signs that a line's end could part from their word,
-# half-width signs at full-width letters.
+# What is not written so in the language: signs of a typewriter, French signs that a line's end could part
+# from their word, half-width signs at full-width letters.
 WRONG_SIGNS = {"de": r'["\']', "es": r'["\']', "fr": r'["\']| [:;!?»]|« ', "it": r'["\']', "ja": r'["\']|[ぁ-鿿][,.;!?]',
                "zh_CN": r'["\']|[一-鿿][,.:;!?]'}
 LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
