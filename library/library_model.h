@@ -8,6 +8,7 @@
 #include <QThreadPool>
 #include <QTimer>
 
+#include <deque>
 #include <functional>
 #include <optional>
 
@@ -24,7 +25,7 @@ public:
     explicit LibraryModel(QObject* parent = nullptr);
     ~LibraryModel() override;
 
-    /** Lists the file at PATH of SIZE bytes, unless it is listed, and reads it. */
+    /** Lists the file at PATH of SIZE bytes, unless it is listed, and reads it: soon, since many may come at once. */
     void addFile(const QString& path, std::uint64_t size);
     void removeFile(const QString& path);
     /** Reads the file again: it has changed. */
@@ -37,9 +38,9 @@ public:
     [[nodiscard]] int fileAt(int shown) const { return shown_[static_cast<std::size_t>(shown)]; }
     [[nodiscard]] const std::vector<int>& shownFiles() const { return shown_; }
     /** How many files are listed, shown or not. */
-    [[nodiscard]] std::size_t listed() const { return order_.size() + added_.size(); }
+    [[nodiscard]] std::size_t listed() const { return order_.size() + added_.size() + coming_.size(); }
     /** How many files are still to be read. */
-    [[nodiscard]] std::size_t unread() const { return reader_.waiting(); }
+    [[nodiscard]] std::size_t unread() const { return reader_.waiting() + coming_.size(); }
 
     /** Edits of the file FILE; nothing is written into it. */
     void setEdits(int file, RowEdits edits);
@@ -73,6 +74,8 @@ signals:
     void ordered();
 
 private:
+    void listComing();
+    void list(const QString& path, std::uint64_t size);
     void showAdded();
     void takeReadings(const std::vector<RowReading>& readings);
     void contentsChange(int file);
@@ -90,13 +93,15 @@ private:
 
     LibraryRows rows_;
     TagReader reader_;
-    std::vector<int> added_;      ///< listed, and not in order_ yet
-    std::vector<int> order_;      ///< all others, sorted
-    std::vector<int> shown_;      ///< those of order_ that the filter lets through
-    std::vector<int> shownRowOf_; ///< where a file is shown; -1: not
+    std::deque<std::pair<QString, std::uint64_t>> coming_; ///< to be listed: paths and sizes
+    std::vector<int> added_;                               ///< listed, and not in order_ yet
+    std::vector<int> order_;                               ///< all others, sorted
+    std::vector<int> shown_;                               ///< those of order_ that the filter lets through
+    std::vector<int> shownRowOf_;                          ///< where a file is shown; -1: not
     std::vector<SortKey> keys_;
     FilterQuery filter_;
     std::function<QVariant(int file)> thumbnails_;
+    QTimer comingTimer_;
     QTimer addTimer_;
     QTimer orderTimer_;
     std::uint64_t version_ = 0; ///< of what decides on the order

@@ -4,6 +4,7 @@
 
 #include "background_thread.h"
 
+#include <QDeadlineTimer>
 #include <QLocale>
 
 #include <algorithm>
@@ -13,6 +14,8 @@ namespace velmora {
 
 namespace {
 
+/** Files are listed for so long between two turns of the event loop. */
+constexpr std::chrono::milliseconds listingTime{5};
 constexpr std::chrono::milliseconds addInterval{50};
 /** Rows that jump at every change can't be read. */
 constexpr std::chrono::milliseconds orderInterval{300};
@@ -20,11 +23,14 @@ constexpr std::chrono::milliseconds orderInterval{300};
 } // namespace
 
 LibraryModel::LibraryModel(QObject* parent) : QAbstractTableModel(parent) {
+    comingTimer_.setSingleShot(true);
+    comingTimer_.setInterval(0);
     addTimer_.setSingleShot(true);
     addTimer_.setInterval(addInterval);
     orderTimer_.setSingleShot(true);
     orderTimer_.setInterval(orderInterval);
     thread_.setMaxThreadCount(1);
+    connect(&comingTimer_, &QTimer::timeout, this, &LibraryModel::listComing);
     connect(&addTimer_, &QTimer::timeout, this, &LibraryModel::showAdded);
     connect(&orderTimer_, &QTimer::timeout, this, &LibraryModel::startOrdering);
     connect(&reader_, &TagReader::rowsRead, this, &LibraryModel::takeReadings);
@@ -37,6 +43,24 @@ LibraryModel::~LibraryModel() {
 }
 
 void LibraryModel::addFile(const QString& path, std::uint64_t size) {
+    coming_.emplace_back(path, size);
+    if (!comingTimer_.isActive()) {
+        comingTimer_.start();
+    }
+}
+
+void LibraryModel::listComing() {
+    const QDeadlineTimer end(listingTime);
+    while (!coming_.empty() && !end.hasExpired()) {
+        list(coming_.front().first, coming_.front().second);
+        coming_.pop_front();
+    }
+    if (!coming_.empty()) {
+        comingTimer_.start();
+    }
+}
+
+void LibraryModel::list(const QString& path, std::uint64_t size) {
     const int file = rows_.add(path, size);
     if (file < 0) {
         return;
@@ -68,6 +92,7 @@ void LibraryModel::showAdded() {
 }
 
 void LibraryModel::removeFile(const QString& path) {
+    std::erase_if(coming_, [&path](const auto& file) { return file.first == path; });
     const int file = rows_.find(path);
     if (file < 0) {
         return;

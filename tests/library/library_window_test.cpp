@@ -101,6 +101,29 @@ TEST_F(LibraryWindowTest, ANewFileFindsItsPlaceInTheOrder) {
     }));
 }
 
+TEST_F(LibraryWindowTest, ManyFilesThatComeAtOnceDoNotStallTheWindow) {
+    constexpr int count = 20'000;
+    LibraryModel& model = window_.model();
+    for (int file = 0; file < count; ++file) {
+        model.addFile(QStringLiteral("/nowhere/%1.mp3").arg(file), 0);
+    }
+    EXPECT_EQ(static_cast<std::size_t>(count), model.listed());
+    EXPECT_EQ(static_cast<std::size_t>(count), model.unread());
+    QCoreApplication::processEvents();
+    EXPECT_LT(model.rows().end(), count);
+    EXPECT_TRUE(waitUntil([&] { return model.rowCount() == count; }));
+}
+
+TEST_F(LibraryWindowTest, AFileThatGoesBeforeItIsListedIsNoRow) {
+    LibraryModel& model = window_.model();
+    model.addFile("/nowhere/a.mp3", 0);
+    model.addFile("/nowhere/b.mp3", 0);
+    model.removeFile("/nowhere/a.mp3");
+    EXPECT_TRUE(waitUntil([&] { return model.rowCount() == 1 && model.unread() == 0; }));
+    EXPECT_EQ(QStringList("b.mp3"), shown(LibraryColumn::name));
+    EXPECT_EQ(1U, model.listed());
+}
+
 TEST_F(LibraryWindowTest, ARemovedFileIsNoRowAnyMore) {
     addSongs();
     window_.model().removeFile(QString::fromStdString(folder_ / "10.mp3"));
