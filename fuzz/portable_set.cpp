@@ -70,8 +70,8 @@ SaveOutcome save(const MediaFile& file, const TagEdits& edits, KeptBytes& kept) 
     return saved;
 }
 
-/** Makes FILE the BYTES again that it had before the save of OUTCOME, where it was saved, and puts what it is now
-   under `after`. */
+/** Makes FILE the BYTES again that it had before the save of OUTCOME, where it was saved, and puts what it
+   is now under `after`. */
 void put_back(const MediaFile& file, SaveOutcome& outcome, const std::string& bytes, const KeptBytes& kept) {
     if (outcome.result == SaveResult::saved) {
         require(outcome.way_back.has_value(), "a saved file has a way back");

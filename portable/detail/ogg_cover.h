@@ -17,8 +17,8 @@ namespace velmora::portable {
 /** The picture that counts, as it lies in the file; nothing where there is none. */
 [[nodiscard]] std::optional<Cover> ogg_cover(const VorbisComments& comments);
 
-/** Puts EDIT, which does not leave the cover alone, into COMMENTS: in the place of the first cover, else at the
-   end. A deleted cover takes all of them along. */
+/** Puts EDIT, which does not leave the cover alone, into COMMENTS: in the place of the first cover, else at
+   the end. A deleted cover takes all of them along. */
 void apply_ogg_cover(VorbisComments& comments, const Edit<Cover>& edit);
 
 } // namespace velmora::portable

@@ -1,8 +1,8 @@
 // Files of every kind, edited whole and taken back to the last byte.
 
-#include "library/apply_run.h"
 #include "tagged_songs.h"
 
+#include "library/apply_run.h"
 #include "portable/media_kind.h"
 #include "support/command.h"
 

@@ -4,6 +4,7 @@
 
 #include "chunk_bytes.h"
 #include "sample_files.h"
+
 #include "support/bytes.h"
 #include "support/id3_tags.h"
 #include "support/scratch_folder.h"

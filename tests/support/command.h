@@ -18,8 +18,8 @@ void make_file(const std::string& command, const std::string& path);
    process for each contents of a file. */
 std::string run_on_file(const std::string& front, const std::string& path, const std::string& behind);
 
-/** The tags that ffprobe finds in the file at PATH: values in UTF-8 by the names that it gives them. Fails the
-   test when ffprobe fails. */
+/** The tags that ffprobe finds in the file at PATH: values in UTF-8 by the names that it gives them. Fails
+   the test when ffprobe fails. */
 [[nodiscard]] std::map<std::string, std::string> probed_tags(const std::string& path);
 
 /** TEXT as one word of a shell command. */
