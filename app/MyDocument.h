@@ -62,7 +62,10 @@ public:
     bool saveCopy(const QString& path) override;
     bool deleteAllTags(bool breakLinks) override;
     [[nodiscard]] bool hasUnsavedEdits() const override { return !unsavedEdits_.empty(); }
+    [[nodiscard]] QString pathOfUnsavedEdits() const override;
     bool restoreUnsavedEdits(Error* error) override;
+    bool restoreUnsavedEditsAt(const QUrl& place, Error* error) override;
+    bool takeEditsTo(const QUrl& place, Error* error) override;
     /** The menu's switch. What the user switches off is not remembered any more. */
     void switchPortableTags(bool portable);
 

@@ -89,6 +89,8 @@ void VelmoraController::connectPortableTags() {
     connect(&document_, &MediaDocument::openedAgain, this, &VelmoraController::showFileAgain);
     connect(&notices_, &PortableNotices::copyWanted, this, &VelmoraController::saveCopy);
     connect(&notices_, &PortableNotices::restoreWanted, this, &VelmoraController::restoreUnsavedEdits);
+    connect(&notices_, &PortableNotices::placeWanted, this, &VelmoraController::locateFile);
+    connect(&notices_, &PortableNotices::placeOfKeptWanted, this, &VelmoraController::locateKeptFile);
 }
 
 /** A save with portable tags settles the changes, whichever command began it. */
@@ -200,19 +202,6 @@ void VelmoraController::removeTag() {
     formNotices_.changesSettled();
     document_.updateChangeCount(Document::ChangeType::Cleared);
     form_.disableSaveAndRevert();
-}
-
-void VelmoraController::restoreUnsavedEdits() {
-    Error error;
-    if (document_.restoreUnsavedEdits(&error)) {
-        clearUI();
-        fillUI();
-        form_.markChange();
-        table().showAsOpen(document_.mediaFile()->path());
-        notices_.editsRestored();
-    } else if (!error.domain.isEmpty()) {
-        showOpenError(error);
-    }
 }
 
 void VelmoraController::saveCopy() {

@@ -46,6 +46,11 @@ public:
        a sheet; the edits stay kept then. */
     void restoreUnsavedEdits();
 
+    /** Asks where the open file is now, which is not in its old place any more, or the file whose edits were kept last. It is
+       listed and opened there, and the edits are put back. */
+    void locateFile();
+    void locateKeptFile();
+
     /** Asks for a place, and saves the open file there with its changes. The copy is listed and opened. */
     void saveCopy();
     void copyPlaceSelected(int returnCode, const QStringList& paths);
@@ -100,6 +105,12 @@ private:
     void showFileAgain();
     void tellOpenFile();
     void showOpenError(const Error& error);
+    /** How the document opens a file at a place that the user shows. */
+    using OpenWithEdits = bool (MediaDocument::*)(const QUrl& place, Error* error);
+    void askForPlace(const QString& former, OpenWithEdits open);
+    void openWithEdits(const QString& path, OpenWithEdits open);
+    void showRestoredEdits();
+    [[nodiscard]] bool isListed(const QString& path);
 
     MediaList& list_;
     TagForm& form_;

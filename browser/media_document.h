@@ -53,10 +53,27 @@ public:
     /** Whether there are edits of a file that could not be saved before another one took its place. They are
        kept until the program ends. */
     [[nodiscard]] virtual bool hasUnsavedEdits() const { return false; }
+    /** Where the file was whose edits were kept last; empty when there are none. */
+    [[nodiscard]] virtual QString pathOfUnsavedEdits() const { return {}; }
     /** Opens the file again whose edits were kept last, in place of the open one, and makes them once more;
        they count as a change. False when it can't be opened, with ERROR (may be null) filled, or the user
        cancelled; the edits are still kept then. */
     virtual bool restoreUnsavedEdits(Error* error) {
+        static_cast<void>(error);
+        return false;
+    }
+
+    /** The same for a file that is now at PLACE. */
+    virtual bool restoreUnsavedEditsAt(const QUrl& place, Error* error) {
+        static_cast<void>(place);
+        static_cast<void>(error);
+        return false;
+    }
+    /** Opens the file at PLACE, where the user has found the open one that is not in its old place any more, and makes the
+       edits there; they count as a change. False, with ERROR (may be null) filled and everything as it was, when it can't
+       be opened; false also when no file is open. */
+    virtual bool takeEditsTo(const QUrl& place, Error* error) {
+        static_cast<void>(place);
         static_cast<void>(error);
         return false;
     }

@@ -4,6 +4,7 @@
 #include "notice_bar.h"
 
 #include "model/MediaFile.h"
+#include "platform/file_attributes.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "platform/sentences.h"
@@ -26,6 +27,20 @@ QString shortened(const QString& name) {
 QString notSaved(const SaveEnd& end) {
     return joinedSentences({localised("\"%@\" was not saved.", shortened(lastPathComponent(end.path))),
                             asSentence(end.obstacle.reason)});
+}
+
+/** Whether nothing is left of the file at PATH: a save in place leaves an empty one behind where the file had vanished. */
+bool isGone(const QString& path) {
+    const std::optional<FileAttributes> attributes = fileAttributes(pathBytes(path));
+    return !attributes || (!attributes->isDirectory && attributes->size.value_or(1) == 0);
+}
+
+/** What helps where a file is not in its place any more. */
+Notice::Action locate(std::function<void()> act) {
+    return {
+        localised("Locate File…"),
+        localised("Show where the file is now: it is opened there with your edits, which are not saved yet"),
+        QStringLiteral("edit-find"), std::move(act)};
 }
 
 } // namespace
@@ -103,9 +118,12 @@ void PortableNotices::editsKept(const QString& path, const QString& reason) {
                                    asSentence(reason)}),
                   {},
                   {}};
-    notice.actions = {{localised("Restore Unsaved Edits"),
+    if (isGone(path)) {
+        notice.actions = {locate([this] { emit placeOfKeptWanted(); })};
+    }
+    notice.actions += {localised("Restore Unsaved Edits"),
                        localised("Open the file again whose edits could not be saved, and put them back"),
-                       QStringLiteral("edit-undo"), [this] { emit restoreWanted(); }}};
+                       QStringLiteral("edit-undo"), [this] { emit restoreWanted(); }};
     notice.topic = Notice::Topic::UnsavedEdits;
     bar_.show(notice);
 }
@@ -170,7 +188,9 @@ void PortableNotices::savedInPlace() {
 void PortableNotices::offer(SaveObstacle::Remedy remedy, const QString& text) {
     Notice notice{Notice::Kind::Warning, text, {}, {}};
     const bool canBePortable = document_.mediaFile()->canHavePortableTags();
-    if (canBePortable && remedy == SaveObstacle::Remedy::AnotherPlace) {
+    if (isGone(document_.mediaFile()->path())) {
+        notice.actions = {locate([this] { emit placeWanted(); })};
+    } else if (canBePortable && remedy == SaveObstacle::Remedy::AnotherPlace) {
         notice.actions = {{localised("Save as a Copy…"),
                            localised("Choose another place, and save the file there with the changes"),
                            QStringLiteral("document-save-as"), [this] { emit copyWanted(); }}};

@@ -26,6 +26,9 @@ public:
     void fileOpened();
     /** The form shows no file any more. */
     void fileClosed();
+    /** The edits of the file at PATH are kept, which could not be saved or opened because of REASON, one sentence without a
+       full stop. */
+    void editsKept(const QString& path, const QString& reason);
     /** The open file's edits have come back. */
     void editsRestored();
     /** The open file's cover was taken away, which a save in place does not write. */
@@ -38,10 +41,12 @@ signals:
     void restoreWanted();
     /** The user wants the file saved in another place. */
     void copyWanted();
+    /** The user wants to show where the open file, or the one whose edits were kept last, is now. */
+    void placeWanted();
+    void placeOfKeptWanted();
 
 private:
     void lookForMore();
-    void editsKept(const QString& path, const QString& reason);
     void savedInPlace();
     void removalEnded(const SaveEnd& end);
     void savedPortably(const SaveEnd& end);

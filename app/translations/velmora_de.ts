@@ -1514,6 +1514,18 @@
         <source>The listed files and what their tags say</source>
         <translation>Die Dateien der Liste und was in ihren Tags steht</translation>
     </message>
+    <message>
+        <source>Locate File…</source>
+        <translation>Datei suchen …</translation>
+    </message>
+    <message>
+        <source>Show where the file is now: it is opened there with your edits, which are not saved yet</source>
+        <translation>Zeigen, wo die Datei jetzt liegt: Sie wird dort mit Ihren Änderungen geöffnet, die noch nicht gespeichert sind</translation>
+    </message>
+    <message>
+        <source>Locate &quot;%@&quot;</source>
+        <translation>„%@“ suchen</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>

@@ -1514,6 +1514,18 @@
         <source>The listed files and what their tags say</source>
         <translation>Los archivos de la lista y lo que dicen sus etiquetas</translation>
     </message>
+    <message>
+        <source>Locate File…</source>
+        <translation>Localizar el archivo…</translation>
+    </message>
+    <message>
+        <source>Show where the file is now: it is opened there with your edits, which are not saved yet</source>
+        <translation>Indicar dónde está ahora el archivo: se abre allí con los cambios, aún sin guardar</translation>
+    </message>
+    <message>
+        <source>Locate &quot;%@&quot;</source>
+        <translation>Localizar «%@»</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>

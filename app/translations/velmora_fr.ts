@@ -1514,6 +1514,18 @@
         <source>The listed files and what their tags say</source>
         <translation>Les fichiers de la liste et ce que disent leurs tags</translation>
     </message>
+    <message>
+        <source>Locate File…</source>
+        <translation>Localiser le fichier…</translation>
+    </message>
+    <message>
+        <source>Show where the file is now: it is opened there with your edits, which are not saved yet</source>
+        <translation>Indiquer où se trouve maintenant le fichier : il y est ouvert avec vos modifications, pas encore enregistrées</translation>
+    </message>
+    <message>
+        <source>Locate &quot;%@&quot;</source>
+        <translation>Localiser « %@ »</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>

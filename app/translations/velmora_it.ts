@@ -1514,6 +1514,18 @@
         <source>The listed files and what their tags say</source>
         <translation>I file dell’elenco e che cosa dicono i loro tag</translation>
     </message>
+    <message>
+        <source>Locate File…</source>
+        <translation>Trova il file…</translation>
+    </message>
+    <message>
+        <source>Show where the file is now: it is opened there with your edits, which are not saved yet</source>
+        <translation>Indica dove si trova ora il file: viene aperto lì con le modifiche, non ancora salvate</translation>
+    </message>
+    <message>
+        <source>Locate &quot;%@&quot;</source>
+        <translation>Trova “%@”</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>

@@ -1513,6 +1513,18 @@
         <source>The listed files and what their tags say</source>
         <translation>一覧にあるファイルと、そのタグの内容</translation>
     </message>
+    <message>
+        <source>Locate File…</source>
+        <translation>ファイルを探す…</translation>
+    </message>
+    <message>
+        <source>Show where the file is now: it is opened there with your edits, which are not saved yet</source>
+        <translation>ファイルの今の場所を指定します。編集内容はそのままに、未保存の状態でそこで開きます</translation>
+    </message>
+    <message>
+        <source>Locate &quot;%@&quot;</source>
+        <translation>「%@」を探す</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>

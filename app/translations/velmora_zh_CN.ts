@@ -1513,6 +1513,18 @@
         <source>The listed files and what their tags say</source>
         <translation>列表中的文件及其标签内容</translation>
     </message>
+    <message>
+        <source>Locate File…</source>
+        <translation>查找文件…</translation>
+    </message>
+    <message>
+        <source>Show where the file is now: it is opened there with your edits, which are not saved yet</source>
+        <translation>指出文件现在的位置：将在那里打开它并保留您的编辑，编辑尚未保存</translation>
+    </message>
+    <message>
+        <source>Locate &quot;%@&quot;</source>
+        <translation>查找“%@”</translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>
