@@ -7,6 +7,8 @@
 #include "browser/media_list.h"
 #include "browser/notice_bar.h"
 #include "browser/tag_form.h"
+#include "library/library_layout.h"
+#include "library/library_window.h"
 #include "platform/localisation.h"
 #include "platform/settings.h"
 
@@ -32,6 +34,9 @@ void MyDocument::rememberThisLayout() {
     if (layout.parts[main].isEmpty()) {
         layout.parts.remove(main);
     }
+    layout.parts.insert(library_
+                            ? libraryLayout(*library_)
+                            : libraryPartsOf(rememberedLayout().value_or(WindowLayout()).parts)); // as it was
     const MediaRows& rows = list_->table().mediaFiles();
     if (rows.tableSortColumn()) {
         layout.sortColumn = rows.tableSortColumn()->identifier;

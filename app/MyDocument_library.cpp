@@ -4,9 +4,11 @@
 
 #include "browser/VelmoraController.h"
 #include "browser/media_table.h"
+#include "library/library_layout.h"
 #include "library/library_window.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
+#include "platform/settings.h"
 
 #include <QMessageBox>
 
@@ -44,6 +46,9 @@ void MyDocument::makeLibrary() {
         }
         filesWritten(paths);
     });
+    if (const std::optional<WindowLayout> layout = rememberedLayout()) {
+        arrangeLibrary(*library_, layout->parts);
+    }
 }
 
 QString MyDocument::openPath() const {

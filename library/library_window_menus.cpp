@@ -11,6 +11,18 @@
 
 namespace velmora {
 
+namespace {
+
+void checkShownColumns(const QMenu& menu, const LibraryView& view) {
+    const QList<LibraryColumn> shown = view.shownColumns();
+    for (QAction* const action : menu.actions()) {
+        action->setChecked(action->isCheckable() &&
+                           shown.contains(static_cast<LibraryColumn>(action->data().toInt())));
+    }
+}
+
+} // namespace
+
 QAction* LibraryWindow::addCommand(QMenu& menu, const QString& text, const QString& tip,
                                    const QKeySequence& keys, void (LibraryWindow::*command)()) {
     QAction* const action = menu.addAction(text, this, command);
@@ -76,17 +88,19 @@ void LibraryWindow::makeViewMenu() {
     QMenu* const sort = menu.addMenu(localised("&Sort By"));
     QMenu* const also = menu.addMenu(localised("&Then By"));
     columnMenu_ = menu.addMenu(localised("&Columns"));
+    columnMenu_->menuAction()->setObjectName(QStringLiteral("action_columns"));
     for (const LibraryColumn column : libraryColumns()) {
         sort->addAction(columnTitle(column), view_, [this, column] { view_->sortByColumn(column, false); });
         also->addAction(columnTitle(column), view_, [this, column] { view_->sortByColumn(column, true); });
         QAction* const shown = columnMenu_->addAction(columnTitle(column));
         shown->setCheckable(true);
-        shown->setChecked(isShownAtFirst(column));
+        shown->setData(static_cast<int>(column));
         connect(shown, &QAction::triggered, view_, [this, column, shown](bool checked) {
             view_->showColumn(column, checked);
             shown->setChecked(view_->shownColumns().contains(column));
         });
     }
+    connect(columnMenu_, &QMenu::aboutToShow, this, [this] { checkShownColumns(*columnMenu_, *view_); });
     columnMenu_->addSeparator();
     const auto addMove = [this](const QString& text, Qt::Key key, int by) {
         QAction* const move =

@@ -2,11 +2,13 @@
 
 #include "window_fixture.h"
 
+#include "library/library_window.h"
 #include "support/bytes.h"
 
 #include <QAction>
 #include <QFile>
 #include <QHeaderView>
+#include <QMenu>
 #include <QSplitter>
 #include <QTableView>
 
@@ -120,6 +122,93 @@ TEST_F(RememberedLayoutTest, SizeBeyondTheScreenAndUnknownColumnsDoNoHarm) {
     EXPECT_LE(document().window()->height(), room.height());
     EXPECT_FALSE(controller().table().mediaFiles().tableSortColumn());
     EXPECT_EQ(2, upper().sizes().size());
+}
+
+class RememberedLibraryTest : public RememberedLayoutTest {
+protected:
+    LibraryWindow& library() {
+        document().showLibrary();
+        settle();
+        return *document().library();
+    }
+    LibraryView& view() { return library().view(); }
+    QStringList checkedColumns() {
+        auto* const menu = library().findChild<QAction*>("action_columns")->menu();
+        emit menu->aboutToShow();
+        QStringList checked;
+        for (const QAction* column : menu->actions()) {
+            checked += column->isChecked() ? QStringList(column->text()) : QStringList();
+        }
+        return checked;
+    }
+    static int number(LibraryColumn column) { return static_cast<int>(column); }
+};
+
+TEST_F(RememberedLibraryTest, SizeDivisionColumnsTheirPlacesAndSortComeBack) {
+    library().resize(780, 640);
+    view().showColumn(LibraryColumn::folder, false);
+    view().showColumn(LibraryColumn::synopsis, true);
+    view().horizontalHeader()->moveSection(
+        view().horizontalHeader()->visualIndex(number(LibraryColumn::year)), 0);
+    view().horizontalHeader()->resizeSection(number(LibraryColumn::title), 143);
+    view().sortByColumn(LibraryColumn::artist, false);
+    view().sortByColumn(LibraryColumn::year, true);
+    view().sortByColumn(LibraryColumn::year, true);
+    auto& split = *library().findChild<QSplitter*>();
+    split.setSizes({430, 330});
+    settle();
+    const QList<int> sizes = split.sizes();
+    const QList<LibraryColumn> columns = view().shownColumns();
+    const QStringList checked = checkedColumns();
+
+    choose("action_rememberLayout");
+    startAnew();
+
+    EXPECT_EQ(QSize(780, 640), library().size());
+    EXPECT_EQ(sizes, library().findChild<QSplitter*>()->sizes());
+    EXPECT_EQ(LibraryColumn::year, view().shownColumns().first());
+    EXPECT_EQ(columns, view().shownColumns());
+    EXPECT_EQ(143, view().columnWidth(number(LibraryColumn::title)));
+    const std::vector<SortKey> keys = {{LibraryColumn::artist, false}, {LibraryColumn::year, true}};
+    EXPECT_EQ(keys, library().model().sortKeys());
+    EXPECT_TRUE(checked.contains("Synopsis / Comment"));
+    EXPECT_FALSE(checked.contains("Folder"));
+    EXPECT_EQ(checked, checkedColumns());
+}
+
+TEST_F(RememberedLibraryTest, WindowThatIsNotShownThisTimeStaysRemembered) {
+    library().resize(780, 640);
+    choose("action_rememberLayout");
+    startAnew();
+    choose("action_rememberLayout");
+    startAnew();
+    EXPECT_EQ(QSize(780, 640), library().size());
+}
+
+TEST_F(RememberedLibraryTest, NothingIsWrittenUnlessItIsAskedForAndForgottenWithAllElse) {
+    library().resize(780, 640);
+    startAnew();
+    EXPECT_FALSE(QFile::exists(path("config")));
+    EXPECT_NE(QSize(780, 640), library().size());
+    library().resize(780, 640);
+    choose("action_rememberLayout");
+    choose("action_forgetEverything");
+    EXPECT_FALSE(QFile::exists(path("config/velmora")));
+    startAnew();
+    EXPECT_NE(QSize(780, 640), library().size());
+}
+
+TEST_F(RememberedLibraryTest, ColumnsThatThereAreNotAndListsOfWrongLengthDoNoHarm) {
+    const QList<LibraryColumn> columns = view().shownColumns();
+    test::write_file(folder_ / "settings",
+                     "[layout]\nsize=700, 700\n[parts]\nlibrary_size=1\nlibrary_division=1, 2, 3\n"
+                     "library_widths=0, 0\nlibrary_places=9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9\n"
+                     "library_sort=77, 1, 3\n");
+    QDir().mkpath(path("config/velmora"));
+    ASSERT_TRUE(QFile::copy(path("settings"), settings()));
+    startAnew();
+    EXPECT_EQ(columns, view().shownColumns());
+    EXPECT_TRUE(library().model().sortKeys().empty());
 }
 
 } // namespace
