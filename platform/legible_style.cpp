@@ -133,6 +133,19 @@ void LegibleStyle::drawComplexControl(ComplexControl control, const QStyleOption
     }
 }
 
+/** Some desktops leave the hints in empty fields as dark as on a light ground. */
+void LegibleStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const QColor ground = palette.color(group, QPalette::Base);
+        const QColor hint = palette.color(group, QPalette::PlaceholderText);
+        if (contrast(ground, mixed(ground, hint, hint.alphaF())) < contrastOfSigns) {
+            const QColor faint = mixed(ground, palette.color(group, QPalette::Text), 0.5);
+            palette.setColor(group, QPalette::PlaceholderText, legibleOn(ground, faint, contrastOfSigns));
+        }
+    }
+}
+
 QIcon LegibleStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* option,
                                  const QWidget* widget) const {
     // Every menu bar and many a field ask for these before anything is shown. The toolkit's own are files

@@ -150,5 +150,21 @@ TEST(LegibleColour, IsWhiteOrBlackWhereNothingStandsOutEnough) {
     EXPECT_EQ(QColor(Qt::white), legibleOn(QColor(0x60, 0x60, 0x60), Qt::red, 21));
 }
 
+TEST(LegibleStyleTest, HintsInFieldsStandOutFromADarkGroundAndStayAsTheyAreOnALightOne) {
+    LegibleStyle style;
+    QPalette dark = faintPalette();
+    dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128)); // as on a light ground
+    style.polish(dark);
+    const QColor hint = dark.color(QPalette::PlaceholderText);
+    EXPECT_EQ(255, hint.alpha());
+    EXPECT_GE(contrastBetween(dark.color(QPalette::Base), hint), 3.0);
+    EXPECT_LT(contrastBetween(dark.color(QPalette::Base), hint), 9.0) << "it is no text";
+    QPalette light(Qt::lightGray);
+    light.setColor(QPalette::Base, Qt::white);
+    light.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    style.polish(light);
+    EXPECT_EQ(QColor(0, 0, 0, 128), light.color(QPalette::PlaceholderText));
+}
+
 } // namespace
 } // namespace velmora::test
