@@ -114,6 +114,7 @@ QTableWidget* newTable(const QList<KeyUse>& keys) {
     table->verticalHeader()->hide();
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     table->resizeColumnsToContents();
     table->setAccessibleName(localised("Keyboard"));
     table->setToolTip(localised("Every key and what it does"));

@@ -121,6 +121,9 @@ MediaTableColumns::MediaTableColumns(QTableView& view, QObject* parent)
 void MediaTableColumns::fit() {
     const QScopedValueRollback<bool> fitting(fitting_, true);
     const QFontMetrics metrics = view_.fontMetrics();
+    QFont ofOpenFile = view_.font();
+    ofOpenFile.setBold(true);
+    const QFontMetrics boldMetrics(ofOpenFile);
     const int nameWidth = nameLength * metrics.averageCharWidth() + 2 * air;
     const int room = view_.viewport()->width() - iconWidth - nameWidth;
     // What the style leaves free in a cell, and the air; and a pixel, as a text that is too wide by a part of
@@ -133,8 +136,8 @@ void MediaTableColumns::fit() {
         return width;
     };
     const int sizeWidth =
-        fitColumn(u"filesize", metrics.horizontalAdvance(longestSize), room - smallestWidth);
-    fitColumn(u"created", longestDateWidth(dateForms_, metrics), room - sizeWidth);
+        fitColumn(u"filesize", boldMetrics.horizontalAdvance(longestSize), room - smallestWidth);
+    fitColumn(u"created", longestDateWidth(dateForms_, boldMetrics), room - sizeWidth);
 }
 
 bool MediaTableColumns::eventFilter(QObject* watched, QEvent* event) {

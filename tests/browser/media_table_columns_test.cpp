@@ -48,6 +48,17 @@ TEST_F(MediaTableColumnsTest, AWideTableShowsWholeDatesAndSizes) {
     EXPECT_TRUE(shows(sizeColumn, "1023.9 KB"));
 }
 
+TEST_F(MediaTableColumnsTest, SizeAndDateOfTheOpenFileAreWholeInBoldToo) {
+    widen(700);
+    QFont bold = view_.font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    ASSERT_GT(metrics.horizontalAdvance("12/30/26 20:00:00"),
+              view_.fontMetrics().horizontalAdvance("12/30/26 20:00:00"));
+    EXPECT_GE(width(createdColumn), metrics.horizontalAdvance("12/30/26 20:00:00") + 6);
+    EXPECT_GE(width(sizeColumn), metrics.horizontalAdvance("1024.0 KB") + 6);
+}
+
 TEST_F(MediaTableColumnsTest, TheDateGivesItsRoomToTheNameFirst) {
     widen(700);
     const int size = width(sizeColumn);
