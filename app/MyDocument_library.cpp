@@ -105,6 +105,7 @@ bool MyDocument::libraryMayClose() {
         library_->cancelWriting();
         return false;
     }
+    library_->takeTyped();
     if (!library_->hasEdits()) {
         return true;
     }

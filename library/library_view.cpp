@@ -1,9 +1,12 @@
 #include "library_view.h"
 
+#include "browser/media_row.h"
 #include "platform/localisation.h"
 
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QPainter>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -13,6 +16,25 @@ namespace {
 
 constexpr std::chrono::milliseconds scrollingPause{20};
 constexpr int roomForSortSign = 12; ///< beside a header's text, in pixels
+
+/** On each side of a cell's text, so that texts of neighbouring columns don't touch. */
+constexpr int airAroundText = 2;
+
+/** Draws cells with air around their texts, on a ground that goes from edge to edge. */
+class AiryDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem ground = option;
+        initStyleOption(&ground, index);
+        option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &ground, painter, option.widget);
+        QStyleOptionViewItem cell = option;
+        cell.rect.adjust(airAroundText, 0, -airAroundText, 0);
+        QStyledItemDelegate::paint(painter, cell, index);
+    }
+};
 
 /** Of the shown columns' widths, in average characters. */
 int widthInCharacters(LibraryColumn column) {
@@ -36,6 +58,13 @@ int widthInCharacters(LibraryColumn column) {
     }
 }
 
+/** Of a whole date and what is around it. */
+int dateWidth(const QFontMetrics& metrics) {
+    constexpr std::int64_t lateInAutumn = 1797721199; // 2026, as long as dates are where months have names
+    const int margins = 4 * airAroundText + metrics.averageCharWidth();
+    return metrics.horizontalAdvance(createdText({lateInAutumn, 0})) + margins;
+}
+
 } // namespace
 
 LibraryView::LibraryView(LibraryModel& model, QWidget* parent) : QTableView(parent), model_(model) {
@@ -43,6 +72,7 @@ LibraryView::LibraryView(LibraryModel& model, QWidget* parent) : QTableView(pare
     setAccessibleName(localised("Library"));
     setToolTip(localised("The listed files and what their tags say"));
     setModel(&model_);
+    setItemDelegate(new AiryDelegate(this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(EditKeyPressed | DoubleClicked);
@@ -76,7 +106,9 @@ void LibraryView::setUpHeader() {
     for (const LibraryColumn column : libraryColumns()) {
         const int section = static_cast<int>(column);
         const int usual = widthInCharacters(column) * fontMetrics().averageCharWidth();
-        header.resizeSection(section, std::max(usual, header.sectionSizeHint(section) + roomForSortSign));
+        const int least = column == LibraryColumn::date ? dateWidth(fontMetrics()) : 0;
+        header.resizeSection(section,
+                             std::max({usual, least, header.sectionSizeHint(section) + roomForSortSign}));
         header.setSectionHidden(section, !isShownAtFirst(column));
     }
     connect(&header, &QHeaderView::sectionClicked, this, [this](int section) {

@@ -5,6 +5,7 @@
 #include "platform/localisation.h"
 #include "platform/symbol.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLocale>
 #include <QScrollArea>
@@ -151,8 +152,15 @@ void LibraryWindow::updateCommands() {
     undoAction_->setEnabled(!undo_.empty());
 }
 
-void LibraryWindow::revert() {
+void LibraryWindow::takeTyped() {
     panel_->flush();
+    if (view_->viewport()->isAncestorOf(QApplication::focusWidget())) {
+        view_->setFocus(); // a cell that loses the keyboard is done with
+    }
+}
+
+void LibraryWindow::revert() {
+    takeTyped();
     std::vector<int> files = view_->selectedFiles();
     if (files.empty()) {
         files = model_.rows().editedRows();

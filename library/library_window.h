@@ -40,6 +40,8 @@ public:
     void setMayWrite(std::function<bool(const QStringList& paths)> mayWrite) {
         mayWrite_ = std::move(mayWrite);
     }
+    /** What is being typed, in the panel or in a cell, becomes an edit now. */
+    void takeTyped();
     /** Whether there are edits that are in no file. */
     [[nodiscard]] bool hasEdits() const { return model_.rows().editedCount() > 0; }
     /** Whether files are being written. */
@@ -101,6 +103,7 @@ private:
     void copyRows() { copy(false); }
     void copyColumn() { copy(true); }
     void exportTable();
+    void exportAndTell(const QString& path);
     void openSelected();
     void showInFolder();
     void copyPaths();

@@ -31,7 +31,7 @@ std::vector<ApplyItem> LibraryWindow::items() const {
 }
 
 void LibraryWindow::apply() {
-    panel_->flush();
+    takeTyped();
     const std::vector<ApplyItem> all = items();
     if (isWriting() || all.empty() || (mayWrite_ && !mayWrite_(pathsOf(all)))) {
         return;
@@ -72,7 +72,7 @@ void LibraryWindow::applyEnded(const std::vector<ApplyResult>& results) {
 }
 
 void LibraryWindow::undoApply() {
-    panel_->flush();
+    takeTyped();
     if (isWriting() || undo_.empty()) {
         return;
     }

@@ -42,6 +42,17 @@ QVariant exportValue(const LibraryRow& row, const RowEdits* edits, LibraryColumn
     return text.isEmpty() ? QVariant() : QVariant(text);
 }
 
+/** The name in PANEL gets the extension of the chosen KIND, as the panel's filters have it. */
+void giveKind(QFileDialog& panel, const QString& kind) {
+    const QString extension =
+        kind.startsWith(QLatin1String("JSON")) ? QStringLiteral("json") : QStringLiteral("csv");
+    panel.setDefaultSuffix(extension);
+    const QString name = lastPathComponent(panel.selectedFiles().value(0));
+    if (!name.isEmpty()) {
+        panel.selectFile(pathWithoutExtension(name) + u'.' + extension);
+    }
+}
+
 } // namespace
 
 QStringList LibraryWindow::selectedPaths() const {
@@ -100,7 +111,7 @@ void LibraryWindow::paste() {
     }
     model_.setEdits(all);
     if (refused > 0) {
-        statusBar()->showMessage(localised("%@ cells can't take what was pasted",
+        statusBar()->showMessage(localised("Cells that can't take what was pasted: %@",
                                            QLocale().toString(static_cast<qulonglong>(refused))),
                                  messageMilliseconds);
     }
@@ -125,11 +136,23 @@ bool LibraryWindow::exportTo(const QString& path) {
     return (json ? exportJson(table, file) : exportCsv(table, file)) && file.commit();
 }
 
+/** Asks where to. The chosen kind gives the name its extension, before the panel asks about a file that has that name. */
 void LibraryWindow::exportTable() {
-    const QString path =
-        QFileDialog::getSaveFileName(this, localised("Export"), QStringLiteral("library.csv"),
-                                     QStringLiteral("CSV (*.csv);;JSON (*.json)"));
-    if (!path.isEmpty() && !exportTo(path)) {
+    auto* const panel =
+        new QFileDialog(this, localised("Export"), QString(), QStringLiteral("CSV (*.csv);;JSON (*.json)"));
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setWindowModality(Qt::WindowModal);
+    panel->setAcceptMode(QFileDialog::AcceptSave);
+    panel->setDefaultSuffix(QStringLiteral("csv"));
+    panel->selectFile(QStringLiteral("library.csv"));
+    connect(panel, &QFileDialog::filterSelected, panel,
+            [panel](const QString& kind) { giveKind(*panel, kind); });
+    connect(panel, &QFileDialog::fileSelected, this, &LibraryWindow::exportAndTell);
+    panel->open();
+}
+
+void LibraryWindow::exportAndTell(const QString& path) {
+    if (!exportTo(path)) {
         presentErrorSheet({NSMachErrorDomain,
                            0,
                            {{NSLocalizedDescriptionKey, localised("The table could not be exported.")},

@@ -24,6 +24,7 @@ using Use = NamePattern::Use;
 /** So many rows are made at once; more are made beside the main thread. */
 constexpr std::size_t fewRows = 300;
 constexpr qsizetype longestHistory = 20;
+constexpr int rowsMeasured = 100;
 
 constexpr std::array places = {"title", "artist", "album", "director", "genre", "year", "rating", "synopsis"};
 
@@ -208,6 +209,9 @@ void NamesDialog::take(std::vector<NamesPreviewRow> rows) {
     for (int column = 0; column < columns; ++column) {
         preview_->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
     }
+    // What is wrong with a file is read whole; the others share the rest.
+    preview_->horizontalHeader()->setResizeContentsPrecision(rowsMeasured);
+    preview_->horizontalHeader()->setSectionResizeMode(columns - 1, QHeaderView::ResizeToContents);
     const int applying = model_.applying();
     const auto failing =
         std::count_if(model_.rows().begin(), model_.rows().end(), [](const auto& row) { return row.fails; });

@@ -1155,10 +1155,6 @@
         <translation>%@ pro Sekunde</translation>
     </message>
     <message>
-        <source>%@ cells can&#x27;t take what was pasted</source>
-        <translation>%@ Zellen können das Eingefügte nicht aufnehmen</translation>
-    </message>
-    <message>
         <source>%@ changed since and left alone</source>
         <translation>%@ inzwischen geändert und nicht angerührt</translation>
     </message>
@@ -1525,6 +1521,10 @@
     <message>
         <source>Locate &quot;%@&quot;</source>
         <translation>„%@“ suchen</translation>
+    </message>
+    <message>
+        <source>Cells that can't take what was pasted: %@</source>
+        <translation>Zellen, die das Eingefügte nicht aufnehmen können: %@</translation>
     </message>
 </context>
 <context>

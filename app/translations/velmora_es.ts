@@ -1155,10 +1155,6 @@
         <translation>%@ por segundo</translation>
     </message>
     <message>
-        <source>%@ cells can&#x27;t take what was pasted</source>
-        <translation>%@ celdas no admiten lo pegado</translation>
-    </message>
-    <message>
         <source>%@ changed since and left alone</source>
         <translation>%@ modificados entretanto y sin tocar</translation>
     </message>
@@ -1525,6 +1521,10 @@
     <message>
         <source>Locate &quot;%@&quot;</source>
         <translation>Localizar «%@»</translation>
+    </message>
+    <message>
+        <source>Cells that can't take what was pasted: %@</source>
+        <translation>Celdas que no admiten lo pegado: %@</translation>
     </message>
 </context>
 <context>

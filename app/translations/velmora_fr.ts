@@ -1155,10 +1155,6 @@
         <translation>%@ par seconde</translation>
     </message>
     <message>
-        <source>%@ cells can&#x27;t take what was pasted</source>
-        <translation>%@ cellules n’acceptent pas ce qui a été collé</translation>
-    </message>
-    <message>
         <source>%@ changed since and left alone</source>
         <translation>%@ modifiés depuis et laissés tels quels</translation>
     </message>
@@ -1525,6 +1521,10 @@
     <message>
         <source>Locate &quot;%@&quot;</source>
         <translation>Localiser « %@ »</translation>
+    </message>
+    <message>
+        <source>Cells that can't take what was pasted: %@</source>
+        <translation>Cellules qui ne peuvent pas recevoir ce qui a été collé : %@</translation>
     </message>
 </context>
 <context>

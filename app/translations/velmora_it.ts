@@ -1155,10 +1155,6 @@
         <translation>%@ al secondo</translation>
     </message>
     <message>
-        <source>%@ cells can&#x27;t take what was pasted</source>
-        <translation>%@ celle non accettano ciò che è stato incollato</translation>
-    </message>
-    <message>
         <source>%@ changed since and left alone</source>
         <translation>%@ modificati nel frattempo e lasciati così</translation>
     </message>
@@ -1525,6 +1521,10 @@
     <message>
         <source>Locate &quot;%@&quot;</source>
         <translation>Trova “%@”</translation>
+    </message>
+    <message>
+        <source>Cells that can't take what was pasted: %@</source>
+        <translation>Celle che non possono contenere ciò che è stato incollato: %@</translation>
     </message>
 </context>
 <context>

@@ -1154,10 +1154,6 @@
         <translation>毎秒 %@</translation>
     </message>
     <message>
-        <source>%@ cells can&#x27;t take what was pasted</source>
-        <translation>%@ 個のセルには貼り付けられません</translation>
-    </message>
-    <message>
         <source>%@ changed since and left alone</source>
         <translation>%@ 件はその後変更されたためそのまま</translation>
     </message>
@@ -1524,6 +1520,10 @@
     <message>
         <source>Locate &quot;%@&quot;</source>
         <translation>「%@」を探す</translation>
+    </message>
+    <message>
+        <source>Cells that can't take what was pasted: %@</source>
+        <translation>貼り付けた内容を入れられないセル: %@</translation>
     </message>
 </context>
 <context>

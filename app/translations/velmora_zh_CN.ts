@@ -1154,10 +1154,6 @@
         <translation>每秒 %@</translation>
     </message>
     <message>
-        <source>%@ cells can&#x27;t take what was pasted</source>
-        <translation>%@ 个单元格无法接受粘贴的内容</translation>
-    </message>
-    <message>
         <source>%@ changed since and left alone</source>
         <translation>%@ 个其间有改动，保持原样</translation>
     </message>
@@ -1524,6 +1520,10 @@
     <message>
         <source>Locate &quot;%@&quot;</source>
         <translation>查找“%@”</translation>
+    </message>
+    <message>
+        <source>Cells that can't take what was pasted: %@</source>
+        <translation>无法接受所粘贴内容的单元格：%@</translation>
     </message>
 </context>
 <context>

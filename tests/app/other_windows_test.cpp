@@ -64,7 +64,8 @@ protected:
         ASSERT_TRUE(waitUntil(
             [this] { return library().model().rowCount() == 2 && library().model().unread() == 0; }));
         library().view().selectAll();
-        QTest::qWait(100); // until the panel shows them
+        const auto* const cover = library().findChild<QWidget*>("img_covers");
+        ASSERT_TRUE(waitUntil([cover] { return cover->isEnabled(); })); // the panel shows them
         library().panel().setCover(ImageRef::fromQImage(test::plain({30, 20})));
         ASSERT_TRUE(waitUntil([this] { return library().hasEdits(); }));
         settle();
@@ -114,9 +115,22 @@ TEST_P(OtherWindowsTest, EveryColumnOfTheLibraryTable) {
     EXPECT_EQ(QStringList(), test::cutTexts(library()));
 }
 
+TEST_P(OtherWindowsTest, DatesInTheLibraryTableAreWhole) {
+    openLibrary();
+    const LibraryView& view = library().view();
+    const QModelIndex date = library().model().index(0, static_cast<int>(LibraryColumn::date));
+    EXPECT_NE("", date.data().toString());
+    EXPECT_GE(view.columnWidth(date.column()), view.sizeHintForIndex(date).width() + 4);
+}
+
 TEST_P(OtherWindowsTest, TagsFromNames) {
     openLibrary();
-    judge(dialogBy<NamesDialog>(Qt::Key_T), "tags-from-names");
+    auto& dialog = dialogBy<NamesDialog>(Qt::Key_T);
+    judge(dialog, "tags-from-names");
+    const auto& view = *dialog.findChild<QTableView*>();
+    const QModelIndex note = view.model()->index(0, view.model()->columnCount() - 1);
+    EXPECT_NE("", note.data().toString());
+    EXPECT_GE(view.columnWidth(note.column()), view.sizeHintForIndex(note).width());
 }
 
 TEST_P(OtherWindowsTest, NamesFromTags) {
