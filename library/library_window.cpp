@@ -87,6 +87,7 @@ void LibraryWindow::makeLayout() {
     status_ = new QLabel(this);
     status_->setObjectName(QStringLiteral("lbl_libraryStatus"));
     status_->setTextFormat(Qt::PlainText);
+    status_->setContentsMargins(6, 0, 0, 0); // below the filter's label, as messages are
     statusBar()->addWidget(status_, 1);
 }
 
