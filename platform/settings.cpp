@@ -16,7 +16,7 @@ namespace {
 
 /** No window is larger, and no file that the program wrote. */
 constexpr int mostPixels = 100'000;
-constexpr qint64 mostBytes = 64 * 1024;
+constexpr qint64 mostBytes = qint64{64} * 1024;
 
 const QString portableTagsKey = QStringLiteral("portableTags");
 const QString sizeKey = QStringLiteral("layout/size");
