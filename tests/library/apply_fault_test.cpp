@@ -128,6 +128,13 @@ protected:
         new_ = contents();
     }
     std::vector<ApplyResult> undo() { return undoStep(undo_, {}, kept_); }
+    /** How many system calls an undo of all songs makes. */
+    std::size_t callsOfAnUndo() {
+        writeAndApply();
+        CallFaults faults;
+        static_cast<void>(undo());
+        return faults.records().size();
+    }
     /** What is in each song. */
     std::vector<std::string> contents() {
         std::vector<std::string> all;
@@ -188,13 +195,7 @@ std::vector<bool> differences(const std::vector<std::string>& one, const std::ve
 }
 
 TEST_F(UndoFaultTest, KilledInTheMiddleEachFileIsOldOrNew) {
-    writeAndApply();
-    std::size_t calls = 0;
-    {
-        CallFaults faults;
-        static_cast<void>(undo());
-        calls = faults.records().size();
-    }
+    const std::size_t calls = callsOfAnUndo();
     for (std::size_t nth = calls / 2; nth < calls / 2 + calls / count; ++nth) {
         writeAndApply();
         const pid_t child = ::fork();
@@ -251,13 +252,7 @@ TEST_F(UndoFaultTest, OnADiskThatIsFullFromOneMomentOnAnApplyTellsTheTruthAndIsT
 }
 
 TEST_F(UndoFaultTest, OnADiskThatIsFullFromOneMomentOnAnUndoTellsTheTruthAndGoesOnLater) {
-    writeAndApply();
-    std::size_t calls = 0;
-    {
-        CallFaults faults;
-        static_cast<void>(undo());
-        calls = faults.records().size();
-    }
+    const std::size_t calls = callsOfAnUndo();
     for (std::size_t nth = calls / 2; nth < calls / 2 + calls / count; ++nth) {
         writeAndApply();
         std::vector<ApplyResult> results;
