@@ -1,11 +1,12 @@
 """asf.py VELMORA_TAG KIND: files of KIND (wma, wmv) by ffmpeg and mutagen, each field set, changed, shortened and deleted; mutagen and
-ffprobe read the asked value, mutagen finds everything else as it was, and ffmpeg the same streams."""
-import json
+ffmpeg read the asked value, mutagen finds everything else as it was, and ffmpeg the same streams."""
 import pathlib
 import struct
 import subprocess
 import sys
 import tempfile
+
+from probing import Probing
 
 from mutagen.asf import (ASF, ASFBoolAttribute, ASFByteArrayAttribute, ASFDWordAttribute, ASFGUIDAttribute,
                          ASFQWordAttribute, ASFUnicodeAttribute)
@@ -14,7 +15,7 @@ velmora_tag, kind = sys.argv[1:]
 JPEG = b"\xff\xd8\xff\xe0" + bytes(range(256)) * 4
 LARGE_JPEG = b"\xff\xd8\xff\xe0" + bytes(range(256)) * 1200
 
-# option: the attributes that are its places, what ffprobe calls it, and its values: set, changed, shortened
+# option: the attributes that are its places, what ffmpeg calls it, and its values: set, changed, shortened
 COMMON = {
     "title": ({"Title", "title"}, "title", ["Harbour", "Evening at the harbour", "Eve"]),
     "synopsis": ({"Description"}, "comment", ["A ship", "A ship comes in at dusk \u00e4\u6f22\U0001f3ac", "Sea"]),
@@ -75,14 +76,6 @@ def others(path, places):
     return [attribute for attribute in attributes(path) if attribute[0] not in places]
 
 
-def probed(path):
-    return json.loads(run("ffprobe", "-v", "error", "-show_entries", "format_tags", "-of", "json", str(path)))["format"].get("tags", {})
-
-
-def streams(path):
-    return run("ffmpeg", "-v", "error", "-i", str(path), "-map", "0:a?", "-map", "0:V?", "-c", "copy", "-f", "streamhash", "-")
-
-
 def check(found, expected, what):
     if found != expected:
         sys.exit(f"{what}: {found!r} where {expected!r} was expected")
@@ -101,7 +94,7 @@ def check_field(path, option, places, probe_name, values):
         tag(f"--{option}", value, path)
         texts = {attribute[2] for attribute in attributes(path) if attribute[0] in places}
         check(texts, {value} if value else set(), f"mutagen, {what}")
-        check(probed(path).get(probe_name), value or None, f"ffprobe, {what}")
+        probing.expect_tag(probing.state(path), probe_name, value or None, what)
         check(others(path, places), before, f"the rest of {what}")
         check(file_size_field(path), path.stat().st_size, f"file properties of {what}")
 
@@ -122,7 +115,8 @@ def check_cover(path, folder):
     check(attributes(path), before, f"{path.name} without cover")
 
 
-with tempfile.TemporaryDirectory() as name:
+with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as states:
+    probing = Probing(pathlib.Path(states))
     folder = pathlib.Path(name)
     bare = folder / f"bare.{kind}"
     make(bare)
@@ -132,8 +126,9 @@ with tempfile.TemporaryDirectory() as name:
     make(furnished, "title=Old", "comment=Old", "encoded_by=Nobody")
     furnish(furnished)
     for path in (bare, tagged, furnished):
-        media = streams(path)
+        media = probing.state(path)
         for option, (places, probe_name, values) in FIELDS[kind].items():
             check_field(path, option, places, probe_name, values)
         check_cover(path, folder)
-        check(streams(path), media, f"the streams of {path.name}")
+        probing.expect_streams(probing.state(path), media, f"the streams of {path.name}")
+    probing.finish()

@@ -1,11 +1,12 @@
 """boxes.py VELMORA_TAG KIND: files of KIND (m4a, mp4, mov, avi, wav, aiff) by ffmpeg and mutagen, each field set, changed, shortened and
-deleted; mutagen and ffprobe read the asked value, everything else is as it was, and ffmpeg finds the same streams."""
-import json
+deleted; mutagen and ffmpeg read the asked value, everything else is as it was, and ffmpeg finds the same streams."""
 import pathlib
 import struct
 import subprocess
 import sys
 import tempfile
+
+from probing import Probing
 
 from mutagen.aiff import AIFF
 from mutagen.id3 import APIC, COMM, PRIV, TXXX, USLT
@@ -23,7 +24,7 @@ TEXTS = {
 }
 RATINGS = {"PG": "mpaa|PG|200|", "PG-13": "mpaa|PG-13|300|", "R": "mpaa|R|400|", "": ""}
 FREE = "----:com.apple.iTunes:"
-# option: the items that are its places, and what ffprobe calls it
+# option: the items that are its places, and what ffmpeg calls it
 MP4_FIELDS = {
     "title": (["\u00a9nam"], "title"), "synopsis": (["ldes", "desc"], "synopsis"), "genre": (["\u00a9gen", "gnre"], "genre"),
     "year": (["\u00a9day"], "date"),
@@ -124,14 +125,6 @@ def items(path):
     return found
 
 
-def probed(path):
-    return json.loads(run("ffprobe", "-v", "error", "-show_entries", "format_tags", "-of", "json", str(path)))["format"].get("tags", {})
-
-
-def streams(path):
-    return run("ffmpeg", "-v", "error", "-i", str(path), "-map", "0:a?", "-map", "0:V?", "-c", "copy", "-f", "streamhash", "-")
-
-
 def check(found, expected, what):
     if found != expected:
         sys.exit(f"{what}: {found!r} where {expected!r} was expected")
@@ -151,7 +144,7 @@ def check_field(path, option):
         found = {name: text for name, text in items(path).items() if name in places}
         expected = {name: written[:255] if name == "desc" else written for name in places if name != "gnre"} if value else {}
         check(found, expected, f"mutagen, {what}")
-        check(probed(path).get(probe_name), written or None, f"ffprobe, {what}")
+        probing.expect_tag(probing.state(path), probe_name, written or None, what)
         check(others(path, places), before, f"the rest of {what}")
 
 
@@ -191,7 +184,7 @@ def shapes(folder):
     yield make(folder / f"bare.{kind}"), kind in ("wav", "aiff")
     furnished = make(folder / f"furnished.{kind}", metadata=old)
     furnish(furnished)
-    yield furnished, kind not in ("wav", "aiff")   # there ffprobe reads other texts, too
+    yield furnished, kind not in ("wav", "aiff")   # there ffmpeg reads other texts, too
     if kind in ("m4a", "mp4", "mov"):
         yield make(folder / f"in_front.{kind}", "-movflags", "faststart", metadata=old), False
     if kind in ("mp4", "mov"):
@@ -202,10 +195,12 @@ def shapes(folder):
         yield make(folder / "segments.mp4", "-movflags", "frag_keyframe+empty_moov+default_base_moof+dash+global_sidx", metadata=old), False
 
 
-with tempfile.TemporaryDirectory() as name:
+with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as states:
+    probing = Probing(pathlib.Path(states))
     for path, every_field in shapes(pathlib.Path(name)):
-        media = streams(path)
+        media = probing.state(path)
         for option in FIELDS if every_field else ["title", "year"]:
             check_field(path, option)
         check_cover(path, pathlib.Path(name))
-        check(streams(path), media, f"the streams of {path.name}")
+        probing.expect_streams(probing.state(path), media, f"the streams of {path.name}")
+    probing.finish()

@@ -1,11 +1,12 @@
 """xiph.py VELMORA_TAG KIND: files of KIND (flac, ogg, opus) by ffmpeg and mutagen, each field set, changed, shortened and
-deleted; mutagen and ffprobe read the asked value, mutagen finds everything else as it was, and ffmpeg the same stream."""
+deleted; mutagen and ffmpeg read the asked value, mutagen finds everything else as it was, and ffmpeg the same stream."""
 import base64
-import json
 import pathlib
 import subprocess
 import sys
 import tempfile
+
+from probing import Probing
 
 import mutagen
 from mutagen.flac import Picture
@@ -13,7 +14,7 @@ from mutagen.flac import Picture
 velmora_tag, kind = sys.argv[1:]
 JPEG = b"\xff\xd8\xff\xe0" + bytes(range(256)) * 4
 
-# option: its comment, what ffprobe calls it, and its values: set, changed, shortened
+# option: its comment, what ffmpeg calls it, and its values: set, changed, shortened
 FIELDS = {
     "title": ("title", "title", ["Harbour", "Evening at the harbour \u00e4\u6f22\U0001f3ac", "Eve"]),
     "artist": ("artist", "ARTIST", ["Ada", "Ada and B\u00f6", "Al"]),
@@ -79,32 +80,24 @@ def others(path, key):
     return [comment for comment in comments if comment[0] != key], *rest
 
 
-def probed(path):
-    found = json.loads(run("ffprobe", "-v", "error", "-show_entries", "format_tags:stream_tags", "-of", "json", str(path)))
-    tags = {**found["streams"][0].get("tags", {}), **found["format"].get("tags", {})}
-    return {name.lower(): value for name, value in tags.items()}
-
-
-def stream(path):
-    return run("ffmpeg", "-v", "error", "-i", str(path), "-map", "0:a", "-c", "copy", "-f", "streamhash", "-")
-
-
-with tempfile.TemporaryDirectory() as name:
+with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as states:
+    probing = Probing(pathlib.Path(states), with_stream_tags=True)
     folder = pathlib.Path(name)
     path = folder / ("song." + kind)
     codec = {"flac": "flac", "ogg": "libvorbis", "opus": "libopus"}[kind]
     run("ffmpeg", "-v", "error", "-f", "lavfi", "-i", "anoisesrc=d=8", "-ac", "2", "-c:a", codec, "-metadata", "title=Old", str(path))
     furnish(path)
-    media = stream(path)
+    media = probing.state(path)
     for option, (key, probe_name, texts) in FIELDS.items():
         before = others(path, key)
         for text in [*texts, ""]:
             what = f"--{option} {text[:40]!r}"
             tag(f"--{option}", text, path)
             check([value for name_, value in everything(path)[0] if name_ == key], [text] if text else [], f"mutagen, {what}")
-            check(probed(path).get(probe_name.lower()), text or None, f"ffprobe, {what}")
+            state = probing.state(path)
+            probing.expect_tag(state, probe_name.lower(), text or None, what)
             check(others(path, key), before, f"the rest, {what}")
-            check(stream(path), media, f"the stream, {what}")
+            probing.expect_streams(state, media, f"the stream, {what}")
         tag(f"--{option}", texts[0], path)
     cover = folder / "cover.jpg"
     run("ffmpeg", "-v", "error", "-y", "-f", "lavfi", "-i", "testsrc=s=64x48", "-frames:v", "1", str(cover))
@@ -114,10 +107,11 @@ with tempfile.TemporaryDirectory() as name:
         cover.write_bytes(data)
         tag("--cover", cover, path)
         check(pictures(path), [(4, "image/jpeg", "back", JPEG), (3, "image/jpeg", "small", data)], "the pictures")
-        check(stream(path), media, "the stream with a cover")
+        probing.expect_streams(probing.state(path), media, "the stream with a cover")
     tag("--no-cover", path)
     check(pictures(path), [(4, "image/jpeg", "back", JPEG)], "the pictures without a cover")
     check(everything(path)[0], before, "the comments without a cover")
-    check(stream(path), media, "the stream without a cover")
+    probing.expect_streams(probing.state(path), media, "the stream without a cover")
+    probing.finish()
     run("ffmpeg", "-v", "error", "-xerror", "-i", str(path), "-map", "0:a", "-f", "null", "-")
     check({p.name for p in folder.iterdir()}, {"song." + kind, "cover.jpg"}, "left behind")
