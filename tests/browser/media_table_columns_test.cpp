@@ -130,7 +130,7 @@ TEST_F(MediaTableColumnsTest, DatesAreDrawnWithoutAnEllipsis) {
     view_.setColumnWidth(createdColumn, 2 * dateWidth);
     runLoop();
     for (int row = 0; row < dates.size(); ++row) {
-        EXPECT_EQ(drawn(row, createdColumn, dateWidth), whole[row]) << dates[row].toStdString();
+        EXPECT_EQ(whole[row], drawn(row, createdColumn, dateWidth)) << dates[row].toStdString();
     }
 }
 

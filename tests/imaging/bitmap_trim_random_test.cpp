@@ -198,8 +198,8 @@ TEST(BitmapTrimAgainstThePlainLoop, EveryPlaceOfASinglePixelAgrees) {
             image.pixels[place] = 0x40404066; // 38 away in the lowest lane
             const TrimOutcome expected = plainTrim(image);
             const TrimOutcome actual = trim(image);
-            ASSERT_EQ(actual.output, expected.output) << width << " wide, pixel " << place;
-            ASSERT_EQ(actual.bitmap, expected.bitmap) << width << " wide, pixel " << place;
+            ASSERT_EQ(expected.output, actual.output) << width << " wide, pixel " << place;
+            ASSERT_EQ(expected.bitmap, actual.bitmap) << width << " wide, pixel " << place;
         }
     }
 }

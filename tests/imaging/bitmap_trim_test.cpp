@@ -131,7 +131,7 @@ TEST(BitmapTrim, ADifferenceDoesNotWrapAround) {
     TestBitmap bitmap(4, 4, 0x00000000);
     bitmap.at(1, 1) = 0x000000ff;
     ASSERT_TRUE(trim(bitmap).bitmap);
-    EXPECT_EQ(trim(bitmap).bitmap->pixels, std::vector<std::uint32_t>{0x000000ff});
+    EXPECT_EQ(std::vector<std::uint32_t>{0x000000ff}, trim(bitmap).bitmap->pixels);
 }
 
 TEST(BitmapTrim, DifferencesOfSeveralLanesAreNotAddedUp) {
@@ -147,7 +147,7 @@ TEST(BitmapTrim, AlphaIsALaneLikeTheOthers) {
     bitmap.fill(1, 2, 3, 3, 0x26000000);
     const TrimOutcome outcome = trim(bitmap);
     ASSERT_TRUE(outcome.bitmap);
-    EXPECT_EQ(*outcome.bitmap, TestBitmap(3, 3, 0x26000000));
+    EXPECT_EQ(TestBitmap(3, 3, 0x26000000), *outcome.bitmap);
 }
 
 TEST(BitmapTrim, TheBorderColourIsTheTopLeftPixelAndNoAverage) {
@@ -158,7 +158,7 @@ TEST(BitmapTrim, TheBorderColourIsTheTopLeftPixelAndNoAverage) {
     bitmap.at(3, 3) = 0x00000036;
     const TrimOutcome outcome = trim(bitmap);
     ASSERT_TRUE(outcome.bitmap);
-    EXPECT_EQ(outcome.bitmap->pixels, std::vector<std::uint32_t>{0x00000036});
+    EXPECT_EQ(std::vector<std::uint32_t>{0x00000036}, outcome.bitmap->pixels);
 }
 
 // Boxes
@@ -184,7 +184,7 @@ TEST(BitmapTrim, AUniformColumnGivesNull) {
 TEST(BitmapTrim, AnImageOfOnePixelComesBackAsACopy) {
     const TrimOutcome outcome = trim(TestBitmap(1, 1, 0x12345678));
     ASSERT_TRUE(outcome.bitmap);
-    EXPECT_EQ(*outcome.bitmap, TestBitmap(1, 1, 0x12345678));
+    EXPECT_EQ(TestBitmap(1, 1, 0x12345678), *outcome.bitmap);
     EXPECT_EQ("width=1, height=1\n"
               "corners: 0x12345678  0x12345678  0x12345678  0x12345678\n"
               "corners match (0x12345678)\n"
@@ -198,7 +198,7 @@ TEST(BitmapTrim, ABorderOnEverySideIsCutOff) {
     bitmap.fill(10, 10, 80, 80, red);
     const TrimOutcome outcome = trim(bitmap);
     ASSERT_TRUE(outcome.bitmap);
-    EXPECT_EQ(*outcome.bitmap, TestBitmap(80, 80, red));
+    EXPECT_EQ(TestBitmap(80, 80, red), *outcome.bitmap);
 }
 
 TEST(BitmapTrim, RowsAreCopiedFromTheBoxInTheirOrder) {
@@ -209,8 +209,8 @@ TEST(BitmapTrim, RowsAreCopiedFromTheBoxInTheirOrder) {
     bitmap.at(2, 2) = 0x44444483;
     const TrimOutcome outcome = trim(bitmap);
     ASSERT_TRUE(outcome.bitmap);
-    EXPECT_EQ(outcome.bitmap->pixels,
-              (std::vector<std::uint32_t>{0x11111180, 0x22222281, 0x33333382, 0x44444483}));
+    EXPECT_EQ((std::vector<std::uint32_t>{0x11111180, 0x22222281, 0x33333382, 0x44444483}),
+              outcome.bitmap->pixels);
 }
 
 TEST(BitmapTrim, ContentThatTouchesTheTopEdgeKeepsRowZero) {
@@ -218,7 +218,7 @@ TEST(BitmapTrim, ContentThatTouchesTheTopEdgeKeepsRowZero) {
     bitmap.fill(2, 0, 6, 7, red);
     const TrimOutcome outcome = trim(bitmap);
     ASSERT_TRUE(outcome.bitmap);
-    EXPECT_EQ(*outcome.bitmap, TestBitmap(6, 7, red));
+    EXPECT_EQ(TestBitmap(6, 7, red), *outcome.bitmap);
     EXPECT_THAT(outcome.output, HasSubstr("x0=2, x1=7, y0=0, y1=6\n"));
 }
 
@@ -227,7 +227,7 @@ TEST(BitmapTrim, ContentThatTouchesTheSidesIsKept) {
     bitmap.fill(0, 3, 40, 4, red);
     const TrimOutcome outcome = trim(bitmap);
     ASSERT_TRUE(outcome.bitmap);
-    EXPECT_EQ(*outcome.bitmap, TestBitmap(40, 4, red));
+    EXPECT_EQ(TestBitmap(40, 4, red), *outcome.bitmap);
 }
 
 TEST(BitmapTrim, AFrameOnTheLeftOnlyIsCutOff) {
@@ -258,7 +258,7 @@ TEST(BitmapTrim, BorderColourInsideThePictureIsKept) {
     expected.fill(2, 2, 4, 4, black);
     const TrimOutcome outcome = trim(bitmap);
     ASSERT_TRUE(outcome.bitmap);
-    EXPECT_EQ(*outcome.bitmap, expected);
+    EXPECT_EQ(expected, *outcome.bitmap);
 }
 
 TEST(BitmapTrim, ABoxOfTheWholeImageIsASuccessWithABufferOfItsOwn) {
@@ -280,7 +280,7 @@ TEST(BitmapTrim, ThePixelsPassedInAreNotModified) {
     bitmap.fill(5, 5, 20, 20, red);
     const TestBitmap before = bitmap;
     ASSERT_TRUE(trim(bitmap).bitmap);
-    EXPECT_EQ(bitmap, before);
+    EXPECT_EQ(before, bitmap);
 }
 
 // The sixteenth
@@ -290,7 +290,7 @@ TEST(BitmapTrim, ABoxOfASixteenthIsKept) {
     bitmap.fill(30, 30, 25, 25, red); // 625 of 10000
     const TrimOutcome outcome = trim(bitmap);
     ASSERT_TRUE(outcome.bitmap);
-    EXPECT_EQ(*outcome.bitmap, TestBitmap(25, 25, red));
+    EXPECT_EQ(TestBitmap(25, 25, red), *outcome.bitmap);
 }
 
 TEST(BitmapTrim, ABoxUnderASixteenthGivesNullAfterTheBoundsLine) {

@@ -38,21 +38,21 @@ protected:
 TEST_F(CoverArtViewClipboard, CopyPutsTheImageOnTheClipboardAndKeepsIt) {
     view->setImage(plain(Qt::red));
     view->copy();
-    EXPECT_EQ(clipboardImage().convertToFormat(QImage::Format_RGB32), plain(Qt::red));
-    EXPECT_EQ(view->image(), plain(Qt::red));
+    EXPECT_EQ(plain(Qt::red), clipboardImage().convertToFormat(QImage::Format_RGB32));
+    EXPECT_EQ(plain(Qt::red), view->image());
 }
 
 TEST_F(CoverArtViewClipboard, CutPutsTheImageOnTheClipboardAndEmptiesTheView) {
     view->setImage(plain(Qt::red));
     view->cut();
-    EXPECT_EQ(clipboardImage().convertToFormat(QImage::Format_RGB32), plain(Qt::red));
+    EXPECT_EQ(plain(Qt::red), clipboardImage().convertToFormat(QImage::Format_RGB32));
     EXPECT_TRUE(view->image().isNull());
 }
 
 TEST_F(CoverArtViewClipboard, PasteShowsTheClipboardsImage) {
     QApplication::clipboard()->setImage(plain(Qt::green));
     view->paste();
-    EXPECT_EQ(view->image().convertToFormat(QImage::Format_RGB32), plain(Qt::green));
+    EXPECT_EQ(plain(Qt::green), view->image().convertToFormat(QImage::Format_RGB32));
 }
 
 TEST_F(CoverArtViewClipboard, PasteTakesAFileCopiedInAFileManager) {
@@ -70,13 +70,13 @@ TEST_F(CoverArtViewClipboard, PasteOfTextChangesNothing) {
     view->setImage(plain(Qt::red));
     QApplication::clipboard()->setText("some text");
     view->paste();
-    EXPECT_EQ(view->image(), plain(Qt::red));
+    EXPECT_EQ(plain(Qt::red), view->image());
 }
 
 TEST_F(CoverArtViewClipboard, PasteOfAnEmptyClipboardChangesNothing) {
     view->setImage(plain(Qt::red));
     view->paste();
-    EXPECT_EQ(view->image(), plain(Qt::red));
+    EXPECT_EQ(plain(Qt::red), view->image());
 }
 
 TEST_F(CoverArtViewClipboard, CutAndCopyOfNothingLeaveTheClipboardAlone) {

@@ -80,7 +80,7 @@ TEST_F(CoverArtViewDrawing, ADragThatEntersAndLeavesLeavesNoFrameBehind) {
     ASSERT_TRUE(drag.enter());
     EXPECT_TRUE(showsFrame(picture()));
     drag.leave();
-    EXPECT_EQ(picture(), before);
+    EXPECT_EQ(before, picture());
 }
 
 TEST_F(CoverArtViewDrawing, ADropLeavesNoFrameBehind) {
@@ -97,7 +97,7 @@ TEST_F(CoverArtViewDrawing, TheKeyboardFocusDrawsNoFrame) {
     view->clearFocus();
     const QImage before = picture();
     view->setFocus();
-    EXPECT_EQ(picture(), before);
+    EXPECT_EQ(before, picture());
 }
 
 TEST_F(CoverArtViewDrawing, AnImageThatFitsIsShownAtItsNominalSizeInTheMiddle) {
@@ -143,7 +143,7 @@ TEST_F(CoverArtViewDrawing, AnEmptyViewShowsAPlaceholder) {
     const QImage empty = picture();
     view->setImage(plain(Qt::red));
     view->setImage(QImage());
-    EXPECT_EQ(picture(), empty);
+    EXPECT_EQ(empty, picture());
     QPalette palette = view->palette();
     palette.setColor(QPalette::WindowText, Qt::magenta);
     view->setPalette(palette);

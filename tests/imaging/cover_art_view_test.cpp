@@ -52,7 +52,7 @@ protected:
 // Entering and leaving
 
 TEST_F(CoverArtViewDrag, IsIdleAtFirst) {
-    EXPECT_EQ(view->focusRingType(), Ring::None);
+    EXPECT_EQ(Ring::None, view->focusRingType());
 }
 
 TEST_F(CoverArtViewDrag, ADragOfFilesEntersAndIsLogged) {
@@ -61,7 +61,7 @@ TEST_F(CoverArtViewDrag, ADragOfFilesEntersAndIsLogged) {
     DragSession drag(*view, data);
     EXPECT_TRUE(drag.enter());
     EXPECT_EQ("in draggingEntered:\n", log->text());
-    EXPECT_EQ(view->focusRingType(), Ring::Default);
+    EXPECT_EQ(Ring::Default, view->focusRingType());
 }
 
 TEST_F(CoverArtViewDrag, AnswersWithACopyWhateverTheSourceProposes) {
@@ -105,7 +105,7 @@ TEST_F(CoverArtViewDrag, TextMayNotEnterAndIsNotLogged) {
     data.setText("some text");
     EXPECT_FALSE(DragSession(*view, data).enter());
     EXPECT_EQ("", log->text());
-    EXPECT_EQ(view->focusRingType(), Ring::None);
+    EXPECT_EQ(Ring::None, view->focusRingType());
 }
 
 TEST_F(CoverArtViewDrag, AWebAddressIsNoFile) {
@@ -120,21 +120,21 @@ TEST_F(CoverArtViewDrag, ASourceThatOnlyMovesItsDataMayEnterAndIsNotRobbed) {
     DragSession drag(*view, data, Qt::MoveAction);
     EXPECT_TRUE(drag.enter());
     EXPECT_EQ("in draggingEntered:\n", log->text());
-    EXPECT_EQ(view->focusRingType(), Ring::Default);
+    EXPECT_EQ(Ring::Default, view->focusRingType());
     EXPECT_TRUE(drag.move());
     EXPECT_NE(Qt::MoveAction, drag.action());
     EXPECT_TRUE(drag.drop());
     EXPECT_NE(Qt::MoveAction, drag.action()) << "the source would delete its file";
     EXPECT_EQ(QColor(Qt::red), view->image().pixelColor(0, 0));
     EXPECT_EQ(1U, receiver.calls.size());
-    EXPECT_EQ(view->focusRingType(), Ring::None);
+    EXPECT_EQ(Ring::None, view->focusRingType());
 }
 
 TEST_F(CoverArtViewDrag, ASourceThatOnlyLinksItsDataMayEnter) {
     QMimeData data;
     data.setUrls(fileUrls({"/nowhere/a.jpg"}));
     EXPECT_TRUE(DragSession(*view, data, Qt::LinkAction, Qt::LinkAction).enter());
-    EXPECT_EQ(view->focusRingType(), Ring::Default);
+    EXPECT_EQ(Ring::Default, view->focusRingType());
 }
 
 TEST_F(CoverArtViewDrag, LeavingIsLoggedAndEndsTheHovering) {
@@ -145,7 +145,7 @@ TEST_F(CoverArtViewDrag, LeavingIsLoggedAndEndsTheHovering) {
     ASSERT_TRUE(drag.move());
     drag.leave();
     EXPECT_EQ("in draggingEntered:\nin draggingExited:\n", log->text());
-    EXPECT_EQ(view->focusRingType(), Ring::None);
+    EXPECT_EQ(Ring::None, view->focusRingType());
     EXPECT_TRUE(receiver.calls.empty());
 }
 
@@ -158,7 +158,7 @@ TEST_F(CoverArtViewDrag, ADropIsLoggedStageByStage) {
 
 TEST_F(CoverArtViewDrag, ADroppedImageFileIsShown) {
     dropFiles({imageFile("a.png", Qt::red)});
-    EXPECT_EQ(view->image().convertToFormat(QImage::Format_RGB32), plain(Qt::red));
+    EXPECT_EQ(plain(Qt::red), view->image().convertToFormat(QImage::Format_RGB32));
 }
 
 TEST_F(CoverArtViewDrag, ADropTellsTheNewCoverOnceAfterImageAndStateAreSet) {
@@ -166,12 +166,12 @@ TEST_F(CoverArtViewDrag, ADropTellsTheNewCoverOnceAfterImageAndStateAreSet) {
     ASSERT_EQ(1U, receiver.calls.size());
     EXPECT_EQ(QColor(Qt::red), receiver.calls[0].image.pixelColor(0, 0));
     EXPECT_EQ(receiver.calls[0].shown, receiver.calls[0].image);
-    EXPECT_EQ(receiver.calls[0].ring, Ring::None);
+    EXPECT_EQ(Ring::None, receiver.calls[0].ring);
 }
 
 TEST_F(CoverArtViewDrag, ADropEndsTheHovering) {
     dropFiles({imageFile("a.png", Qt::red)});
-    EXPECT_EQ(view->focusRingType(), Ring::None);
+    EXPECT_EQ(Ring::None, view->focusRingType());
 }
 
 TEST_F(CoverArtViewDrag, ADropThatNobodyWaitsForSetsTheImage) {
@@ -184,10 +184,10 @@ TEST_F(CoverArtViewDrag, AFileThatIsNoImageLeavesTheImageAndStillTellsIt) {
     view->setImage(plain(Qt::blue));
     write_file(folder / "a.txt", "no image");
     dropFiles({folder / "a.txt"});
-    EXPECT_EQ(view->image(), plain(Qt::blue));
-    EXPECT_EQ(view->focusRingType(), Ring::None);
+    EXPECT_EQ(plain(Qt::blue), view->image());
+    EXPECT_EQ(Ring::None, view->focusRingType());
     ASSERT_EQ(1U, receiver.calls.size());
-    EXPECT_EQ(receiver.calls[0].image, plain(Qt::blue));
+    EXPECT_EQ(plain(Qt::blue), receiver.calls[0].image);
 }
 
 TEST_F(CoverArtViewDrag, ADropWithoutAnImageOnAnEmptyViewTellsOfNone) {
@@ -248,8 +248,8 @@ TEST_F(CoverArtViewDrag, AnImageOfAbsurdSizeIsNotLoaded) {
 TEST_F(CoverArtViewDrag, AnImageSetAsTheNewCoverIsShownAndTold) {
     view->changeImage(plain(Qt::red));
     ASSERT_EQ(1U, receiver.calls.size());
-    EXPECT_EQ(receiver.calls[0].image, plain(Qt::red));
-    EXPECT_EQ(receiver.calls[0].shown, plain(Qt::red));
+    EXPECT_EQ(plain(Qt::red), receiver.calls[0].image);
+    EXPECT_EQ(plain(Qt::red), receiver.calls[0].shown);
 }
 
 TEST_F(CoverArtViewDrag, AnImageThatIsOnlyShownIsNoNewCover) {
@@ -261,7 +261,7 @@ TEST_F(CoverArtViewDrag, TiffDataIsShown) {
     QMimeData data;
     data.setData("image/tiff", encoded(plain(Qt::red), "TIFF"));
     dropAll(data);
-    EXPECT_EQ(view->image().convertToFormat(QImage::Format_RGB32), plain(Qt::red));
+    EXPECT_EQ(plain(Qt::red), view->image().convertToFormat(QImage::Format_RGB32));
     EXPECT_EQ(1U, receiver.calls.size());
 }
 
@@ -269,7 +269,7 @@ TEST_F(CoverArtViewDrag, AnImageOfTheDesktopIsShown) {
     QMimeData data;
     data.setImageData(plain(Qt::red));
     dropAll(data);
-    EXPECT_EQ(view->image(), plain(Qt::red));
+    EXPECT_EQ(plain(Qt::red), view->image());
     EXPECT_EQ(1U, receiver.calls.size());
 }
 
@@ -279,7 +279,7 @@ TEST_F(CoverArtViewDrag, DataThatIsNoImageLeavesTheImageAndStillTellsIt) {
     data.setData("image/x-pict", "no image at all");
     data.setData("image/tiff", QByteArray("II*\0\xff\xff\xff\xff", 8));
     dropAll(data);
-    EXPECT_EQ(view->image(), plain(Qt::blue));
+    EXPECT_EQ(plain(Qt::blue), view->image());
     EXPECT_EQ(1U, receiver.calls.size());
 }
 

@@ -50,7 +50,7 @@ TEST_F(LargeCover, IsThereAtOnceAndShownAWhileLater) {
         EXPECT_EQ(view->cover().get(), large.get());
         EXPECT_FALSE(shows(Qt::red)) << format << ": decoding it has been waited for";
         EXPECT_TRUE(comesToShow(Qt::red)) << format;
-        EXPECT_EQ(view->image().size(), size);
+        EXPECT_EQ(size, view->image().size());
     }
 }
 

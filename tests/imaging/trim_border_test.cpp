@@ -52,7 +52,7 @@ QImage filled(int width, int height, const QColor& colour) {
 TEST(TrimBorder, CutsTheBorderOff) {
     const TrimRun run = trim(framed(Qt::black, Qt::red));
     ASSERT_TRUE(run.image);
-    EXPECT_EQ(*run.image, filled(8, 4, Qt::red));
+    EXPECT_EQ(filled(8, 4, Qt::red), *run.image);
 }
 
 TEST(TrimBorder, LogsNothingOnSuccess) {
@@ -75,7 +75,7 @@ TEST(TrimBorder, AnImageThatIsPictureThroughoutGivesThatImageAnew) {
     cover.setPixelColor(1, 2, Qt::red);
     const TrimRun run = trim(cover);
     ASSERT_TRUE(run.image);
-    EXPECT_EQ(run.image->convertToFormat(QImage::Format_RGB32), cover);
+    EXPECT_EQ(cover, run.image->convertToFormat(QImage::Format_RGB32));
 }
 
 TEST(TrimBorder, AnImageWithoutABorderIsLoggedAndGivesNothing) {
@@ -120,7 +120,7 @@ TEST(TrimBorder, ColoursOfFullyTransparentPixelsDoNotCount) {
     cover.setPixel(11, 9, 0x00ff00ff);
     const TrimRun run = trim(cover);
     ASSERT_TRUE(run.image);
-    EXPECT_EQ(*run.image, filled(8, 4, Qt::red));
+    EXPECT_EQ(filled(8, 4, Qt::red), *run.image);
 }
 
 class TrimBorderFormat : public testing::TestWithParam<QImage::Format> {};
@@ -128,7 +128,7 @@ class TrimBorderFormat : public testing::TestWithParam<QImage::Format> {};
 TEST_P(TrimBorderFormat, EveryFormatOfPixelsIsTrimmed) {
     const TrimRun run = trim(framed(Qt::black, Qt::white, GetParam()));
     ASSERT_TRUE(run.image);
-    EXPECT_EQ(*run.image, filled(8, 4, Qt::white));
+    EXPECT_EQ(filled(8, 4, Qt::white), *run.image);
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, TrimBorderFormat,
@@ -147,7 +147,7 @@ TEST(TrimBorder, PaddedRowsArePackedFirst) {
     }
     const TrimRun run = trim(QImage(memory.data(), 12, 10, stride, QImage::Format_RGBA8888_Premultiplied));
     ASSERT_TRUE(run.image);
-    EXPECT_EQ(*run.image, filled(8, 4, Qt::red));
+    EXPECT_EQ(filled(8, 4, Qt::red), *run.image);
 }
 
 TEST(TrimBorder, TheNominalSizePlaysNoPart) {
@@ -164,7 +164,7 @@ TEST(TrimBorder, TheCoverPassedInIsNotModified) {
     const QImage cover = framed(Qt::black, Qt::red, QImage::Format_RGBA8888_Premultiplied);
     const QImage before = cover.copy();
     ASSERT_TRUE(trim(cover).image);
-    EXPECT_EQ(cover, before);
+    EXPECT_EQ(before, cover);
 }
 
 TEST(TrimBorder, AnotherColourSpaceIsTurnedIntoTheScreensOwn) {
@@ -280,7 +280,7 @@ TEST(TrimBorder, PaddedRowsHoldTheirPixels) {
     const PaddedRepresentation steps(8 * 4 + 12);
     const TrimRun run = trim(framed(Qt::black, Qt::red), steps);
     ASSERT_TRUE(run.image);
-    EXPECT_EQ(*run.image, filled(8, 4, Qt::red));
+    EXPECT_EQ(filled(8, 4, Qt::red), *run.image);
 }
 
 TEST(TrimBorder, ARowAsLongAsTheWholeImageTakesAllPixelsAndLeavesTheOtherRowsAlone) {
@@ -291,7 +291,7 @@ TEST(TrimBorder, ARowAsLongAsTheWholeImageTakesAllPixelsAndLeavesTheOtherRowsAlo
     for (int pixel = 0; pixel < 8 * 4; ++pixel) {
         red.insert(red.end(), {0xff, 0x00, 0x00, 0xff});
     }
-    EXPECT_EQ(steps.bytes(0, 0, whole), red);
+    EXPECT_EQ(red, steps.bytes(0, 0, whole));
     for (int y = 1; y < 4; ++y) {
         EXPECT_EQ(std::vector<uchar>(whole, 0xee), steps.bytes(y, 0, whole)) << "row " << y;
     }

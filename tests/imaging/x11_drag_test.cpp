@@ -88,7 +88,7 @@ TEST_F(CoverArtViewOnX11, AnImageFileIsDroppedWithTheMouse) {
     QTest::qWait(200);
     takeScreenshot("drag_dropped.png");
     EXPECT_EQ(1U, receiver.calls.size());
-    EXPECT_EQ(view->focusRingType(), Ring::None);
+    EXPECT_EQ(Ring::None, view->focusRingType());
     EXPECT_FALSE(view->image().isNull());
     EXPECT_EQ("in draggingEntered:\nin prepareForDragOperation:\nin performDragOperation:\n", log->text());
 }

@@ -7,37 +7,37 @@ namespace {
 
 TEST(CellBlock, CellsAreDividedByTabsAndRowsByLineFeeds) {
     EXPECT_EQ("a\tb\nc\t\n", blockText({{"a", "b"}, {"c", ""}}));
-    EXPECT_EQ(blockFromText("a\tb\nc\t\n"), (CellBlock{{"a", "b"}, {"c", ""}}));
+    EXPECT_EQ((CellBlock{{"a", "b"}, {"c", ""}}), blockFromText("a\tb\nc\t\n"));
     EXPECT_EQ("", blockText({}));
-    EXPECT_EQ(blockFromText(""), CellBlock{});
+    EXPECT_EQ(CellBlock{}, blockFromText(""));
 }
 
 TEST(CellBlock, TheLastRowNeedsNoLineFeed) {
-    EXPECT_EQ(blockFromText("a\nb"), (CellBlock{{"a"}, {"b"}}));
-    EXPECT_EQ(blockFromText("a\t"), (CellBlock{{"a", ""}}));
+    EXPECT_EQ((CellBlock{{"a"}, {"b"}}), blockFromText("a\nb"));
+    EXPECT_EQ((CellBlock{{"a", ""}}), blockFromText("a\t"));
 }
 
 TEST(CellBlock, LineBreaksOfOtherSystemsDivideRows) {
-    EXPECT_EQ(blockFromText("a\r\nb\rc\n"), (CellBlock{{"a"}, {"b"}, {"c"}}));
+    EXPECT_EQ((CellBlock{{"a"}, {"b"}, {"c"}}), blockFromText("a\r\nb\rc\n"));
 }
 
 TEST(CellBlock, AnEmptyRowIsARowOfOneEmptyCell) {
-    EXPECT_EQ(blockFromText("a\n\nb\n"), (CellBlock{{"a"}, {""}, {"b"}}));
+    EXPECT_EQ((CellBlock{{"a"}, {""}, {"b"}}), blockFromText("a\n\nb\n"));
 }
 
 TEST(CellBlock, WhatWouldDivideIsQuoted) {
     EXPECT_EQ("\"one\ntwo\"\t\"a\tb\"\t\"say \"\"so\"\"\"\n",
               blockText({{"one\ntwo", "a\tb", "say \"so\""}}));
-    EXPECT_EQ(blockFromText("\"one\ntwo\"\t\"a\tb\"\t\"say \"\"so\"\"\"\n"),
-              (CellBlock{{"one\ntwo", "a\tb", "say \"so\""}}));
+    EXPECT_EQ((CellBlock{{"one\ntwo", "a\tb", "say \"so\""}}),
+              blockFromText("\"one\ntwo\"\t\"a\tb\"\t\"say \"\"so\"\"\"\n"));
 }
 
 TEST(CellBlock, QuotationMarksWithinATextAreText) {
-    EXPECT_EQ(blockFromText("7\" single\t\"Heroes\" live\n"), (CellBlock{{"7\" single", "\"Heroes\" live"}}));
+    EXPECT_EQ((CellBlock{{"7\" single", "\"Heroes\" live"}}), blockFromText("7\" single\t\"Heroes\" live\n"));
 }
 
 TEST(CellBlock, AQuotationMarkThatIsNeverClosedEndsWithTheText) {
-    EXPECT_EQ(blockFromText("\"a\tb\n"), (CellBlock{{"a\tb\n"}}));
+    EXPECT_EQ((CellBlock{{"a\tb\n"}}), blockFromText("\"a\tb\n"));
 }
 
 TEST(CellBlock, AFormulaIsMadeHarmless) {
@@ -51,8 +51,8 @@ TEST(CellBlock, AFormulaIsMadeHarmless) {
 
 TEST(CellBlock, WhatIsNoFormulaStays) {
     for (const char* text : {"", "a", "a=b", "-5", "+44", "'tis", "1-2", "' =1"}) {
-        EXPECT_EQ(withoutFormula(text), text);
-        EXPECT_EQ(withFormula(text), text);
+        EXPECT_EQ(text, withoutFormula(text));
+        EXPECT_EQ(text, withFormula(text));
     }
 }
 
@@ -61,7 +61,7 @@ TEST(CellBlock, HarmlessFormulasComeBackAsTheyWere) {
     EXPECT_EQ("=1", withFormula("=1"));
     EXPECT_EQ("''=1", withoutFormula("'=1"));
     EXPECT_EQ("'=1", withFormula("''=1"));
-    EXPECT_EQ(blockFromText("'=1\t'tis\n"), (CellBlock{{"=1", "'tis"}}));
+    EXPECT_EQ((CellBlock{{"=1", "'tis"}}), blockFromText("'=1\t'tis\n"));
 }
 
 } // namespace

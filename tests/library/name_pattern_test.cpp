@@ -80,9 +80,9 @@ TEST(TagsFromNames, APlaceTakesMoreWhereTheRestWouldNotFit) {
 }
 
 TEST(TagsFromNames, AYearIsANumber) {
-    EXPECT_EQ(fieldsOf("%title% (%year%)", "/m/Alien (cut).avi"), nothing);
-    EXPECT_EQ(fieldsOf("%title% (%year%)", "/m/Alien (19791).avi"), nothing);
-    EXPECT_EQ(fieldsOf("%title% (%year%)", "/m/Alien (0).avi"), nothing);
+    EXPECT_EQ(nothing, fieldsOf("%title% (%year%)", "/m/Alien (cut).avi"));
+    EXPECT_EQ(nothing, fieldsOf("%title% (%year%)", "/m/Alien (19791).avi"));
+    EXPECT_EQ(nothing, fieldsOf("%title% (%year%)", "/m/Alien (0).avi"));
 }
 
 TEST(TagsFromNames, SkippedTextSetsNothing) {
@@ -98,16 +98,16 @@ TEST(TagsFromNames, ASlashLooksAtFolders) {
     EXPECT_THAT(
         fieldsOf("%album% (%year%)/%title%", "/m/Vol. 1.5 (1976)/Tiger.mp3"),
         ElementsAre(Pair(Field::title, "Tiger"), Pair(Field::album, "Vol. 1.5"), Pair(Field::year, "1976")));
-    EXPECT_EQ(fieldsOf("%artist%/%album%/%title%", "/Arrival/Tiger.mp3"), nothing);
+    EXPECT_EQ(nothing, fieldsOf("%artist%/%album%/%title%", "/Arrival/Tiger.mp3"));
     EXPECT_THAT(fieldsOf("%folder%/%title%", "/m/x/Tiger.mp3"), ElementsAre(Pair(Field::title, "Tiger")));
 }
 
 TEST(TagsFromNames, WhatDoesNotFitGivesNothing) {
-    EXPECT_EQ(fieldsOf("%artist% - %title%", "/m/Waterloo.mp3"), nothing);
-    EXPECT_EQ(fieldsOf("%artist% - %title%", "/m/ - Waterloo.mp3"), nothing);
-    EXPECT_EQ(fieldsOf("%artist% - %title%", "/m/ABBA - .mp3"), nothing);
-    EXPECT_EQ(fieldsOf("%artist% - %title%", "/m/ABBA -  .mp3"), nothing);
-    EXPECT_EQ(fieldsOf("%title%", ""), nothing);
+    EXPECT_EQ(nothing, fieldsOf("%artist% - %title%", "/m/Waterloo.mp3"));
+    EXPECT_EQ(nothing, fieldsOf("%artist% - %title%", "/m/ - Waterloo.mp3"));
+    EXPECT_EQ(nothing, fieldsOf("%artist% - %title%", "/m/ABBA - .mp3"));
+    EXPECT_EQ(nothing, fieldsOf("%artist% - %title%", "/m/ABBA -  .mp3"));
+    EXPECT_EQ(nothing, fieldsOf("%title%", ""));
 }
 
 TEST(TagsFromNames, BlanksAroundAValueAreNotPartOfIt) {
@@ -134,7 +134,7 @@ TEST(TagsFromNames, ValuesAreComposed) {
 }
 
 TEST(TagsFromNames, BytesThatAreNoTextAreNoValue) {
-    EXPECT_EQ(fieldsOf(reading("%title%"), pathFromBytes("/m/caf\xe9.mp3")), nothing);
+    EXPECT_EQ(nothing, fieldsOf(reading("%title%"), pathFromBytes("/m/caf\xe9.mp3")));
     EXPECT_THAT(fieldsOf(reading("%skip% - %title%"), pathFromBytes("/m/caf\xe9 - b.mp3")),
                 ElementsAre(Pair(Field::title, "b")));
 }
@@ -142,8 +142,8 @@ TEST(TagsFromNames, BytesThatAreNoTextAreNoValue) {
 TEST(TagsFromNames, ALongNameThatAlmostFitsIsLookedThroughOnce) {
     const QString path = "/m/" + QString("a-").repeated(120) + ".mp3";
     EXPECT_EQ(
-        fieldsOf(reading("%title%-%artist%-%album%-%director%-%synopsis%-%genre%-%rating%-%year%"), path),
-        nothing);
+        nothing,
+        fieldsOf(reading("%title%-%artist%-%album%-%director%-%synopsis%-%genre%-%rating%-%year%"), path));
 }
 
 TEST(NamePattern, TellsWhatIsWrong) {
@@ -183,11 +183,11 @@ TEST(NamesFromTags, ValuesTakeTheirPlaces) {
 }
 
 TEST(NamesFromTags, TellWhichValueIsMissing) {
-    EXPECT_EQ(std::get<Field>(writing("%title% %album%").nameFrom(someValues(), "")), Field::album);
-    EXPECT_EQ(std::get<Field>(writing("%title% %genre%").nameFrom(someValues(), "")), Field::genre);
+    EXPECT_EQ(Field::album, std::get<Field>(writing("%title% %album%").nameFrom(someValues(), "")));
+    EXPECT_EQ(Field::genre, std::get<Field>(writing("%title% %genre%").nameFrom(someValues(), "")));
     portable::TagValues values = someValues();
     values.year.reset();
-    EXPECT_EQ(std::get<Field>(writing("%title% %year%").nameFrom(values, "")), Field::year);
+    EXPECT_EQ(Field::year, std::get<Field>(writing("%title% %year%").nameFrom(values, "")));
 }
 
 } // namespace

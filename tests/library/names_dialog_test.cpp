@@ -94,7 +94,7 @@ TEST_F(NamesDialogTest, NamesBecomeTagsThatAreNotAppliedYet) {
     EXPECT_EQ("Waterloo", shown(0, LibraryColumn::title));
     EXPECT_EQ("x", shown(1, LibraryColumn::title));
     EXPECT_EQ(1U, window_.model().rows().editedCount());
-    EXPECT_EQ(test::read_file(folder_ / "ABBA - Waterloo.mp3"), song("x", "y"));
+    EXPECT_EQ(song("x", "y"), test::read_file(folder_ / "ABBA - Waterloo.mp3"));
 }
 
 TEST_F(NamesDialogTest, TagsBecomeNamesThatAreNotAppliedYet) {

@@ -166,7 +166,7 @@ TEST_F(RenameFilesTest, ACircleThatFailsIsUndone) {
             const std::vector<int> errors = run({{"a", "b"}, {"b", "c"}, {"c", "a"}});
             // Where the exchange fails the files step aside one by one, which may do.
             const Contents after = {{"a", "of c"}, {"b", "of a"}, {"c", "of b"}};
-            EXPECT_EQ(contents(), errors[0] == 0 ? after : before) << unknown << failing;
+            EXPECT_EQ(errors[0] == 0 ? after : before, contents()) << unknown << failing;
             EXPECT_THAT(errors, Each(Eq(errors[0])));
             EXPECT_EQ(errors[0], unknown ? EIO : 0);
         }
@@ -217,7 +217,7 @@ TEST_F(RenameFilesTest, AFileThatIsAnotherByNowIsLeftAlone) {
     make("a");
     const auto reasons = renameFiles(planned);
     ASSERT_TRUE(reasons[0]);
-    EXPECT_EQ(reasons[0]->code, ReasonCode::changed_meanwhile);
+    EXPECT_EQ(ReasonCode::changed_meanwhile, reasons[0]->code);
     EXPECT_THAT(contents(), Contains(Pair("a", "of a")));
 }
 
@@ -229,7 +229,7 @@ TEST_F(RenameFilesTest, ACircleWithAnotherFileInItIsLeftAlone) {
     make("b");
     for (const auto& reason : renameFiles(planned)) {
         ASSERT_TRUE(reason);
-        EXPECT_EQ(reason->code, ReasonCode::changed_meanwhile);
+        EXPECT_EQ(ReasonCode::changed_meanwhile, reason->code);
     }
     EXPECT_THAT(contents(), AllOf(Contains(Pair("a", "of a")), Contains(Pair("b", "of b"))));
 }
@@ -247,7 +247,7 @@ TEST_F(RenameFilesTest, TheWayBackLeadsBack) {
         back.push_back(rename.undone());
     }
     EXPECT_THAT(renameFiles(back), Each(Eq(std::nullopt)));
-    EXPECT_EQ(contents(), before);
+    EXPECT_EQ(before, contents());
 }
 
 TEST_F(RenameFilesTest, ACancelledRunLeavesTheRestAlone) {
@@ -263,7 +263,7 @@ TEST_F(RenameFilesTest, ACancelledRunLeavesTheRestAlone) {
     EXPECT_THAT(told, ElementsAre(0U, 1U));
     EXPECT_FALSE(reasons[0]);
     ASSERT_TRUE(reasons[1] && reasons[2]);
-    EXPECT_EQ(reasons[1]->code, ReasonCode::cancelled);
+    EXPECT_EQ(ReasonCode::cancelled, reasons[1]->code);
     EXPECT_THAT(contents(), UnorderedElementsAre(Pair("x", "of a"), Pair("b", "of b"), Pair("c", "of c")));
 }
 
@@ -281,7 +281,7 @@ TEST_F(RenameFilesTest, AKilledProgramLeavesEachFileOldOrNew) {
                 static_cast<void>(run(names));
                 ::_exit(0);
             }
-            ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+            ASSERT_EQ(child, ::waitpid(child, nullptr, 0));
             const Contents now = contents();
             for (const auto& [from, to] : names) {
                 const std::string content = "of " + from;

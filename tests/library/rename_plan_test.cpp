@@ -47,9 +47,9 @@ protected:
 
 TEST_F(RenamePlanTest, AFileGetsANameInItsFolderAndKeepsItsExtension) {
     const auto planned = plan({row("a.MP3", "AC/DC")});
-    EXPECT_EQ(planned[0].mark, RenameMark::renamed);
-    EXPECT_EQ(planned[0].from, path("a.MP3"));
-    EXPECT_EQ(planned[0].to, path("AC_DC.MP3"));
+    EXPECT_EQ(RenameMark::renamed, planned[0].mark);
+    EXPECT_EQ(path("a.MP3"), planned[0].from);
+    EXPECT_EQ(path("AC_DC.MP3"), planned[0].to);
 }
 
 TEST_F(RenamePlanTest, AFileThatHasTheNameIsUnchanged) {
@@ -58,15 +58,15 @@ TEST_F(RenamePlanTest, AFileThatHasTheNameIsUnchanged) {
 
 TEST_F(RenamePlanTest, AMissingValueIsTold) {
     const auto planned = plan({row("a.mp3", "a")}, "%title% %year%");
-    EXPECT_EQ(planned[0].mark, RenameMark::missingValue);
-    EXPECT_EQ(planned[0].missing, Field::year);
+    EXPECT_EQ(RenameMark::missingValue, planned[0].mark);
+    EXPECT_EQ(Field::year, planned[0].missing);
     EXPECT_EQ(planned[0].to, planned[0].from);
 }
 
 TEST_F(RenamePlanTest, ANameThatIsCutIsMarked) {
     const auto planned = plan({row("a.mp3", std::string(300, 'b'))});
-    EXPECT_EQ(planned[0].mark, RenameMark::shortened);
-    EXPECT_EQ(planned[0].to, path(std::string(251, 'b') + ".mp3"));
+    EXPECT_EQ(RenameMark::shortened, planned[0].mark);
+    EXPECT_EQ(path(std::string(251, 'b') + ".mp3"), planned[0].to);
     EXPECT_TRUE(planned[0].isRenamed());
 }
 
@@ -142,20 +142,20 @@ TEST_F(RenamePlanTest, NamesThatFurtherFilesAreToGetAreTakenAndThoseThatTheyLeav
 TEST_F(RenamePlanTest, TheFoldersNameHasAPlace) {
     const auto planned = plan({row("a.mp3", "b")}, "%folder% %title%");
     const std::string folder = folder_.path().substr(folder_.path().rfind('/') + 1);
-    EXPECT_EQ(planned[0].to, path(folder + " b.mp3"));
+    EXPECT_EQ(path(folder + " b.mp3"), planned[0].to);
 }
 
 TEST_F(RenamePlanTest, NamesOfAnyBytesAreRenamed) {
     const auto planned = plan({row("caf\xe9.mp3", "x")});
-    EXPECT_EQ(planned[0].from, path("caf\xe9.mp3"));
-    EXPECT_EQ(planned[0].mark, RenameMark::renamed);
+    EXPECT_EQ(path("caf\xe9.mp3"), planned[0].from);
+    EXPECT_EQ(RenameMark::renamed, planned[0].mark);
 }
 
 TEST_F(RenamePlanTest, WhatIsDoneIsWhatIsMarkedAsRenamed) {
     const auto renames = renamesOf(plan({row("a.mp3", "x"), row("b.mp3", ""), row("c.mp3", "c")}));
     ASSERT_EQ(1U, renames.size());
-    EXPECT_EQ(renames[0].from, path("a.mp3"));
-    EXPECT_EQ(renames[0].to, path("x.mp3"));
+    EXPECT_EQ(path("a.mp3"), renames[0].from);
+    EXPECT_EQ(path("x.mp3"), renames[0].to);
     EXPECT_EQ(renames[0].identity, identityOf(path("a.mp3")));
 }
 

@@ -110,7 +110,7 @@ TEST(LegibleStyle, SelectionThatStandsOutAlreadyIsLeftAlone) {
     const QColor own(0xE0, 0x50, 0x30);
     palette.setColor(QPalette::Highlight, own);
     ShownTable table(palette);
-    EXPECT_EQ(table.row(0), own);
+    EXPECT_EQ(own, table.row(0));
 }
 
 /** The best contrast that a pixel of the style's icon has with a dark window. */

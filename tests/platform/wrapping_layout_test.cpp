@@ -44,15 +44,15 @@ protected:
 };
 
 TEST_F(WrappingLayoutTest, PutsAllInOneRowWhereThereIsRoom) {
-    EXPECT_EQ(placesAt(260),
-              (std::vector{QRect(0, 0, 100, 20), QRect(110, 0, 60, 30), QRect(180, 0, 80, 20)}));
+    EXPECT_EQ((std::vector{QRect(0, 0, 100, 20), QRect(110, 0, 60, 30), QRect(180, 0, 80, 20)}),
+              placesAt(260));
     EXPECT_EQ(30, layout_->heightAt(260));
     EXPECT_EQ(QSize(260, 30), layout_->sizeHint());
 }
 
 TEST_F(WrappingLayoutTest, BeginsAnotherRowBelowTheHighestOfTheLast) {
-    EXPECT_EQ(placesAt(259),
-              (std::vector{QRect(0, 0, 100, 20), QRect(110, 0, 60, 30), QRect(0, 40, 80, 20)}));
+    EXPECT_EQ((std::vector{QRect(0, 0, 100, 20), QRect(110, 0, 60, 30), QRect(0, 40, 80, 20)}),
+              placesAt(259));
     EXPECT_EQ(60, layout_->heightAt(259));
 }
 
@@ -66,7 +66,7 @@ TEST_F(WrappingLayoutTest, NeedsTheHeightOfItsRowsAtItsPresentWidth) {
 
 TEST_F(WrappingLayoutTest, NeedsTheWidthOfItsWidestWidgetOnly) {
     EXPECT_EQ(100, layout_->minimumSize().width());
-    EXPECT_EQ(layout_->heightAt(100), 20 + 10 + 30 + 10 + 20);
+    EXPECT_EQ(20 + 10 + 30 + 10 + 20, layout_->heightAt(100));
 }
 
 TEST(ElidedLabel, NeedsNoWidthAndKeepsItsText) {

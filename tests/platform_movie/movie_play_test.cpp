@@ -45,7 +45,7 @@ TEST_F(MoviePlaying, APausedMovieStandsStill) {
     QTest::qWait(200);
     const qint64 position = movie.position();
     QTest::qWait(silence);
-    EXPECT_EQ(movie.position(), position);
+    EXPECT_EQ(position, movie.position());
 }
 
 TEST_F(MoviePlaying, SeekingShowsTheFrameThere) {
@@ -97,7 +97,7 @@ TEST_F(MovieTest, ASongThatIsPausedStandsStillAndGoesOn) {
     QTest::qWait(200);
     const qint64 position = movie.position();
     QTest::qWait(silence);
-    EXPECT_EQ(movie.position(), position);
+    EXPECT_EQ(position, movie.position());
     movie.play();
     EXPECT_TRUE(QTest::qWaitFor([&] { return movie.position() > position + 200; }, patience));
 }

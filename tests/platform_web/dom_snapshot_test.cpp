@@ -29,7 +29,7 @@ TEST(DomSnapshot, GivesEveryColumn) {
     const auto document = readNodes(R"([[-1,5,"IMG",null,1,"a b",["id","x","alt",""],"n","http://x/s"]])");
     ASSERT_NE(nullptr, document);
     const DomNode* const node = document->root()->firstChild;
-    EXPECT_EQ(node->domClass, DomClass::DOMHTMLImageElement);
+    EXPECT_EQ(DomClass::DOMHTMLImageElement, node->domClass);
     EXPECT_TRUE(node->isHTMLElement);
     EXPECT_EQ(std::nullopt, node->data);
     EXPECT_EQ("a b", node->className);
@@ -70,7 +70,7 @@ TEST(DomSnapshot, ReadsTheNumberOfEachClass) {
     const DomNode* node = document->root()->firstChild;
     for (const DomClass domClass : expected) {
         ASSERT_NE(nullptr, node);
-        EXPECT_EQ(node->domClass, domClass);
+        EXPECT_EQ(domClass, node->domClass);
         node = node->nextSibling;
     }
 }
@@ -79,7 +79,7 @@ TEST(DomSnapshot, KeepsTextThatIsEmptyAndTextBeyondTheBasicPlane) {
     const auto document = readNodes(R"([[-1,1,"#text",""],[-1,1,"#text","\ud83d\ude00 \u0000"]])");
     ASSERT_NE(nullptr, document);
     EXPECT_EQ(QString(""), document->root()->firstChild->data);
-    EXPECT_EQ(document->root()->lastChild->data, QString::fromUtf8("\xF0\x9F\x98\x80 \0", 6));
+    EXPECT_EQ(QString::fromUtf8("\xF0\x9F\x98\x80 \0", 6), document->root()->lastChild->data);
 }
 
 TEST(DomSnapshot, OfAPageWithoutNodesIsADocument) {

@@ -79,7 +79,7 @@ TEST_F(InputBlockTest, LetsAQuestionBeAnswered) {
     question.show();
     QCoreApplication::processEvents();
     QTest::mouseClick(&answer, Qt::LeftButton);
-    EXPECT_EQ(question.result(), QDialog::Accepted);
+    EXPECT_EQ(QDialog::Accepted, question.result());
     click();
     EXPECT_EQ(0, clicks);
 }

@@ -38,17 +38,17 @@ TEST_F(WebViewDocument, HasTheExactClassOfEachNode) {
         documentOf("<a>t</a><table><tr><td></td><th></th></tr></table><img><ul><li></li></ul><br>"
                    "<b></b><svg><a></a></svg>");
     ASSERT_NE(nullptr, document);
-    EXPECT_EQ(one(document, u"a")->domClass, DomClass::DOMHTMLAnchorElement);
-    EXPECT_EQ(one(document, u"a")->firstChild->domClass, DomClass::DOMText);
-    EXPECT_EQ(one(document, u"tr")->domClass, DomClass::DOMHTMLTableRowElement);
-    EXPECT_EQ(one(document, u"td")->domClass, DomClass::DOMHTMLTableCellElement);
-    EXPECT_EQ(one(document, u"th")->domClass, DomClass::DOMHTMLTableCellElement);
-    EXPECT_EQ(one(document, u"img")->domClass, DomClass::DOMHTMLImageElement);
-    EXPECT_EQ(one(document, u"li")->domClass, DomClass::DOMHTMLLIElement);
-    EXPECT_EQ(one(document, u"br")->domClass, DomClass::DOMHTMLBRElement);
-    EXPECT_EQ(one(document, u"b")->domClass, DomClass::Other);
+    EXPECT_EQ(DomClass::DOMHTMLAnchorElement, one(document, u"a")->domClass);
+    EXPECT_EQ(DomClass::DOMText, one(document, u"a")->firstChild->domClass);
+    EXPECT_EQ(DomClass::DOMHTMLTableRowElement, one(document, u"tr")->domClass);
+    EXPECT_EQ(DomClass::DOMHTMLTableCellElement, one(document, u"td")->domClass);
+    EXPECT_EQ(DomClass::DOMHTMLTableCellElement, one(document, u"th")->domClass);
+    EXPECT_EQ(DomClass::DOMHTMLImageElement, one(document, u"img")->domClass);
+    EXPECT_EQ(DomClass::DOMHTMLLIElement, one(document, u"li")->domClass);
+    EXPECT_EQ(DomClass::DOMHTMLBRElement, one(document, u"br")->domClass);
+    EXPECT_EQ(DomClass::Other, one(document, u"b")->domClass);
     EXPECT_TRUE(one(document, u"b")->isHTMLElement);
-    EXPECT_EQ(document->getElementsByTagName(u"a").at(1)->domClass, DomClass::Other);
+    EXPECT_EQ(DomClass::Other, document->getElementsByTagName(u"a").at(1)->domClass);
     EXPECT_FALSE(document->getElementsByTagName(u"a").at(1)->isHTMLElement);
 }
 
@@ -58,9 +58,9 @@ TEST_F(WebViewDocument, TakesACdataSectionForNoText) {
                    "application/xhtml+xml");
     const DomNode* const p = one(document, u"p");
     ASSERT_NE(nullptr, p);
-    EXPECT_EQ(p->firstChild->domClass, DomClass::Other);
+    EXPECT_EQ(DomClass::Other, p->firstChild->domClass);
     EXPECT_EQ(QString("c"), p->firstChild->data);
-    EXPECT_EQ(p->lastChild->domClass, DomClass::DOMText);
+    EXPECT_EQ(DomClass::DOMText, p->lastChild->domClass);
 }
 
 TEST_F(WebViewDocument, HasClassNamesAsTheyStand) {
@@ -108,7 +108,7 @@ TEST_F(WebViewDocument, HasATbodyThatTheParserMadeAndNoneInAScriptsTable) {
 
 TEST_F(WebViewDocument, HasLettersOfAnyScript) {
     documentOf("<title>\xC3\x84 \xE6\x98\xA0 \xF0\x9F\x98\x80</title>");
-    EXPECT_EQ(shownTitle(), QString::fromUtf8("\xC3\x84 \xE6\x98\xA0 \xF0\x9F\x98\x80"));
+    EXPECT_EQ(QString::fromUtf8("\xC3\x84 \xE6\x98\xA0 \xF0\x9F\x98\x80"), shownTitle());
 }
 
 TEST_F(WebViewDocument, KnowsItsAddress) {
@@ -194,7 +194,7 @@ TEST_F(WebViewDocument, OfMegabytesOfTextIsWhole) {
     for (const DomNode* part = one(document, u"p")->firstChild; part != nullptr; part = part->nextSibling) {
         length += part->data->size();
     }
-    EXPECT_EQ(length, 8 << 20);
+    EXPECT_EQ(8 << 20, length);
 }
 
 TEST_F(WebViewDocument, OfAPageBeyondAllMeasureIsNone) {

@@ -91,7 +91,7 @@ TEST_F(WebViewHostile, PageThatAsksToStayIsLeftByALoad) {
     server.serve("/a", "<title>A</title>");
     showAndClick(heldPage);
     load("/a");
-    EXPECT_EQ(shownTitle(), "A");
+    EXPECT_EQ("A", shownTitle());
 }
 
 TEST_F(WebViewHostile, PageThatAsksToStayIsLeftByGoingBack) {
@@ -100,7 +100,7 @@ TEST_F(WebViewHostile, PageThatAsksToStayIsLeftByGoingBack) {
     showAndClick(heldPage);
     view->goBack();
     ASSERT_TRUE(finished());
-    EXPECT_EQ(shownTitle(), "A");
+    EXPECT_EQ("A", shownTitle());
 }
 
 TEST_F(WebViewHostile, PageThatAsksToStayIsLeftByItsLinks) {
@@ -111,7 +111,7 @@ TEST_F(WebViewHostile, PageThatAsksToStayIsLeftByItsLinks) {
     events.clear();
     ASSERT_TRUE(clickUntil([this] { return server.wasAskedFor("/a"); }));
     ASSERT_TRUE(finished());
-    EXPECT_EQ(shownTitle(), "A");
+    EXPECT_EQ("A", shownTitle());
 }
 
 TEST_F(WebViewHostile, FrameThatAsksToStayIsLeft) {
@@ -123,7 +123,7 @@ TEST_F(WebViewHostile, FrameThatAsksToStayIsLeft) {
     load("/hostile");
     ASSERT_TRUE(clickUntil([this] { return server.wasAskedFor("/clicked"); }));
     load("/a");
-    EXPECT_EQ(shownTitle(), "A");
+    EXPECT_EQ("A", shownTitle());
 }
 
 TEST_F(WebViewHostile, PageThatIsBusyWithBeingLeftIsLeft) {
@@ -134,14 +134,14 @@ TEST_F(WebViewHostile, PageThatIsBusyWithBeingLeftIsLeft) {
                      "', () => { history.replaceState({}, '', '#left'); for (;;) {} });");
         view->loadRequest(server.url("/a"));
         ASSERT_TRUE(finished()) << event;
-        EXPECT_EQ(shownTitle(), "A") << event;
+        EXPECT_EQ("A", shownTitle()) << event;
     }
 }
 
 TEST_F(WebViewHostile, PageGetsNoYesToAQuestionOfItsOwn) {
     showAndClick(QByteArray(heldPage) +
                  "addEventListener('click', () => { document.title = confirm('Sure?'); });");
-    EXPECT_EQ(shownTitle(), "false");
+    EXPECT_EQ("false", shownTitle());
 }
 
 // Other programs
@@ -169,8 +169,8 @@ TEST_F(WebViewHostile, PageStartsNoOtherProgram) {
           "{ const f = document.createElement('form'); f.action = 'velmora-test:form'; "
           "document.body.append(f); f.submit(); }"}) {
         showAndClick("addEventListener('click', () => { " + QByteArray(attempt) + "; });");
-        EXPECT_EQ(desktop.opened, QStringList()) << attempt;
-        EXPECT_EQ(shownTitle(), "hostile") << attempt;
+        EXPECT_EQ(QStringList(), desktop.opened) << attempt;
+        EXPECT_EQ("hostile", shownTitle()) << attempt;
     }
     qputenv("PATH", path);
     EXPECT_FALSE(QFile::exists(mark));
@@ -191,7 +191,7 @@ TEST_F(WebViewHostile, PageOpensNoWindowAndDoesNotReplaceItselfByOne) {
         showAndClick("addEventListener('click', (e) => { if (e.isTrusted) { " + QByteArray(attempt) +
                          "; } });",
                      "<a href='#'>x</a>");
-        EXPECT_EQ(shownTitle(), "hostile") << attempt;
+        EXPECT_EQ("hostile", shownTitle()) << attempt;
         EXPECT_FALSE(server.wasAskedFor("/advert")) << attempt;
     }
 }
@@ -218,7 +218,7 @@ TEST_F(WebViewHostile, LinkThatNamesAFrameIsFollowedInTheFrame) {
     load("/links");
     EXPECT_TRUE(clickUntil([this] { return server.wasAskedFor("/a"); }));
     waitFor(300);
-    EXPECT_EQ(shownTitle(), "links");
+    EXPECT_EQ("links", shownTitle());
 }
 
 TEST_F(WebViewHostile, MiddleClickOnALinkFollowsItInThePage) {
@@ -242,8 +242,8 @@ TEST_F(WebViewHostile, LinkToAWindowOfAnotherKindIsNotFollowed) {
         for (const char* const target : {"_blank", "_self"}) {
             showAndClick("", "<a href='" + address + "' target='" + target +
                                  "' style='position: fixed; inset: 0'>x</a>");
-            EXPECT_EQ(shownTitle(), "hostile") << address.constData() << target;
-            EXPECT_EQ(desktop.opened, QStringList());
+            EXPECT_EQ("hostile", shownTitle()) << address.constData() << target;
+            EXPECT_EQ(QStringList(), desktop.opened);
         }
     }
 }
@@ -264,7 +264,7 @@ TEST_F(WebViewHostile, PageShowsNothingOfThisProgram) {
         "\"framed\" } catch { document.title = \"framed\" }'></iframe>");
     load("/hostile");
     waitFor(800);
-    EXPECT_EQ(shownTitle(), "nothing");
+    EXPECT_EQ("nothing", shownTitle());
 }
 
 TEST_F(WebViewHostile, PageShowsNoFileOfThisMachine) {
@@ -288,7 +288,7 @@ TEST_F(WebViewHostile, PageShowsNoFileOfThisMachine) {
                  base + "page.html'); location = '" + base + "page.html'; });");
     click(Qt::LeftButton);
     waitFor(800);
-    EXPECT_EQ(shownTitle(), "hostile");
+    EXPECT_EQ("hostile", shownTitle());
 }
 
 TEST_F(WebViewHostile, ServerSendsThePageToNoFileOfThisMachine) {
@@ -309,7 +309,7 @@ TEST_F(WebViewHostile, PageAsksForNoPassword) {
     load("/secret");
     waitFor(500);
     EXPECT_FALSE(server.requests().isEmpty());
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(nullptr, QApplication::activeModalWidget());
     for (const QWidget* window : QApplication::topLevelWidgets()) {
         EXPECT_TRUE(window->isHidden() || window == view.get()) << window->metaObject()->className();
     }
@@ -329,7 +329,7 @@ TEST_F(WebViewHostile, PageGetsNoPermission) {
         "note('screen')('denied'));"
         "}, {once: true});");
     EXPECT_TRUE(waitUntil([this] { return shownTitle().count(',') == 3; }, 5000));
-    EXPECT_EQ(shownTitle(), "notify denied, place denied, screen denied, sound denied");
+    EXPECT_EQ("notify denied, place denied, screen denied, sound denied", shownTitle());
 }
 
 /** The files below the user's own folders whose name or bytes hold MARK. */
@@ -367,10 +367,10 @@ TEST_F(WebViewHostile, PageLeavesNothingOnTheDisk) {
                      mark + ".bin'; document.body.append(a); a.click(); });",
                  "<script src='/script'></script>");
     EXPECT_TRUE(waitUntil([this] { return server.wasAskedFor("/download"); }, 5000));
-    EXPECT_EQ(shownTitle(), "hostile");
+    EXPECT_EQ("hostile", shownTitle());
     view.reset();
     waitFor(1500);
-    EXPECT_EQ(filesWith(mark), QStringList());
+    EXPECT_EQ(QStringList(), filesWith(mark));
 }
 
 } // namespace

@@ -52,7 +52,7 @@ TEST(FormFill, ReadsThePageOnce) {
     const auto fill = fillOf(page({title("Film")}), 0);
     EXPECT_EQ("", log.text());
     const FormFillInfo* const info = fill->formFillInfo();
-    EXPECT_EQ(fill->formFillInfo(), info);
+    EXPECT_EQ(info, fill->formFillInfo());
     EXPECT_EQ("<title> tag has \"Film\"\n", log.text());
 }
 
@@ -106,15 +106,15 @@ TEST(FormFill, CutsTextsToWhatAFormCanShow) {
         fillOf(page({title(shown + 'y'), div("info", {h5("Plot Outline:"), text(shown + 'y'),
                                                       h5("Certification:"), a("USA:" + shown + 'y')})}),
                0);
-    EXPECT_EQ(fill->formFillInfo()->title, shown);
-    EXPECT_EQ(fill->formFillInfo()->description, shown);
-    EXPECT_EQ(fill->formFillInfo()->rating, shown);
+    EXPECT_EQ(shown, fill->formFillInfo()->title);
+    EXPECT_EQ(shown, fill->formFillInfo()->description);
+    EXPECT_EQ(shown, fill->formFillInfo()->rating);
 }
 
 TEST(FormFill, KeepsTextsThatAFormCanShow) {
     const QString shown(32767, 'x');
     const auto fill = fillOf(page({title(shown), div("info", {h5("Genre:"), a(shown)})}), 0);
-    EXPECT_EQ(fill->formFillInfo()->title, shown);
+    EXPECT_EQ(shown, fill->formFillInfo()->title);
     EXPECT_EQ(QStringList({shown}), fill->formFillInfo()->genres);
 }
 

@@ -54,8 +54,8 @@ TEST(ImdbTitle, OfOnlyAYearIsAnEmptyText) {
 }
 
 TEST(ImdbTitle, KeepsLettersOfAnyScript) {
-    EXPECT_EQ(read({title(QString::fromUtf8("Äpfel 映画 😀 (2005)"))}).title,
-              QString::fromUtf8("Äpfel 映画 😀 "));
+    EXPECT_EQ(QString::fromUtf8("Äpfel 映画 😀 "),
+              read({title(QString::fromUtf8("Äpfel 映画 😀 (2005)"))}).title);
 }
 
 TEST(ImdbTitle, IsThatOfTheFirstTitleElementEvenWhenItHasNoChild) {
@@ -324,9 +324,9 @@ Dom castTable(const Doms& children) {
 
 TEST(ImdbCast, IsTheSameWithAndWithoutATbody) {
     const QStringList both = {"One", "Two"};
-    EXPECT_EQ(readInfo({castTable({actorRow("One"), actorRow("Two")})}).cast, both);
-    EXPECT_EQ(readInfo({castTable({element("TBODY", {actorRow("One"), text("\n"), actorRow("Two")})})}).cast,
-              both);
+    EXPECT_EQ(both, readInfo({castTable({actorRow("One"), actorRow("Two")})}).cast);
+    EXPECT_EQ(both,
+              readInfo({castTable({element("TBODY", {actorRow("One"), text("\n"), actorRow("Two")})})}).cast);
 }
 
 TEST(ImdbCast, TableNeedsTheExactClassAndPlace) {

@@ -144,10 +144,10 @@ TEST_F(Panel, StartAndFinishOfAnyFrameSetTheBackButtonAsTheViewCanGoBack) {
             engine.canGoBack = can;
             window->btn_searchBack->setEnabled(!can);
             engine.listener->loadStarted(kind);
-            EXPECT_EQ(window->btn_searchBack->isEnabled(), can);
+            EXPECT_EQ(can, window->btn_searchBack->isEnabled());
             window->btn_searchBack->setEnabled(!can);
             engine.listener->loadFinished(kind);
-            EXPECT_EQ(window->btn_searchBack->isEnabled(), can);
+            EXPECT_EQ(can, window->btn_searchBack->isEnabled());
         }
     }
 }

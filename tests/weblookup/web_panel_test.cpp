@@ -75,7 +75,7 @@ protected:
     FormFillInfo fill() {
         const std::size_t before = window->receiver.records.size();
         window->btn_formFill->click();
-        EXPECT_EQ(window->receiver.records.size(), before + 1);
+        EXPECT_EQ(before + 1, window->receiver.records.size());
         return window->receiver.records.empty() ? FormFillInfo() : window->receiver.records.back();
     }
     /** Clicks into the page until that has had its effect: a page takes no clicks before it is first painted.
