@@ -13,7 +13,7 @@ struct KindRow {
     MediaKind kind;
 };
 
-constexpr std::array kindTable = {
+constexpr std::array kind_table = {
     KindRow{"mp3", {Media::audio, Container::mpeg_audio}},
     KindRow{"mp2", {Media::audio, Container::mpeg_audio}},
     KindRow{"flac", {Media::audio, Container::flac}},
@@ -63,10 +63,10 @@ std::optional<MediaKind> media_kind(std::string_view path) {
     }
     std::string extension(name.substr(dot + 1));
     std::transform(extension.begin(), extension.end(), extension.begin(), in_lower_case);
-    const auto* row = std::find_if(kindTable.begin(), kindTable.end(), [&](const KindRow& candidate) {
+    const auto* row = std::find_if(kind_table.begin(), kind_table.end(), [&](const KindRow& candidate) {
         return candidate.extension == extension;
     });
-    if (row == kindTable.end()) {
+    if (row == kind_table.end()) {
         return std::nullopt;
     }
     // Of a DVD's information files only the one that stands for the disc has its tag beside it.

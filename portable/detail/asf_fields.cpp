@@ -17,20 +17,20 @@ constexpr std::uint8_t other_picture = 0;
 constexpr AsfListKind description = AsfListKind::content_description;
 constexpr AsfListKind extended = AsfListKind::extended_content_description;
 
-constexpr std::array otherAlbums = {"AlbumTitle"};
-constexpr std::array otherDirectors = {"Director"};
-constexpr std::array otherGenres = {"Genre"};
-constexpr std::array otherYears = {"Year", "Date"};
+constexpr std::array other_albums = {"AlbumTitle"};
+constexpr std::array other_directors = {"Director"};
+constexpr std::array other_genres = {"Genre"};
+constexpr std::array other_years = {"Year", "Date"};
 
-constexpr std::array<AsfFieldNames, field_count> fieldNames = {{
+constexpr std::array<AsfFieldNames, field_count> field_names = {{
     {"Title", description, {}},
     {"Author", description, {}},
-    {"WM/AlbumTitle", extended, otherAlbums},
-    {"WM/Director", extended, otherDirectors},
+    {"WM/AlbumTitle", extended, other_albums},
+    {"WM/Director", extended, other_directors},
     {"Description", description, {}},
-    {"WM/Genre", extended, otherGenres},
+    {"WM/Genre", extended, other_genres},
     {"WM/ParentalRating", extended, {}},
-    {"WM/Year", extended, otherYears},
+    {"WM/Year", extended, other_years},
     {"WM/Picture", extended, {}},
 }};
 
@@ -49,7 +49,7 @@ std::string text_under(const AsfLists& lists, const char* name) {
 } // namespace
 
 const AsfFieldNames& asf_field_names(Field field) {
-    return fieldNames[static_cast<std::size_t>(field)];
+    return field_names[static_cast<std::size_t>(field)];
 }
 
 bool is_asf_name(std::string_view name, std::string_view other) {

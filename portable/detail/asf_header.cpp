@@ -12,8 +12,8 @@ constexpr std::uint64_t largest_lists = std::uint64_t{64} << 20;
 constexpr std::size_t most_attributes = 100000;
 constexpr std::size_t most_objects = 10000;
 
-constexpr const char* headerObject = "the ASF header";
-constexpr const char* extensionObject = "the header extension object";
+constexpr const char* header_object = "the ASF header";
+constexpr const char* extension_object = "the header extension object";
 
 [[noreturn]] void refuse_damaged(const char* what) {
     throw Refusal({ReasonCode::damaged, 0, what});
@@ -30,8 +30,8 @@ Object read_object(ReadCursor& cursor) {
     object.range.begin = cursor.position();
     ReadCursor header = cursor;
     std::uint64_t size = 0;
-    check_read(header.read(object.guid.bytes, sizeof object.guid.bytes), headerObject);
-    check_read(header.read_le64(&size), headerObject);
+    check_read(header.read(object.guid.bytes, sizeof object.guid.bytes), header_object);
+    check_read(header.read_le64(&size), header_object);
     if (size < asf_object_header_size || !cursor.skip(size)) {
         refuse_damaged("an object reaches out of the ASF header");
     }
@@ -92,7 +92,7 @@ private:
         if (!body.skip(asf_extension_fixed_size - sizeof size)) {
             refuse_damaged("the header extension object is cut off");
         }
-        check_read(body.read_le32(&size), extensionObject);
+        check_read(body.read_le32(&size), extension_object);
         if (size > body.left()) {
             refuse_damaged("the header extension object is cut off");
         }
@@ -110,7 +110,7 @@ private:
         header_.file_properties.push_back(range);
         ReadCursor field(window_, range.begin + asf_file_size_offset, range.end);
         std::uint64_t size = 0;
-        check_read(field.read_le64(&size), headerObject);
+        check_read(field.read_le64(&size), header_object);
         header_.file_size = size;
     }
 
@@ -143,12 +143,12 @@ AsfHeader read_asf_header(ReadWindow& window, std::uint64_t size) {
     AsfHeader header;
     ReadCursor file(window, 0, size);
     GUID guid{};
-    check_read(file.read(guid.bytes, sizeof guid.bytes), headerObject);
+    check_read(file.read(guid.bytes, sizeof guid.bytes), header_object);
     if (guid != ASF_HeaderObject) {
         refuse_damaged("it does not begin with an ASF header");
     }
-    check_read(file.read_le64(&header.size), headerObject);
-    check_read(file.read_le32(&header.count), headerObject);
+    check_read(file.read_le64(&header.size), header_object);
+    check_read(file.read_le32(&header.count), header_object);
     if (header.size < asf_header_fixed_size || header.size > size) {
         refuse_damaged("the ASF header is cut off");
     }
