@@ -209,8 +209,4 @@ void EditPanel::showText(LibraryColumn column, const QString& text, bool several
     }
 }
 
-void EditPanel::focusFirstField() {
-    fieldOf(LibraryColumn::title)->setFocus();
-}
-
 } // namespace velmora

@@ -34,7 +34,6 @@ public:
     void refresh();
     /** What was typed becomes edits now. */
     void flush();
-    void focusFirstField();
 
     /** COVER is to be that of all files; none removes it. */
     void setCover(const ImageRef& cover);

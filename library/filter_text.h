@@ -2,7 +2,7 @@
 
 #include "library_column.h"
 
-#include "portable/portable_tags.h"
+#include "portable/tag_values.h"
 
 #include <cstdint>
 #include <string>
@@ -19,10 +19,6 @@ inline constexpr MissingBits missingTag = 1U << portable::field_count;
 [[nodiscard]] constexpr MissingBits missingBit(portable::Field field) {
     return static_cast<MissingBits>(1U << static_cast<unsigned>(field));
 }
-
-/** What a file with the tags READ does not have of that which a file of its kind can have. Nothing where it
-   could not be read. */
-[[nodiscard]] MissingBits missingIn(const portable::ReadOutcome& read);
 
 /** What a filter looks at in a row, wherever it is kept. */
 struct FilterView {

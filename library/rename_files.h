@@ -28,9 +28,6 @@ struct FileRename {
     QByteArray to;
     /** Where it is set, another file under that name is left alone. */
     std::optional<FileIdentity> identity;
-
-    /** The way back, for the file that IDENTITY, where it is set, says. */
-    [[nodiscard]] FileRename undone() const { return {to, from, identity}; }
 };
 
 /** Called before each file with the number of those done and of all; false cancels. */

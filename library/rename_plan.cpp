@@ -131,14 +131,4 @@ std::vector<PlannedRename> planRenames(const std::vector<RenameRow>& rows, const
     return plan;
 }
 
-std::vector<FileRename> renamesOf(const std::vector<PlannedRename>& plan) {
-    std::vector<FileRename> renames;
-    for (const PlannedRename& planned : plan) {
-        if (planned.isRenamed()) {
-            renames.push_back({planned.from, planned.to, identityOf(planned.from)});
-        }
-    }
-    return renames;
-}
-
 } // namespace velmora

@@ -51,7 +51,4 @@ struct PlannedRename {
                                                      const NamePattern& pattern,
                                                      const std::vector<FileRename>& others = {});
 
-/** What is to be done of PLAN: the rows that are renamed. */
-[[nodiscard]] std::vector<FileRename> renamesOf(const std::vector<PlannedRename>& plan);
-
 } // namespace velmora

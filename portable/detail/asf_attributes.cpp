@@ -11,7 +11,7 @@ namespace velmora::portable {
 
 namespace {
 
-constexpr std::array contentDescriptionNames = {"Title", "Author", "Copyright", "Description", "Rating"};
+constexpr std::array content_description_names = {"Title", "Author", "Copyright", "Description", "Rating"};
 constexpr std::size_t largest_text = 65534;
 
 std::uint16_t read_le16(ReadCursor& cursor, const std::string& what) {
@@ -42,14 +42,14 @@ std::string list_name(AsfListKind kind) {
 
 AsfAttributeList read_content_description(ReadCursor body) {
     const std::string what = list_name(AsfListKind::content_description);
-    std::array<std::uint16_t, contentDescriptionNames.size()> lengths{};
+    std::array<std::uint16_t, content_description_names.size()> lengths{};
     for (std::uint16_t& length : lengths) {
         length = read_le16(body, what);
     }
     AsfAttributeList list;
     for (std::size_t i = 0; i < lengths.size(); ++i) {
         AsfAttribute& text = list.attributes.emplace_back();
-        text.name = contentDescriptionNames[i];
+        text.name = content_description_names[i];
         text.range.begin = body.position();
         text.record = read_bytes(body, lengths[i], what);
         text.range.end = body.position();
@@ -109,10 +109,6 @@ GUID guid_of(AsfListKind kind) {
 
 } // namespace
 
-std::span<const char* const> content_description_names() {
-    return contentDescriptionNames;
-}
-
 std::string AsfAttribute::text() const {
     const std::span<const std::uint8_t> bytes = value();
     switch (type) {
@@ -141,7 +137,7 @@ AsfAttributeList empty_asf_list(AsfListKind kind) {
     list.in_extension = is_metadata(kind);
     list.changed = true;
     if (kind == AsfListKind::content_description) {
-        for (const char* name : contentDescriptionNames) {
+        for (const char* name : content_description_names) {
             list.attributes.emplace_back().name = name;
         }
     }

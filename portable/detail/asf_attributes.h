@@ -53,9 +53,6 @@ struct AsfAttributeList {
     [[nodiscard]] Bytes object() const;
 };
 
-/** What a content description calls its five texts, in their order. */
-[[nodiscard]] std::span<const char* const> content_description_names();
-
 /** A new list of KIND that holds nothing. */
 [[nodiscard]] AsfAttributeList empty_asf_list(AsfListKind kind);
 

@@ -32,7 +32,6 @@ public:
     [[nodiscard]] const std::vector<std::string>& comments() const { return comments_; }
     [[nodiscard]] std::vector<std::string>& comments() { return comments_; }
     void clear() { comments_.clear(); }
-    void set_rest(Bytes rest) { rest_ = std::move(rest); }
 
     [[nodiscard]] Bytes bytes() const;
 

@@ -1,5 +1,7 @@
 #include "library/filter_query.h"
 
+#include "library/library_columns.h"
+
 #include <gmock/gmock.h>
 
 #include <string>
@@ -165,36 +167,57 @@ TEST(FilterQuery, AWrongNumberOfColumnsIsNoDanger) {
     EXPECT_TRUE(matches("", FilterText()));
 }
 
-portable::ReadOutcome readOutcome(portable::Media media) {
-    portable::ReadOutcome read;
-    read.kind = portable::MediaKind{media, portable::Container::mp4};
-    return read;
+LibraryRow readRow(portable::Media media, const portable::TagValues& values, const QString& tags) {
+    LibraryRow row("/home/me/film", 1);
+    row.media = media;
+    row.state = ReadState::read;
+    row.year = static_cast<std::int16_t>(values.year.value_or(0));
+    row.coverHash = values.cover ? coverHash(*values.cover) : 0;
+    row.setTexts(PackedTexts(values), tags, {});
+    return row;
 }
 
-TEST(MissingIn, AFieldThatTheKindDoesNotHaveIsNotMissing) {
-    EXPECT_EQ(missingIn(readOutcome(portable::Media::audio)), 0b11'1011'0111 & ~missingBit(Field::director));
-    EXPECT_EQ(0b11'1111'1011, missingIn(readOutcome(portable::Media::video)));
+MissingBits missingIn(const LibraryRow& row, const RowEdits* edits = nullptr) {
+    return filterTextOf(row, edits).missing();
 }
 
-TEST(MissingIn, WhatIsThereIsNotMissing) {
-    portable::ReadOutcome read = readOutcome(portable::Media::audio);
-    read.tags = {"ID3v2.3"};
-    read.values.text(Field::title) = "a";
-    read.values.text(Field::artist) = "a";
-    read.values.text(Field::album) = "a";
-    read.values.text(Field::synopsis) = "a";
-    read.values.text(Field::genre) = "a";
-    read.values.year = 1;
-    EXPECT_EQ(missingIn(read), missingBit(Field::cover));
-    read.values.cover = portable::Cover{};
-    EXPECT_EQ(0, missingIn(read));
+TEST(MissingFields, AFieldThatTheKindDoesNotHaveIsNotMissing) {
+    EXPECT_EQ(0b11'1011'0111 & ~missingBit(Field::director),
+              missingIn(readRow(portable::Media::audio, {}, "")));
+    EXPECT_EQ(0b11'1111'1011, missingIn(readRow(portable::Media::video, {}, "")));
 }
 
-TEST(MissingIn, OfAFileThatCanNotBeReadNothingIsKnown) {
-    portable::ReadOutcome read = readOutcome(portable::Media::audio);
-    read.failure = portable::Reason{};
-    EXPECT_EQ(0, missingIn(read));
-    EXPECT_EQ(0, missingIn(portable::ReadOutcome{}));
+TEST(MissingFields, WhatIsThereIsNotMissing) {
+    portable::TagValues values;
+    values.text(Field::title) = "a";
+    values.text(Field::artist) = "a";
+    values.text(Field::album) = "a";
+    values.text(Field::synopsis) = "a";
+    values.text(Field::genre) = "a";
+    values.year = 1;
+    EXPECT_EQ(missingBit(Field::cover), missingIn(readRow(portable::Media::audio, values, "ID3v2.3")));
+    values.cover = portable::Cover{};
+    EXPECT_EQ(0, missingIn(readRow(portable::Media::audio, values, "ID3v2.3")));
+}
+
+TEST(MissingFields, WhatAnEditBringsOrDeletesCounts) {
+    portable::TagValues values;
+    values.text(Field::title) = "a";
+    const LibraryRow row = readRow(portable::Media::audio, values, "ID3v2.3");
+    RowEdits edits;
+    ASSERT_TRUE(editText(edits, row, LibraryColumn::title, ""));
+    ASSERT_TRUE(editText(edits, row, LibraryColumn::year, "1976"));
+    EXPECT_NE(0, missingIn(row) & missingBit(Field::year));
+    EXPECT_EQ(0, missingIn(row, &edits) & missingBit(Field::year));
+    EXPECT_EQ(0, missingIn(row) & missingBit(Field::title));
+    EXPECT_NE(0, missingIn(row, &edits) & missingBit(Field::title));
+}
+
+TEST(MissingFields, OfAFileThatCanNotBeReadNothingIsKnown) {
+    LibraryRow row = readRow(portable::Media::audio, {}, "");
+    row.state = ReadState::failed;
+    EXPECT_EQ(0, missingIn(row));
+    EXPECT_EQ(0, missingIn(LibraryRow("/home/me/film", 1)));
 }
 
 } // namespace

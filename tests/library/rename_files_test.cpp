@@ -244,7 +244,7 @@ TEST_F(RenameFilesTest, TheWayBackLeadsBack) {
     EXPECT_NE(contents(), before);
     std::vector<FileRename> back;
     for (const FileRename& rename : there) {
-        back.push_back(rename.undone());
+        back.push_back({rename.to, rename.from, rename.identity});
     }
     EXPECT_THAT(renameFiles(back), Each(Eq(std::nullopt)));
     EXPECT_EQ(before, contents());

@@ -151,13 +151,5 @@ TEST_F(RenamePlanTest, NamesOfAnyBytesAreRenamed) {
     EXPECT_EQ(RenameMark::renamed, planned[0].mark);
 }
 
-TEST_F(RenamePlanTest, WhatIsDoneIsWhatIsMarkedAsRenamed) {
-    const auto renames = renamesOf(plan({row("a.mp3", "x"), row("b.mp3", ""), row("c.mp3", "c")}));
-    ASSERT_EQ(1U, renames.size());
-    EXPECT_EQ(path("a.mp3"), renames[0].from);
-    EXPECT_EQ(path("x.mp3"), renames[0].to);
-    EXPECT_EQ(renames[0].identity, identityOf(path("a.mp3")));
-}
-
 } // namespace
 } // namespace velmora
