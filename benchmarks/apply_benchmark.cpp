@@ -1,5 +1,5 @@
-/** apply_benchmark FOLDER GENRE: sets the genre of the folder's files as the library table's Apply does it, and prints how long
-    that took, in milliseconds by the clock. */
+/** apply_benchmark FOLDER GENRE: sets the genre of the folder's files as the library table's Apply does it,
+   and prints how long that took, in milliseconds by the clock. */
 
 #include "library/apply_run.h"
 #include "platform/file_path.h"

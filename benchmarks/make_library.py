@@ -4,7 +4,7 @@
     FOLDER/leading/     songs with an ID3v2 tag in front and padding behind it
     FOLDER/appended/    songs with an ID3v2.4 tag at the end, found by its footer
     FOLDER/asf/         songs (wma) and films (wmv) with attributes and a padding object
-    FOLDER/avi/         films with an INFO list, as ffmpeg places it (every other one) or behind everything else
+    FOLDER/avi/         films with an INFO list, where ffmpeg places it (every other one) or at the end
     FOLDER/store/       one file of each kind that a title is stored in; the AVI file has its INFO list last
     FOLDER/large/       the same three, with 1 GiB of (sparse) media data
     FOLDER/elements.txt "PATH COUNT" lines: the frames, objects and attributes, or chunks of a file
@@ -46,8 +46,8 @@ def make_sources(folder):
     info = [part for pair in info for part in pair.split("=", 1)]
     ffmpeg(*film, "-c:v", "mpeg4", "-b:v", "1500k", *info, f"{folder}/film.avi")
     ffmpeg(*film, "-c:v", "mpeg4", "-b:v", "1500k", f"{folder}/untagged.avi")
-    ffmpeg("-f", "lavfi", "-i", "gradients=s=500x500:x0=0:y0=0:x1=500:y1=500:d=1", "-frames:v", "1", "-q:v", "2",
-           "-update", "1", f"{folder}/cover.jpg")
+    ffmpeg("-f", "lavfi", "-i", "gradients=s=500x500:x0=0:y0=0:x1=500:y1=500:d=1", "-frames:v", "1",
+           "-q:v", "2", "-update", "1", f"{folder}/cover.jpg")
 
 
 def id3_tag(number, cover):
@@ -109,7 +109,8 @@ def avi_chunks(data):
 def with_info_last(data):
     data = data.replace(b"LIST\x1a\0\0\0INFO", b"JUNK\x1a\0\0\0INFO")  # ffmpeg's own, with its name alone
     assert all(data[at + 8:at + 12] != b"INFO" for name, at, _ in avi_chunks(data) if name == b"LIST")
-    texts = [(b"INAM", TITLE), (b"IART", ARTIST), (b"IGNR", "Drama"), (b"ICRD", "2007"), (b"ICMT", "Two friends.")]
+    texts = [(b"INAM", TITLE), (b"IART", ARTIST), (b"IGNR", "Drama"), (b"ICRD", "2007"),
+             (b"ICMT", "Two friends.")]
     info = b"INFO" + b"".join(chunk(name, text.encode() + b"\0") for name, text in texts)
     data = data + chunk(b"LIST", info)
     return data[:4] + struct.pack("<I", len(data) - 8) + data[8:]
@@ -213,7 +214,8 @@ def count_avi(path):
 
 def write_element_counts(folder):
     leading = f"{folder}/leading/01.mp3"
-    counts = [(leading, len(id3.ID3(leading))), (f"{folder}/appended/01.mp3", count_id3(f"{folder}/appended/01.mp3")),
+    counts = [(leading, len(id3.ID3(leading))),
+              (f"{folder}/appended/01.mp3", count_id3(f"{folder}/appended/01.mp3")),
               (f"{folder}/asf/01.wma", count_asf(f"{folder}/asf/01.wma")),
               (f"{folder}/avi/01.avi", count_avi(f"{folder}/avi/01.avi"))]
     with open(f"{folder}/elements.txt", "w", encoding="utf-8") as file:

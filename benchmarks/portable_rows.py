@@ -1,5 +1,5 @@
-"""Rows of the table: what portable tags cost, through the command line. By the clock, since most of it is the disk's
-work; the two sides take turns, and each figure is a median."""
+"""Rows of the table: what portable tags cost, through the command line. By the clock, since most of it is the
+disk's work; the two sides take turns, and each figure is a median."""
 
 import os
 import shutil
@@ -23,21 +23,23 @@ def run(*command):
 
 
 def peak_memory(*command):
-    """In KiB. A small program starts COMMAND: a process counts what its parent took until it is a program of its own."""
+    """In KiB. A small program starts COMMAND: a process counts what its parent took until it is a program of
+    its own."""
     ended = subprocess.run(["/usr/bin/time", "-f", "%M", *command], check=True, stdout=subprocess.DEVNULL,
                            stderr=subprocess.PIPE, text=True)
     return int(ended.stderr)
 
 
 def encode(path, source, *options):
-    subprocess.run(["ffmpeg", "-v", "error", "-y", "-f", "lavfi", "-i", source, *options, "-metadata", "title=Harbour",
-                    "-metadata", "artist=A. Keeper", path], check=True)
+    subprocess.run(["ffmpeg", "-v", "error", "-y", "-f", "lavfi", "-i", source, *options,
+                    "-metadata", "title=Harbour", "-metadata", "artist=A. Keeper", path], check=True)
 
 
 def add_start(table, tool, programs):
     starts = [(run(tool, "--version"), run(f"{programs}/bare_taglib")) for _ in range(41)]
     ours, bare = (statistics.median(pair[side] for pair in starts) for side in (0, 1))
-    table.add_ratio("start of velmora-tag, by the clock", ours, bare, "a program that links TagLib and ends", 2)
+    table.add_ratio("start of velmora-tag, by the clock", ours, bare,
+                    "a program that links TagLib and ends", 2)
 
 
 def add_show(table, tool, programs, folder):
@@ -77,13 +79,14 @@ def add_saves(table, tool, folder):
     at_rest = peak_memory(tool, "--version")
     for name, text, frames, options in FILMS:
         film = f"{folder}/{name}"
-        encode(film, "testsrc2=s=1920x1080", "-c:v", "rawvideo", "-pix_fmt", "uyvy422", "-frames:v", str(frames), *options)
+        encode(film, "testsrc2=s=1920x1080", "-c:v", "rawvideo", "-pix_fmt", "uyvy422",
+               "-frames:v", str(frames), *options)
         peak = add_save(table, tool, film, text, 5, 1.5)
         os.remove(film)
         above = (peak - at_rest) / 1024
         table.add(f"peak memory of a portable save, {text}", f"{peak / 1024:.1f} MiB",
-                  f"the process at rest: {at_rest / 1024:.1f} MiB", f"{above:.1f} MiB above", "at most 16 MiB above", 16,
-                  above)
+                  f"the process at rest: {at_rest / 1024:.1f} MiB", f"{above:.1f} MiB above",
+                  "at most 16 MiB above", 16, above)
 
 
 def add_portable(table, build):

@@ -1,10 +1,11 @@
 #!/usr/bin/python3
-"""run.py BUILD_FOLDER [PART...]: runs the benchmarks of the build and prints one table, in Markdown, with ratios and
-targets. A PART is tags, memory, portable, trim, search, library, dom or start; without any it is all of them.
+"""run.py BUILD_FOLDER [PART...]: runs the benchmarks of the build and prints one table, in Markdown, with
+ratios and targets. A PART is tags, memory, portable, trim, search, library, dom or start; without any it is
+all of them.
 
-Each ratio comes from one run of one program (or, for the starts, one loop) in which the two sides take turns, and is a
-ratio of medians. Time is processor time, user and system together, unless a row says otherwise: it is what the work
-costs on a machine that has other things to do. Ends with 1 when a target is missed.
+Each ratio comes from one run of one program (or, for the starts, one loop) in which the two sides take turns,
+and is a ratio of medians. Time is processor time, user and system together, unless a row says otherwise: it
+is what the work costs on a machine that has other things to do. Ends with 1 when a target is missed.
 """
 
 import json
@@ -32,7 +33,8 @@ def google_benchmark(command, repetitions, *options):
     """{name: median processor time in ns} of a program of Google Benchmark."""
     with tempfile.NamedTemporaryFile(suffix=".json") as out:
         subprocess.run([*command, f"--benchmark_repetitions={repetitions}", f"--benchmark_out={out.name}",
-                        "--benchmark_enable_random_interleaving=true", "--benchmark_out_format=json", *options],
+                        "--benchmark_enable_random_interleaving=true", "--benchmark_out_format=json",
+                        *options],
                        check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         runs = json.load(out)["benchmarks"]
     times = {}
@@ -50,12 +52,12 @@ def add_tags(table, programs, library):
     tag_benchmark = [f"{programs}/tag_benchmark", library]
     limits = {"leading": 0.35, "appended": 0.40, "asf": 0.45, "avi": 0.40}
     times = google_benchmark(tag_benchmark, 15, "--benchmark_filter=read|store", "--benchmark_min_time=0.03")
-    names = {"leading": "TagLib, tags only", "appended": "TagLib's parser and a footer search", "asf": "TagLib",
-             "avi": "TagLib's RIFF classes"}
+    names = {"leading": "TagLib, tags only", "appended": "TagLib's parser and a footer search",
+             "asf": "TagLib", "avi": "TagLib's RIFF classes"}
     for kind, text in KINDS:
         work = f"read {kind}"
-        table.add_ratio(f"read the tags of 12 files, {text}", times[f"{work}/velmora"], times[f"{work}/yardstick"],
-                        names[kind], limits[kind], times[f"{work}/closed"])
+        table.add_ratio(f"read the tags of 12 files, {text}", times[f"{work}/velmora"],
+                        times[f"{work}/yardstick"], names[kind], limits[kind], times[f"{work}/closed"])
         if f"{work} without covers/velmora" in times:
             work += " without covers"
             table.add_ratio("the same, the 6 of them without a cover", times[f"{work}/velmora"],
@@ -64,15 +66,17 @@ def add_tags(table, programs, library):
     limits = {"appended": 0.30, "asf": 0.006, "avi": 0.30}
     for kind, text in STORES:
         work = f"store {kind}"
-        table.add_ratio(f"store a title in place, {text}", times[f"{work}/velmora"], times[f"{work}/yardstick"],
-                        names[kind], limits[kind], times[f"{work}/closed"])
+        table.add_ratio(f"store a title in place, {text}", times[f"{work}/velmora"],
+                        times[f"{work}/yardstick"], names[kind], limits[kind], times[f"{work}/closed"])
         if kind == "avi":
-            table.add_ratio("the same, beside a search for the list that reads every list in whole", times[f"{work}/velmora"],
-                            times[f"{work}/whole lists"], names[kind], 0.05, times[f"{work}/closed"])
+            table.add_ratio("the same, beside a search for the list that reads every list in whole",
+                            times[f"{work}/velmora"], times[f"{work}/whole lists"], names[kind], 0.05,
+                            times[f"{work}/closed"])
             # No product's figure, and no target of its own: how far down the ratio could go at all.
             fewest, yardstick = times[f"{work}/fewest calls"], times[f"{work}/yardstick"]
             table.add_without_target("the same as a plain loop of the fewest reads and writes", "",
-                                     f"{duration(fewest)} beside {duration(yardstick)}", f"{fewest / yardstick:.2f}")
+                                     f"{duration(fewest)} beside {duration(yardstick)}",
+                                     f"{fewest / yardstick:.2f}")
     for kind, text in STORES:
         work = f"store {kind}"
         table.add_ratio(f"the same store in a file of 1 GiB, {text}", times[f"{work}/large"],
@@ -83,7 +87,8 @@ def add_tags(table, programs, library):
 
 
 def task_cost(programs, *arguments):
-    return int(subprocess.run([f"{programs}/task_cost", *arguments], check=True, capture_output=True, text=True).stdout)
+    return int(subprocess.run([f"{programs}/task_cost", *arguments], check=True, capture_output=True,
+                              text=True).stdout)
 
 
 def add_calls(table, programs, library):
@@ -112,8 +117,9 @@ def add_memory(table, programs, library):
     for text, task, path in tasks:
         peak = statistics.median(task_cost(programs, "memory", task, path) for _ in range(3))
         above = (peak - bare) / 1024
-        table.add(f"peak memory of a {text}", f"{peak / 1024:.1f} MiB", f"the bare process: {bare / 1024:.1f} MiB",
-                  f"{above:.1f} MiB above", "at most 8 MiB above", 8, above)
+        table.add(f"peak memory of a {text}", f"{peak / 1024:.1f} MiB",
+                  f"the bare process: {bare / 1024:.1f} MiB", f"{above:.1f} MiB above", "at most 8 MiB above",
+                  8, above)
 
 
 def add_trim(table, programs):
@@ -126,15 +132,17 @@ def add_trim(table, programs):
               f"one vectorised read: {duration(read)}, one copy of the box: {duration(copy)}",
               f"{ratio:.2f} and the copy", "at most 0.5 and the copy", 0.5, ratio)
     table.add_without_target("the same, beside a copy that asks for large pages too", duration(border),
-                             f"one vectorised read: {duration(read)}, one copy of the box: {duration(large_copy)}",
+                             f"one vectorised read: {duration(read)}, "
+                             f"one copy of the box: {duration(large_copy)}",
                              f"{(border - large_copy) / read:.2f} and the copy")
 
 
 def add_search(table, programs):
-    run = subprocess.run([f"{programs}/search_benchmark"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
-                         check=False, env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+    run = subprocess.run([f"{programs}/search_benchmark"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                         text=True, check=False, env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
     for how, name in ((", by the clock", "clock"), ("", "processor")):
-        match = re.search(name + r": find (.+) ms, walk (.+) ms, listing (.+) ms, listing by name (.+) ms", run.stdout)
+        match = re.search(name + r": find (.+) ms, walk (.+) ms, listing (.+) ms, listing by name (.+) ms",
+                          run.stdout)
         if not match:
             sys.exit("search_benchmark failed")
         find, walk, unsorted, by_name = (float(value) * 1e6 for value in match.groups())
@@ -147,8 +155,8 @@ def add_dom_copy(table, programs):
     environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
     if os.geteuid() == 0:
         environment["QTWEBENGINE_DISABLE_SANDBOX"] = "1"  # the engine's sandbox does not run as root
-    run = subprocess.run([f"{programs}/dom_copy_benchmark"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
-                         check=False, env=environment)
+    run = subprocess.run([f"{programs}/dom_copy_benchmark"], stdout=subprocess.PIPE,
+                         stderr=subprocess.DEVNULL, text=True, check=False, env=environment)
     match = re.match("copy (.+) ms, text (.+) ms", run.stdout)
     if not match:
         sys.exit("dom_copy_benchmark failed")
@@ -161,7 +169,8 @@ def start(program, home):
     """Processor and wall time in ns until the program has painted its window, at which it ends."""
     environment = {**os.environ, "HOME": home, "QT_QPA_PLATFORM": "offscreen"}
     began = time.monotonic_ns()
-    process = subprocess.Popen([program], env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    process = subprocess.Popen([program], env=environment, stdout=subprocess.DEVNULL,
+                               stderr=subprocess.DEVNULL)
     _, status, usage = os.wait4(process.pid, 0)
     took = time.monotonic_ns() - began
     process.returncode = status
@@ -179,15 +188,16 @@ def add_start(table, programs):
                 times[program].append(start(program, home))
     # The first round reads the programs from the disk.
     velmora, bare = ([statistics.median(column) for column in zip(*times[program][1:])] for program in both)
-    table.add_ratio("start to first paint", velmora[0], bare[0], "a bare window with the same widgets, empty", 1.3)
-    table.add_ratio("start to first paint, by the clock", velmora[1], bare[1], "a bare window with the same widgets, empty", 1.3)
+    yardstick = "a bare window with the same widgets, empty"
+    table.add_ratio("start to first paint", velmora[0], bare[0], yardstick, 1.3)
+    table.add_ratio("start to first paint, by the clock", velmora[1], bare[1], yardstick, 1.3)
 
 
 def machine():
     memory = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / (1 << 30)
     load = os.getloadavg()[1]
-    return (f"{os.cpu_count()} cores of {platform.machine()}, {memory:.0f} GiB of memory, files in the page cache; "
-            f"load of the last five minutes {load:.1f}.")
+    return (f"{os.cpu_count()} cores of {platform.machine()}, {memory:.0f} GiB of memory, "
+            f"files in the page cache; load of the last five minutes {load:.1f}.")
 
 
 def main():
@@ -205,7 +215,8 @@ def main():
         add_portable(table, os.path.abspath(sys.argv[1]))
     if "library" in parts:
         add_library(table, google_benchmark, programs)
-    for part, add in (("trim", add_trim), ("search", add_search), ("dom", add_dom_copy), ("start", add_start)):
+    for part, add in (("trim", add_trim), ("search", add_search), ("dom", add_dom_copy),
+                      ("start", add_start)):
         if part in parts:
             add(table, programs)
     table.write()

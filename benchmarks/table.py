@@ -1,4 +1,5 @@
-"""The table that the benchmarks print: rows of cells in Markdown, with ratios, targets, and whether each was met."""
+"""The table that the benchmarks print: rows of cells in Markdown, with ratios, targets, and whether each was
+met."""
 
 
 class Table:
@@ -16,8 +17,8 @@ class Table:
 
     def add_ratio(self, work, ours, yardstick, name, limit, closed=None):
         ratio = ours / yardstick
-        self.add(work, duration(ours), f"{name}: {duration(yardstick)}", f"{ratio:.3g}", f"at most {limit}", limit,
-                 ratio, "" if closed is None else f"{duration(closed)} ({closed / yardstick:.2f})")
+        self.add(work, duration(ours), f"{name}: {duration(yardstick)}", f"{ratio:.3g}", f"at most {limit}",
+                 limit, ratio, "" if closed is None else f"{duration(closed)} ({closed / yardstick:.2f})")
 
     def write(self):
         head = ("work", "Velmora", "standard error closed", "yardstick", "ratio or figure", "target", "met")

@@ -46,8 +46,8 @@ public:
        a sheet; the edits stay kept then. */
     void restoreUnsavedEdits();
 
-    /** Asks where the open file is now, which is not in its old place any more, or the file whose edits were kept last. It is
-       listed and opened there, and the edits are put back. */
+    /** Asks where the open file is now, which is not in its old place any more, or the file whose edits were
+       kept last. It is listed and opened there, and the edits are put back. */
     void locateFile();
     void locateKeptFile();
 

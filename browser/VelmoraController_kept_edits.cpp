@@ -1,4 +1,5 @@
-// Edits that could not be saved, put back into the form: where their file was, or where the user finds it now.
+// Edits that could not be saved, put back into the form: where their file was, or where the user finds it
+// now.
 
 #include "VelmoraController.h"
 

@@ -69,9 +69,9 @@ public:
         static_cast<void>(error);
         return false;
     }
-    /** Opens the file at PLACE, where the user has found the open one that is not in its old place any more, and makes the
-       edits there; they count as a change. False, with ERROR (may be null) filled and everything as it was, when it can't
-       be opened; false also when no file is open. */
+    /** Opens the file at PLACE, where the user has found the open one that is not in its old place any more,
+       and makes the edits there; they count as a change. False, with ERROR (may be null) filled and
+       everything as it was, when it can't be opened; false also when no file is open. */
     virtual bool takeEditsTo(const QUrl& place, Error* error) {
         static_cast<void>(place);
         static_cast<void>(error);

@@ -29,7 +29,8 @@ QString notSaved(const SaveEnd& end) {
                             asSentence(end.obstacle.reason)});
 }
 
-/** Whether nothing is left of the file at PATH: a save in place leaves an empty one behind where the file had vanished. */
+/** Whether nothing is left of the file at PATH: a save in place leaves an empty one behind where the file had
+   vanished. */
 bool isGone(const QString& path) {
     const std::optional<FileAttributes> attributes = fileAttributes(pathBytes(path));
     return !attributes || (!attributes->isDirectory && attributes->size.value_or(1) == 0);

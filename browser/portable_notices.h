@@ -26,8 +26,8 @@ public:
     void fileOpened();
     /** The form shows no file any more. */
     void fileClosed();
-    /** The edits of the file at PATH are kept, which could not be saved or opened because of REASON, one sentence without a
-       full stop. */
+    /** The edits of the file at PATH are kept, which could not be saved or opened because of REASON, one
+       sentence without a full stop. */
     void editsKept(const QString& path, const QString& reason);
     /** The open file's edits have come back. */
     void editsRestored();

@@ -25,7 +25,8 @@ public:
     explicit LibraryModel(QObject* parent = nullptr);
     ~LibraryModel() override;
 
-    /** Lists the file at PATH of SIZE bytes, unless it is listed, and reads it: soon, since many may come at once. */
+    /** Lists the file at PATH of SIZE bytes, unless it is listed, and reads it: soon, since many may come at
+       once. */
     void addFile(const QString& path, std::uint64_t size);
     void removeFile(const QString& path);
     /** Reads the file again: it has changed. */

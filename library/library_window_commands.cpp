@@ -136,7 +136,8 @@ bool LibraryWindow::exportTo(const QString& path) {
     return (json ? exportJson(table, file) : exportCsv(table, file)) && file.commit();
 }
 
-/** Asks where to. The chosen kind gives the name its extension, before the panel asks about a file that has that name. */
+/** Asks where to. The chosen kind gives the name its extension, before the panel asks about a file that has
+   that name. */
 void LibraryWindow::exportTable() {
     auto* const panel =
         new QFileDialog(this, localised("Export"), QString(), QStringLiteral("CSV (*.csv);;JSON (*.json)"));

@@ -6,8 +6,8 @@ build_packages=(build-essential cmake lld ninja-build pkg-config
 run_packages=(libqt6svg6 qt6-image-formats-plugins qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core
   gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-ugly gstreamer1.0-plugins-bad
   gstreamer1.0-libav)
-display_packages=(xvfb xauth xdotool x11-utils at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi ffmpeg libid3tag0-dev
-  zlib1g-dev)
+display_packages=(xvfb xauth xdotool x11-utils at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi ffmpeg
+  libid3tag0-dev zlib1g-dev)
 test_packages=(libgtest-dev libgmock-dev locales python3 python3-mutagen clang)
 check_packages=(clang-format-14 clang-tidy-14 libclang-rt-14-dev git)
 
@@ -21,6 +21,6 @@ install_packages() {
   local root=()
   [ "$(id -u)" -eq 0 ] || root=(sudo)
   "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq
-  "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" \
-    >/dev/null
+  "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+    "${missing[@]}" >/dev/null
 }

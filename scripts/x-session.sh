@@ -72,7 +72,9 @@ screenshot() {
 }
 
 # cut_out FILE X Y WIDTH HEIGHT: leaves a picture of a part of the display.
-cut_out() { ffmpeg -v error -y -f x11grab -video_size "$4x$5" -i "$DISPLAY+$2,$3" -frames:v 1 -update 1 "$1"; }
+cut_out() {
+  ffmpeg -v error -y -f x11grab -video_size "$4x$5" -i "$DISPLAY+$2,$3" -frames:v 1 -update 1 "$1"
+}
 
 # Ends the program from the keyboard and gives its exit code.
 quit_program() {

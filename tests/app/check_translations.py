@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Every text that the program shows stands in every translation table, with its placeholders and with the quotes, dots
-and spaces of its language, and no table holds a text that is not shown any more. In no language does the window, or a
-menu, give one letter to two controls: the Alt key would then only move between them.
+"""Every text that the program shows stands in every translation table, with its placeholders and with the
+quotes, dots and spaces of its language, and no table holds a text that is not shown any more. In no language
+does the window, or a menu, give one letter to two controls: the Alt key would then only move between them.
 Usage: check_translations.py SOURCE_FOLDER"""
 
 import pathlib
@@ -16,8 +16,8 @@ PLURAL_FORMS = {"ja": 1, "zh_CN": 1}  # two in the others
 SCRIPTS_WITHOUT_KEYS = ["ja", "zh_CN"]
 # What is not written so in the language: signs of a typewriter, French signs that a line's end could part
 # from their word, half-width signs at full-width letters.
-WRONG_SIGNS = {"de": r'["\']', "es": r'["\']', "fr": r'["\']| [:;!?»]|« ', "it": r'["\']', "ja": r'["\']|[ぁ-鿿][,.;!?]',
-               "zh_CN": r'["\']|[一-鿿][,.:;!?]'}
+WRONG_SIGNS = {"de": r'["\']', "es": r'["\']', "fr": r'["\']| [:;!?»]|« ', "it": r'["\']',
+               "ja": r'["\']|[ぁ-鿿][,.;!?]', "zh_CN": r'["\']|[一-鿿][,.:;!?]'}
 LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
 
 
@@ -46,8 +46,8 @@ def texts_of_layouts(root):
 
 
 def texts_with_letters(root):
-    """The texts of the window's controls and menu titles that have a letter for the Alt key, and the keys of those
-    controls whose captions have none."""
+    """The texts of the window's controls and menu titles that have a letter for the Alt key, and the keys of
+    those controls whose captions have none."""
     yield from (text for text in sorted(set(texts_of_code(root))) if text[1].startswith("Alt+"))
     for context, layout in layouts(root):
         for widget in layout.iter("widget"):
@@ -111,7 +111,8 @@ def wrong_translations(table, text, is_plural):
     # A single one may be a word.
     if is_plural and "%Ln" not in forms[-1]:
         wrong.append(f"no number in {text}")
-    if table.language in SCRIPTS_WITHOUT_KEYS and "&" in text[1].replace("&&", "") and not re.search(r"\(&[A-Z]\)", forms[0]):
+    has_letter = "&" in text[1].replace("&&", "")
+    if table.language in SCRIPTS_WITHOUT_KEYS and has_letter and not re.search(r"\(&[A-Z]\)", forms[0]):
         wrong.append(f"no letter in brackets: {text}")
     if table.language not in SCRIPTS_WITHOUT_KEYS and "(&" in forms[0]:
         wrong.append(f"letter in brackets: {text}")
@@ -140,7 +141,8 @@ def main():
     lettered = [window, *menus(root)]
     failures += [] if len(lettered) > 4 else [f"only {len(lettered) - 1} menus were found"]
     for group in lettered:
-        failures += [f"letter given twice: {letter}" for letter in letters_given_twice([text for _, text in group])]
+        failures += [f"letter given twice: {letter}"
+                     for letter in letters_given_twice([text for _, text in group])]
     for language in LANGUAGES:
         table = Table(root / "app" / "translations" / f"velmora_{language}.ts")
         failures += wrong_in_table(table, shown, lettered)

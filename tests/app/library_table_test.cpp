@@ -39,7 +39,8 @@ protected:
     [[nodiscard]] QLabel& summary() {
         return *document().library()->findChild<ApplyDialog*>()->findChild<QLabel*>("lbl_applied");
     }
-    /** Two songs with a tag behind their frames, which is changed in place and portably, and the library table over them. */
+    /** Two songs with a tag behind their frames, which is changed in place and portably, and the library
+       table over them. */
     void openSongs() {
         const std::string frame = test::hex("FF FB 90 C4") + std::string(413, '\0');
         for (const char* name : {"a.mp3", "b.mp3"}) {

@@ -1,5 +1,6 @@
-"""read_fields.py PATH: what mutagen (for AVI, which it does not know: ffprobe) finds in the tag of PATH, one line
-"field: value" for each field that is there; of a cover, the checksum of its bytes. Below it the checksums of the media."""
+"""read_fields.py PATH: what mutagen (for AVI, which it does not know: ffprobe) finds in the tag of PATH, one
+line "field: value" for each field that is there; of a cover, the checksum of its bytes. Below it the
+checksums of the media."""
 import base64
 import hashlib
 import json
@@ -14,20 +15,20 @@ path = sys.argv[1]
 suffix = path.rsplit(".", 1)[1]
 FREE = "----:com.apple.iTunes:"
 NAMES = {
-    "id3": {"title": "TIT2", "artist": "TPE1", "album": "TALB", "director": "TXXX:DIRECTOR", "synopsis": "COMM::eng", "genre": "TCON",
-            "rating": "TXXX:CONTENTRATING", "year": "TDRC"},
-    "mp4": {"title": "\u00a9nam", "artist": "\u00a9ART", "album": "\u00a9alb", "director": FREE + "DIRECTOR", "synopsis": "ldes",
-            "genre": "\u00a9gen", "rating": FREE + "iTunEXTC", "year": "\u00a9day"},
-    "asf": {"title": "Title", "artist": "Author", "album": "WM/AlbumTitle", "director": "WM/Director", "synopsis": "Description",
-            "genre": "WM/Genre", "rating": "WM/ParentalRating", "year": "WM/Year"},
-    "xiph": {"title": "title", "artist": "artist", "album": "album", "director": "director", "synopsis": "description",
-             "genre": "genre", "rating": "contentrating", "year": "date"},
+    "id3": {"title": "TIT2", "artist": "TPE1", "album": "TALB", "director": "TXXX:DIRECTOR",
+            "synopsis": "COMM::eng", "genre": "TCON", "rating": "TXXX:CONTENTRATING", "year": "TDRC"},
+    "mp4": {"title": "\u00a9nam", "artist": "\u00a9ART", "album": "\u00a9alb", "director": FREE + "DIRECTOR",
+            "synopsis": "ldes", "genre": "\u00a9gen", "rating": FREE + "iTunEXTC", "year": "\u00a9day"},
+    "asf": {"title": "Title", "artist": "Author", "album": "WM/AlbumTitle", "director": "WM/Director",
+            "synopsis": "Description", "genre": "WM/Genre", "rating": "WM/ParentalRating", "year": "WM/Year"},
+    "xiph": {"title": "title", "artist": "artist", "album": "album", "director": "director",
+             "synopsis": "description", "genre": "genre", "rating": "contentrating", "year": "date"},
     # As ffprobe calls them.
-    "avi": {"title": "title", "artist": "ISTR", "director": "artist", "synopsis": "comment", "genre": "genre", "rating": "IRTD",
-            "year": "date"},
+    "avi": {"title": "title", "artist": "ISTR", "director": "artist", "synopsis": "comment", "genre": "genre",
+            "rating": "IRTD", "year": "date"},
 }
-KINDS = {"mp3": "id3", "wav": "id3", "aiff": "id3", "m4a": "mp4", "mp4": "mp4", "mov": "mp4", "wma": "asf", "wmv": "asf",
-         "flac": "xiph", "ogg": "xiph", "opus": "xiph", "avi": "avi"}
+KINDS = {"mp3": "id3", "wav": "id3", "aiff": "id3", "m4a": "mp4", "mp4": "mp4", "mov": "mp4", "wma": "asf",
+         "wmv": "asf", "flac": "xiph", "ogg": "xiph", "opus": "xiph", "avi": "avi"}
 kind = KINDS[suffix]
 
 
@@ -54,9 +55,11 @@ def cover(found):
     if suffix == "flac":
         pictures = [picture.data for picture in FLAC(path).pictures if picture.type == 3]
     elif kind == "xiph":
-        pictures = [Picture(base64.b64decode(block)).data for block in found.get("metadata_block_picture", [])]
+        pictures = [Picture(base64.b64decode(block)).data
+                    for block in found.get("metadata_block_picture", [])]
     elif kind == "id3":
-        pictures = [frame.data for name, frame in found.items() if name.startswith("APIC") and frame.type == 3]
+        pictures = [frame.data for name, frame in found.items()
+                    if name.startswith("APIC") and frame.type == 3]
     elif kind == "mp4":
         pictures = [bytes(value) for value in MP4(path).tags.get("covr", [])] if MP4(path).tags else []
     elif kind == "asf":
@@ -76,4 +79,5 @@ for name, key in sorted(NAMES[kind].items()):
         print(f"{name}: {text(found[key])}")
 for data in cover(found):
     print(f"cover: {hashlib.md5(data).hexdigest()}")
-print(run("ffmpeg", "-v", "error", "-i", path, "-map", "0:a?", "-map", "0:V?", "-c", "copy", "-f", "streamhash", "-"), end="")
+print(run("ffmpeg", "-v", "error", "-i", path, "-map", "0:a?", "-map", "0:V?", "-c", "copy",
+          "-f", "streamhash", "-"), end="")

@@ -1,5 +1,5 @@
-// The library table's commands through its window, with the keys and the mouse: covers, the clipboard, export, sorting,
-// what fails and is tried again.
+// The library table's commands through its window, with the keys and the mouse: covers, the clipboard,
+// export, sorting, what fails and is tried again.
 
 #include "library/apply_dialog.h"
 #include "library/library_window.h"

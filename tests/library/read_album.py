@@ -1,4 +1,5 @@
-"""read_album.py FOLDER: what mutagen says of the songs in FOLDER, a line for each in the order of their names."""
+"""read_album.py FOLDER: what mutagen says of the songs in FOLDER, a line for each in the order of their
+names."""
 import hashlib
 import pathlib
 import sys

@@ -126,9 +126,12 @@ TEST_F(WebViewDocument, IsAsTheScriptsHaveMadeIt) {
 
 TEST_F(WebViewDocument, IsTrueOnAPageThatReplacesPrototypes) {
     const auto document = documentOf(R"(<title>true</title><div class="info">a</div><script>
-        for (const p of [Node, Element, HTMLElement, Document, CharacterData, HTMLAnchorElement, HTMLImageElement]) {
+        for (const p of [Node, Element, HTMLElement, Document, CharacterData, HTMLAnchorElement,
+                         HTMLImageElement]) {
             for (const name of Object.getOwnPropertyNames(p.prototype)) {
-                try { Object.defineProperty(p.prototype, name, {get() { return 'false'; }, value: undefined}); } catch (e) {}
+                try {
+                    Object.defineProperty(p.prototype, name, {get() { return 'false'; }, value: undefined});
+                } catch (e) {}
                 try { p.prototype[name] = () => 'false'; } catch (e) {}
             }
         }

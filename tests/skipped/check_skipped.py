@@ -1,5 +1,6 @@
-"""check_skipped.py BUILD: lists the tests that the last run of ctest in BUILD skipped, and fails when one of them is not
-allowed to by may_skip.txt. Reads ctest's log, since a test that a program of many skips is no skipped test to ctest."""
+"""check_skipped.py BUILD: lists the tests that the last run of ctest in BUILD skipped, and fails when one of
+them is not allowed to by may_skip.txt. Reads ctest's log, since a test that a program of many skips is no
+skipped test to ctest."""
 import fnmatch
 import pathlib
 import re

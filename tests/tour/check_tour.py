@@ -1,4 +1,5 @@
-"""check_tour.py PROJECT: the source tour names every source file of the rooms once, and none that is not there."""
+"""check_tour.py PROJECT: the source tour names every source file of the rooms once, and none that is not
+there."""
 import pathlib
 import re
 import sys

@@ -1,5 +1,5 @@
-"""check_walls.py PROJECT BUILD: every line of walls.txt, compiled with the command of the room's own source file, and no
-include of any room that leaves it by "..". Prints what does not hold and fails."""
+"""check_walls.py PROJECT BUILD: every line of walls.txt, compiled with the command of the room's own source
+file, and no include of any room that leaves it by "..". Prints what does not hold and fails."""
 import json
 import pathlib
 import re
@@ -31,8 +31,10 @@ def compiles(source, header):
         probe = pathlib.Path(folder) / "probe.cpp"
         bracketed = f'"{header}"' if "/" in header else f"<{header}>"
         probe.write_text(f"#include {bracketed}\n")
-        run = subprocess.run([*words, "-fsyntax-only", str(probe)], cwd=entry["directory"], capture_output=True, text=True)
-    missing = re.search(r"fatal error: '?" + re.escape(header) + r"\b.*(No such file|file not found)", run.stderr)
+        run = subprocess.run([*words, "-fsyntax-only", str(probe)], cwd=entry["directory"],
+                             capture_output=True, text=True)
+    missing = re.search(r"fatal error: '?" + re.escape(header) + r"\b.*(No such file|file not found)",
+                        run.stderr)
     if run.returncode != 0 and not missing:
         wrong.append(f"{source}, {header}: fails for another reason:\n{run.stderr}")
     return run.returncode == 0

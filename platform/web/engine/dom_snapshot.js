@@ -1,7 +1,8 @@
-// Gives the page's document as the text that dom_snapshot.h describes; the empty text where no page was loaded and for a
-// page that is beyond all measure. Runs in a world of its own, where nothing that the page's scripts replaced is seen. What the page's elements are named
-// is seen there too, and a form's or a document's own properties can be hidden by such names, so every property is read
-// through the getter of the class that defines it.
+// Gives the page's document as the text that dom_snapshot.h describes; the empty text where no page was
+// loaded and for a page that is beyond all measure. Runs in a world of its own, where nothing that the
+// page's scripts replaced is seen. What the page's elements are named is seen there too, and a form's or a
+// document's own properties can be hidden by such names, so every property is read through the getter of the
+// class that defines it.
 (function () {
     'use strict';
 
@@ -26,7 +27,8 @@
     const attributeNames = (element) => Element.prototype.getAttributeNames.call(element);
     const attribute = (element, name) => Element.prototype.getAttribute.call(element, name);
 
-    const characterData = [Node.TEXT_NODE, Node.CDATA_SECTION_NODE, Node.PROCESSING_INSTRUCTION_NODE, Node.COMMENT_NODE];
+    const characterData = [Node.TEXT_NODE, Node.CDATA_SECTION_NODE, Node.PROCESSING_INSTRUCTION_NODE,
+                           Node.COMMENT_NODE];
 
     const other = 0, anchor = 2, image = 5;
     const classes = new Map([
@@ -39,7 +41,8 @@
         [HTMLBRElement.prototype, 7],
     ]);
 
-    // The engine has documents of its own: an empty one before the first load, one that tells of an error after a failed one.
+    // The engine has documents of its own: an empty one before the first load, one that tells of an error
+    // after a failed one.
     const url = documentUrl(document);
     if (url === '' || url === 'about:blank' || url.startsWith('chrome-error:')) {
         return '';

@@ -1,5 +1,6 @@
-// There are no windows: a link that is to open one of its own is followed in the page. Only what the user does counts;
-// a script's click on a link is no trusted event. Runs in every frame, in a world that the page's scripts don't see.
+// There are no windows: a link that is to open one of its own is followed in the page. Only what the user
+// does counts; a script's click on a link is no trusted event. Runs in every frame, in a world that the
+// page's scripts don't see.
 (function () {
     'use strict';
 

@@ -1,5 +1,6 @@
-"""asf.py VELMORA_TAG KIND: files of KIND (wma, wmv) by ffmpeg and mutagen, each field set, changed, shortened and deleted; mutagen and
-ffmpeg read the asked value, mutagen finds everything else as it was, and ffmpeg the same streams."""
+"""asf.py VELMORA_TAG KIND: files of KIND (wma, wmv) by ffmpeg and mutagen, each field set, changed, shortened
+and deleted; mutagen and ffmpeg read the asked value, mutagen finds everything else as it was, and ffmpeg the
+same streams."""
 import pathlib
 import struct
 import subprocess
@@ -18,7 +19,8 @@ LARGE_JPEG = b"\xff\xd8\xff\xe0" + bytes(range(256)) * 1200
 # option: the attributes that are its places, what ffmpeg calls it, and its values: set, changed, shortened
 COMMON = {
     "title": ({"Title", "title"}, "title", ["Harbour", "Evening at the harbour", "Eve"]),
-    "synopsis": ({"Description"}, "comment", ["A ship", "A ship comes in at dusk \u00e4\u6f22\U0001f3ac", "Sea"]),
+    "synopsis": ({"Description"}, "comment",
+                 ["A ship", "A ship comes in at dusk \u00e4\u6f22\U0001f3ac", "Sea"]),
     "genre": ({"WM/Genre", "Genre"}, "genre", ["Folk", "Sea Shanty", "Pop"]),
     "year": ({"WM/Year", "Year", "date"}, "WM/Year", ["1994", "1995", "2003"]),
 }
@@ -42,7 +44,8 @@ def tag(*arguments):
 def make(path, *metadata):
     video = ["-f", "lavfi", "-i", "testsrc=d=1:s=160x120", "-c:v", "wmv2"] if path.suffix == ".wmv" else []
     options = [word for pair in metadata for word in ("-metadata", pair)]
-    run("ffmpeg", "-v", "error", "-f", "lavfi", "-i", "sine=d=1", *video, "-c:a", "wmav2", *options, str(path))
+    run("ffmpeg", "-v", "error", "-f", "lavfi", "-i", "sine=d=1", *video, "-c:a", "wmav2", *options,
+        str(path))
 
 
 def picture(kind, data, mime="image/jpeg"):
@@ -63,13 +66,15 @@ def furnish(path):
     file.tags["WM/MediaClassPrimaryID"] = [ASFGUIDAttribute(b"0123456789abcdef")]
     file.tags["AspectRatioX"] = [ASFDWordAttribute(4, stream=1)]
     file.tags["Title of the stream"] = [ASFUnicodeAttribute("left", stream=1)]
-    file.tags["WM/Picture"] = [ASFByteArrayAttribute(picture(4, JPEG)), ASFByteArrayAttribute(picture(5, LARGE_JPEG))]
+    file.tags["WM/Picture"] = [ASFByteArrayAttribute(picture(4, JPEG)),
+                               ASFByteArrayAttribute(picture(5, LARGE_JPEG))]
     file.tags["WM/Lyrics"] = ["la " * 40000]
     file.save()
 
 
 def attributes(path):
-    return [(name, type(value).__name__, value.value, value.language, value.stream) for name, value in ASF(str(path)).tags]
+    return [(name, type(value).__name__, value.value, value.language, value.stream)
+            for name, value in ASF(str(path)).tags]
 
 
 def others(path, places):
@@ -109,8 +114,10 @@ def check_cover(path, folder):
         tag("--cover", cover, path)
         front = [value for name, _, value, _, _ in attributes(path) if name == "WM/Picture" and value[0] == 3]
         check(len(front), 1, f"front covers of {path.name}")
-        check(front[0].endswith(data) and struct.unpack_from("<I", front[0], 1)[0] == len(data), True, f"cover of {path.name}")
-        check([a for a in attributes(path) if a[2] not in front], before, f"the rest of {path.name} with a cover")
+        check(front[0].endswith(data) and struct.unpack_from("<I", front[0], 1)[0] == len(data), True,
+              f"cover of {path.name}")
+        check([a for a in attributes(path) if a[2] not in front], before,
+              f"the rest of {path.name} with a cover")
     tag("--no-cover", path)
     check(attributes(path), before, f"{path.name} without cover")
 
@@ -121,7 +128,8 @@ with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as sta
     bare = folder / f"bare.{kind}"
     make(bare)
     tagged = folder / f"tagged.{kind}"
-    make(tagged, "title=Old", "artist=Old", "album=Old", "genre=Old", "date=1980", "comment=Old", "director=Old")
+    make(tagged, "title=Old", "artist=Old", "album=Old", "genre=Old", "date=1980", "comment=Old",
+         "director=Old")
     furnished = folder / f"furnished.{kind}"
     make(furnished, "title=Old", "comment=Old", "encoded_by=Nobody")
     furnish(furnished)

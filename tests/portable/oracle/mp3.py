@@ -1,6 +1,6 @@
-"""mp3.py VELMORA_TAG GROUP: MP3 files by ffmpeg with tags of all sorts (GROUP: mutagen, behind, 2.2, 2.3, 2.4), each field set, changed,
-shortened and deleted; mutagen and ffmpeg read the asked value, mutagen finds every other frame as it was, and ffmpeg the same
-stream."""
+"""mp3.py VELMORA_TAG GROUP: MP3 files by ffmpeg with tags of all sorts (GROUP: mutagen, behind, 2.2, 2.3,
+2.4), each field set, changed, shortened and deleted; mutagen and ffmpeg read the asked value, mutagen finds
+every other frame as it was, and ffmpeg the same stream."""
 import pathlib
 import struct
 import subprocess
@@ -12,8 +12,8 @@ from probing import Probing
 
 import mutagen.apev2
 import mutagen.id3
-from mutagen.id3 import (APIC, CHAP, COMM, CTOC, GEOB, ID3, PRIV, RVAD, TALB, TCON, TDAT, TDRC, TIT2, TIT3, TPE1, TXXX,
-                         TYER, USLT)
+from mutagen.id3 import (APIC, CHAP, COMM, CTOC, GEOB, ID3, PRIV, RVAD, TALB, TCON, TDAT, TDRC, TIT2, TIT3,
+                         TPE1, TXXX, TYER, USLT)
 
 velmora_tag, group = sys.argv[1:]
 JPEG = b"\xff\xd8\xff\xe0" + bytes(range(256)) * 4
@@ -101,7 +101,8 @@ def packed_frames(version, text=b"\x01\xff\xfeO\0l\0d\0"):
     packed = zlib.compress(b"\0Packed")
     compressed = (struct.pack(">I", 7) + packed, 0x0080) if version == 3 else (synchsafe(7) + packed, 0x0009)
     encrypted = (b"\x80secret", 0x0040) if version == 3 else (b"\x80secret", 0x0004)
-    return (frame(version, b"TIT2", text) + frame(version, b"TPE1", *compressed) + frame(version, b"TIT3", *encrypted)
+    return (frame(version, b"TIT2", text) + frame(version, b"TPE1", *compressed)
+            + frame(version, b"TIT3", *encrypted)
             + frame(version, b"RVAD", b"\3\x10\0\1\0\2") + frame(version, b"EQUA", b"\x10\x80\0\xff\xe0")
             + frame(version, b"TSIZ", b"\0001234") + frame(version, b"XYZW", bytes(300)))
 
@@ -113,7 +114,8 @@ def bytes_tags():
     yield "2.2 unsynchronised", whole_tag(2, unsynchronised(packed_frames(2)), 0x80)
     yield "2.3 packed", whole_tag(3, packed_frames(3))
     yield "2.3 unsynchronised", whole_tag(3, unsynchronised(packed_frames(3)) + bytes(50), 0x80)
-    yield "2.3 extended header", whole_tag(3, struct.pack(">IHI", 6, 0, 99) + packed_frames(3) + bytes(99), 0x40)
+    extension = struct.pack(">IHI", 6, 0, 99)
+    yield "2.3 extended header", whole_tag(3, extension + packed_frames(3) + bytes(99), 0x40)
     yield "2.3 checksum", whole_tag(3, checksum + packed_frames(3), 0x40)
     yield "2.4 packed", whole_tag(4, packed_frames(4) + bytes(10))
     yield "2.4 extended header", whole_tag(4, whole + packed_frames(4), 0x40)
@@ -196,15 +198,16 @@ def check_tags_behind(media, folder):
           + b"Not there yet".ljust(30, b"\0") + b"1981" + block[97:], "ID3v1")
     probing.expect_streams(probing.state(path), probing.state(media), "the stream in front of APE and ID3v1")
     check({key: str(value) for key, value in ID3(str(path), load_v1=False).items()},
-          {"TIT2": "New \u6f22", "TPE1": "Old artist", "TALB": "Not there yet", "TDRC": "1981", "TCON": "Rock"}, "ID3v2")
+          {"TIT2": "New \u6f22", "TPE1": "Old artist", "TALB": "Not there yet", "TDRC": "1981",
+           "TCON": "Rock"}, "ID3v2")
 
 
 with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as states:
     probing = Probing(pathlib.Path(states))
     folder = pathlib.Path(name)
     media = folder / "media.mp3"
-    run("ffmpeg", "-v", "error", "-f", "lavfi", "-i", "sine=d=1", "-c:a", "libmp3lame", "-map_metadata", "-1", "-id3v2_version", "0",
-        "-write_xing", "0", str(media))
+    run("ffmpeg", "-v", "error", "-f", "lavfi", "-i", "sine=d=1", "-c:a", "libmp3lame", "-map_metadata", "-1",
+        "-id3v2_version", "0", "-write_xing", "0", str(media))
     path = folder / "song.mp3"
     if group == "mutagen":
         for version, encoding in ((3, 0), (3, 1), (4, 1), (4, 3)):
@@ -222,4 +225,5 @@ with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as sta
     if path.exists():
         check_cover(path, folder, group)
     probing.finish()
-    check({p.name for p in folder.iterdir()} - {"behind.mp3", "cover.jpg", "media.mp3", "song.mp3"}, set(), "left behind")
+    check({p.name for p in folder.iterdir()} - {"behind.mp3", "cover.jpg", "media.mp3", "song.mp3"}, set(),
+          "left behind")

@@ -1,16 +1,19 @@
-"""What ffmpeg finds in files: of many states of them in one process, since its start takes longer than what it does in each."""
+"""What ffmpeg finds in files: of many states of them in one process, since its start takes longer than what
+it does in each."""
 import re
 import shutil
 import subprocess
 import sys
 
 FILES_AT_ONCE = 50
+PAIR = r"^((?:\\.|[^\\=;\n])+)=((?:\\.|[^\\\n])*)\n"
 
 
 class Probing:
-    """Copies of files as they were when something was expected of them, in FOLDER, where nothing else is. finish() looks at all of them
-    and exits with a message at the first that is not as expected. WITH_STREAM_TAGS: the first stream's tags count where the file itself
-    has none, and names in upper and lower case are the same."""
+    """Copies of files as they were when something was expected of them, in FOLDER, where nothing else is.
+    finish() looks at all of them and exits with a message at the first that is not as expected.
+    WITH_STREAM_TAGS: the first stream's tags count where the file itself has none, and names in upper and
+    lower case are the same."""
 
     def __init__(self, folder, with_stream_tags=False):
         self.folder = folder
@@ -49,13 +52,16 @@ class Probing:
         for at, number in enumerate(numbers):
             inputs += ["-i", str(self.states[number])]
             if number in self.tags_asked:
-                outputs += ["-map_metadata", str(at), "-map_chapters", "-1", "-f", "ffmetadata", str(self.folder / f"{number}.format")]
+                outputs += ["-map_metadata", str(at), "-map_chapters", "-1", "-f", "ffmetadata",
+                            str(self.folder / f"{number}.format")]
                 if self.with_stream_tags:
                     outputs += ["-map_metadata:g", f"{at}:s:0", "-map_chapters", "-1", "-f", "ffmetadata",
                                 str(self.folder / f"{number}.stream")]
             if number in self.streams_asked:
-                outputs += ["-map", f"{at}:a?", "-map", f"{at}:V?", "-c", "copy", "-f", "streamhash", str(self.folder / f"{number}.hash")]
-        run = subprocess.run(["ffmpeg", "-v", "error", "-nostdin", *inputs, *outputs], capture_output=True, text=True)
+                outputs += ["-map", f"{at}:a?", "-map", f"{at}:V?", "-c", "copy", "-f", "streamhash",
+                            str(self.folder / f"{number}.hash")]
+        run = subprocess.run(["ffmpeg", "-v", "error", "-nostdin", *inputs, *outputs], capture_output=True,
+                             text=True)
         if run.returncode != 0:
             sys.exit(f"ffmpeg does not read the states {numbers}:\n{run.stderr}")
 
@@ -66,10 +72,11 @@ class Probing:
         return {name.lower(): value for name, value in found.items()}
 
     def read_tags(self, name):
-        """ffmpeg's list of tags: NAME=VALUE lines, where "\\" stands before what else would end a name or a value."""
+        """ffmpeg's list of tags: NAME=VALUE lines, where "\\" stands before what else would end a name or a
+        value."""
         text = (self.folder / name).read_bytes().decode()
         return {re.sub(r"\\(.)", r"\1", key, flags=re.S): re.sub(r"\\(.)", r"\1", value, flags=re.S)
-                for key, value in re.findall(r"^((?:\\.|[^\\=;\n])+)=((?:\\.|[^\\\n])*)\n", text, re.M | re.S)}
+                for key, value in re.findall(PAIR, text, re.M | re.S)}
 
     def streams(self, state):
         found = (self.folder / f"{state}.hash").read_text()

@@ -1,5 +1,6 @@
-"""xiph.py VELMORA_TAG KIND: files of KIND (flac, ogg, opus) by ffmpeg and mutagen, each field set, changed, shortened and
-deleted; mutagen and ffmpeg read the asked value, mutagen finds everything else as it was, and ffmpeg the same stream."""
+"""xiph.py VELMORA_TAG KIND: files of KIND (flac, ogg, opus) by ffmpeg and mutagen, each field set, changed,
+shortened and deleted; mutagen and ffmpeg read the asked value, mutagen finds everything else as it was, and
+ffmpeg the same stream."""
 import base64
 import pathlib
 import subprocess
@@ -49,7 +50,7 @@ def pictures(path):
     if kind == "flac":
         return [(p.type, p.mime, p.desc, p.data) for p in file.pictures]
     return [(p.type, p.mime, p.desc, p.data)
-            for p in (Picture(base64.b64decode(text)) for text in file.tags.get("metadata_block_picture", []))]
+            for p in map(Picture, map(base64.b64decode, file.tags.get("metadata_block_picture", [])))]
 
 
 def furnish(path):
@@ -70,7 +71,8 @@ def furnish(path):
 
 def everything(path):
     file = mutagen.File(str(path))
-    blocks = [(b.code, b.write()) for b in file.metadata_blocks if b.code not in (1, 4, 6)] if kind == "flac" else []
+    blocks = file.metadata_blocks if kind == "flac" else []
+    blocks = [(b.code, b.write()) for b in blocks if b.code not in (1, 4, 6)]
     comments = [(key.lower(), value) for key, value in file.tags if key.lower() != "metadata_block_picture"]
     return comments, file.tags.vendor, pictures(path), blocks
 
@@ -85,7 +87,8 @@ with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as sta
     folder = pathlib.Path(name)
     path = folder / ("song." + kind)
     codec = {"flac": "flac", "ogg": "libvorbis", "opus": "libopus"}[kind]
-    run("ffmpeg", "-v", "error", "-f", "lavfi", "-i", "anoisesrc=d=8", "-ac", "2", "-c:a", codec, "-metadata", "title=Old", str(path))
+    run("ffmpeg", "-v", "error", "-f", "lavfi", "-i", "anoisesrc=d=8", "-ac", "2", "-c:a", codec,
+        "-metadata", "title=Old", str(path))
     furnish(path)
     media = probing.state(path)
     for option, (key, probe_name, texts) in FIELDS.items():
@@ -93,7 +96,8 @@ with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as sta
         for text in [*texts, ""]:
             what = f"--{option} {text[:40]!r}"
             tag(f"--{option}", text, path)
-            check([value for name_, value in everything(path)[0] if name_ == key], [text] if text else [], f"mutagen, {what}")
+            check([value for name_, value in everything(path)[0] if name_ == key], [text] if text else [],
+                  f"mutagen, {what}")
             state = probing.state(path)
             probing.expect_tag(state, probe_name.lower(), text or None, what)
             check(others(path, key), before, f"the rest, {what}")
@@ -106,7 +110,8 @@ with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as sta
     for data in (small + bytes(100), small + bytes(300 * 1024), small):
         cover.write_bytes(data)
         tag("--cover", cover, path)
-        check(pictures(path), [(4, "image/jpeg", "back", JPEG), (3, "image/jpeg", "small", data)], "the pictures")
+        check(pictures(path), [(4, "image/jpeg", "back", JPEG), (3, "image/jpeg", "small", data)],
+              "the pictures")
         probing.expect_streams(probing.state(path), media, "the stream with a cover")
     tag("--no-cover", path)
     check(pictures(path), [(4, "image/jpeg", "back", JPEG)], "the pictures without a cover")
