@@ -42,6 +42,11 @@ QString endText(const ApplyResult& result) {
     }
 }
 
+/** TEXT for a tool tip, which would take some texts for rich ones. */
+QString inPlainText(const QString& text) {
+    return QStringLiteral("<span>") + text.toHtmlEscaped() + QStringLiteral("</span>");
+}
+
 QString summary(const std::vector<ApplyResult>& results) {
     QStringList lines;
     const auto add = [&](ApplyEnd end, const char* text, bool always) {
@@ -88,6 +93,7 @@ void ApplyDialog::makeLayout() {
     failures_->setRootIsDecorated(false);
     failures_->setUniformRowHeights(true);
     failures_->setColumnWidth(0, 220);
+    failures_->setMinimumWidth(640); // a reason is a sentence
     again_->setObjectName(QStringLiteral("btn_tryAgain"));
     again_->setText(localised("Try Again"));
     again_->setToolTip(localised("Try the files again that were not changed"));
@@ -164,9 +170,9 @@ void ApplyDialog::list(const std::vector<ApplyResult>& results) {
         if (result.end != ApplyEnd::done && result.end != ApplyEnd::unchanged) {
             auto* const item = new QTreeWidgetItem(failures_);
             item->setText(0, result.newPath.section(QLatin1Char('/'), -1));
-            item->setToolTip(0, QStringLiteral("<span>") + result.newPath.toHtmlEscaped() +
-                                    QStringLiteral("</span>"));
+            item->setToolTip(0, inPlainText(result.newPath));
             item->setText(1, endText(result));
+            item->setToolTip(1, inPlainText(item->text(1)));
         }
     }
     const bool any = failures_->topLevelItemCount() > 0;

@@ -49,6 +49,18 @@ QComboBox* comboOf(const QStringList& suggestions) {
     return box;
 }
 
+/** What FIELD says, blanks that do not break included. */
+QString textIn(const QPlainTextEdit& field) {
+    QString text = field.document()->toRawText();
+    return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+}
+
+/** TEXT with the line breaks that such a field knows. */
+QString withPlainBreaks(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+}
+
 QWidget* widgetOf(LibraryColumn column) {
     if (column == LibraryColumn::genre) {
         return comboOf(localisedGenres());
@@ -116,7 +128,7 @@ QString EditPanel::typedText(LibraryColumn column) const {
     if (const auto* const box = qobject_cast<QComboBox*>(widget)) {
         return box->currentText();
     }
-    return qobject_cast<QPlainTextEdit*>(widget)->toPlainText();
+    return textIn(*qobject_cast<QPlainTextEdit*>(widget));
 }
 
 void EditPanel::typedInto(LibraryColumn column) {
@@ -204,8 +216,8 @@ void EditPanel::showText(LibraryColumn column, const QString& text, bool several
     }
     auto* const field = qobject_cast<QPlainTextEdit*>(widget);
     field->setPlaceholderText(placeholder);
-    if (field->toPlainText() != text) {
-        field->setPlainText(text);
+    if (const QString plain = withPlainBreaks(text); textIn(*field) != plain) {
+        field->setPlainText(plain);
     }
 }
 

@@ -29,8 +29,8 @@ CoverPointer tagCover(const ImageRef& cover) {
         bytes = encodedAsFineJpeg(cover.toQImage());
     }
     const auto header = headerOf(bytes);
-    return header ? std::make_shared<const portable::Cover>(
-                        portable::Cover{{bytes.begin(), bytes.end()}, header->mime})
+    return header ? CoverPointer(std::make_shared<const portable::Cover>(
+                        portable::Cover{{bytes.begin(), bytes.end()}, header->mime}))
                   : nullptr;
 }
 

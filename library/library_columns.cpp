@@ -92,6 +92,7 @@ bool editYear(RowEdits& edits, const LibraryRow& row, const QString& text) {
 
 void editField(RowEdits& edits, const LibraryRow& row, Field field, const QString& text) {
     std::string value = text.toStdString();
+    std::erase(value, '\0'); // ends a text in a tag
     if (row.state == ReadState::read && value == row.text(field)) {
         edits.text(field) = {};
     } else {
@@ -227,7 +228,7 @@ int yearOf(const LibraryRow& row, const RowEdits* edits) {
 
 std::uint64_t coverHashOf(const LibraryRow& row, const RowEdits* edits) {
     if (edits && !edits->cover.leaves_alone()) {
-        return edits->cover.sets() ? coverHash(**edits->cover.value()) : 0;
+        return edits->cover.value().value_or(nullptr).hash();
     }
     return row.coverHash;
 }
@@ -280,8 +281,7 @@ bool editText(RowEdits& edits, const LibraryRow& row, LibraryColumn column, cons
 }
 
 void editCover(RowEdits& edits, const LibraryRow& row, const CoverPointer& cover) {
-    const std::uint64_t hash = cover ? coverHash(*cover) : 0;
-    if (row.state == ReadState::read && hash == row.coverHash) {
+    if (row.state == ReadState::read && cover.hash() == row.coverHash) {
         edits.cover = {};
     } else {
         edits.cover = cover ? Edit<CoverPointer>::set(cover) : Edit<CoverPointer>::remove();

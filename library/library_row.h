@@ -87,8 +87,26 @@ private:
 /** A number that is the same for the same bytes, and hardly ever for others; never 0. */
 [[nodiscard]] std::uint64_t coverHash(const portable::Cover& cover);
 
-/** A cover that several rows share. */
-using CoverPointer = std::shared_ptr<const portable::Cover>;
+/** A cover that several rows share, or none. Its hash is taken once, however many rows and however large the
+   cover. */
+class CoverPointer {
+public:
+    CoverPointer() = default;
+    CoverPointer(std::nullptr_t) {}
+    template <typename SharedCover>
+    CoverPointer(std::shared_ptr<SharedCover> cover)
+        : cover_(std::move(cover)), hash_(cover_ ? coverHash(*cover_) : 0) {}
+
+    [[nodiscard]] explicit operator bool() const { return cover_ != nullptr; }
+    [[nodiscard]] const portable::Cover& operator*() const { return *cover_; }
+    [[nodiscard]] const portable::Cover* operator->() const { return cover_.get(); }
+    /** 0 for none. */
+    [[nodiscard]] std::uint64_t hash() const { return hash_; }
+
+private:
+    std::shared_ptr<const portable::Cover> cover_;
+    std::uint64_t hash_ = 0;
+};
 
 /** What the user wants to become of a file, until it is applied. */
 struct RowEdits {

@@ -142,8 +142,15 @@ QList<LibraryColumn> LibraryView::shownColumns() const {
 }
 
 void LibraryView::showColumn(LibraryColumn column, bool shown) {
-    if (shown || shownColumns().size() > 1) {
-        setColumnHidden(static_cast<int>(column), !shown);
+    if (!shown && shownColumns().size() == 1) {
+        return;
+    }
+    const int section = static_cast<int>(column);
+    setColumnHidden(section, !shown);
+    if (!shown && currentIndex().column() == section) {
+        const int neighbour = static_cast<int>(shownColumns().front());
+        selectionModel()->setCurrentIndex(currentIndex().siblingAtColumn(neighbour),
+                                          QItemSelectionModel::NoUpdate);
     }
 }
 

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] std::vector<int> selectedFiles() const;
     /** The columns that are shown, as they stand. */
     [[nodiscard]] QList<LibraryColumn> shownColumns() const;
-    /** Shows or hides COLUMN; the last one stays. */
+    /** Shows or hides COLUMN; the last one stays. The current cell is always in a column that is shown. */
     void showColumn(LibraryColumn column, bool shown);
     /** Sorts by COLUMN, the other way round where it does already; ALSO: behind the keys that there are. */
     void sortByColumn(LibraryColumn column, bool also);

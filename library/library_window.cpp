@@ -36,11 +36,11 @@ LibraryWindow::LibraryWindow(QWidget* parent) : DocumentWindow(parent) {
     filterTimer_.setInterval(0);
     connect(&filterTimer_, &QTimer::timeout, this, &LibraryWindow::filterTyped);
     connect(&panelTimer_, &QTimer::timeout, this, &LibraryWindow::refreshPanel);
-    connect(&model_, &LibraryModel::contentsChanged, &panelTimer_, qOverload<>(&QTimer::start));
+    connect(&model_, &LibraryModel::contentsChanged, this, &LibraryWindow::refreshPanelLater);
     connect(&model_, &LibraryModel::contentsChanged, this, &LibraryWindow::updateCommands);
     connect(view_, &LibraryView::selectedFilesChanged, this, [this] {
         panel_->flush();
-        panelTimer_.start();
+        refreshPanelLater();
     });
     showStatus();
     updateCommands();
@@ -140,6 +140,13 @@ void LibraryWindow::present() {
 
 void LibraryWindow::filterTyped() {
     model_.setFilter(FilterQuery(filter_->text()));
+}
+
+/** A change that follows does not put it off: while files are read, there is always one. */
+void LibraryWindow::refreshPanelLater() {
+    if (!panelTimer_.isActive()) {
+        panelTimer_.start();
+    }
 }
 
 void LibraryWindow::refreshPanel() {

@@ -88,10 +88,14 @@ private:
                         void (LibraryWindow::*command)());
     void filterTyped();
     void showStatus();
+    void refreshPanelLater();
     void refreshPanel();
     void updateCommands();
 
+    /** Whether the files at PATHS may be written now; asks whoever has them open. */
+    [[nodiscard]] bool mayWrite(const QStringList& paths) const;
     void runApply();
+    void runUndo();
     void showDialog(const QString& title);
     void applyEnded(const std::vector<ApplyResult>& results);
     void undoEnded(const std::vector<ApplyResult>& results);

@@ -20,7 +20,19 @@ QStringList pathsOf(const std::vector<ApplyItem>& items) {
     return paths;
 }
 
+QStringList pathsOf(const UndoStep& step) {
+    QStringList paths;
+    for (const UndoEntry& entry : step) {
+        paths += entry.newPath;
+    }
+    return paths;
+}
+
 } // namespace
+
+bool LibraryWindow::mayWrite(const QStringList& paths) const {
+    return !mayWrite_ || mayWrite_(paths);
+}
 
 std::vector<ApplyItem> LibraryWindow::items() const {
     std::vector<ApplyItem> items;
@@ -32,13 +44,17 @@ std::vector<ApplyItem> LibraryWindow::items() const {
 
 void LibraryWindow::apply() {
     takeTyped();
-    const std::vector<ApplyItem> all = items();
-    if (isWriting() || all.empty() || (mayWrite_ && !mayWrite_(pathsOf(all)))) {
+    if (isWriting() || !hasEdits() || !mayWrite(pathsOf(items()))) {
         return;
     }
     showDialog(localised("Apply"));
     connect(dialog_.get(), &ApplyDialog::ended, this, &LibraryWindow::applyEnded);
-    connect(dialog_.get(), &ApplyDialog::tryAgain, this, &LibraryWindow::runApply);
+    // Meanwhile one of the files may have been opened and edited elsewhere.
+    connect(dialog_.get(), &ApplyDialog::tryAgain, this, [this] {
+        if (mayWrite(pathsOf(items()))) {
+            runApply();
+        }
+    });
     runApply();
 }
 
@@ -73,29 +89,23 @@ void LibraryWindow::applyEnded(const std::vector<ApplyResult>& results) {
 
 void LibraryWindow::undoApply() {
     takeTyped();
-    if (isWriting() || undo_.empty()) {
-        return;
-    }
-    QStringList paths;
-    for (const UndoEntry& entry : undo_.back()) {
-        paths += entry.newPath;
-    }
-    if (mayWrite_ && !mayWrite_(paths)) {
+    if (isWriting() || undo_.empty() || !mayWrite(pathsOf(undo_.back()))) {
         return;
     }
     showDialog(localised("Undo Apply"));
     connect(dialog_.get(), &ApplyDialog::ended, this, &LibraryWindow::undoEnded);
-    const auto run = [this] {
-        dialog_->start([this](const ApplyProgress& progress) { return undoStep(running_, progress, kept_); });
-    };
-    connect(dialog_.get(), &ApplyDialog::tryAgain, this, [this, run] {
-        running_ = std::move(undo_.back());
-        undo_.pop_back();
-        run();
+    connect(dialog_.get(), &ApplyDialog::tryAgain, this, [this] {
+        if (mayWrite(pathsOf(undo_.back()))) {
+            runUndo();
+        }
     });
+    runUndo();
+}
+
+void LibraryWindow::runUndo() {
     running_ = std::move(undo_.back());
     undo_.pop_back();
-    run();
+    dialog_->start([this](const ApplyProgress& progress) { return undoStep(running_, progress, kept_); });
 }
 
 /** What could not be taken back can be tried again; what was changed since never will be. */

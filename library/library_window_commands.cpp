@@ -76,7 +76,9 @@ void LibraryWindow::copy(bool currentColumnOnly) {
         }
         block.push_back(cells);
     }
-    QApplication::clipboard()->setText(blockText(block));
+    if (!block.empty()) {
+        QApplication::clipboard()->setText(blockText(block));
+    }
 }
 
 void LibraryWindow::paste() {
@@ -178,7 +180,10 @@ void LibraryWindow::showInFolder() {
 }
 
 void LibraryWindow::copyPaths() {
-    QApplication::clipboard()->setText(selectedPaths().join(QLatin1Char('\n')));
+    const QStringList paths = selectedPaths();
+    if (!paths.isEmpty()) {
+        QApplication::clipboard()->setText(paths.join(QLatin1Char('\n')));
+    }
 }
 
 void LibraryWindow::removeSelected() {
