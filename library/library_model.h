@@ -28,6 +28,8 @@ public:
     /** Lists the file at PATH of SIZE bytes, unless it is listed, and reads it: soon, since many may come at
        once. */
     void addFile(const QString& path, std::uint64_t size);
+    /** Takes the file off the list: the first one at once, those that follow in the same turn of the event loop
+        together at its end, since each pass takes its time where there are many rows. */
     void removeFile(const QString& path);
     /** Reads the file again: it has changed. */
     void readAgain(int row);
@@ -78,16 +80,19 @@ private:
     void listComing();
     void list(const QString& path, std::uint64_t size);
     void showAdded();
+    void removeGoing();
     void takeReadings(const std::vector<RowReading>& readings);
     void contentsChange(int file);
     void orderLater();
     void startOrdering();
     void takeOrder(std::uint64_t version, std::vector<int> order);
     void show(std::vector<int> files);
+    void hide(const std::function<bool(int file)>& isGoing);
     void rearrange(std::vector<int> files);
     void numberShown();
     [[nodiscard]] bool passes(int file);
     [[nodiscard]] std::vector<int> filtered();
+    void filterRest();
     [[nodiscard]] QVariant font(int file, LibraryColumn column) const;
     [[nodiscard]] QString spokenText(int file, LibraryColumn column) const;
     [[nodiscard]] QString tip(int file, LibraryColumn column) const;
@@ -96,14 +101,18 @@ private:
     TagReader reader_;
     std::deque<std::pair<QString, std::uint64_t>> coming_; ///< to be listed: paths and sizes
     std::vector<int> added_;                               ///< listed, and not in order_ yet
+    std::vector<int> going_;                               ///< listed, and soon not any more
     std::vector<int> order_;                               ///< all others, sorted
-    std::vector<int> shown_;                               ///< those of order_ that the filter lets through
-    std::vector<int> shownRowOf_;                          ///< where a file is shown; -1: not
+    std::vector<int> unfiltered_; ///< those of order_ that the filter has not looked at yet
+    std::vector<int> shown_;      ///< those of order_ that the filter lets through
+    std::vector<int> shownRowOf_; ///< where a file is shown; -1: not
     std::vector<SortKey> keys_;
     FilterQuery filter_;
     std::function<QVariant(int file)> thumbnails_;
     QTimer comingTimer_;
     QTimer addTimer_;
+    QTimer removeTimer_;
+    QTimer filterTimer_;
     QTimer orderTimer_;
     std::uint64_t version_ = 0; ///< of what decides on the order
     bool ordering_ = false;

@@ -25,9 +25,15 @@ LibraryModel::LibraryModel(QObject* parent) : QAbstractTableModel(parent) {
     addTimer_.setInterval(addInterval);
     orderTimer_.setSingleShot(true);
     orderTimer_.setInterval(orderInterval);
+    removeTimer_.setSingleShot(true);
+    removeTimer_.setInterval(0);
+    filterTimer_.setSingleShot(true);
+    filterTimer_.setInterval(0);
     thread_.setMaxThreadCount(1);
     connect(&comingTimer_, &QTimer::timeout, this, &LibraryModel::listComing);
     connect(&addTimer_, &QTimer::timeout, this, &LibraryModel::showAdded);
+    connect(&removeTimer_, &QTimer::timeout, this, &LibraryModel::removeGoing);
+    connect(&filterTimer_, &QTimer::timeout, this, &LibraryModel::filterRest);
     connect(&orderTimer_, &QTimer::timeout, this, &LibraryModel::startOrdering);
     connect(&reader_, &TagReader::rowsRead, this, &LibraryModel::takeReadings);
     connect(&reader_, &TagReader::idle, this, &LibraryModel::contentsChanged);
@@ -39,6 +45,7 @@ LibraryModel::~LibraryModel() {
 }
 
 void LibraryModel::addFile(const QString& path, std::uint64_t size) {
+    removeGoing();
     coming_.emplace_back(path, size);
     if (!comingTimer_.isActive()) {
         comingTimer_.start();
@@ -76,11 +83,12 @@ void LibraryModel::showAdded() {
     std::vector<int> files = shown_;
     for (const int file : added_) {
         order_.push_back(file);
-        if (passes(file)) {
-            files.push_back(file);
-        }
+        (filter_.isEmpty() ? files : unfiltered_).push_back(file);
     }
     added_.clear();
+    if (!unfiltered_.empty()) {
+        filterTimer_.start();
+    }
     show(std::move(files));
     ++version_;
     orderLater();
@@ -93,19 +101,33 @@ void LibraryModel::removeFile(const QString& path) {
     if (file < 0) {
         return;
     }
-    showAdded();
-    ++version_;
-    order_.erase(std::remove(order_.begin(), order_.end(), file), order_.end());
-    const int shown = shownRowOf_[static_cast<std::size_t>(file)];
-    if (shown >= 0) {
-        beginRemoveRows({}, shown, shown);
-        shown_.erase(shown_.begin() + shown);
-        numberShown();
-        rows_.remove(file);
-        endRemoveRows();
-    } else {
-        rows_.remove(file);
+    going_.push_back(file);
+    if (!removeTimer_.isActive()) {
+        removeGoing();
+        removeTimer_.start();
     }
+}
+
+void LibraryModel::removeGoing() {
+    if (going_.empty()) {
+        return;
+    }
+    showAdded();
+    std::vector<bool> goes(static_cast<std::size_t>(rows_.end()), false);
+    for (const int file : going_) {
+        goes[static_cast<std::size_t>(file)] = true;
+    }
+    const auto isGoing = [&](int file) { return goes[static_cast<std::size_t>(file)]; };
+    std::erase_if(order_, isGoing);
+    std::erase_if(unfiltered_, isGoing);
+    hide(isGoing);
+    for (int file = 0; file < rows_.end(); ++file) {
+        if (isGoing(file)) {
+            rows_.remove(file);
+        }
+    }
+    going_.clear();
+    ++version_;
     emit contentsChanged();
 }
 

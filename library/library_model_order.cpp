@@ -4,11 +4,21 @@
 
 #include "background_thread.h"
 
+#include <QDeadlineTimer>
 #include <QLocale>
 
 #include <algorithm>
 
 namespace velmora {
+
+namespace {
+
+/** Texts are folded for so long between two turns of the event loop. */
+constexpr std::chrono::milliseconds foldingTime{10};
+/** A range of rows that goes takes a fraction of a millisecond where there are many rows. */
+constexpr std::size_t mostRanges = 100;
+
+} // namespace
 
 void LibraryModel::orderLater() {
     if ((!keys_.empty() || !filter_.isEmpty()) && !orderTimer_.isActive()) {
@@ -56,11 +66,41 @@ bool LibraryModel::passes(int file) {
     return filter_.isEmpty() || filter_.matches(rows_.filterText(file));
 }
 
+/** Those of order_ that pass. Some texts have to be folded first; where there are too many, filterRest() goes on. */
 std::vector<int> LibraryModel::filtered() {
+    const QDeadlineTimer end(foldingTime);
     std::vector<int> files;
-    std::copy_if(order_.begin(), order_.end(), std::back_inserter(files),
-                 [this](int file) { return passes(file); });
+    unfiltered_.clear();
+    for (const int file : order_) {
+        if (!filter_.isEmpty() && !rows_.isFolded(file) && end.hasExpired()) {
+            unfiltered_.push_back(file);
+        } else if (passes(file)) {
+            files.push_back(file);
+        }
+    }
+    if (!unfiltered_.empty()) {
+        filterTimer_.start();
+    }
     return files;
+}
+
+/** Looks at some of the files that the filter has not looked at. Those that pass are shown at the end, as new ones are. */
+void LibraryModel::filterRest() {
+    const QDeadlineTimer end(foldingTime);
+    std::vector<int> files = shown_;
+    while (!unfiltered_.empty() && !end.hasExpired()) {
+        const int file = unfiltered_.back();
+        unfiltered_.pop_back();
+        if (shownRowOf_[static_cast<std::size_t>(file)] < 0 && passes(file)) {
+            files.push_back(file);
+        }
+    }
+    show(std::move(files));
+    if (!unfiltered_.empty()) {
+        filterTimer_.start();
+    }
+    orderLater();
+    emit contentsChanged();
 }
 
 /** Shows FILES instead of what is shown, in such steps that the views' selections, their current cell and an
@@ -93,6 +133,30 @@ void LibraryModel::show(std::vector<int> files) {
         endInsertRows();
     }
     rearrange(std::move(files));
+}
+
+/** Shows those files no longer. Neighbours of theirs become the views' current cells, unless they stand in very many places. */
+void LibraryModel::hide(const std::function<bool(int file)>& isGoing) {
+    std::vector<std::pair<int, int>> ranges;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (isGoing(fileAt(row)) && !ranges.empty() && ranges.back().second == row - 1) {
+            ranges.back().second = row;
+        } else if (isGoing(fileAt(row))) {
+            ranges.emplace_back(row, row);
+        }
+    }
+    if (ranges.size() > mostRanges) {
+        std::vector<int> files = shown_;
+        std::erase_if(files, isGoing);
+        show(std::move(files));
+        return;
+    }
+    for (auto range = ranges.rbegin(); range != ranges.rend(); ++range) {
+        beginRemoveRows({}, range->first, range->second);
+        shown_.erase(shown_.begin() + range->first, shown_.begin() + range->second + 1);
+        numberShown();
+        endRemoveRows();
+    }
 }
 
 /** Shows FILES, which are those that are shown, in their order. */

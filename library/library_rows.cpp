@@ -117,6 +117,10 @@ FilterView LibraryRows::filterText(int row) {
     return at(row).filter();
 }
 
+bool LibraryRows::isFolded(int row) const {
+    return edits(row) ? editedTexts_.contains(row) : !at(row).filter().folded.empty();
+}
+
 LibraryRows LibraryRows::snapshot() const {
     LibraryRows copy;
     copy.pieces_ = pieces_;

@@ -48,6 +48,8 @@ public:
     /** What a filter looks at in the file, its edits taken for done. Good until the file or its edits
        change. */
     [[nodiscard]] FilterView filterText(int row);
+    /** Whether filterText() has nothing to make, which takes about 10 microseconds. */
+    [[nodiscard]] bool isFolded(int row) const;
 
     /** A copy to be read on another thread, in which no paths are found. Takes a moment only,
        however many rows there are. */
