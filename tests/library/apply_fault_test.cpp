@@ -5,6 +5,7 @@
 
 #include "library/apply_run.h"
 #include "portable/portable_tags.h"
+#include "support/memory_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -25,6 +26,7 @@ using test::CallFaults;
 
 class ApplyFaultTest : public testing::Test {
 protected:
+    static void SetUpTestSuite() { test::scratch_in_memory(); }
     void write(int count) {
         items_.clear();
         for (int i = 0; i < count; ++i) {

@@ -3,6 +3,7 @@
 
 #include "portable/portable_tags.h"
 #include "support/bytes.h"
+#include "support/memory_folder.h"
 #include "support/scratch_folder.h"
 
 #include <algorithm>
@@ -350,6 +351,7 @@ void print_row(const std::string& name, const Row& row) {
 }
 
 TEST(PortableFaultTable, EveryCallMayFailOrBeTheLast) {
+    scratch_in_memory();
     std::cout << std::left << std::setw(40) << "operation" << std::right;
     for (const char* column : {"calls", "faults", "kills", "reported", "hidden", "violations"}) {
         std::cout << std::setw(11) << column;

@@ -5,9 +5,8 @@ import pathlib
 import struct
 import subprocess
 import sys
-import tempfile
 
-from probing import Probing
+from probing import Probing, scratch_folder
 
 from mutagen.asf import (ASF, ASFBoolAttribute, ASFByteArrayAttribute, ASFDWordAttribute, ASFGUIDAttribute,
                          ASFQWordAttribute, ASFUnicodeAttribute)
@@ -122,7 +121,7 @@ def check_cover(path, folder):
     check(attributes(path), before, f"{path.name} without cover")
 
 
-with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as states:
+with scratch_folder() as name, scratch_folder() as states:
     probing = Probing(pathlib.Path(states))
     folder = pathlib.Path(name)
     bare = folder / f"bare.{kind}"

@@ -5,9 +5,8 @@ import pathlib
 import struct
 import subprocess
 import sys
-import tempfile
 
-from probing import Probing
+from probing import Probing, scratch_folder
 
 from mutagen.aiff import AIFF
 from mutagen.id3 import APIC, COMM, PRIV, TXXX, USLT
@@ -208,7 +207,7 @@ def shapes(folder):
                    "frag_keyframe+empty_moov+default_base_moof+dash+global_sidx", metadata=old), False
 
 
-with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as states:
+with scratch_folder() as name, scratch_folder() as states:
     probing = Probing(pathlib.Path(states))
     for path, every_field in shapes(pathlib.Path(name)):
         media = probing.state(path)

@@ -5,10 +5,9 @@ import pathlib
 import struct
 import subprocess
 import sys
-import tempfile
 import zlib
 
-from probing import Probing
+from probing import Probing, scratch_folder
 
 import mutagen.apev2
 import mutagen.id3
@@ -124,10 +123,22 @@ def bytes_tags():
     yield "2.4 one frame unsynchronised", whole_tag(4, loose)
 
 
+parsed = {}
+
+
+def parse(path):
+    """The tag of PATH in its own version. The last one is kept: taking it apart is what takes the time."""
+    data = path.read_bytes()
+    if data not in parsed:
+        parsed.clear()
+        parsed[data] = ID3(str(path), translate=False)
+    return parsed[data]
+
+
 def frames(path):
-    """Every frame as mutagen has it, in the tag's own version, those that it does not know as bytes."""
+    """Every frame as mutagen has it, those that it does not know as bytes."""
     try:
-        tags = ID3(str(path), translate=False)
+        tags = parse(path)
     except mutagen.id3.ID3NoHeaderError:
         return []
     known = [(value.FrameID, value.HashKey, repr(value)) for value in tags.values()]
@@ -143,7 +154,7 @@ def others(path, places):
 
 
 def values(path, places):
-    tags = ID3(str(path), translate=False)
+    tags = parse(path)
     found = [value for value in tags.values() if is_place(value.FrameID, value.HashKey, places)]
     return {str(text) for value in found for text in value.text}
 
@@ -202,7 +213,7 @@ def check_tags_behind(media, folder):
            "TCON": "Rock"}, "ID3v2")
 
 
-with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as states:
+with scratch_folder() as name, scratch_folder() as states:
     probing = Probing(pathlib.Path(states))
     folder = pathlib.Path(name)
     media = folder / "media.mp3"

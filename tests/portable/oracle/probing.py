@@ -1,12 +1,21 @@
 """What ffmpeg finds in files: of many states of them in one process, since its start takes longer than what
 it does in each."""
+import os
 import re
 import shutil
 import subprocess
 import sys
+import tempfile
 
 FILES_AT_ONCE = 50
 PAIR = r"^((?:\\.|[^\\=;\n])+)=((?:\\.|[^\\\n])*)\n"
+MEMORY, ROOM = "/dev/shm", 512 << 20
+
+
+def scratch_folder():
+    """A folder for as long as it is used, in memory where there is room: nothing in it has to last."""
+    in_memory = os.access(MEMORY, os.W_OK) and shutil.disk_usage(MEMORY).free >= ROOM
+    return tempfile.TemporaryDirectory(dir=MEMORY if in_memory else None)
 
 
 class Probing:
@@ -73,8 +82,8 @@ class Probing:
 
     def read_tags(self, name):
         """ffmpeg's list of tags: NAME=VALUE lines, where "\\" stands before what else would end a name or a
-        value."""
-        text = (self.folder / name).read_bytes().decode()
+        value. A picture may be among them, as a text."""
+        text = (self.folder / name).read_bytes().decode(errors="backslashreplace")
         return {re.sub(r"\\(.)", r"\1", key, flags=re.S): re.sub(r"\\(.)", r"\1", value, flags=re.S)
                 for key, value in re.findall(PAIR, text, re.M | re.S)}
 

@@ -5,9 +5,8 @@ import base64
 import pathlib
 import subprocess
 import sys
-import tempfile
 
-from probing import Probing
+from probing import Probing, scratch_folder
 
 import mutagen
 from mutagen.flac import Picture
@@ -82,7 +81,7 @@ def others(path, key):
     return [comment for comment in comments if comment[0] != key], *rest
 
 
-with tempfile.TemporaryDirectory() as name, tempfile.TemporaryDirectory() as states:
+with scratch_folder() as name, scratch_folder() as states:
     probing = Probing(pathlib.Path(states), with_stream_tags=True)
     folder = pathlib.Path(name)
     path = folder / ("song." + kind)
