@@ -1,18 +1,20 @@
-"""read_fields.py PATH: what mutagen (for AVI, which it does not know: ffprobe) finds in the tag of PATH, one
-line "field: value" for each field that is there; of a cover, the checksum of its bytes. Below it the
-checksums of the media."""
+"""read_fields.py PATH...: what mutagen (for AVI, which it does not know: ffmpeg) finds in the tag of each
+PATH, one line "field: value" for each field that is there; of a cover, the checksum of its bytes. Below it
+the checksums of the media, and a line "---". All files are of one kind."""
 import base64
 import hashlib
-import json
-import subprocess
+import pathlib
 import sys
+
+sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "portable/oracle"))
+from probing import Probing, scratch_folder
 
 import mutagen
 from mutagen.flac import FLAC, Picture
 from mutagen.mp4 import MP4
 
-path = sys.argv[1]
-suffix = path.rsplit(".", 1)[1]
+paths = [pathlib.Path(path) for path in sys.argv[1:]]
+suffix = sys.argv[1].rsplit(".", 1)[1]
 FREE = "----:com.apple.iTunes:"
 NAMES = {
     "id3": {"title": "TIT2", "artist": "TPE1", "album": "TALB", "director": "TXXX:DIRECTOR",
@@ -23,24 +25,13 @@ NAMES = {
             "synopsis": "Description", "genre": "WM/Genre", "rating": "WM/ParentalRating", "year": "WM/Year"},
     "xiph": {"title": "title", "artist": "artist", "album": "album", "director": "director",
              "synopsis": "description", "genre": "genre", "rating": "contentrating", "year": "date"},
-    # As ffprobe calls them.
+    # As ffmpeg calls them.
     "avi": {"title": "title", "artist": "ISTR", "director": "artist", "synopsis": "comment", "genre": "genre",
             "rating": "IRTD", "year": "date"},
 }
 KINDS = {"mp3": "id3", "wav": "id3", "aiff": "id3", "m4a": "mp4", "mp4": "mp4", "mov": "mp4", "wma": "asf",
          "wmv": "asf", "flac": "xiph", "ogg": "xiph", "opus": "xiph", "avi": "avi"}
 kind = KINDS[suffix]
-
-
-def run(*command):
-    return subprocess.run(command, check=True, capture_output=True, text=True).stdout
-
-
-def tags():
-    if kind == "avi":
-        found = json.loads(run("ffprobe", "-v", "error", "-show_entries", "format_tags", "-of", "json", path))
-        return found["format"].get("tags", {})
-    return mutagen.File(path).tags or {}
 
 
 def text(value):
@@ -51,7 +42,7 @@ def text(value):
     return value.decode() if isinstance(value, bytes) else str(value)
 
 
-def cover(found):
+def cover(path, found):
     if suffix == "flac":
         pictures = [picture.data for picture in FLAC(path).pictures if picture.type == 3]
     elif kind == "xiph":
@@ -73,11 +64,17 @@ def cover(found):
     return pictures
 
 
-found = tags()
-for name, key in sorted(NAMES[kind].items()):
-    if key in found:
-        print(f"{name}: {text(found[key])}")
-for data in cover(found):
-    print(f"cover: {hashlib.md5(data).hexdigest()}")
-print(run("ffmpeg", "-v", "error", "-i", path, "-map", "0:a?", "-map", "0:V?", "-c", "copy",
-          "-f", "streamhash", "-"), end="")
+with scratch_folder() as name:
+    probing = Probing(pathlib.Path(name))
+    states = [probing.state(path) for path in paths]
+    probing.tags_asked.update(states)
+    probing.streams_asked.update(states)
+    probing.finish()
+    for path, state in zip(paths, states):
+        found = probing.tags(state) if kind == "avi" else mutagen.File(str(path)).tags or {}
+        for field, key in sorted(NAMES[kind].items()):
+            if key in found:
+                print(f"{field}: {text(found[key])}")
+        for data in cover(str(path), found):
+            print(f"cover: {hashlib.md5(data).hexdigest()}")
+        print(probing.streams(state) + "---")
