@@ -181,8 +181,7 @@ TEST_F(WebViewDocument, OfTenThousandLevelsIsWhole) {
 
 TEST_F(WebViewDocument, OfAPageThatTheEngineBreaksOnIsNoneAndTheNextOneIsWhole) {
     server.serve("/deep", deepPage("", 50000));
-    view->loadRequest(server.url("/deep"));
-    waitFor(1500);
+    load("/deep");
     (void)document();
     server.serve("/next", "<title>next</title>");
     load("/next");
