@@ -6,6 +6,7 @@
 #include <charconv>
 #include <memory>
 #include <sstream>
+#include <utility>
 
 namespace velmora::tag_tool {
 
@@ -42,14 +43,24 @@ struct Given {
     bool no_cover = false;
 };
 
+/** Whether the word behind NAME is its value, whatever that looks like. */
+bool takes_value(std::string_view name) {
+    return name == "--year" || name == "--cover" ||
+           std::any_of(text_options.begin(), text_options.end(),
+                       [name](const TextOption& option) { return name == option.name; });
+}
+
 /** ARGUMENTS for the parser: "--name=value" becomes two words, so that a value may be empty, and names behind
    "--" can't be taken for options. */
 std::vector<std::string> prepared(const std::vector<std::string>& arguments) {
     std::vector<std::string> words;
     bool options = true;
+    bool value = false;
     for (const std::string& argument : arguments) {
         const std::size_t equals = argument.find('=');
-        if (!options) {
+        if (std::exchange(value, false)) {
+            words.push_back(argument);
+        } else if (!options) {
             words.push_back(argument.starts_with('-') ? "./" + argument : argument);
         } else if (argument == "--") {
             options = false;
@@ -58,6 +69,7 @@ std::vector<std::string> prepared(const std::vector<std::string>& arguments) {
             words.push_back(argument.substr(equals + 1));
         } else {
             words.push_back(argument);
+            value = takes_value(argument);
         }
     }
     return words;
