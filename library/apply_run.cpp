@@ -5,6 +5,7 @@
 #include "platform/localisation.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <unordered_map>
 
 namespace velmora {
@@ -79,6 +80,9 @@ void applyTags(const ApplyItem& item, Run& run, ApplyResult& result, UndoEntry& 
 void takeRename(ApplyResult& result, const QString& newPath, const std::optional<Reason>& failure) {
     if (failure) {
         fail(result, *failure);
+        if (failure->code == ReasonCode::system && failure->error == EEXIST) {
+            result.reason = localised("There is a file of that name");
+        }
         return;
     }
     result.newPath = newPath;

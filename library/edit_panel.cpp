@@ -112,7 +112,8 @@ void EditPanel::makeFields(QFormLayout& layout) {
             connect(box, &QComboBox::editTextChanged, this, [this, column] { typedInto(column); });
             connect(box, &QComboBox::textActivated, this, [this, column] {
                 typedInto(column);
-                flush();
+                typed_.reset(); // also an empty text is chosen, and not what is left of typing
+                edit(column, typedText(column));
             });
         } else if (auto* const text = qobject_cast<QPlainTextEdit*>(widget)) {
             connect(text, &QPlainTextEdit::textChanged, this, [this, column] { typedInto(column); });
@@ -138,15 +139,60 @@ void EditPanel::typedInto(LibraryColumn column) {
     if (typed_ && typed_ != column) {
         flush();
     }
+    if (touched_ != column) {
+        touched_ = column;
+        untouched_.clear();
+        for (const int file : files_) {
+            if (const RowEdits* const edits = model_.rows().edits(file)) {
+                untouched_.emplace(file, *edits);
+            }
+        }
+    }
     typed_ = column;
     typing_.start();
+}
+
+/** Whether the user has undone, in the field itself, all that was typed into it. */
+bool EditPanel::isAllUndone(LibraryColumn column) const {
+    QWidget* const widget = fieldOf(column);
+    if (const auto* const line = qobject_cast<QLineEdit*>(widget)) {
+        return !line->isUndoAvailable();
+    }
+    if (const auto* const box = qobject_cast<QComboBox*>(widget)) {
+        return !box->lineEdit()->isUndoAvailable() && box->currentText().isEmpty();
+    }
+    return !qobject_cast<QPlainTextEdit*>(widget)->document()->isUndoAvailable();
 }
 
 void EditPanel::flush() {
     typing_.stop();
     if (const std::optional<LibraryColumn> column = std::exchange(typed_, std::nullopt)) {
-        edit(*column, typedText(*column));
+        if (touched_ == column && isAllUndone(*column)) {
+            takeBack(*column);
+        } else {
+            edit(*column, typedText(*column));
+        }
     }
+}
+
+/** The files' COLUMN is what it was before it was typed into, be it several values. */
+void EditPanel::takeBack(LibraryColumn column) {
+    std::vector<std::pair<int, RowEdits>> all;
+    for (const int file : files_) {
+        const RowEdits* const now = model_.rows().edits(file);
+        const auto before = untouched_.find(file);
+        RowEdits edits = now ? *now : RowEdits();
+        copyEdit(edits, before == untouched_.end() ? RowEdits() : before->second, model_.rows().at(file),
+                 column);
+        all.emplace_back(file, std::move(edits));
+    }
+    model_.setEdits(all);
+}
+
+void EditPanel::forgetTyping() {
+    flush();
+    refills_ = true;
+    refresh();
 }
 
 void EditPanel::edit(LibraryColumn column, const QString& text) {
@@ -163,6 +209,8 @@ void EditPanel::edit(LibraryColumn column, const QString& text) {
 
 void EditPanel::showFiles(const std::vector<int>& files) {
     flush();
+    // What was typed for other files is not to be undone in these.
+    refills_ = refills_ || files != files_;
     files_ = files;
     refresh();
 }
@@ -173,6 +221,10 @@ void EditPanel::refresh() {
         if (typed_ != field.column) {
             show(field.column);
         }
+    }
+    if (std::exchange(refills_, false)) {
+        touched_.reset();
+        untouched_.clear();
     }
     showCover();
 }
@@ -198,7 +250,7 @@ void EditPanel::show(LibraryColumn column) {
     showText(column, several ? QString() : common.value_or(QString()), several);
 }
 
-/** A field that says TEXT already keeps its cursor. */
+/** A field that says TEXT already keeps its cursor and what can be undone in it, unless it is filled anew. */
 void EditPanel::showText(LibraryColumn column, const QString& text, bool several) {
     const QString placeholder = several ? localised("several values") : QString();
     QWidget* const widget = fieldOf(column);
@@ -208,7 +260,7 @@ void EditPanel::showText(LibraryColumn column, const QString& text, bool several
     }
     if (line) {
         line->setPlaceholderText(placeholder);
-        if (line->text() != text) {
+        if (refills_ || line->text() != text) {
             line->setText(text);
             line->setCursorPosition(0);
         }
@@ -216,7 +268,7 @@ void EditPanel::showText(LibraryColumn column, const QString& text, bool several
     }
     auto* const field = qobject_cast<QPlainTextEdit*>(widget);
     field->setPlaceholderText(placeholder);
-    if (const QString plain = withPlainBreaks(text); textIn(*field) != plain) {
+    if (const QString plain = withPlainBreaks(text); refills_ || textIn(*field) != plain) {
         field->setPlainText(plain);
     }
 }

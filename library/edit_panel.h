@@ -12,6 +12,7 @@
 #include <QWidget>
 
 #include <map>
+#include <unordered_map>
 
 class QFormLayout;
 
@@ -32,6 +33,8 @@ public:
     void showFiles(const std::vector<int>& files);
     /** Shows them again: they have changed. A field that is being typed into stays. */
     void refresh();
+    /** What was typed so far can't be undone in the fields any more: it has been applied. */
+    void forgetTyping();
     /** What was typed becomes edits now. */
     void flush();
 
@@ -43,6 +46,8 @@ private:
     void makeCover(QFormLayout& layout);
     void typedInto(LibraryColumn column);
     void edit(LibraryColumn column, const QString& text);
+    void takeBack(LibraryColumn column);
+    [[nodiscard]] bool isAllUndone(LibraryColumn column) const;
     void show(LibraryColumn column);
     void showText(LibraryColumn column, const QString& text, bool several);
     [[nodiscard]] QWidget* fieldOf(LibraryColumn column) const { return fields_.at(column); }
@@ -60,7 +65,10 @@ private:
     std::map<LibraryColumn, QWidget*> fields_;
     std::optional<LibraryColumn> typed_; ///< the field that was typed into, and whose text is no edit yet
     QTimer typing_;
-    bool showing_ = false; ///< the program changes the fields, and not the user
+    std::optional<LibraryColumn> touched_;        ///< the field that was typed into last, since it was filled
+    std::unordered_map<int, RowEdits> untouched_; ///< the edits that files had before that
+    bool refills_ = false;                        ///< fields are filled anew even with the same text
+    bool showing_ = false;                        ///< the program changes the fields, and not the user
     CoverArtView* cover_ = nullptr;
     QLabel* coverText_ = nullptr;
     QPushButton* chooseCover_ = nullptr;

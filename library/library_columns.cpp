@@ -280,6 +280,16 @@ bool editText(RowEdits& edits, const LibraryRow& row, LibraryColumn column, cons
     return true;
 }
 
+void copyEdit(RowEdits& edits, const RowEdits& before, const LibraryRow& row, LibraryColumn column) {
+    if (column == LibraryColumn::name) {
+        edits.name = before.name;
+    } else if (column == LibraryColumn::year) {
+        edits.year = before.year;
+    } else if (const std::optional<Field> field = fieldOf(column, row.media)) {
+        edits.text(*field) = before.text(*field);
+    }
+}
+
 void editCover(RowEdits& edits, const LibraryRow& row, const CoverPointer& cover) {
     if (row.state == ReadState::read && cover.hash() == row.coverHash) {
         edits.cover = {};

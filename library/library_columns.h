@@ -45,6 +45,8 @@ namespace velmora {
    edit. False, with EDITS as they were, where the column can't say that. */
 [[nodiscard]] bool editText(RowEdits& edits, const LibraryRow& row, LibraryColumn column,
                             const QString& text);
+/** Puts into EDITS what BEFORE says of COLUMN, one of those that are editable, of ROW. */
+void copyEdit(RowEdits& edits, const RowEdits& before, const LibraryRow& row, LibraryColumn column);
 /** Puts into EDITS that ROW is to have COVER; null deletes it. */
 void editCover(RowEdits& edits, const LibraryRow& row, const CoverPointer& cover);
 

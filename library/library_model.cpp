@@ -57,7 +57,7 @@ QVariant LibraryModel::data(const QModelIndex& index, int role) const {
     const LibraryColumn column = columnAt(index.column());
     switch (role) {
     case Qt::DisplayRole:
-        return column == LibraryColumn::cover ? QVariant() : onOneLine(rows_.text(file, column));
+        return column == LibraryColumn::cover ? QVariant() : onOneLine(shownText(file, column));
     case Qt::EditRole:
         return editableText(rows_.text(file, column), column);
     case Qt::DecorationRole:
@@ -75,13 +75,24 @@ QVariant LibraryModel::data(const QModelIndex& index, int role) const {
     }
 }
 
-/** What is not written into its file yet is bold. */
+/** Whether an edit deletes what the column says of the file. */
+bool LibraryModel::isDeleted(int file, LibraryColumn column) const {
+    return isEdited(rows_.at(file), rows_.edits(file), column) && rows_.text(file, column).isEmpty();
+}
+
+/** What is to be deleted is seen until it is. */
+QString LibraryModel::shownText(int file, LibraryColumn column) const {
+    return isDeleted(file, column) ? columnText(rows_.at(file), nullptr, column) : rows_.text(file, column);
+}
+
+/** What is not written into its file yet is bold, and struck out where it is to be deleted. */
 QVariant LibraryModel::font(int file, LibraryColumn column) const {
     if (!isEdited(rows_.at(file), rows_.edits(file), column)) {
         return {};
     }
     QFont font;
     font.setBold(true);
+    font.setStrikeOut(isDeleted(file, column));
     return font;
 }
 

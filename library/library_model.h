@@ -28,8 +28,8 @@ public:
     /** Lists the file at PATH of SIZE bytes, unless it is listed, and reads it: soon, since many may come at
        once. */
     void addFile(const QString& path, std::uint64_t size);
-    /** Takes the file off the list: the first one at once, those that follow in the same turn of the event loop
-        together at its end, since each pass takes its time where there are many rows. */
+    /** Takes the file off the list: the first one at once, those that follow in the same turn of the event
+        loop together at its end, since each pass takes its time where there are many rows. */
     void removeFile(const QString& path);
     /** Reads the file again: it has changed. */
     void readAgain(int row);
@@ -70,7 +70,7 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 signals:
-    /** Files were listed, read, edited or are not listed any more. */
+    /** Files were listed, read, edited or are not listed any more; or others than before may be shown. */
     void contentsChanged();
     void sortKeysChanged();
     /** The rows stand in the order that was asked for. */
@@ -93,6 +93,8 @@ private:
     [[nodiscard]] bool passes(int file);
     [[nodiscard]] std::vector<int> filtered();
     void filterRest();
+    [[nodiscard]] bool isDeleted(int file, LibraryColumn column) const;
+    [[nodiscard]] QString shownText(int file, LibraryColumn column) const;
     [[nodiscard]] QVariant font(int file, LibraryColumn column) const;
     [[nodiscard]] QString spokenText(int file, LibraryColumn column) const;
     [[nodiscard]] QString tip(int file, LibraryColumn column) const;

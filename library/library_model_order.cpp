@@ -55,6 +55,7 @@ void LibraryModel::takeOrder(std::uint64_t version, std::vector<int> order) {
                  [&](int file) { return !isOrdered[static_cast<std::size_t>(file)]; });
     order_ = std::move(order);
     show(filtered());
+    emit contentsChanged(); // others may pass the filter now
     if (version == version_) {
         emit ordered();
     } else {
@@ -66,7 +67,8 @@ bool LibraryModel::passes(int file) {
     return filter_.isEmpty() || filter_.matches(rows_.filterText(file));
 }
 
-/** Those of order_ that pass. Some texts have to be folded first; where there are too many, filterRest() goes on. */
+/** Those of order_ that pass. Some texts have to be folded first; where there are too many, filterRest() goes
+    on. */
 std::vector<int> LibraryModel::filtered() {
     const QDeadlineTimer end(foldingTime);
     std::vector<int> files;
@@ -84,7 +86,8 @@ std::vector<int> LibraryModel::filtered() {
     return files;
 }
 
-/** Looks at some of the files that the filter has not looked at. Those that pass are shown at the end, as new ones are. */
+/** Looks at some of the files that the filter has not looked at. Those that pass are shown at the end, as new
+    ones are. */
 void LibraryModel::filterRest() {
     const QDeadlineTimer end(foldingTime);
     std::vector<int> files = shown_;
@@ -135,7 +138,8 @@ void LibraryModel::show(std::vector<int> files) {
     rearrange(std::move(files));
 }
 
-/** Shows those files no longer. Neighbours of theirs become the views' current cells, unless they stand in very many places. */
+/** Shows those files no longer. Neighbours of theirs become the views' current cells, unless they stand in
+    very many places. */
 void LibraryModel::hide(const std::function<bool(int file)>& isGoing) {
     std::vector<std::pair<int, int>> ranges;
     for (int row = 0; row < rowCount(); ++row) {

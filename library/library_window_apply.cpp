@@ -47,6 +47,9 @@ void LibraryWindow::apply() {
     if (isWriting() || !hasEdits() || !mayWrite(pathsOf(items()))) {
         return;
     }
+    // There Ctrl+Z takes back what is applied; in a field it would take back what was typed.
+    panel_->forgetTyping();
+    view_->setFocus();
     showDialog(localised("Apply"));
     connect(dialog_.get(), &ApplyDialog::ended, this, &LibraryWindow::applyEnded);
     // Meanwhile one of the files may have been opened and edited elsewhere.

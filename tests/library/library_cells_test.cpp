@@ -8,6 +8,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
@@ -116,6 +119,122 @@ TEST_F(LibraryCellsTest, WhoeverHasAFileOpenIsAskedBeforeItIsTriedAgain) {
     ASSERT_TRUE(waitUntil([this] { return !window_.isWriting() && window_.model().unread() == 0; }));
     EXPECT_EQ(2, asked);
     EXPECT_EQ(1U, window_.model().rows().editedCount()) << "it was written, although that was refused";
+}
+
+class FieldUndoTest : public LibraryCellsTest {
+protected:
+    FieldUndoTest() {
+        add("a.mp3", song("Sea", "Ben"));
+        add("b.mp3", song("Boat", "Ben"));
+        window_.view().selectAll();
+        EXPECT_TRUE(waitUntil([this] { return title_.isEnabled(); }));
+        title_.setFocus();
+    }
+    std::string titles() {
+        return window_.model().rows().text(0, LibraryColumn::title).toStdString() + ", " +
+               window_.model().rows().text(1, LibraryColumn::title).toStdString();
+    }
+
+    QLineEdit& title_ = *window_.findChild<QLineEdit*>("entry_titles");
+};
+
+TEST_F(FieldUndoTest, GivesSeveralValuesBack) {
+    QTest::keyClicks(&title_, "Rope");
+    window_.panel().flush();
+    EXPECT_EQ("Rope, Rope", titles());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    window_.panel().flush();
+    EXPECT_EQ("Sea, Boat", titles());
+    EXPECT_EQ(0U, window_.model().rows().editedCount());
+}
+
+TEST_F(FieldUndoTest, GivesBackWhatWasTypedBeforeTheField) {
+    window_.model().setData(window_.model().index(1, static_cast<int>(LibraryColumn::title)), "Wave",
+                            Qt::EditRole);
+    window_.model().setData(window_.model().index(1, static_cast<int>(LibraryColumn::artist)), "Zoe",
+                            Qt::EditRole);
+    QTest::keyClicks(&title_, "Rope");
+    window_.panel().flush();
+    press(Qt::Key_Z, Qt::ControlModifier);
+    window_.panel().flush();
+    EXPECT_EQ("Sea, Wave", titles());
+    EXPECT_EQ("Zoe", window_.model().rows().text(1, LibraryColumn::artist).toStdString());
+}
+
+TEST_F(FieldUndoTest, AnEmptiedFieldDeletesAndIsSeenStruckOut) {
+    QTest::keyClicks(&title_, "x");
+    press(Qt::Key_Backspace, {});
+    window_.panel().flush();
+    EXPECT_EQ(", ", titles());
+    const QModelIndex cell = window_.model().index(0, static_cast<int>(LibraryColumn::title));
+    EXPECT_EQ("Sea", cell.data().toString());
+    EXPECT_TRUE(cell.data(Qt::FontRole).value<QFont>().strikeOut());
+    EXPECT_EQ("", cell.data(Qt::EditRole).toString());
+}
+
+TEST_F(FieldUndoTest, WhatWasTypedForOtherFilesIsNotUndoneInThese) {
+    QTest::keyClicks(&title_, "Rope");
+    window_.panel().flush();
+    window_.view().selectRow(0); // has the same title by now
+    test::waitFor(120);
+    title_.setFocus();
+    press(Qt::Key_Z, Qt::ControlModifier);
+    window_.panel().flush();
+    EXPECT_EQ("Rope, Rope", titles());
+}
+
+TEST_F(FieldUndoTest, AfterAnApplyTheKeyTakesTheApplyBack) {
+    QTest::keyClicks(&title_, "Rope");
+    press(Qt::Key_S, Qt::ControlModifier);
+    ASSERT_TRUE(waitUntil([this] { return !window_.isWriting() && window_.model().unread() == 0; }));
+    EXPECT_EQ(1U, window_.undoCount());
+    QTest::keyClick(window_.findChild<ApplyDialog*>(), Qt::Key_Escape);
+    QApplication::setActiveWindow(&window_);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    ASSERT_TRUE(waitUntil([this] { return !window_.isWriting() && window_.model().unread() == 0; }));
+    EXPECT_EQ(0U, window_.undoCount());
+    EXPECT_EQ("Sea, Boat", titles());
+    EXPECT_EQ(0U, window_.model().rows().editedCount());
+}
+
+TEST_F(LibraryCellsTest, ANameThatIsTakenIsTheReasonInTheSummary) {
+    add("a.mp3", song("Sea", "Ben"));
+    written(folder_, "b.mp3", song("Boat", "Zoe"));
+    goTo(LibraryColumn::name);
+    QApplication::clipboard()->setText("b");
+    press(Qt::Key_V, Qt::ControlModifier);
+    window_.apply();
+    ASSERT_TRUE(waitUntil([this] { return !window_.isWriting(); }));
+    const auto& failures = *window_.findChild<QTreeWidget*>("list_failures");
+    ASSERT_EQ(1, failures.topLevelItemCount());
+    EXPECT_EQ("The tags are right, the name is the old one: There is a file of that name",
+              failures.topLevelItem(0)->text(1));
+}
+
+TEST_F(LibraryCellsTest, TheStatusCountsTheRowsThatAreShown) {
+    add("a.mp3", song("Sea", "Ben"));
+    window_.findChild<QLineEdit*>("entry_filter")->setText("sea");
+    const auto& status = *window_.findChild<QLabel*>("lbl_libraryStatus");
+    test::write_file(folder_ / "a.mp3", song("Boat", "Ben"));
+    window_.model().readAgain(0);
+    ASSERT_TRUE(waitUntil([this] { return window_.model().rowCount() == 0; }));
+    EXPECT_TRUE(waitUntil([&] { return status.text().endsWith("0 shown"); }, 3000))
+        << status.text().toStdString();
+}
+
+TEST_F(LibraryCellsTest, TheEmptyRatingOfTheListDeletes) {
+    add("a.mov", std::string());
+    window_.model().setData(window_.model().index(0, static_cast<int>(LibraryColumn::rating)), "PG",
+                            Qt::EditRole);
+    window_.view().selectAll();
+    auto& box = *window_.findChild<QComboBox*>("combo_ratings");
+    ASSERT_TRUE(waitUntil([&] { return box.isEnabled(); }));
+    box.setFocus();
+    press(Qt::Key_Up, {});
+    box.setCurrentIndex(0);
+    emit box.textActivated(QString());
+    const RowEdits* const edits = window_.model().rows().edits(0);
+    EXPECT_TRUE(edits && edits->text(portable::Field::rating).deletes());
 }
 
 } // namespace
