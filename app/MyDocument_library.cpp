@@ -82,8 +82,14 @@ bool MyDocument::mayWriteFiles(const QStringList& paths) {
 
 void MyDocument::filesWritten(const QHash<QString, QString>& paths) {
     controller_->table().updateFiles(paths);
-    if (const auto path = paths.constFind(openPath()); path != paths.constEnd()) {
+    const auto path = paths.constFind(openPath());
+    if (path == paths.constEnd()) {
+        return;
+    }
+    if (!isDocumentEdited()) {
         reopen(fileUrlFromPath(*path));
+    } else if (takeEditsTo(fileUrlFromPath(*path), nullptr)) {
+        emit openedAgain(); // what was typed here while the table wrote goes along
     }
 }
 

@@ -104,6 +104,9 @@ void VelmoraController::saveEnded(const SaveEnd& end) {
 void VelmoraController::showFileAgain() {
     clearUI();
     fillUI();
+    if (document_.isDocumentEdited()) {
+        form_.markChange();
+    }
 }
 
 MediaTable& VelmoraController::table() {

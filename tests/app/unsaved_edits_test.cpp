@@ -2,6 +2,7 @@
 
 #include "window_fixture.h"
 
+#include "library/library_window.h"
 #include "support/bytes.h"
 #include "support/pictures.h"
 
@@ -199,6 +200,24 @@ TEST_F(UnsavedEditsTest, AreNotKeptWhenTheUserDropsThem) {
 
     EXPECT_FALSE(action().isEnabled());
     EXPECT_EQ(QString(), notice());
+}
+
+TEST_F(UnsavedEditsTest, GoAlongWhenTheLibraryTableWritesTheFileMeanwhile) {
+    openFile("a.mp3", text4("TIT2", "Z"));
+    document().showLibrary();
+    LibraryWindow& library = *document().library();
+    LibraryModel& files = library.model();
+    ASSERT_TRUE(waitUntil([&] { return files.rowCount() == 1 && files.unread() == 0; }));
+    ASSERT_TRUE(files.setData(files.index(0, static_cast<int>(LibraryColumn::artist)), "Ann", Qt::EditRole));
+    library.apply();
+    type("entry_title", "Evening");
+    ASSERT_TRUE(waitUntil([&] { return !library.isWriting(); }));
+    settle();
+
+    EXPECT_EQ("Ann", entry("entry_artist").text());
+    EXPECT_EQ("Evening", entry("entry_title").text());
+    EXPECT_TRUE(document().isDocumentEdited());
+    EXPECT_TRUE(enabled("btn_saveTag"));
 }
 
 } // namespace
