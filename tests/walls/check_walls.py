@@ -9,7 +9,8 @@ import sys
 import tempfile
 
 project, build = (pathlib.Path(path).resolve() for path in sys.argv[1:3])
-rooms = ["taglib", "portable", "platform", "model", "imaging", "weblookup", "browser", "library", "app"]
+rooms = ["taglib", "portable", "platform", "model", "imaging", "weblookup", "browser", "library", "app",
+         "tag_tool"]
 wrong = []
 
 commands = {}
