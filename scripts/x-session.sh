@@ -1,7 +1,8 @@
 # A virtual display with the program on it, for scripts that work it with mouse and keyboard. Sourced, after
 # build= is set to the build folder; with accessible=yes, controls can be found by their names. Gives: work
 # (a folder that goes at the end), HOME inside it, start_program, wait_for_log, screenshot, cut_out,
-# point_at, quit_program.
+# point_at, window_named, focus, wait_for_no_window, quit_program. A script that fails leaves a picture of the
+# display in the folder "screenshots" of the build folder.
 
 if [ -z "${VELMORA_DISPLAY_READY:-}" ]; then
   export VELMORA_DISPLAY_READY=1 VELMORA_WORK
@@ -12,14 +13,16 @@ if [ -z "${VELMORA_DISPLAY_READY:-}" ]; then
     export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 GSETTINGS_BACKEND=memory
     bus=(env HOME="$VELMORA_WORK" XDG_RUNTIME_DIR="$VELMORA_WORK" dbus-run-session --)
   fi
-  exec xvfb-run -a -s '-screen 0 1600x900x24 -nolisten tcp' "${bus[@]}" "$0" "$@"
+  # Without repeated keys: on a busy machine a key can be down for longer than its user meant.
+  exec xvfb-run -a -s '-screen 0 1600x900x24 -nolisten tcp -r' "${bus[@]}" "$0" "$@"
 fi
 
 work=$VELMORA_WORK
 program=
 helpers=()
 finish() {
-  local process
+  local result=$? process
+  [ $result -eq 0 ] || screenshot "$build/screenshots/$(basename "$0")_failed.png" || true
   for process in $program "${helpers[@]}"; do
     kill "$process" 2>/dev/null || true
   done
@@ -43,15 +46,51 @@ wait_for_log() {
   return 1
 }
 
+# Gives the visible window of that title, once there is one. A search that meets a window which is just going
+# fails and is made anew.
+window_named() {
+  local tries window
+  for tries in $(seq 300); do
+    window=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1) || true
+    [ -n "$window" ] && echo "$window" && return
+    sleep 0.1
+  done
+  echo "There is no window \"$1\"." >&2
+  return 1
+}
+
+# Waits until no window of that title is to be seen.
+wait_for_no_window() {
+  local tries windows
+  for tries in $(seq 300); do
+    windows=$(xdotool search --onlyvisible --name "^$1\$" 2>&1) || [ -n "$windows" ] || return 0
+    sleep 0.1
+  done
+  echo "The window \"$1\" did not go." >&2
+  return 1
+}
+
+# Gives the window of that title the keyboard, as a window manager would, and waits until it has it.
+focus() {
+  local tries window
+  window=$(window_named "$1")
+  for tries in $(seq 100); do
+    xdotool windowfocus "$window" 2>/dev/null || true
+    sleep 0.1
+    [ "$(xdotool getwindowfocus 2>/dev/null || true)" = "$window" ] && return
+  done
+  echo "The window \"$1\" did not take the keyboard." >&2
+  return 1
+}
+
 # Starts the program, waits for the end of its first search, and gives its window a fixed
 # place and the keyboard.
 start_program() {
   "$build/app/velmora" >"$work/out.log" 2>"$work/log" &
   program=$!
   wait_for_log 'GOT SEARCH DONE MESSAGE'
-  local window
-  window=$(timeout 30 xdotool search --sync --onlyvisible --name '^KORVANE Velmora$' | head -n 1)
-  xdotool windowmove "$window" 0 0 windowsize "$window" 1270 880 windowfocus --sync "$window"
+  xdotool windowmove "$(window_named 'KORVANE Velmora')" 0 0 windowsize "$(window_named 'KORVANE Velmora')" 1270 880
+  focus 'KORVANE Velmora'
   sleep 1
 }
 
