@@ -94,7 +94,7 @@ endfunction()
 # compiled once. Where a room is compiled in one piece it reads them once anyway, and what it forgot to
 # include is found out.
 function(velmora_precompile_qt)
-  if(VELMORA_ONE_PIECE)
+  if(VELMORA_PIECE_SIZE EQUAL 0)
     return()
   endif()
   set(source "${PROJECT_BINARY_DIR}/qt_headers.cpp")

@@ -73,7 +73,7 @@ void KeptBytes::shrink_to(std::uint64_t size) {
     if (size < size_) {
         size_ = size;
         // What can't be given back is written over later.
-        static_cast<void>(::ftruncate(descriptor_, static_cast<off_t>(size)));
+        [[maybe_unused]] const int given_back = ::ftruncate(descriptor_, static_cast<off_t>(size));
     }
 }
 

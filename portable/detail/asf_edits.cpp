@@ -1,5 +1,6 @@
 #include "asf_edits.h"
 
+#include "cover_choice.h"
 #include "date_text.h"
 
 #include "portable/reason.h"
@@ -11,9 +12,8 @@ namespace velmora::portable {
 
 namespace {
 
-constexpr std::size_t most_attributes = 65535;
+constexpr std::size_t most_attributes_of_a_list = 65535;
 constexpr std::size_t largest_short_value = 65535;
-constexpr std::uint8_t front_cover = 3;
 
 /** The field's text where OLD was. */
 using TextFor = std::function<std::string(const std::string& old)>;
@@ -32,7 +32,7 @@ std::size_t list_of(AsfLists& lists, AsfListKind kind) {
 void add(AsfLists& lists, AsfListKind kind, const std::string& name, std::uint16_t type,
          std::span<const std::uint8_t> value) {
     AsfAttributeList& list = lists[list_of(lists, kind)];
-    if (list.attributes.size() == most_attributes) {
+    if (list.attributes.size() == most_attributes_of_a_list) {
         throw Refusal({ReasonCode::too_large, 0, "there are 65535 attributes"});
     }
     AsfAttribute attribute = asf_attribute(kind, name, type, value);
@@ -145,7 +145,7 @@ void set_cover(AsfLists& lists, const Cover& cover) {
     if (!places.empty()) {
         picture = *read_asf_picture(places.front().in(lists).value());
     }
-    picture.type = front_cover;
+    picture.type = picture_type::front_cover;
     picture.cover = cover;
     const Bytes value = asf_picture_value(picture);
     const bool is_short = value.size() <= largest_short_value;

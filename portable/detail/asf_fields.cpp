@@ -1,5 +1,6 @@
 #include "asf_fields.h"
 
+#include "cover_choice.h"
 #include "date_text.h"
 #include "save_edits.h"
 #include "text.h"
@@ -10,9 +11,6 @@
 namespace velmora::portable {
 
 namespace {
-
-constexpr std::uint8_t front_cover = 3;
-constexpr std::uint8_t other_picture = 0;
 
 constexpr AsfListKind description = AsfListKind::content_description;
 constexpr AsfListKind extended = AsfListKind::extended_content_description;
@@ -79,9 +77,9 @@ std::vector<AsfPlace> asf_cover_places(const AsfLists& lists) {
         if (!picture) {
             continue;
         }
-        if (picture->type == front_cover) {
+        if (picture->type == picture_type::front_cover) {
             covers.push_back(place);
-        } else if (picture->type == other_picture && others.empty()) {
+        } else if (picture->type == picture_type::other && others.empty()) {
             others.push_back(place);
         }
     }

@@ -15,7 +15,6 @@ namespace velmora::portable {
 namespace {
 
 constexpr std::uint64_t riff_header_size = 12;
-constexpr std::size_t most_chunks = 250'000;
 constexpr std::uint32_t movi = make_fourcc("movi");
 constexpr std::uint32_t index_chunk = make_fourcc("idx1");
 

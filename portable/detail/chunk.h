@@ -27,6 +27,9 @@ struct Chunk {
     [[nodiscard]] bool is_list(std::uint32_t type) const { return list_type == type; }
 };
 
+/** A file of more chunks is not edited. */
+inline constexpr std::size_t most_chunks = 250'000;
+
 /** The letters of FOURCC as UTF-8, read as Latin-1. */
 [[nodiscard]] std::string fourcc_name(std::uint32_t fourcc);
 

@@ -16,7 +16,6 @@ namespace {
 
 constexpr std::uint64_t form_header_size = 12;
 constexpr std::uint64_t largest_tag = std::uint64_t{128} << 20;
-constexpr std::size_t most_chunks = 250'000;
 
 /** What tells WAV and AIFF from each other. */
 struct Form {

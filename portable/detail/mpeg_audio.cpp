@@ -18,7 +18,7 @@ namespace velmora::portable {
 namespace {
 
 /** Tags of this many bytes are not taken into memory. */
-constexpr std::uint64_t largest_tag = 64UL * 1024 * 1024;
+constexpr std::uint64_t largest_tag_in_memory = 64UL * 1024 * 1024;
 
 /** MPEG audio: an ID3v2 tag in front of its frames, then an APE tag, lyrics that nobody here reads, an ID3v1
    block, and the tag that the program writes in place. Each may be missing. */
@@ -71,7 +71,7 @@ MpegAudioFile::MpegAudioFile(FIOFUNCSTRUCT* file, std::uint64_t size, Media medi
 }
 
 Bytes MpegAudioFile::bytes_at(std::uint64_t begin, std::uint64_t length) const {
-    if (length > largest_tag) {
+    if (length > largest_tag_in_memory) {
         throw Refusal({ReasonCode::too_large, 0, "a tag"});
     }
     ReadCursor cursor(window_, begin, size_);

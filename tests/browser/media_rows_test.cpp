@@ -11,21 +11,21 @@
 namespace velmora {
 namespace {
 
+using test::byName;
+using test::bySize;
 using test::makeRow;
 
-const TableColumn nameColumn{QStringLiteral("filename")};
-const TableColumn createdColumn{QStringLiteral("created")};
-const TableColumn sizeColumn{QStringLiteral("filesize")};
-const TableColumn iconColumn{QStringLiteral("icon")};
+const TableColumn byDate{QStringLiteral("created")};
+const TableColumn byIcon{QStringLiteral("icon")};
 
 int compareNames(const QString& a, const QString& b) {
-    return sort_table_columns(*makeRow(a), *makeRow(b), nameColumn);
+    return sort_table_columns(*makeRow(a), *makeRow(b), byName);
 }
 int compareDates(const QString& a, const QString& b) {
-    return sort_table_columns(*makeRow({}, 0, a), *makeRow({}, 0, b), createdColumn);
+    return sort_table_columns(*makeRow({}, 0, a), *makeRow({}, 0, b), byDate);
 }
 int compareSizes(std::uint64_t a, std::uint64_t b) {
-    return sort_table_columns(*makeRow({}, a), *makeRow({}, b), sizeColumn);
+    return sort_table_columns(*makeRow({}, a), *makeRow({}, b), bySize);
 }
 
 TEST(SortTableColumns, NamesCompareWithoutRegardToCase) {
@@ -144,8 +144,8 @@ TEST_F(MediaRowsTest, SortByANewColumnIsAscendingAndSortsTheList) {
     for (const char* name : {"c", "A", "b"}) {
         add(name);
     }
-    rows_.sortBy(nameColumn);
-    EXPECT_EQ(nameColumn, rows_.tableSortColumn());
+    rows_.sortBy(byName);
+    EXPECT_EQ(byName, rows_.tableSortColumn());
     EXPECT_FALSE(rows_.tableSortDescending());
     EXPECT_EQ((QStringList{"A", "b", "c"}), names());
 }
@@ -153,11 +153,11 @@ TEST_F(MediaRowsTest, SortByANewColumnIsAscendingAndSortsTheList) {
 TEST_F(MediaRowsTest, SameColumnAgainTurnsTheDirectionAndLeavesTheList) {
     add("a");
     add("b");
-    rows_.sortBy(nameColumn);
-    rows_.sortBy(nameColumn);
+    rows_.sortBy(byName);
+    rows_.sortBy(byName);
     EXPECT_TRUE(rows_.tableSortDescending());
     EXPECT_EQ((QStringList{"a", "b"}), names());
-    rows_.sortBy(nameColumn);
+    rows_.sortBy(byName);
     EXPECT_FALSE(rows_.tableSortDescending());
     EXPECT_EQ((QStringList{"a", "b"}), names());
 }
@@ -165,11 +165,11 @@ TEST_F(MediaRowsTest, SameColumnAgainTurnsTheDirectionAndLeavesTheList) {
 TEST_F(MediaRowsTest, AnotherColumnIsAscendingAgain) {
     add("a", 2);
     add("b", 1);
-    rows_.sortBy(nameColumn);
-    rows_.sortBy(nameColumn);
-    rows_.sortBy(sizeColumn);
+    rows_.sortBy(byName);
+    rows_.sortBy(byName);
+    rows_.sortBy(bySize);
     EXPECT_FALSE(rows_.tableSortDescending());
-    EXPECT_EQ(sizeColumn, rows_.tableSortColumn());
+    EXPECT_EQ(bySize, rows_.tableSortColumn());
     EXPECT_EQ((QStringList{"b", "a"}), names());
 }
 
@@ -178,19 +178,19 @@ TEST_F(MediaRowsTest, RowsThatCompareEqualKeepTheirOrderInASort) {
     add("second", 7);
     add("zeroth", 1);
     add("third", 7);
-    rows_.sortBy(sizeColumn);
+    rows_.sortBy(bySize);
     EXPECT_EQ((QStringList{"zeroth", "first", "second", "third"}), names());
 }
 
 TEST_F(MediaRowsTest, SortByDateGoesByTheText) {
     add("2005", 0, "12/01/05 10:00:00");
     add("2007", 0, "01/15/07 10:00:00");
-    rows_.sortBy(createdColumn);
+    rows_.sortBy(byDate);
     EXPECT_EQ((QStringList{"2007", "2005"}), names());
 }
 
 TEST_F(MediaRowsTest, NewRowIsInsertedAtItsPlace) {
-    rows_.sortBy(nameColumn);
+    rows_.sortBy(byName);
     for (const char* name : {"m", "z", "A", "n"}) {
         add(name);
     }
@@ -198,7 +198,7 @@ TEST_F(MediaRowsTest, NewRowIsInsertedAtItsPlace) {
 }
 
 TEST_F(MediaRowsTest, NewRowGoesBehindAllThatCompareEqual) {
-    rows_.sortBy(sizeColumn);
+    rows_.sortBy(bySize);
     add("first", 7);
     add("behind", 9);
     add("second", 7);
@@ -207,8 +207,8 @@ TEST_F(MediaRowsTest, NewRowGoesBehindAllThatCompareEqual) {
 }
 
 TEST_F(MediaRowsTest, NewRowGoesByTheAscendingListAlsoWhileItIsShownDescending) {
-    rows_.sortBy(nameColumn);
-    rows_.sortBy(nameColumn);
+    rows_.sortBy(byName);
+    rows_.sortBy(byName);
     for (const char* name : {"b", "c", "a"}) {
         add(name);
     }
@@ -219,7 +219,7 @@ TEST_F(MediaRowsTest, NewRowGoesByTheAscendingListAlsoWhileItIsShownDescending) 
 TEST_F(MediaRowsTest, ColumnWithoutAnOrderKeepsTheOrderOfArrival) {
     add("b");
     add("a");
-    rows_.sortBy(iconColumn);
+    rows_.sortBy(byIcon);
     add("0");
     EXPECT_EQ((QStringList{"b", "a", "0"}), names());
 }

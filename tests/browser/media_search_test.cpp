@@ -33,7 +33,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr long long listedSize = 102401;
+constexpr long long foundSize = 102401;
 
 /** Writes down what a search tells its window. */
 class MediaSearchTest : public testing::Test {
@@ -63,7 +63,7 @@ protected:
         EXPECT_EQ(0, mkdir(path.c_str(), 0755)) << path;
         return QString::fromStdString(path);
     }
-    QString makeFile(const std::string& name, long long size = listedSize) {
+    QString makeFile(const std::string& name, long long size = foundSize) {
         test::write_sparse_file(scratch_ / name, size, "x", 0);
         return QString::fromStdString(scratch_ / name);
     }
@@ -548,7 +548,7 @@ TEST_F(MediaSearchTest, PathsOfAnyBytesArriveByteForByte) {
     for (const char* name :
          {"#1?.mp3", "100%41.mp3", "<b>bold<i>.mp3", "two\nlines.mp3", "caf\xE9.mp3", "\xFF\x01.mp3"}) {
         expected.push_back(folder + "/" + name);
-        test::write_sparse_file(expected.back(), listedSize, "x", 0);
+        test::write_sparse_file(expected.back(), foundSize, "x", 0);
     }
     search_->queueFolders({pathFromBytes(QByteArray::fromStdString(folder))});
     ASSERT_TRUE(runLoopUntilDone());

@@ -15,10 +15,9 @@
 namespace velmora {
 namespace {
 
+using test::byName;
+using test::bySize;
 using test::makeRow;
-
-const TableColumn nameColumn{QStringLiteral("filename")};
-const TableColumn sizeColumn{QStringLiteral("filesize")};
 
 class MediaTableModelTest : public testing::Test {
 protected:
@@ -30,7 +29,7 @@ protected:
     [[nodiscard]] QStringList shownNames() const {
         QStringList names;
         for (int row = 0; row < model_.numberOfRowsInTableView(); ++row) {
-            names += model_.tableViewObjectValueForTableColumn(nameColumn, row).toString();
+            names += model_.tableViewObjectValueForTableColumn(byName, row).toString();
         }
         return names;
     }
@@ -47,7 +46,7 @@ TEST_F(MediaTableModelTest, KeepsTheRulesOfItemModels) {
     for (const char* name : {"b", "a", "c"}) {
         addAndReload(name);
     }
-    rows_.sortBy(nameColumn);
+    rows_.sortBy(byName);
     model_.reloadData();
     addAndReload("aa");
     add("x");
@@ -88,15 +87,15 @@ TEST_F(MediaTableModelTest, DescendingDisplayMirrorsTheRows) {
     for (const char* name : {"b", "a", "c"}) {
         add(name);
     }
-    rows_.sortBy(nameColumn);
+    rows_.sortBy(byName);
     EXPECT_EQ((QStringList{"a", "b", "c"}), shownNames());
-    rows_.sortBy(nameColumn);
+    rows_.sortBy(byName);
     EXPECT_EQ((QStringList{"c", "b", "a"}), shownNames());
 }
 
 TEST_F(MediaTableModelTest, RowAddedWhileDescendingIsShownAtItsMirroredPlace) {
-    rows_.sortBy(nameColumn);
-    rows_.sortBy(nameColumn);
+    rows_.sortBy(byName);
+    rows_.sortBy(byName);
     for (const char* name : {"b", "a", "c"}) {
         add(name);
     }
@@ -119,13 +118,13 @@ private:
 };
 
 TEST_F(RowAssertionTest, RowsOfTheListPass) {
-    EXPECT_TRUE(model_.tableViewObjectValueForTableColumn(nameColumn, 0).isValid());
-    EXPECT_TRUE(model_.tableViewObjectValueForTableColumn(nameColumn, 1).isValid());
+    EXPECT_TRUE(model_.tableViewObjectValueForTableColumn(byName, 0).isValid());
+    EXPECT_TRUE(model_.tableViewObjectValueForTableColumn(byName, 1).isValid());
     EXPECT_EQ(0, failures_.size());
 }
 
 TEST_F(RowAssertionTest, RowBehindTheListFails) {
-    EXPECT_FALSE(model_.tableViewObjectValueForTableColumn(nameColumn, 2).isValid());
+    EXPECT_FALSE(model_.tableViewObjectValueForTableColumn(byName, 2).isValid());
     ASSERT_EQ(1, failures_.size());
     EXPECT_EQ("Invalid parameter not satisfying: rowIndex >= 0 && rowIndex < [mediaFiles count]",
               failures_[0].description);
@@ -134,22 +133,22 @@ TEST_F(RowAssertionTest, RowBehindTheListFails) {
 }
 
 TEST_F(RowAssertionTest, NegativeRowFails) {
-    EXPECT_FALSE(model_.tableViewObjectValueForTableColumn(nameColumn, -1).isValid());
+    EXPECT_FALSE(model_.tableViewObjectValueForTableColumn(byName, -1).isValid());
     EXPECT_EQ(1, failures_.size());
 }
 
 TEST_F(RowAssertionTest, EveryRowOfAnEmptyTableFails) {
     const MediaRows none;
     const MediaTableModel empty(none);
-    EXPECT_FALSE(empty.tableViewObjectValueForTableColumn(nameColumn, 0).isValid());
+    EXPECT_FALSE(empty.tableViewObjectValueForTableColumn(byName, 0).isValid());
     EXPECT_EQ(1, failures_.size());
 }
 
 TEST_F(RowAssertionTest, RowIsCheckedBeforeItIsMirrored) {
-    rows_.sortBy(nameColumn);
-    rows_.sortBy(nameColumn);
-    EXPECT_FALSE(model_.tableViewObjectValueForTableColumn(nameColumn, 2).isValid());
-    EXPECT_FALSE(model_.tableViewObjectValueForTableColumn(nameColumn, -1).isValid());
+    rows_.sortBy(byName);
+    rows_.sortBy(byName);
+    EXPECT_FALSE(model_.tableViewObjectValueForTableColumn(byName, 2).isValid());
+    EXPECT_FALSE(model_.tableViewObjectValueForTableColumn(byName, -1).isValid());
     EXPECT_EQ(2, failures_.size());
 }
 
@@ -178,7 +177,7 @@ TEST_F(MediaTableModelTest, RowsHaveNoRowsBelow) {
 }
 
 TEST_F(MediaTableModelTest, NewRowIsReportedAtTheEndWhereverItIsInserted) {
-    rows_.sortBy(nameColumn);
+    rows_.sortBy(byName);
     addAndReload("b");
     const QSignalSpy inserted(&model_, &QAbstractItemModel::rowsInserted);
     addAndReload("a");
@@ -205,7 +204,7 @@ TEST_F(MediaTableModelTest, NoReloadMovesRemovesOrResetsRows) {
     for (const char* name : {"b", "a", "c"}) {
         addAndReload(name);
     }
-    rows_.sortBy(nameColumn);
+    rows_.sortBy(byName);
     model_.reloadData();
     EXPECT_EQ(0, reset.size() + layout.size() + moved.size() + removed.size());
 }
@@ -228,7 +227,7 @@ TEST_F(MediaTableModelTest, NamesWithLineBreaksAreShownOnOneLine) {
     const QString name = QString("two\nlines\tand") + QChar(QChar::LineSeparator) + "more\x7F.mp3";
     addAndReload(name);
     EXPECT_EQ(QVariant("two lines and more .mp3"), shown(0, u"filename"));
-    EXPECT_EQ(QVariant(name), model_.tableViewObjectValueForTableColumn(nameColumn, 0));
+    EXPECT_EQ(QVariant(name), model_.tableViewObjectValueForTableColumn(byName, 0));
 }
 
 TEST_F(MediaTableModelTest, EveryOtherCharacterOfANameIsShownAsItIs) {
@@ -252,8 +251,8 @@ TEST_F(MediaTableModelTest, IconColumnShowsAnIconAndNoText) {
 TEST_F(MediaTableModelTest, CellsOfDescendingRowsShowTheMirroredRecord) {
     addAndReload("a");
     addAndReload("b");
-    rows_.sortBy(nameColumn);
-    rows_.sortBy(nameColumn);
+    rows_.sortBy(byName);
+    rows_.sortBy(byName);
     EXPECT_EQ(QVariant("b"), shown(0, u"filename"));
     EXPECT_EQ(QVariant("a"), shown(1, u"filename"));
 }

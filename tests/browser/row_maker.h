@@ -1,10 +1,14 @@
 #pragma once
 
-#include "browser/media_row.h"
+#include "browser/media_rows.h"
 
 #include <memory>
 
 namespace velmora::test {
+
+/* Columns to sort by. */
+inline const TableColumn byName{QStringLiteral("filename")};
+inline const TableColumn bySize{QStringLiteral("filesize")};
 
 /** A row with what the sort order looks at. */
 inline ColdataPointer makeRow(const QString& name, std::uint64_t size = 0, const QString& created = {}) {

@@ -50,7 +50,7 @@ QImage overWhite(const QImage& image) {
 }
 
 /** Larger than what the desktop's writer is given at once. */
-constexpr QSize large(4001, 2507);
+constexpr QSize large_size(4001, 2507);
 
 TEST(ImageEncoding, AnOrdinaryPictureIsWhatTheDesktopWrites) {
     const QImage image = coloured(QSize(321, 123), QImage::Format_RGB32);
@@ -68,14 +68,14 @@ TEST(ImageEncoding, AnOrdinaryPictureIsWhatTheDesktopWrites) {
 }
 
 TEST(ImageEncoding, ALargePictureIsToo) {
-    const QImage image = coloured(large, QImage::Format_RGB32);
+    const QImage image = coloured(large_size, QImage::Format_RGB32);
     EXPECT_EQ(writtenByDesktop(image), encodedAsJpeg(image));
     const QImage grey = image.convertToFormat(QImage::Format_Grayscale8);
     EXPECT_EQ(writtenByDesktop(grey), encodedAsJpeg(grey));
 }
 
 TEST(ImageEncoding, AColourProfileIsKeptWhateverTheSize) {
-    for (const QSize size : {QSize(32, 32), large}) {
+    for (const QSize size : {QSize(32, 32), large_size}) {
         QImage image = coloured(size, QImage::Format_RGB32);
         image.setColorSpace(QColorSpace::DisplayP3);
         EXPECT_EQ(writtenByDesktop(image), encodedAsJpeg(image)) << size.width();
@@ -85,7 +85,8 @@ TEST(ImageEncoding, AColourProfileIsKeptWhateverTheSize) {
 TEST(ImageEncoding, TransparencyIsFlattenedAlikeInTheSameMemoryAndInNew) {
     for (const QImage::Format format : {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied,
                                         QImage::Format_RGBA8888, QImage::Format_RGBA64}) {
-        for (const QSize size : {QSize(201, 203), format == QImage::Format_ARGB32 ? large : QSize(1, 1)}) {
+        for (const QSize size :
+             {QSize(201, 203), format == QImage::Format_ARGB32 ? large_size : QSize(1, 1)}) {
             const QImage image = coloured(size, format);
             const QByteArray expected = writtenByDesktop(overWhite(image));
             EXPECT_EQ(expected, encodedAsJpeg(image)) << format << "shared";

@@ -13,14 +13,6 @@ using portable::TagEdits;
 
 namespace {
 
-std::string joined(std::initializer_list<std::string> parts) {
-    std::string all;
-    for (const std::string& part : parts) {
-        all += part;
-    }
-    return all;
-}
-
 std::string record_list(std::string_view guid, std::initializer_list<std::string> records) {
     return object(guid, u16(static_cast<std::uint16_t>(records.size())) + joined(records));
 }

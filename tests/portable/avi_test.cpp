@@ -19,12 +19,12 @@ using test::set_text;
 using test::to_hex;
 using test::values_in;
 
-const std::string header = list("hdrl", chunk("avih", "header"));
-const std::string media = list("movi", chunk("00dc", "frame"));
+const std::string hdrl_list = list("hdrl", chunk("avih", "header"));
+const std::string movi_list = list("movi", chunk("00dc", "frame"));
 const std::string frames = chunk("idx1", "0123456789abcdef");
 
 std::string film(const std::string& in_front, const std::string& behind) {
-    return riff("AVI ", header + in_front + media + frames + behind);
+    return riff("AVI ", hdrl_list + in_front + movi_list + frames + behind);
 }
 
 std::string junk(std::size_t size) {
@@ -160,7 +160,7 @@ TEST(AviTags, MediaThatMovedAreFound) {
 
 /** A film in two RIFF chunks. */
 std::string long_film(const std::string& in_front, const std::string& behind = "") {
-    return film(in_front, behind) + riff("AVIX", media);
+    return film(in_front, behind) + riff("AVIX", movi_list);
 }
 
 TEST(OpenDmlTags, AListGoesIntoTheRoomOfTheOldOneAndTheFreeChunkBesideIt) {

@@ -14,6 +14,10 @@ namespace velmora::test {
 /** Size, TYPE (four bytes; the sign (c) as the one byte A9), CONTENT. */
 [[nodiscard]] std::string box(std::string_view type, std::string_view content);
 
+/** What a file of the family begins with, and its media data. */
+inline const std::string file_type_box = box("ftyp", "isom");
+inline const std::string media_box = box("mdat", "media");
+
 /** An item of `ilst` with a value of KIND (1: UTF-8). */
 [[nodiscard]] std::string item(std::string_view type, std::string_view value, unsigned kind = 1);
 

@@ -13,16 +13,15 @@ using namespace std::string_literals;
 using test::be16;
 using test::be32;
 using test::box;
+using test::file_type_box;
 using test::free_item;
 using test::item;
 using test::item_list;
+using test::media_box;
 using test::values_in;
 
-const std::string file_type = box("ftyp", "isom");
-const std::string media = box("mdat", "media");
-
 std::string file_with(const std::string& in_moov) {
-    return file_type + box("moov", in_moov) + media;
+    return file_type_box + box("moov", in_moov) + media_box;
 }
 
 TEST(Mp4Read, EachFieldOfAFilmComesFromItsItem) {
@@ -114,7 +113,7 @@ TEST(Mp4Read, AFileWithoutATagSaysNothing) {
 
 TEST(Mp4Read, AFileWithoutMoovIsDamaged) {
     EXPECT_EQ("the file is damaged (no moov box)",
-              test::refusal_of([] { static_cast<void>(values_in(file_type + media, "mp4")); }));
+              test::refusal_of([] { static_cast<void>(values_in(file_type_box + media_box, "mp4")); }));
 }
 
 TEST(Mp4Read, ABoxThatReachesOutOfMoovIsDamaged) {
@@ -129,14 +128,14 @@ TEST(Mp4Read, AFileCutAnywhereIsReadOrRefused) {
     for (std::size_t length = 0; length < whole.size(); ++length) {
         const std::string why = test::refusal_of(
             [&] { static_cast<void>(values_in(std::string_view(whole).substr(0, length), "mp4")); });
-        const bool has_moov = length >= whole.size() - media.size();
+        const bool has_moov = length >= whole.size() - media_box.size();
         EXPECT_EQ(has_moov, why.empty()) << length << ": " << why;
     }
 }
 
 TEST(Mp4Read, EachByteOfTheTagMayBeWrong) {
     const std::string whole = file_with(item_list(item("\xA9nam", "Title") + free_item("a", "b", "c")));
-    for (std::size_t at = file_type.size(); at < whole.size() - media.size(); ++at) {
+    for (std::size_t at = file_type_box.size(); at < whole.size() - media_box.size(); ++at) {
         for (const char wrong : {'\0', '\1', '\x7F', '\xFF'}) {
             std::string bytes = whole;
             bytes[at] = wrong;

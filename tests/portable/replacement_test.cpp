@@ -19,7 +19,7 @@ namespace {
 using test::read_file;
 using test::write_file;
 
-const std::string media = test::hex("FFFB9064") + test::pattern(5000);
+const std::string frames_of_media = test::hex("FFFB9064") + test::pattern(5000);
 
 struct stat status_of(const std::string& path) {
     struct stat status {};
@@ -36,7 +36,7 @@ TagEdits title(const std::string& text) {
 /** A song in a folder of its own. */
 class ReplacedFile : public testing::Test {
 protected:
-    ReplacedFile() { write_file(path_, media); }
+    ReplacedFile() { write_file(path_, frames_of_media); }
 
     /** The reason of a save that must fail and leave the file and its folder alone. */
     ReasonCode refused(const std::string& path, const SaveOptions& options = {}) {
@@ -123,7 +123,7 @@ TEST_F(ReplacedFile, IsNotPartedFromItsHardLinksUnlessAsked) {
     SaveOptions options;
     options.break_links = true;
     ASSERT_EQ(SaveResult::saved, save_tags(path_, title("X"), options).result);
-    EXPECT_EQ(media, read_file(other));
+    EXPECT_EQ(frames_of_media, read_file(other));
 }
 
 TEST_F(ReplacedFile, IsLeftAloneWithoutWritePermission) {
@@ -208,7 +208,7 @@ TEST_F(ReplacedFile, StaysTheSameFileInADryRun) {
     SaveOptions options;
     options.dry_run = true;
     EXPECT_EQ(SaveResult::saved, save_tags(path_, title("X"), options).result);
-    EXPECT_EQ(media, read_file(path_));
+    EXPECT_EQ(frames_of_media, read_file(path_));
 }
 
 TEST_F(ReplacedFile, TakesAwayWhatAKilledSaveLeftAndNothingElse) {
@@ -242,7 +242,7 @@ TEST_F(ReplacedFile, HasNoFieldOfTheOtherKind) {
     const SaveOutcome outcome = save_tags(path_, edits);
     ASSERT_EQ(SaveResult::failed, outcome.result);
     EXPECT_EQ(ReasonCode::foreign_field, outcome.failure->code);
-    EXPECT_EQ(media, read_file(path_));
+    EXPECT_EQ(frames_of_media, read_file(path_));
 }
 
 } // namespace

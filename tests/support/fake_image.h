@@ -10,6 +10,9 @@ namespace velmora::test {
 /** Bytes that begin with FF D8 FF are an image; everything else is none. Encoding gives back the very bytes
    that the image was made from, so that a test knows every byte that is stored. */
 
+/** Bytes that are an image. */
+inline const std::string fake_jpeg = "\xFF\xD8\xFF\xE0picture";
+
 /** The bytes behind IMAGE. */
 [[nodiscard]] std::string fake_image_bytes(const Image* image);
 /** References to IMAGE. */

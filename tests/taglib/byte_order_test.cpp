@@ -8,8 +8,8 @@ namespace velmora {
 namespace {
 
 // One byte in front, so that every access is unaligned.
-constexpr std::array<std::uint8_t, 9> bytes = {0x00, 0x81, 0x92, 0xA3, 0xB4, 0xC5, 0xD6, 0xE7, 0xF8};
-const std::uint8_t* const unaligned = bytes.data() + 1;
+constexpr std::array<std::uint8_t, 9> nine_bytes = {0x00, 0x81, 0x92, 0xA3, 0xB4, 0xC5, 0xD6, 0xE7, 0xF8};
+const std::uint8_t* const unaligned = nine_bytes.data() + 1;
 
 TEST(ByteOrder, LoadsLittleEndianFromAnyAddress) {
     EXPECT_EQ(0x9281, load_le16(unaligned));

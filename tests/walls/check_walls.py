@@ -13,11 +13,18 @@ rooms = ["taglib", "portable", "platform", "model", "imaging", "weblookup", "bro
          "tag_tool"]
 wrong = []
 
+def sources_of(compiled):
+    """The project's own sources in a file that is compiled: itself, or those that the build put together in it."""
+    if compiled.parent.name != "Unity":
+        return [compiled]
+    return map(pathlib.Path, re.findall(r'^#include "(/.*\.cpp)"', compiled.read_text(), re.M))
+
+
 commands = {}
 for entry in json.loads((build / "compile_commands.json").read_text()):
-    source = pathlib.Path(entry["file"])
-    if source.is_relative_to(project):
-        commands.setdefault(str(source.relative_to(project)), entry)
+    for source in sources_of(pathlib.Path(entry["file"])):
+        if source.is_relative_to(project):
+            commands.setdefault(str(source.relative_to(project)), entry)
 
 
 def reading(source):

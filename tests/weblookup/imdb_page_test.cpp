@@ -10,92 +10,93 @@
 namespace velmora::test {
 namespace {
 
-FormFillInfo read(const Doms& children, const ImageFetch& fetch = FetchScript().fetch()) {
+FormFillInfo readFilm(const Doms& children, const ImageFetch& fetch = FetchScript().fetch()) {
     FormFillInfo info;
     readImdbPage(*page(children), fetch, info);
     return info;
 }
 
 FormFillInfo readInfo(const Doms& children) {
-    return read({div("info", children)});
+    return readFilm({div("info", children)});
 }
 
-std::string logOf(const Doms& children) {
+std::string logOfFilm(const Doms& children) {
     StreamCapture log;
-    read(children);
+    readFilm(children);
     return log.text();
 }
 
 TEST(ImdbPage, WithoutAnythingKnownLeavesEverySlotEmpty) {
-    const FormFillInfo info = read({element("HTML", {element("BODY", {text("hello")})})});
+    const FormFillInfo info = readFilm({element("HTML", {element("BODY", {text("hello")})})});
     EXPECT_FALSE(info.title || info.cast || info.directors || info.description || info.year || info.genres ||
                  info.rating || info.releaseDate);
     EXPECT_TRUE(info.coverArt.isNull());
 }
 
 TEST(ImdbPage, WithoutATitleElementLogsNothing) {
-    EXPECT_EQ("", logOf({element("P", {text("x")})}));
+    EXPECT_EQ("", logOfFilm({element("P", {text("x")})}));
 }
 
 // Title
 
 TEST(ImdbTitle, EndsBeforeTheLastBracketAndKeepsItsTrailingBlank) {
-    EXPECT_EQ(QString("Some Film "), read({title("Some Film (2005)")}).title);
-    EXPECT_EQ(QString("Film (Vol. 2) "), read({title("Film (Vol. 2) (2005)")}).title);
-    EXPECT_EQ(QString("Alpha (1999) "), read({title("Alpha (1999) (V)")}).title);
+    EXPECT_EQ(QString("Some Film "), readFilm({title("Some Film (2005)")}).title);
+    EXPECT_EQ(QString("Film (Vol. 2) "), readFilm({title("Film (Vol. 2) (2005)")}).title);
+    EXPECT_EQ(QString("Alpha (1999) "), readFilm({title("Alpha (1999) (V)")}).title);
 }
 
 TEST(ImdbTitle, WithoutABracketIsTheWholeText) {
-    EXPECT_EQ(QString("\n Some Film \n"), read({title("\n Some Film \n")}).title);
+    EXPECT_EQ(QString("\n Some Film \n"), readFilm({title("\n Some Film \n")}).title);
 }
 
 TEST(ImdbTitle, OfOnlyAYearIsAnEmptyText) {
-    EXPECT_EQ(QString(""), read({title("(1984)")}).title);
+    EXPECT_EQ(QString(""), readFilm({title("(1984)")}).title);
 }
 
 TEST(ImdbTitle, KeepsLettersOfAnyScript) {
     EXPECT_EQ(QString::fromUtf8("Äpfel 映画 😀 "),
-              read({title(QString::fromUtf8("Äpfel 映画 😀 (2005)"))}).title);
+              readFilm({title(QString::fromUtf8("Äpfel 映画 😀 (2005)"))}).title);
 }
 
 TEST(ImdbTitle, IsThatOfTheFirstTitleElementEvenWhenItHasNoChild) {
-    EXPECT_EQ(QString("One"), read({title("One"), title("Two")}).title);
-    EXPECT_EQ(std::nullopt, read({element("TITLE"), title("Two")}).title);
+    EXPECT_EQ(QString("One"), readFilm({title("One"), title("Two")}).title);
+    EXPECT_EQ(std::nullopt, readFilm({element("TITLE"), title("Two")}).title);
 }
 
 TEST(ImdbTitle, IsNothingWhenTheFirstChildHasNoText) {
-    EXPECT_EQ(std::nullopt, read({element("TITLE", {element("B", {text("x")}), text("y")})}).title);
-    EXPECT_EQ("", logOf({element("TITLE", {element("B", {text("x")}), text("y")})}));
+    EXPECT_EQ(std::nullopt, readFilm({element("TITLE", {element("B", {text("x")}), text("y")})}).title);
+    EXPECT_EQ("", logOfFilm({element("TITLE", {element("B", {text("x")}), text("y")})}));
 }
 
 TEST(ImdbTitle, IsOnlyTheFirstOfTwoTextNodes) {
-    EXPECT_EQ(QString("One "), read({element("TITLE", {text("One "), text("Two (2005)")})}).title);
+    EXPECT_EQ(QString("One "), readFilm({element("TITLE", {text("One "), text("Two (2005)")})}).title);
 }
 
 TEST(ImdbTitle, IsLoggedAsThePageHasIt) {
-    EXPECT_EQ("<title> tag has \"Some %1 %s Film (2005)\"\n", logOf({title("Some %1 %s Film (2005)")}));
+    EXPECT_EQ("<title> tag has \"Some %1 %s Film (2005)\"\n", logOfFilm({title("Some %1 %s Film (2005)")}));
 }
 
 // Information sections
 
 TEST(ImdbSection, NeedsTheExactClass) {
     for (const char* const name : {"info main", " info", "info ", "Info", "information", ""}) {
-        EXPECT_EQ(std::nullopt, read({div(name, {h5("Genre:"), a("Drama")})}).genres) << name;
+        EXPECT_EQ(std::nullopt, readFilm({div(name, {h5("Genre:"), a("Drama")})}).genres) << name;
     }
 }
 
 TEST(ImdbSection, IsAnHtmlElement) {
     EXPECT_EQ(std::nullopt,
-              read({withClass(foreignElement("div", {h5("Genre:"), a("Drama")}), "info")}).genres);
+              readFilm({withClass(foreignElement("div", {h5("Genre:"), a("Drama")}), "info")}).genres);
 }
 
 TEST(ImdbSection, IsADivOnly) {
-    EXPECT_EQ(std::nullopt, read({withClass(element("SPAN", {h5("Genre:"), a("Drama")}), "info")}).genres);
+    EXPECT_EQ(std::nullopt,
+              readFilm({withClass(element("SPAN", {h5("Genre:"), a("Drama")}), "info")}).genres);
 }
 
 TEST(ImdbSection, IsFoundInsideOthers) {
     EXPECT_EQ(QStringList({"Drama"}),
-              read({div("x", {div("info", {div("info", {h5("Genre:"), a("Drama")})})})}).genres);
+              readFilm({div("x", {div("info", {div("info", {h5("Genre:"), a("Drama")})})})}).genres);
 }
 
 TEST(ImdbSection, LooksAtDirectChildrenOnly) {
@@ -332,7 +333,7 @@ TEST(ImdbCast, IsTheSameWithAndWithoutATbody) {
 TEST(ImdbCast, TableNeedsTheExactClassAndPlace) {
     EXPECT_EQ(std::nullopt, readInfo({withClass(element("TABLE", {actorRow("One")}), "cast list")}).cast);
     EXPECT_EQ(std::nullopt, readInfo({element("P", {castTable({actorRow("One")})})}).cast);
-    EXPECT_EQ(std::nullopt, read({castTable({actorRow("One")})}).cast);
+    EXPECT_EQ(std::nullopt, readFilm({castTable({actorRow("One")})}).cast);
 }
 
 TEST(ImdbCast, NamesAreUntrimmed) {
@@ -395,7 +396,7 @@ TEST(ImdbCast, IgnoresRowsInOtherSections) {
 
 TEST(ImdbCast, LastTableWinsEvenWithNothing) {
     EXPECT_EQ(std::nullopt,
-              read({div("info", {castTable({actorRow("One")})}), div("info", {castTable({})})}).cast);
+              readFilm({div("info", {castTable({actorRow("One")})}), div("info", {castTable({})})}).cast);
 }
 
 // Poster
@@ -407,28 +408,29 @@ Dom poster(const Doms& children) {
 TEST(ImdbPoster, IsFetchedFromItsResolvedAddress) {
     FetchScript script{{{"http://x/1.jpg", FetchScript::picture(1)}}, {}};
     EXPECT_EQ(
-        1, read({element("P", {poster({img("http://x/1.jpg")})})}, script.fetch()).coverArt.size().width());
+        1,
+        readFilm({element("P", {poster({img("http://x/1.jpg")})})}, script.fetch()).coverArt.size().width());
     EXPECT_EQ(QStringList({"http://x/1.jpg"}), script.asked);
 }
 
 TEST(ImdbPoster, AnchorNeedsTheExactName) {
     FetchScript script;
-    read({element("A", {img("http://x/1")}, {{"name", "Poster"}}), element("A", {img("http://x/2")}),
-          element("A", {img("http://x/3")}, {{"id", "poster"}})},
-         script.fetch());
+    readFilm({element("A", {img("http://x/1")}, {{"name", "Poster"}}), element("A", {img("http://x/2")}),
+              element("A", {img("http://x/3")}, {{"id", "poster"}})},
+             script.fetch());
     EXPECT_EQ(QStringList(), script.asked);
 }
 
 TEST(ImdbPoster, LooksAtDirectImagesOnly) {
     FetchScript script;
-    read({poster({element("SPAN", {img("http://x/1")}), text("x")})}, script.fetch());
+    readFilm({poster({element("SPAN", {img("http://x/1")}), text("x")})}, script.fetch());
     EXPECT_EQ(QStringList(), script.asked);
 }
 
 TEST(ImdbPoster, FailedFetchGoesOnToTheNextImageAndSuccessLeavesTheAnchor) {
     FetchScript script{{{"http://x/2", FetchScript::picture(2)}}, {}};
-    EXPECT_EQ(2, read({poster({img("http://x/1"), text(" "), img("http://x/2"), img("http://x/3")})},
-                      script.fetch())
+    EXPECT_EQ(2, readFilm({poster({img("http://x/1"), text(" "), img("http://x/2"), img("http://x/3")})},
+                          script.fetch())
                      .coverArt.size()
                      .width());
     EXPECT_EQ(QStringList({"http://x/1", "http://x/2"}), script.asked);
@@ -437,7 +439,7 @@ TEST(ImdbPoster, FailedFetchGoesOnToTheNextImageAndSuccessLeavesTheAnchor) {
 TEST(ImdbPoster, EveryAnchorIsTriedAndTheLastPictureStays) {
     FetchScript script{{{"http://x/1", FetchScript::picture(1)}, {"http://x/2", FetchScript::picture(2)}},
                        {}};
-    EXPECT_EQ(2, read({poster({img("http://x/1")}), poster({img("http://x/2")})}, script.fetch())
+    EXPECT_EQ(2, readFilm({poster({img("http://x/1")}), poster({img("http://x/2")})}, script.fetch())
                      .coverArt.size()
                      .width());
     EXPECT_EQ(QStringList({"http://x/1", "http://x/2"}), script.asked);
@@ -445,33 +447,34 @@ TEST(ImdbPoster, EveryAnchorIsTriedAndTheLastPictureStays) {
 
 TEST(ImdbPoster, LaterFailureDropsAnEarlierPicture) {
     FetchScript script{{{"http://x/1", FetchScript::picture(1)}}, {}};
-    EXPECT_TRUE(
-        read({poster({img("http://x/1")}), poster({img("http://x/2")})}, script.fetch()).coverArt.isNull());
+    EXPECT_TRUE(readFilm({poster({img("http://x/1")}), poster({img("http://x/2")})}, script.fetch())
+                    .coverArt.isNull());
 }
 
 TEST(ImdbPoster, AddressThatMakesNoUrlIsNoFetchAndKeepsTheEarlierPicture) {
     FetchScript script{{{"http://x/1", FetchScript::picture(1)}}, {}};
-    EXPECT_EQ(1, read({poster({img("http://x/1")}), poster({img("http://[bad/"), img("")})}, script.fetch())
-                     .coverArt.size()
-                     .width());
+    EXPECT_EQ(1,
+              readFilm({poster({img("http://x/1")}), poster({img("http://[bad/"), img("")})}, script.fetch())
+                  .coverArt.size()
+                  .width());
     EXPECT_EQ(QStringList({"http://x/1"}), script.asked);
 }
 
 TEST(ImdbPoster, AddressThatMakesNoUrlGoesOnToTheNextImage) {
     FetchScript script{{{"http://x/2", FetchScript::picture(2)}}, {}};
-    EXPECT_EQ(2, read({poster({img(""), img("http://x/2")})}, script.fetch()).coverArt.size().width());
+    EXPECT_EQ(2, readFilm({poster({img(""), img("http://x/2")})}, script.fetch()).coverArt.size().width());
 }
 
 TEST(ImdbPage, ReadsAllOfATitlePage) {
     FetchScript script{{{"http://x/p.jpg", FetchScript::picture(9)}}, {}};
-    const FormFillInfo info = read({title("Harbour Lights (2005)"), poster({img("http://x/p.jpg")}),
-                                    div("info", {h5("Director:"), a("D. One")}),
-                                    div("info", {h5("Release Date:"), text(" 12 May 2005 (USA) ")}),
-                                    div("info", {h5("Genre:"), a("Drama"), a("more")}),
-                                    div("info", {h5("Plot Outline:"), text(" Ships. ")}),
-                                    div("info", {h5("Certification:"), a("USA:PG")}),
-                                    div("info", {castTable({actorRow("A. One"), actorRow("B. Two")})})},
-                                   script.fetch());
+    const FormFillInfo info = readFilm({title("Harbour Lights (2005)"), poster({img("http://x/p.jpg")}),
+                                        div("info", {h5("Director:"), a("D. One")}),
+                                        div("info", {h5("Release Date:"), text(" 12 May 2005 (USA) ")}),
+                                        div("info", {h5("Genre:"), a("Drama"), a("more")}),
+                                        div("info", {h5("Plot Outline:"), text(" Ships. ")}),
+                                        div("info", {h5("Certification:"), a("USA:PG")}),
+                                        div("info", {castTable({actorRow("A. One"), actorRow("B. Two")})})},
+                                       script.fetch());
     EXPECT_EQ(QString("Harbour Lights "), info.title);
     EXPECT_EQ(QStringList({"A. One", "B. Two"}), info.cast);
     EXPECT_EQ(QStringList({"D. One"}), info.directors);
@@ -484,13 +487,13 @@ TEST(ImdbPage, ReadsAllOfATitlePage) {
 }
 
 TEST(ImdbPage, TakesNoOtherNodeForAnElement) {
-    const FormFillInfo info =
-        read({noElement("title", {text("Wrong")}), title("True (2001)"),
-              div("info",
-                  {noElement("h5", {text("Genre:")}), a("Drama"),
-                   withClass(element("TABLE", {noElement("tbody"),
-                                               element("TR", {element("TD"), element("TD", {a("A. One")})})}),
-                             "cast")})});
+    const FormFillInfo info = readFilm(
+        {noElement("title", {text("Wrong")}), title("True (2001)"),
+         div("info",
+             {noElement("h5", {text("Genre:")}), a("Drama"),
+              withClass(element("TABLE", {noElement("tbody"),
+                                          element("TR", {element("TD"), element("TD", {a("A. One")})})}),
+                        "cast")})});
     EXPECT_EQ(QString("True "), info.title);
     EXPECT_EQ(QStringList({"A. One"}), info.cast);
     EXPECT_EQ(std::nullopt, info.genres);

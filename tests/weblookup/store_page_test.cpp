@@ -10,7 +10,7 @@
 namespace velmora::test {
 namespace {
 
-FormFillInfo read(const Doms& children, const ImageFetch& fetch = FetchScript().fetch()) {
+FormFillInfo readStore(const Doms& children, const ImageFetch& fetch = FetchScript().fetch()) {
     FormFillInfo info;
     readStorePage(*page(children), fetch, info);
     return info;
@@ -23,18 +23,18 @@ Dom list(const Doms& items) {
     return element("UL", items);
 }
 FormFillInfo readItem(const Doms& children) {
-    return read({list({item(children)})});
+    return readStore({list({item(children)})});
 }
 
-std::string logOf(const Doms& children) {
+std::string logOfStore(const Doms& children) {
     StreamCapture log;
-    read(children);
+    readStore(children);
     return log.text();
 }
 
 TEST(StorePage, WithoutAnythingKnownLeavesEverySlotEmptyAndLogsNothing) {
     StreamCapture log;
-    const FormFillInfo info = read({element("HTML", {element("BODY", {text("hello")})})});
+    const FormFillInfo info = readStore({element("HTML", {element("BODY", {text("hello")})})});
     EXPECT_FALSE(info.title || info.cast || info.directors || info.description || info.year || info.genres ||
                  info.rating || info.releaseDate);
     EXPECT_TRUE(info.coverArt.isNull());
@@ -44,59 +44,60 @@ TEST(StorePage, WithoutAnythingKnownLeavesEverySlotEmptyAndLogsNothing) {
 // Title
 
 TEST(StoreTitle, OfOnePartIsTheWholeText) {
-    EXPECT_EQ(QString("Harbour Lights"), read({title("Harbour Lights")}).title);
+    EXPECT_EQ(QString("Harbour Lights"), readStore({title("Harbour Lights")}).title);
 }
 
 TEST(StoreTitle, OfTwoToFourPartsIsTheSecond) {
-    EXPECT_EQ(QString("Harbour Lights"), read({title("Shop: Harbour Lights")}).title);
-    EXPECT_EQ(QString("Harbour Lights"), read({title("Shop: Harbour Lights: DVD")}).title);
-    EXPECT_EQ(QString("Harbour Lights"), read({title("Shop: Harbour Lights: DVD: cast list")}).title);
+    EXPECT_EQ(QString("Harbour Lights"), readStore({title("Shop: Harbour Lights")}).title);
+    EXPECT_EQ(QString("Harbour Lights"), readStore({title("Shop: Harbour Lights: DVD")}).title);
+    EXPECT_EQ(QString("Harbour Lights"), readStore({title("Shop: Harbour Lights: DVD: cast list")}).title);
 }
 
 TEST(StoreTitle, OfMorePartsLacksTheFirstAndTheLastTwo) {
     EXPECT_EQ(QString("Harbour Lights: Special Edition"),
-              read({title("Shop: Harbour Lights: Special Edition: DVD: cast list")}).title);
-    EXPECT_EQ(QString("A: B: C"), read({title("Shop: A: B: C: DVD: cast list")}).title);
+              readStore({title("Shop: Harbour Lights: Special Edition: DVD: cast list")}).title);
+    EXPECT_EQ(QString("A: B: C"), readStore({title("Shop: A: B: C: DVD: cast list")}).title);
 }
 
 TEST(StoreTitle, IsSplitAtColonAndBlankOnly) {
-    EXPECT_EQ(QString("Shop:Harbour Lights"), read({title("Shop:Harbour Lights")}).title);
+    EXPECT_EQ(QString("Shop:Harbour Lights"), readStore({title("Shop:Harbour Lights")}).title);
     EXPECT_EQ(QString("Shop:\u00a0Harbour Lights"),
-              read({title(QString("Shop:\u00a0Harbour Lights"))}).title);
+              readStore({title(QString("Shop:\u00a0Harbour Lights"))}).title);
 }
 
 TEST(StoreTitle, KeepsEmptyPartsAndBlanks) {
-    EXPECT_EQ(QString(""), read({title("Shop: : DVD")}).title);
-    EXPECT_EQ(QString("  Harbour \n"), read({title("\nShop:   Harbour \n")}).title);
-    EXPECT_EQ(QString(""), read({title("")}).title);
+    EXPECT_EQ(QString(""), readStore({title("Shop: : DVD")}).title);
+    EXPECT_EQ(QString("  Harbour \n"), readStore({title("\nShop:   Harbour \n")}).title);
+    EXPECT_EQ(QString(""), readStore({title("")}).title);
 }
 
 TEST(StoreTitle, IsNothingWithoutAFirstChildThatHasText) {
-    EXPECT_EQ(std::nullopt, read({element("TITLE")}).title);
-    EXPECT_EQ(std::nullopt, read({element("TITLE", {element("B", {text("x")}), text("y")})}).title);
-    EXPECT_EQ(std::nullopt, read({element("TITLE"), title("Second")}).title);
+    EXPECT_EQ(std::nullopt, readStore({element("TITLE")}).title);
+    EXPECT_EQ(std::nullopt, readStore({element("TITLE", {element("B", {text("x")}), text("y")})}).title);
+    EXPECT_EQ(std::nullopt, readStore({element("TITLE"), title("Second")}).title);
 }
 
 TEST(StoreTitle, IsNotLogged) {
-    EXPECT_EQ("", logOf({title("Shop: Harbour Lights")}));
+    EXPECT_EQ("", logOfStore({title("Shop: Harbour Lights")}));
 }
 
 // Lists
 
 TEST(StoreList, LabelIsReadInListItemsOfAnyListElement) {
-    EXPECT_EQ(
-        QStringList({"One"}),
-        read({element("DIV", {list({text("\n"), item({text(" "), b("Directors:"), a("One")})})})}).directors);
+    EXPECT_EQ(QStringList({"One"}),
+              readStore({element("DIV", {list({text("\n"), item({text(" "), b("Directors:"), a("One")})})})})
+                  .directors);
 }
 
 TEST(StoreList, OnlyUnorderedListsCount) {
-    EXPECT_EQ(std::nullopt, read({element("OL", {item({b("Directors:"), a("One")})})}).directors);
+    EXPECT_EQ(std::nullopt, readStore({element("OL", {item({b("Directors:"), a("One")})})}).directors);
 }
 
 TEST(StoreList, OnlyDirectChildrenCount) {
-    EXPECT_EQ(std::nullopt, read({list({element("DIV", {item({b("Directors:"), a("One")})})})}).directors);
+    EXPECT_EQ(std::nullopt,
+              readStore({list({element("DIV", {item({b("Directors:"), a("One")})})})}).directors);
     EXPECT_EQ(std::nullopt, readItem({element("SPAN", {b("Directors:"), a("One")})}).directors);
-    EXPECT_EQ(std::nullopt, read({list({b("Directors:"), a("One")})}).directors);
+    EXPECT_EQ(std::nullopt, readStore({list({b("Directors:"), a("One")})}).directors);
 }
 
 TEST(StoreLabel, MayBeWrittenInAnyCaseOfTag) {
@@ -127,12 +128,12 @@ TEST(StoreLabel, FirstLabelInTheOrderOfTheRulesDecides) {
 TEST(StoreActors, AreTrimmedNamesAndLogged) {
     EXPECT_EQ(QStringList({"One", "Two"}), readItem({b("Actors:"), a(" One "), text(", "), a("Two")}).cast);
     EXPECT_EQ("looking for actors\nlooking for actors\n",
-              logOf({list({item({b("Actors:")}), item({b("Actors:")})})}));
+              logOfStore({list({item({b("Actors:")}), item({b("Actors:")})})}));
 }
 
 TEST(StoreActors, LastLabelWinsEvenWithNothing) {
     EXPECT_EQ(std::nullopt,
-              read({list({item({b("Actors:"), a("One")})}), list({item({b("Actors:")})})}).cast);
+              readStore({list({item({b("Actors:"), a("One")})}), list({item({b("Actors:")})})}).cast);
 }
 
 TEST(StoreDirectors, AreSingularNever) {
@@ -147,7 +148,7 @@ TEST(StoreDirectors, RunOnOverTheNextLabel) {
 TEST(StoreDirectors, LastLabelWinsEvenWithNothing) {
     EXPECT_EQ(
         std::nullopt,
-        read({list({item({b("Directors:"), a("One")}), item({b("Directors:"), text("x")})})}).directors);
+        readStore({list({item({b("Directors:"), a("One")}), item({b("Directors:"), text("x")})})}).directors);
 }
 
 // Rating
@@ -173,11 +174,11 @@ TEST(StoreRating, LooksAtSiblingImagesOnly) {
 
 TEST(StoreRating, IsOverwrittenByTheCustomersRating) {
     EXPECT_EQ(QString("4 stars"),
-              read({list({item({b("Rating:"), img("x", {{"alt", "PG"}})}),
-                          item({b("Average Customer Rating:"), img("s", {{"alt", "4 stars"}})})})})
+              readStore({list({item({b("Rating:"), img("x", {{"alt", "PG"}})}),
+                               item({b("Average Customer Rating:"), img("s", {{"alt", "4 stars"}})})})})
                   .rating);
-    EXPECT_EQ(std::nullopt, read({list({item({b("Rating:"), img("x", {{"alt", "PG"}})}),
-                                        item({b("Average Customer Rating:"), text("none")})})})
+    EXPECT_EQ(std::nullopt, readStore({list({item({b("Rating:"), img("x", {{"alt", "PG"}})}),
+                                             item({b("Average Customer Rating:"), text("none")})})})
                                 .rating);
 }
 
@@ -212,7 +213,7 @@ TEST(StoreReleaseDate, IsTheSameInAnyLocaleOfTheProgram) {
 
 TEST(StoreReleaseDate, LaterBadDateClearsTheDateAndKeepsTheYear) {
     for (const Dom& behind : {text("3 May 2006"), a("May 3, 2006")}) {
-        const FormFillInfo info = read(
+        const FormFillInfo info = readStore(
             {list({item({b("Release Date:"), text("May 3, 2005")}), item({b("Release Date:"), behind})})});
         EXPECT_EQ(std::nullopt, info.releaseDate);
         EXPECT_EQ(QString("2005"), info.year);
@@ -222,14 +223,15 @@ TEST(StoreReleaseDate, LaterBadDateClearsTheDateAndKeepsTheYear) {
 // Description
 
 TEST(StoreDescription, JoinsTextsAndBreaksAndKeepsTheTrailingBreak) {
-    EXPECT_EQ(QString("First line.\nSecond line.\n"), read({b("Product Description"), text(" First line. "),
-                                                            br(), text("\nSecond line."), br(), a("x")})
-                                                          .description);
+    EXPECT_EQ(QString("First line.\nSecond line.\n"),
+              readStore({b("Product Description"), text(" First line. "), br(), text("\nSecond line."), br(),
+                         a("x")})
+                  .description);
 }
 
 TEST(StoreDescription, PutsNothingBetweenAdjacentTexts) {
     EXPECT_EQ(QString("Secondhalf."),
-              read({b("Product Description"), text("Second "), text(" half.")}).description);
+              readStore({b("Product Description"), text("Second "), text(" half.")}).description);
 }
 
 TEST(StoreDescription, OfManyLinesIsWhole) {
@@ -237,54 +239,55 @@ TEST(StoreDescription, OfManyLinesIsWhole) {
     for (int line = 0; line < 20000; ++line) {
         dom.insert(dom.end(), {text(" line "), br()});
     }
-    EXPECT_EQ(QString("line\n").repeated(20000), read(dom).description);
+    EXPECT_EQ(QString("line\n").repeated(20000), readStore(dom).description);
 }
 
 TEST(StoreDescription, IgnoresBreaksAndBlanksBeforeTheFirstText) {
     EXPECT_EQ(QString("Text"),
-              read({b("Product Description"), br(), text(" \n"), br(), br(), text("Text")}).description);
+              readStore({b("Product Description"), br(), text(" \n"), br(), br(), text("Text")}).description);
 }
 
 TEST(StoreDescription, StartsAtTheFirstTextBehindOtherElements) {
     EXPECT_EQ(QString("Text"),
-              read({b("Product Description"), a("link"), comment("c"), text("Text")}).description);
+              readStore({b("Product Description"), a("link"), comment("c"), text("Text")}).description);
 }
 
 TEST(StoreDescription, EndsAtAnyOtherNode) {
     for (const Dom& end :
          {a("link"), comment("c"), cdata("d"), element("P", {text("p")}), foreignElement("br")}) {
         EXPECT_EQ(QString("Text"),
-                  read({b("Product Description"), text("Text"), end, text("More")}).description);
+                  readStore({b("Product Description"), text("Text"), end, text("More")}).description);
     }
 }
 
 TEST(StoreDescription, WhoseFirstTextIsBlankAndThenALinkIsNothing) {
     EXPECT_EQ(std::nullopt,
-              read({b("Product Description"), text("\n"), a("link"), text("More")}).description);
+              readStore({b("Product Description"), text("\n"), a("link"), text("More")}).description);
 }
 
 TEST(StoreDescription, WithoutTextIsNothing) {
-    EXPECT_EQ(std::nullopt, read({b("Product Description"), br(), a("link")}).description);
-    EXPECT_EQ(std::nullopt, read({b("Product Description"), text(" "), br(), text("\n")}).description);
+    EXPECT_EQ(std::nullopt, readStore({b("Product Description"), br(), a("link")}).description);
+    EXPECT_EQ(std::nullopt, readStore({b("Product Description"), text(" "), br(), text("\n")}).description);
 }
 
 TEST(StoreDescription, IsOnlyThatOfTheFirstLabelEvenWhenItGivesNothing) {
-    EXPECT_EQ(std::nullopt, read({element("DIV", {b("Product Description")}),
-                                  element("DIV", {b("Product Description"), text("x")})})
+    EXPECT_EQ(std::nullopt, readStore({element("DIV", {b("Product Description")}),
+                                       element("DIV", {b("Product Description"), text("x")})})
                                 .description);
 }
 
 TEST(StoreDescription, LabelMayStandAnywhereInTheTextOfAnyB) {
-    EXPECT_EQ(QString("yes"), read({element("P", {b("x"), text("no")}),
-                                    element("P", {b("The Product Description:"), text("yes")})})
+    EXPECT_EQ(QString("yes"), readStore({element("P", {b("x"), text("no")}),
+                                         element("P", {b("The Product Description:"), text("yes")})})
                                   .description);
 }
 
 TEST(StoreDescription, LabelMustBeTheFirstChild) {
-    EXPECT_EQ(QString("yes"),
-              read({element("P", {element("B", {element("I"), text("Product Description")}), text("no")}),
-                    element("P", {b("Product Description"), text("yes")})})
-                  .description);
+    EXPECT_EQ(
+        QString("yes"),
+        readStore({element("P", {element("B", {element("I"), text("Product Description")}), text("no")}),
+                   element("P", {b("Product Description"), text("yes")})})
+            .description);
 }
 
 // Cover
@@ -302,20 +305,20 @@ TEST(StoreCover, IsFetchedInItsLargeSizeAfterTheLogLine) {
         logAtFetch = log.text();
         return script.fetch()(url);
     };
-    EXPECT_EQ(5, read({cover("http://x/a._AA240_.jpg")}, fetch).coverArt.size().width());
+    EXPECT_EQ(5, readStore({cover("http://x/a._AA240_.jpg")}, fetch).coverArt.size().width());
     EXPECT_EQ("getting cover art from http://x/a._SS500_.jpg\n", logAtFetch);
 }
 
 TEST(StoreCover, ReplacesTheFirstMarkOnlyAnywhereInTheAddress) {
     FetchScript script;
-    read({cover("http://x/_AA240_/a._AA240_.jpg")}, script.fetch());
+    readStore({cover("http://x/_AA240_/a._AA240_.jpg")}, script.fetch());
     EXPECT_EQ(QStringList({"http://x/_SS500_/a._AA240_.jpg"}), script.asked);
 }
 
 TEST(StoreCover, WithoutTheMarkIsNotFetchedAndNotLogged) {
     FetchScript script;
     StreamCapture log;
-    EXPECT_TRUE(read({cover("http://x/a.jpg"), cover("http://x/_aa240_.jpg"), cover("")}, script.fetch())
+    EXPECT_TRUE(readStore({cover("http://x/a.jpg"), cover("http://x/_aa240_.jpg"), cover("")}, script.fetch())
                     .coverArt.isNull());
     EXPECT_EQ(QStringList(), script.asked);
     EXPECT_EQ("", log.text());
@@ -324,17 +327,18 @@ TEST(StoreCover, WithoutTheMarkIsNotFetchedAndNotLogged) {
 TEST(StoreCover, StopsAtTheFirstPicture) {
     FetchScript script{
         {{"http://x/2_SS500_", FetchScript::picture(2)}, {"http://x/3_SS500_", FetchScript::picture(3)}}, {}};
-    EXPECT_EQ(2, read({cover("http://x/1_AA240_"), cover("http://x/2_AA240_"), cover("http://x/3_AA240_")},
-                      script.fetch())
-                     .coverArt.size()
-                     .width());
+    EXPECT_EQ(2,
+              readStore({cover("http://x/1_AA240_"), cover("http://x/2_AA240_"), cover("http://x/3_AA240_")},
+                        script.fetch())
+                  .coverArt.size()
+                  .width());
     EXPECT_EQ(QStringList({"http://x/1_SS500_", "http://x/2_SS500_"}), script.asked);
 }
 
 TEST(StoreCover, AddressThatMakesNoUrlIsLoggedAndNotFetched) {
     FetchScript script{{{"http://x/2_SS500_", FetchScript::picture(2)}}, {}};
     StreamCapture log;
-    EXPECT_EQ(2, read({cover("http://[bad/_AA240_"), cover("http://x/2_AA240_")}, script.fetch())
+    EXPECT_EQ(2, readStore({cover("http://[bad/_AA240_"), cover("http://x/2_AA240_")}, script.fetch())
                      .coverArt.size()
                      .width());
     EXPECT_EQ("getting cover art from http://[bad/_SS500_\ngetting cover art from http://x/2_SS500_\n",
@@ -345,13 +349,13 @@ TEST(StoreCover, CellAndImageNeedTheirExactIds) {
     FetchScript script;
     const Dom image = img("http://x/_AA240_", {{"id", "prodImage"}});
     const Dom anchor = element("A", {image});
-    read({element("TD", {anchor}), element("TD", {anchor}, {{"id", "ProdImageCell"}}),
-          element("TH", {anchor}, {{"id", "prodImageCell"}}),
-          element("DIV", {anchor}, {{"id", "prodImageCell"}}),
-          element("TD", {element("A", {img("http://x/_AA240_", {{"id", "prodimage"}})})},
-                  {{"id", "prodImageCell"}}),
-          element("TD", {element("A", {img("http://x/_AA240_")})}, {{"id", "prodImageCell"}})},
-         script.fetch());
+    readStore({element("TD", {anchor}), element("TD", {anchor}, {{"id", "ProdImageCell"}}),
+               element("TH", {anchor}, {{"id", "prodImageCell"}}),
+               element("DIV", {anchor}, {{"id", "prodImageCell"}}),
+               element("TD", {element("A", {img("http://x/_AA240_", {{"id", "prodimage"}})})},
+                       {{"id", "prodImageCell"}}),
+               element("TD", {element("A", {img("http://x/_AA240_")})}, {{"id", "prodImageCell"}})},
+              script.fetch());
     EXPECT_EQ(QStringList(), script.asked);
 }
 
@@ -359,18 +363,18 @@ TEST(StoreCover, OnlyTheFirstAnchorAndItsFirstImageCount) {
     FetchScript script;
     const Dom good = img("http://x/_AA240_", {{"id", "prodImage"}});
     const DomAttributes id = {{"id", "prodImageCell"}};
-    read({element("TD", {a("x"), element("A", {good})}, id),
-          element("TD", {element("A", {img("y"), good})}, id),
-          element("TD", {element("DIV", {element("A", {good})})}, id), element("TD", {good}, id),
-          element("TD", {element("A", {element("SPAN", {good})})}, id)},
-         script.fetch());
+    readStore({element("TD", {a("x"), element("A", {good})}, id),
+               element("TD", {element("A", {img("y"), good})}, id),
+               element("TD", {element("DIV", {element("A", {good})})}, id), element("TD", {good}, id),
+               element("TD", {element("A", {element("SPAN", {good})})}, id)},
+              script.fetch());
     EXPECT_EQ(QStringList(), script.asked);
 }
 
 TEST(StorePage, NeverHasGenres) {
     EXPECT_EQ(
         std::nullopt,
-        read({div("info", {h5("Genre:"), a("Drama")}), list({item({b("Genre:"), a("Drama")})})}).genres);
+        readStore({div("info", {h5("Genre:"), a("Drama")}), list({item({b("Genre:"), a("Drama")})})}).genres);
 }
 
 } // namespace

@@ -19,6 +19,8 @@ std::string little_endian(std::uint64_t value, int width) {
     return bytes;
 }
 
+} // namespace
+
 std::string joined(std::initializer_list<std::string> parts) {
     std::string bytes;
     for (const std::string& part : parts) {
@@ -27,7 +29,9 @@ std::string joined(std::initializer_list<std::string> parts) {
     return bytes;
 }
 
-} // namespace
+std::string bytes_of(const std::uint8_t* bytes, std::size_t length) {
+    return {reinterpret_cast<const char*>(bytes), length};
+}
 
 std::string u16(std::uint16_t value) {
     return little_endian(value, 2);

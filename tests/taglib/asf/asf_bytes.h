@@ -31,6 +31,11 @@ inline constexpr std::string_view other_name = "{8cabdca1-a947-11cf-8ee4-00c00c2
 [[nodiscard]] std::string u32(std::uint32_t value);
 [[nodiscard]] std::string u64(std::uint64_t value);
 
+/** PARTS one behind the other. */
+[[nodiscard]] std::string joined(std::initializer_list<std::string> parts);
+/** LENGTH bytes from BYTES on. */
+[[nodiscard]] std::string bytes_of(const std::uint8_t* bytes, std::size_t length);
+
 /** ASCII text as UTF-16LE without a terminator. */
 [[nodiscard]] std::string wide(std::string_view ascii);
 /** ASCII text as UTF-16LE with its terminating zero unit; nothing for an empty text. */

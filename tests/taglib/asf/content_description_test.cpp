@@ -21,10 +21,6 @@ struct FreeCd {
 };
 using Cd = std::unique_ptr<_asf_content_description_t, FreeCd>;
 
-std::string bytes_of(const std::uint8_t* text, std::size_t length) {
-    return {reinterpret_cast<const char*>(text), length};
-}
-
 /** Title "Ti", author "A", no copyright, description "D" without terminator, rating "R". */
 const std::string five_strings = hex("33 26 B2 75 8E 66 CF 11 A6 D9 00 AA 00 62 CE 6C"
                                      "34 00 00 00 00 00 00 00"

@@ -21,10 +21,6 @@ struct FreeDescriptor {
 };
 using Descriptor = std::unique_ptr<_asf_content_descriptor_t, FreeDescriptor>;
 
-std::string bytes_of(const std::uint8_t* text, std::size_t length) {
-    return {reinterpret_cast<const char*>(text), length};
-}
-
 /** "Ab", word 0x0102. */
 const std::string word_descriptor = hex("06 00 41 00 62 00 00 00 05 00 02 00 02 01");
 

@@ -47,9 +47,8 @@ protected:
     int error_ = 0;
 };
 
-const std::string jpeg = hex("FF D8 FF E0") + "picture";
 const std::string picture_descriptor =
-    descriptor("WM/Picture", 1, hex("03 0B 00 00 00") + wide_z("image/jpeg") + u16(0) + jpeg);
+    descriptor("WM/Picture", 1, hex("03 0B 00 00 00") + wide_z("image/jpeg") + u16(0) + fake_jpeg);
 
 TEST_F(AsfLoadFileInfo, FillsEveryField) {
     ASSERT_EQ(1, load_attributes(
@@ -67,7 +66,7 @@ TEST_F(AsfLoadFileInfo, FillsEveryField) {
     EXPECT_STREQ("rating", info_.rating);
     EXPECT_EQ(0x0102030405060708u, info_.time);
     ASSERT_TRUE(info_.picture);
-    EXPECT_EQ(jpeg, fake_image_bytes(info_.picture));
+    EXPECT_EQ(fake_jpeg, fake_image_bytes(info_.picture));
     EXPECT_EQ(1, fake_image_references(info_.picture));
     EXPECT_EQ(nullptr, info_.aux_object);
     EXPECT_EQ(0x8000u, info_.flags);

@@ -22,8 +22,6 @@ struct ReleaseImage {
 };
 using OwnedImage = std::unique_ptr<Image, ReleaseImage>;
 
-const std::string jpeg = hex("FF D8 FF E0") + "picture";
-
 OwnedImage image_of(const std::string& bytes) {
     return OwnedImage(image_from_bytes(bytes.data(), bytes.size()));
 }
@@ -41,7 +39,7 @@ OwnedImage load(std::string value, std::uint16_t type = 1) {
 
 /** A picture value in the form that is written. */
 std::string picture_value(const std::string& mime = "image/jpeg", const std::string& description = wide(""),
-                          const std::string& data = jpeg) {
+                          const std::string& data = fake_jpeg) {
     return hex("03") + u32(static_cast<std::uint32_t>(data.size())) + wide(mime) + u16(0) + description +
            u16(0) + data;
 }
@@ -50,9 +48,9 @@ TEST(AsfLoadPicture, GivesTheImageInTheValue) {
     const OwnedImage image = load(hex("03 0B 00 00 00"
                                       "69 00 6D 00 61 00 67 00 65 00 2F 00 6A 00 70 00 65 00 67 00 00 00"
                                       "00 00") +
-                                  jpeg);
+                                  fake_jpeg);
     ASSERT_TRUE(image);
-    EXPECT_EQ(jpeg, fake_image_bytes(image.get()));
+    EXPECT_EQ(fake_jpeg, fake_image_bytes(image.get()));
     EXPECT_EQ(1, fake_image_references(image.get()));
 }
 
@@ -76,8 +74,8 @@ TEST(AsfLoadPicture, TakesTheLowByteOfEachUnit) {
 
 TEST(AsfLoadPicture, TypeEndsForItsReaderAtAZeroLowByteAndInTheValueAtAZeroUnit) {
     // "image/jpeg", U+0100, "x": the description begins behind the unit that is zero as a whole.
-    EXPECT_TRUE(load(hex("03") + u32(static_cast<std::uint32_t>(jpeg.size())) + wide("image/jpeg") +
-                     hex("00 01") + wide("x") + u16(0) + u16(0) + jpeg));
+    EXPECT_TRUE(load(hex("03") + u32(static_cast<std::uint32_t>(fake_jpeg.size())) + wide("image/jpeg") +
+                     hex("00 01") + wide("x") + u16(0) + u16(0) + fake_jpeg));
 }
 
 TEST(AsfLoadPicture, SkipsADescriptionWithUnitsWhoseLowByteIsZero) {
@@ -87,7 +85,7 @@ TEST(AsfLoadPicture, SkipsADescriptionWithUnitsWhoseLowByteIsZero) {
 TEST(AsfLoadPicture, SkipsTheDescription) {
     const OwnedImage image = load(picture_value("image/jpeg", wide("Front cover")));
     ASSERT_TRUE(image);
-    EXPECT_EQ(jpeg, fake_image_bytes(image.get()));
+    EXPECT_EQ(fake_jpeg, fake_image_bytes(image.get()));
 }
 
 TEST(AsfLoadPicture, SkipsADescriptionOfAnyLength) {
@@ -97,7 +95,7 @@ TEST(AsfLoadPicture, SkipsADescriptionOfAnyLength) {
 TEST(AsfLoadPicture, TakesBytesBehindThePicture) {
     const OwnedImage image = load(picture_value() + "more");
     ASSERT_TRUE(image);
-    EXPECT_EQ(jpeg, fake_image_bytes(image.get()));
+    EXPECT_EQ(fake_jpeg, fake_image_bytes(image.get()));
 }
 
 TEST(AsfLoadPicture, GivesNoneForAnotherValueType) {
@@ -165,7 +163,7 @@ TEST(AsfLoadPicture, GivesNoneForDataThatIsNoImage) {
 
 TEST(AsfStorePicture, AppendsAByteArrayOfTheWrittenForm) {
     const Ecd ecd(asf_init_ext_content_description());
-    const OwnedImage image = image_of(jpeg);
+    const OwnedImage image = image_of(fake_jpeg);
     EXPECT_EQ(1, asf_store_picture(ecd.get(), image.get()));
     OpenBytes file("");
     ASSERT_EQ(1, ecd->count);
@@ -176,7 +174,7 @@ TEST(AsfStorePicture, AppendsAByteArrayOfTheWrittenForm) {
                   "03 0B 00 00 00" // "image/jpeg", ""
                   "69 00 6D 00 61 00 67 00 65 00 2F 00 6A 00 70 00 65 00 67 00 00 00"
                   "00 00") +
-                  jpeg,
+                  fake_jpeg,
               file.bytes());
     EXPECT_EQ(1, fake_image_references(image.get()));
 }
@@ -185,7 +183,7 @@ TEST(AsfStorePicture, ReplacesTheValueAndKeepsTypeAndPlace) {
     OpenBytes from(test::ext_content_description(
         {text_descriptor("A", "1"), test::descriptor("WM/Picture", 0, "old"), text_descriptor("B", "2")}));
     const Ecd ecd(asf_read_ext_content_description(from.file(), nullptr));
-    const OwnedImage image = image_of(jpeg);
+    const OwnedImage image = image_of(fake_jpeg);
     EXPECT_EQ(1, asf_store_picture(ecd.get(), image.get()));
     ecd->size = asf_get_ext_content_description_size(ecd.get());
     OpenBytes to("");
@@ -199,7 +197,7 @@ TEST(AsfStorePicture, ReplacesTheValueAndKeepsTypeAndPlace) {
 TEST(AsfStorePicture, APictureStoredOverATextDoesNotLoadAgain) {
     OpenBytes from(test::ext_content_description({test::descriptor("WM/Picture", 0, "old")}));
     const Ecd ecd(asf_read_ext_content_description(from.file(), nullptr));
-    const OwnedImage image = image_of(jpeg);
+    const OwnedImage image = image_of(fake_jpeg);
     EXPECT_EQ(1, asf_store_picture(ecd.get(), image.get()));
     EXPECT_EQ(nullptr, asf_load_picture(ecd->descriptors[0]));
 }
@@ -233,7 +231,7 @@ TEST(AsfStorePicture, FailsWithoutAnImage) {
 
 TEST(AsfStorePicture, FailsWhenTheImageCanNotBeEncoded) {
     const Ecd ecd(asf_init_ext_content_description());
-    const OwnedImage image = image_of(jpeg);
+    const OwnedImage image = image_of(fake_jpeg);
     fail_fake_image_encoding(true);
     EXPECT_EQ(0, asf_store_picture(ecd.get(), image.get()));
     fail_fake_image_encoding(false);
@@ -242,7 +240,7 @@ TEST(AsfStorePicture, FailsWhenTheImageCanNotBeEncoded) {
 
 TEST(AsfStorePicture, SaysSoWhenThereIsNoMemoryForTheValue) {
     const Ecd ecd(asf_init_ext_content_description());
-    const OwnedImage image = image_of(jpeg);
+    const OwnedImage image = image_of(fake_jpeg);
     StreamCapture log;
     const AllocationFaults value(1);
     EXPECT_EQ(0, asf_store_picture(ecd.get(), image.get()));
@@ -253,7 +251,7 @@ TEST(AsfStorePicture, SaysSoWhenThereIsNoMemoryForTheValue) {
 TEST(AsfStorePicture, FailsWithoutMemoryForTheDescriptor) {
     for (int nth = 2; nth <= 4; ++nth) {
         const Ecd ecd(asf_init_ext_content_description());
-        const OwnedImage image = image_of(jpeg);
+        const OwnedImage image = image_of(fake_jpeg);
         const AllocationFaults allocation(nth);
         EXPECT_EQ(0, asf_store_picture(ecd.get(), image.get())) << nth;
         EXPECT_EQ(0, ecd->count) << nth;

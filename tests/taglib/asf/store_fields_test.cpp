@@ -19,7 +19,7 @@ namespace {
 
 using namespace test;
 
-const std::string media = "the media data";
+const std::string media_data = "the media data";
 
 /** What a store makes of the two descriptions, in a file whose padding takes up every change. */
 class AsfStoreFields : public testing::Test {
@@ -28,12 +28,12 @@ protected:
     void store(const std::string& cd, std::initializer_list<std::string> descriptors) {
         const std::string header =
             header_object({other_object(), cd, ext_content_description(descriptors), padding(4000)});
-        write_file(path_, header + media);
+        write_file(path_, header + media_data);
         const StreamCapture quiet;
         ASSERT_EQ(1, asf_store_file_info(path_.c_str(), &info_));
         stored_ = read_file(path_);
-        ASSERT_EQ(header.size() + media.size(), stored_.size());
-        EXPECT_EQ(media, stored_.substr(header.size()));
+        ASSERT_EQ(header.size() + media_data.size(), stored_.size());
+        EXPECT_EQ(media_data, stored_.substr(header.size()));
         old_size_ = header.size();
     }
 
@@ -315,7 +315,7 @@ TEST_F(AsfStoreFields, LongTextsAreCutToWhatTheLengthFieldHolds) {
     info_.artist = text(std::string(40000, 'x').c_str());
     const std::string header =
         header_object({content_description("", ""), ext_content_description({}), padding(200000)});
-    write_file(path_, header + media);
+    write_file(path_, header + media_data);
     const StreamCapture quiet;
     ASSERT_EQ(1, asf_store_file_info(path_.c_str(), &info_));
     const std::string value = wide_z(std::string(32766, 'x'));
@@ -342,7 +342,7 @@ TEST_F(AsfStoreFields, RemoveTakesEveryMappedAttributeAndEmptiesTitleAndAuthor) 
                       text_descriptor("WM/Composer", "kept")};
     const std::string header = header_object({other_object(), content_description("t", "a", "c", "d", "r"),
                                               ext_content_description(all), padding(4000)});
-    write_file(path_, header + media);
+    write_file(path_, header + media_data);
     const StreamCapture quiet;
     EXPECT_EQ(1, asf_remove_file_info(path_.c_str()));
     stored_ = read_file(path_);

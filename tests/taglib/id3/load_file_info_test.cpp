@@ -17,8 +17,6 @@
 namespace velmora::test {
 namespace {
 
-const std::string jpeg = hex("FF D8 FF E0") + "picture";
-
 std::string shown(const char* text) {
     return text ? text : "(null)";
 }
@@ -67,7 +65,7 @@ TEST(Id3LoadInfo, EveryFrameFillsItsSlot) {
                                          text4("TIT2", "song") + text4("TPE3", "director") +
                                          text4("TCON", "genre") + text4("TYER", "1999") +
                                          frame4("PRIV", bytes("WM/ParentalRating\0PG-13")) +
-                                         frame4("APIC", bytes("\0image/jpeg\0\x03\0") + jpeg)));
+                                         frame4("APIC", bytes("\0image/jpeg\0\x03\0") + fake_jpeg)));
     EXPECT_EQ(1, info.result);
     EXPECT_EQ(0x8000u, info.flags);
     EXPECT_STREQ("album", info.title);
@@ -78,14 +76,14 @@ TEST(Id3LoadInfo, EveryFrameFillsItsSlot) {
     EXPECT_STREQ("genre", info.genre);
     EXPECT_EQ(1999, info.year);
     ASSERT_NE(nullptr, info.picture);
-    EXPECT_EQ(jpeg, fake_image_bytes(info.picture));
+    EXPECT_EQ(fake_jpeg, fake_image_bytes(info.picture));
     EXPECT_EQ(1, fake_image_references(info.picture));
     EXPECT_EQ(nullptr, info.aux_object);
     EXPECT_EQ(0u, info.time);
 }
 
 TEST(Id3LoadInfo, PicturesAreReleasedWithTheRecord) {
-    { const Loaded info(leading_tag(4, frame4("APIC", bytes("\0image/jpeg\0\x03\0") + jpeg))); }
+    { const Loaded info(leading_tag(4, frame4("APIC", bytes("\0image/jpeg\0\x03\0") + fake_jpeg))); }
     EXPECT_EQ(0, fake_images_alive());
 }
 
@@ -297,9 +295,10 @@ TEST(Id3LoadInfo, YearIgnoresItsEncodingByteSoThatUtf16HasNone) {
 
 TEST(Id3LoadInfo, FirstPictureIsTaken) {
     const std::string lead = bytes("\0image/jpeg\0\x03\0");
-    const Loaded info(leading_tag(4, frame4("APIC", lead + jpeg + "1") + frame4("APIC", lead + jpeg + "2")));
+    const Loaded info(
+        leading_tag(4, frame4("APIC", lead + fake_jpeg + "1") + frame4("APIC", lead + fake_jpeg + "2")));
     ASSERT_NE(nullptr, info.picture);
-    EXPECT_EQ(jpeg + "1", fake_image_bytes(info.picture));
+    EXPECT_EQ(fake_jpeg + "1", fake_image_bytes(info.picture));
 }
 
 const std::string group_guid = hex("30 26 B2 75 8E 66 CF 11 A6 D9 00 AA 00 62 CE 6C");
@@ -308,28 +307,29 @@ const char* const large_art = "AlbumArt_{75b22630-668e-11cf-a6d9-00aa0062ce6c}_L
 /** The picture that a file with these FRAMES has beside an album-art file. */
 std::string picture_beside_album_art(const std::string& frames) {
     const ScratchFolder folder;
-    write_file(folder / large_art, jpeg + "art");
+    write_file(folder / large_art, fake_jpeg + "art");
     write_file(folder / "song.mp3", leading_tag(4, frames));
     const Loaded info(Loaded::Path{folder / "song.mp3"});
     return info.picture ? fake_image_bytes(info.picture) : "";
 }
 
 TEST(Id3LoadInfo, AlbumArtFileStandsInForAMissingPicture) {
-    EXPECT_EQ(jpeg + "art",
+    EXPECT_EQ(fake_jpeg + "art",
               picture_beside_album_art(frame4("PRIV", bytes("WM/WMCollectionGroupID\0") + group_guid)));
-    EXPECT_EQ(jpeg + "art", picture_beside_album_art(
-                                frame4("PRIV", bytes("WM/WMCollectionGroupID\0") + group_guid + "more")));
+    EXPECT_EQ(fake_jpeg + "art", picture_beside_album_art(frame4("PRIV", bytes("WM/WMCollectionGroupID\0") +
+                                                                             group_guid + "more")));
 }
 
 TEST(Id3LoadInfo, AlbumArtFileStandsInForAPictureOfAnotherType) {
-    EXPECT_EQ(jpeg + "art",
-              picture_beside_album_art(frame4("APIC", bytes("\0image/png\0\x03\0") + jpeg) +
+    EXPECT_EQ(fake_jpeg + "art",
+              picture_beside_album_art(frame4("APIC", bytes("\0image/png\0\x03\0") + fake_jpeg) +
                                        frame4("PRIV", bytes("WM/WMCollectionGroupID\0") + group_guid)));
 }
 
 TEST(Id3LoadInfo, AttachedPictureGoesBeforeTheAlbumArtFile) {
-    EXPECT_EQ(jpeg, picture_beside_album_art(frame4("PRIV", bytes("WM/WMCollectionGroupID\0") + group_guid) +
-                                             frame4("APIC", bytes("\0image/jpeg\0\x03\0") + jpeg)));
+    EXPECT_EQ(fake_jpeg,
+              picture_beside_album_art(frame4("PRIV", bytes("WM/WMCollectionGroupID\0") + group_guid) +
+                                       frame4("APIC", bytes("\0image/jpeg\0\x03\0") + fake_jpeg)));
 }
 
 TEST(Id3LoadInfo, AlbumArtNeedsAWholeGuid) {
@@ -490,7 +490,7 @@ TEST(Id3LoadInfo, WithoutMemoryASlotStaysEmptyAndNothingIsLost) {
     const ScratchFolder folder;
     const std::string path = folder / "song.mp3";
     write_file(path, leading_tag(4, text4("TALB", "a") + text4("TCON", "(17)") +
-                                        frame4("APIC", bytes("\0image/jpeg\0\x03\0") + jpeg)));
+                                        frame4("APIC", bytes("\0image/jpeg\0\x03\0") + fake_jpeg)));
     const StreamCapture log;
     constexpr int requests = 3 * 2 + 2; // a body and a place for each frame, a copy of each text
     for (int nth = 0; nth <= requests; ++nth) {

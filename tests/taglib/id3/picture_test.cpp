@@ -16,7 +16,6 @@ namespace {
 
 using Rows = std::vector<std::string>;
 
-const std::string jpeg = hex("FF D8 FF E0") + "picture";
 const std::string body_in_front = bytes("\0image/jpeg\0\x03\0");
 
 /** What id3_load_picture makes of a frame with that body: the image's bytes, or nothing, and what is logged.
@@ -40,8 +39,8 @@ struct Picture {
 };
 
 TEST(Id3Picture, ImageIsMadeFromTheBytesBehindTheDescription) {
-    const Picture picture(body_in_front + jpeg);
-    EXPECT_EQ(jpeg, picture.bytes);
+    const Picture picture(body_in_front + fake_jpeg);
+    EXPECT_EQ(fake_jpeg, picture.bytes);
     EXPECT_EQ(1, picture.references);
     EXPECT_EQ("", picture.log);
     EXPECT_EQ(0, fake_images_alive());
@@ -49,21 +48,23 @@ TEST(Id3Picture, ImageIsMadeFromTheBytesBehindTheDescription) {
 
 TEST(Id3Picture, BothJpegTypesAreAcceptedInAnyCase) {
     for (const char* const type : {"image/jpg", "image/jpeg", "IMAGE/JPG", "Image/Jpeg"}) {
-        EXPECT_EQ(jpeg, Picture(std::string(1, '\0') + type + bytes("\0\x03\0") + jpeg).bytes) << type;
+        EXPECT_EQ(fake_jpeg, Picture(std::string(1, '\0') + type + bytes("\0\x03\0") + fake_jpeg).bytes)
+            << type;
     }
 }
 
 TEST(Id3Picture, AnyPictureTypeAndDescriptionIsAccepted) {
     for (int type = 0; type < 256; ++type) {
-        const std::string body = bytes("\0image/jpeg\0") + static_cast<char>(type) + bytes("Front\0") + jpeg;
-        EXPECT_EQ(jpeg, Picture(body).bytes) << type;
+        const std::string body =
+            bytes("\0image/jpeg\0") + static_cast<char>(type) + bytes("Front\0") + fake_jpeg;
+        EXPECT_EQ(fake_jpeg, Picture(body).bytes) << type;
     }
 }
 
 TEST(Id3Picture, DescriptionOfAnyLengthIsSkipped) {
     for (const std::size_t length : {0u, 255u, 256u, 257u, 8192u, 20'000u}) {
         const std::string description = std::string(length, 'd') + '\0';
-        EXPECT_EQ(jpeg, Picture(bytes("\0image/jpeg\0\x03") + description + jpeg).bytes) << length;
+        EXPECT_EQ(fake_jpeg, Picture(bytes("\0image/jpeg\0\x03") + description + fake_jpeg).bytes) << length;
     }
 }
 
@@ -75,14 +76,14 @@ TEST(Id3Picture, EmptyFrameIsRefused) {
 
 TEST(Id3Picture, OtherTextEncodingIsRefused) {
     for (const int encoding : {1, 2, 3, 255}) {
-        const Picture picture(static_cast<char>(encoding) + body_in_front.substr(1) + jpeg);
+        const Picture picture(static_cast<char>(encoding) + body_in_front.substr(1) + fake_jpeg);
         EXPECT_FALSE(picture.found);
         EXPECT_EQ("id3_load_picture: Unexpected encoding " + std::to_string(encoding) + "\n", picture.log);
     }
 }
 
 TEST(Id3Picture, OtherTypeIsRefused) {
-    const Picture picture(bytes("\0image/png\0\x03\0") + jpeg);
+    const Picture picture(bytes("\0image/png\0\x03\0") + fake_jpeg);
     EXPECT_FALSE(picture.found);
     EXPECT_EQ("id3_load_picture: Not a jpeg image (image/png)\n", picture.log);
     EXPECT_EQ("id3_load_picture: Not a jpeg image ()\n", Picture(bytes("\0")).log);
@@ -113,9 +114,9 @@ TEST(Id3Picture, BytesThatAreNoImageGiveNothingSilently) {
 
 TEST(Id3Picture, IsStoredAsJpegOfPictureType16WithoutDescription) {
     Descriptor tag;
-    Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
+    Image* const image = image_from_bytes(fake_jpeg.data(), fake_jpeg.size());
     EXPECT_EQ(1, id3_store_picture(&tag, id3_frame_id("APIC"), image));
-    EXPECT_EQ((Rows{bytes("APIC:\0image/jpeg\0\x10\0") + jpeg}), tag.list());
+    EXPECT_EQ((Rows{bytes("APIC:\0image/jpeg\0\x10\0") + fake_jpeg}), tag.list());
     EXPECT_EQ(1, fake_image_references(image));
     image_release(image);
 }
@@ -124,16 +125,16 @@ TEST(Id3Picture, IsStoredUnderTheGivenIdInPlaceOfTheFirst) {
     Descriptor tag;
     tag.add("PIC1", "old");
     tag.add("PIC1", "second");
-    Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
+    Image* const image = image_from_bytes(fake_jpeg.data(), fake_jpeg.size());
     EXPECT_EQ(1, id3_store_picture(&tag, id3_frame_id("PIC1"), image));
-    EXPECT_EQ((Rows{bytes("PIC1:\0image/jpeg\0\x10\0") + jpeg, "PIC1:second"}), tag.list());
+    EXPECT_EQ((Rows{bytes("PIC1:\0image/jpeg\0\x10\0") + fake_jpeg, "PIC1:second"}), tag.list());
     image_release(image);
 }
 
 TEST(Id3Picture, ThatCanNotBeEncodedLeavesTheTagSilently) {
     Descriptor tag;
     tag.add("APIC", "old");
-    Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
+    Image* const image = image_from_bytes(fake_jpeg.data(), fake_jpeg.size());
     fail_fake_image_encoding(true);
     StreamCapture log;
     EXPECT_EQ(0, id3_store_picture(&tag, id3_frame_id("APIC"), image));
@@ -145,7 +146,7 @@ TEST(Id3Picture, ThatCanNotBeEncodedLeavesTheTagSilently) {
 
 TEST(Id3Picture, WithoutMemoryForTheBodyIsLogged) {
     Descriptor tag;
-    Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
+    Image* const image = image_from_bytes(fake_jpeg.data(), fake_jpeg.size());
     StreamCapture log;
     {
         const AllocationFaults no_memory(1);
@@ -169,17 +170,17 @@ std::string album_art(const std::string& media_path) {
 
 TEST(Id3AlbumArt, LargeFileBesideTheMediaIsTaken) {
     const ScratchFolder folder;
-    write_file(folder / (art_name + "Large.jpg"), jpeg + "large");
-    write_file(folder / (art_name + "Small.jpg"), jpeg + "small");
-    EXPECT_EQ(jpeg + "large", album_art(folder / "song.mp3"));
+    write_file(folder / (art_name + "Large.jpg"), fake_jpeg + "large");
+    write_file(folder / (art_name + "Small.jpg"), fake_jpeg + "small");
+    EXPECT_EQ(fake_jpeg + "large", album_art(folder / "song.mp3"));
 }
 
 TEST(Id3AlbumArt, SmallFileIsTakenWhenTheLargeOneIsMissingOrNoImage) {
     const ScratchFolder folder;
-    write_file(folder / (art_name + "Small.jpg"), jpeg + "small");
-    EXPECT_EQ(jpeg + "small", album_art(folder / "song.mp3"));
+    write_file(folder / (art_name + "Small.jpg"), fake_jpeg + "small");
+    EXPECT_EQ(fake_jpeg + "small", album_art(folder / "song.mp3"));
     write_file(folder / (art_name + "Large.jpg"), "no image");
-    EXPECT_EQ(jpeg + "small", album_art(folder / "song.mp3"));
+    EXPECT_EQ(fake_jpeg + "small", album_art(folder / "song.mp3"));
 }
 
 TEST(Id3AlbumArt, WithoutFilesThereIsNone) {
@@ -190,11 +191,11 @@ TEST(Id3AlbumArt, WithoutFilesThereIsNone) {
 TEST(Id3AlbumArt, PathWithoutSlashIsTakenAsTheFolder) {
     const ScratchFolder folder;
     ASSERT_EQ(0, ::chdir(folder.path().c_str()));
-    write_file(art_name + "Large.jpg", jpeg);
+    write_file(art_name + "Large.jpg", fake_jpeg);
     EXPECT_EQ(nullptr, id3_load_albumart("song.mp3", guid));
     ASSERT_EQ(0, ::mkdir("song.mp3", 0755));
-    write_file("song.mp3/" + art_name + "Large.jpg", jpeg);
-    EXPECT_EQ(jpeg, album_art("song.mp3"));
+    write_file("song.mp3/" + art_name + "Large.jpg", fake_jpeg);
+    EXPECT_EQ(fake_jpeg, album_art("song.mp3"));
     ASSERT_EQ(0, ::chdir("/"));
 }
 

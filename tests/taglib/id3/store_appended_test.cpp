@@ -13,7 +13,7 @@
 namespace velmora::test {
 namespace {
 
-const std::string media = pattern(1000);
+const std::string media_1000 = pattern(1000);
 const std::string no_tag_log = "id3_load_descriptor_v2: Invalid header sig\n"
                                "id3_load_header_v1: Failed to read header\n";
 
@@ -55,20 +55,20 @@ private:
 };
 
 TEST(Id3StoreAppended, FileWithoutTagGetsAVersion4TagWithFooterAtItsEnd) {
-    const Song song(media);
+    const Song song(media_1000);
     StoredInfo info;
     const Store store(song.path(), info.with_title("ab").with_year(1999));
     EXPECT_EQ(1, store.result);
     EXPECT_EQ(no_tag_log, store.log);
-    EXPECT_EQ(to_hex(media + hex("49 44 33 04 00 10 00 00 00 1C"
-                                 "54 41 4C 42 00 00 00 03 00 00 00 61 62"
-                                 "54 59 45 52 00 00 00 05 00 00 00 31 39 39 39"
-                                 "33 44 49 04 00 10 00 00 00 1C")),
+    EXPECT_EQ(to_hex(media_1000 + hex("49 44 33 04 00 10 00 00 00 1C"
+                                      "54 41 4C 42 00 00 00 03 00 00 00 61 62"
+                                      "54 59 45 52 00 00 00 05 00 00 00 31 39 39 39"
+                                      "33 44 49 04 00 10 00 00 00 1C")),
               to_hex(song.contents()));
 }
 
 TEST(Id3StoreAppended, SuccessSetsTagPresentAndClearsTheHandledFlags) {
-    const Song song(media);
+    const Song song(media_1000);
     StoredInfo info;
     info.with_title("ab").with_year(0);
     info.flags |= 0x400;
@@ -77,73 +77,76 @@ TEST(Id3StoreAppended, SuccessSetsTagPresentAndClearsTheHandledFlags) {
 }
 
 TEST(Id3StoreAppended, NewTagIsFoundAgain) {
-    const Song song(media);
+    const Song song(media_1000);
     ASSERT_EQ(1, song.store_title("title").result);
     EXPECT_EQ("title", song.loaded_title());
 }
 
 TEST(Id3StoreAppended, RecordWithoutFlagsAppendsAnEmptyTag) {
-    const Song song(media);
+    const Song song(media_1000);
     StoredInfo info;
     EXPECT_EQ(1, Store(song.path(), info).result);
-    EXPECT_EQ(to_hex(media + hex("49 44 33 04 00 10 00 00 00 00 33 44 49 04 00 10 00 00 00 00")),
+    EXPECT_EQ(to_hex(media_1000 + hex("49 44 33 04 00 10 00 00 00 00 33 44 49 04 00 10 00 00 00 00")),
               to_hex(song.contents()));
     EXPECT_EQ(0x8000u, info.flags);
 }
 
 TEST(Id3StoreAppended, OtherFramesAreKept) {
-    const Song song(media + appended_tag(text4("TXXX", "x") + text4("TALB", "old") + frame4("TALB", "two")));
+    const Song song(media_1000 +
+                    appended_tag(text4("TXXX", "x") + text4("TALB", "old") + frame4("TALB", "two")));
     const Store store = song.store_title("new title");
     EXPECT_EQ(1, store.result);
     EXPECT_EQ("TXXX = \"x\"\nTALB = \"old\"\nTALB = \"wo\"\n", store.log);
-    EXPECT_EQ(media + appended_tag(text4("TXXX", "x") + text4("TALB", "new title") + frame4("TALB", "two")),
+    EXPECT_EQ(media_1000 +
+                  appended_tag(text4("TXXX", "x") + text4("TALB", "new title") + frame4("TALB", "two")),
               song.contents());
 }
 
 TEST(Id3StoreAppended, VersionRevisionAndFlagsAreKeptAndTheFooterFlagIsSet) {
     const std::string start = hex("49 44 33 03 02 40 00 00 00 0C");
     const std::string end = hex("33 44 49 03 02 40 00 00 00 0C");
-    const Song song(media + start + frame3("TALB", bytes("\0a")) + end);
+    const Song song(media_1000 + start + frame3("TALB", bytes("\0a")) + end);
     ASSERT_EQ(1, song.store_title("b").result);
-    EXPECT_EQ(to_hex(media + hex("49 44 33 03 02 50 00 00 00 0C 54 41 4C 42 00 00 00 02 00 00 00 62"
-                                 "33 44 49 03 02 50 00 00 00 0C")),
+    EXPECT_EQ(to_hex(media_1000 + hex("49 44 33 03 02 50 00 00 00 0C 54 41 4C 42 00 00 00 02 00 00 00 62"
+                                      "33 44 49 03 02 50 00 00 00 0C")),
               to_hex(song.contents()));
 }
 
 TEST(Id3StoreAppended, FrameSizesKeepTheFormOfTheirVersion) {
-    const Song song(media + header(3, 0x10, 12) + frame3("TALB", bytes("\0a")) + header(3, 0x10, 12, "3DI"));
+    const Song song(media_1000 + header(3, 0x10, 12) + frame3("TALB", bytes("\0a")) +
+                    header(3, 0x10, 12, "3DI"));
     const std::string title(199, 'x');
     ASSERT_EQ(1, song.store_title(title).result);
-    EXPECT_EQ(media + header(3, 0x10, 210) + frame3("TALB", std::string(1, '\0') + title) +
+    EXPECT_EQ(media_1000 + header(3, 0x10, 210) + frame3("TALB", std::string(1, '\0') + title) +
                   header(3, 0x10, 210, "3DI"),
               song.contents());
 }
 
 TEST(Id3StoreAppended, ShorterTagLeavesTheFileAsLongAsBefore) {
-    const Song song(media);
+    const Song song(media_1000);
     ASSERT_EQ(1, song.store_title("a rather long title").result);
     const std::string before = song.contents();
     ASSERT_EQ(1, song.store_title("t").result);
     const std::string tag = appended_tag(text4("TALB", "t"));
-    EXPECT_EQ(media + tag + before.substr(media.size() + tag.size()), song.contents());
+    EXPECT_EQ(media_1000 + tag + before.substr(media_1000.size() + tag.size()), song.contents());
 }
 
 TEST(Id3StoreAppended, TagShorterByAWholeFooterIsFoundThroughTheOldOne) {
     for (const std::size_t shrink : {10u, 11u, 18u}) {
-        const Song song(media);
+        const Song song(media_1000);
         ASSERT_EQ(1, song.store_title(std::string(20, 'x')).result);
         const std::string shorter(20 - shrink, 'y');
         ASSERT_EQ(1, song.store_title(shorter).result);
         EXPECT_EQ(shorter, song.loaded_title());
         ASSERT_EQ(1, song.store_title("again").result);
         EXPECT_EQ("again", song.loaded_title());
-        EXPECT_EQ(media.size() + 20 + 10 + 21, song.contents().size());
+        EXPECT_EQ(media_1000.size() + 20 + 10 + 21, song.contents().size());
     }
 }
 
 TEST(Id3StoreAppended, TagShorterByLessThanAFooterIsLostAndTheNextStoreAppendsASecondOne) {
     for (std::size_t shrink = 1; shrink <= 9; ++shrink) {
-        const Song song(media);
+        const Song song(media_1000);
         ASSERT_EQ(1, song.store_title(std::string(20, 'x')).result);
         ASSERT_EQ(1, song.store_title(std::string(20 - shrink, 'y')).result);
         const std::string lost = song.contents();
@@ -155,33 +158,33 @@ TEST(Id3StoreAppended, TagShorterByLessThanAFooterIsLostAndTheNextStoreAppendsAS
 }
 
 TEST(Id3StoreAppended, LongerTagGrowsTheFile) {
-    const Song song(media + appended_tag(text4("TALB", "a")));
+    const Song song(media_1000 + appended_tag(text4("TALB", "a")));
     ASSERT_EQ(1, song.store_title("longer").result);
-    EXPECT_EQ(media + appended_tag(text4("TALB", "longer")), song.contents());
+    EXPECT_EQ(media_1000 + appended_tag(text4("TALB", "longer")), song.contents());
 }
 
 TEST(Id3StoreAppended, PaddingIsKeptWithTheBytesThatLieThere) {
     const std::string padding(20, '\0');
-    const Song song(media + appended_tag(text4("TALB", "abcdefgh") + padding));
+    const Song song(media_1000 + appended_tag(text4("TALB", "abcdefgh") + padding));
     ASSERT_EQ(1, song.store_title("ab").result);
     // The tag got shorter by six bytes, so its padding begins six bytes earlier, on the end of the old title.
     const std::string contents = text4("TALB", "ab") + "cdefgh" + std::string(14, '\0');
-    EXPECT_EQ(media + appended_tag(contents) + header(4, 0x10, 39, "3DI").substr(4), song.contents());
+    EXPECT_EQ(media_1000 + appended_tag(contents) + header(4, 0x10, 39, "3DI").substr(4), song.contents());
 }
 
 TEST(Id3StoreAppended, BytesInFrontOfTheTagAreNeverWritten) {
-    const Song song(media + appended_tag(text4("TALB", "a")));
+    const Song song(media_1000 + appended_tag(text4("TALB", "a")));
     const SystemCallFaults watch;
     ASSERT_EQ(1, song.store_title("longer").result);
     for (const SystemCallRecord& call : watch.records()) {
         if (call.call == SystemCall::write) {
-            EXPECT_GE(call.position, static_cast<std::int64_t>(media.size()));
+            EXPECT_GE(call.position, static_cast<std::int64_t>(media_1000.size()));
         }
     }
 }
 
 TEST(Id3StoreAppended, EndsWithAWriteOfNoBytes) {
-    const Song song(media);
+    const Song song(media_1000);
     StoredInfo info;
     info.with_title("a");
     const StreamCapture log;
@@ -206,11 +209,11 @@ int calls_of_store(const std::string& bytes) {
 }
 
 TEST(Id3StoreAppended, CostsThirteenCallsWithACover) {
-    EXPECT_EQ(13, calls_of_store(media + appended_tag(frames_with_cover())));
+    EXPECT_EQ(13, calls_of_store(media_1000 + appended_tag(frames_with_cover())));
 }
 
 TEST(Id3StoreAppended, CostsNineCallsWithASmallTag) {
-    EXPECT_EQ(9, calls_of_store(media + appended_tag(text4("TALB", "old"))));
+    EXPECT_EQ(9, calls_of_store(media_1000 + appended_tag(text4("TALB", "old"))));
 }
 
 TEST(Id3StoreAppended, FileOf20000000BytesWithALeadingTagGetsASecondOne) {
@@ -259,13 +262,13 @@ TEST(Id3StoreAppended, PositionsAreNotCutTo32Bits) {
 
 TEST(Id3StoreAppended, LeadingTagIsLeftAloneWhenThereIsAnAppendedOne) {
     const std::string leading = leading_tag(3, frame3("TALB", bytes("\0old")));
-    const Song song(leading + media + appended_tag(text4("TALB", "a")));
+    const Song song(leading + media_1000 + appended_tag(text4("TALB", "a")));
     ASSERT_EQ(1, song.store_title("b").result);
-    EXPECT_EQ(leading + media + appended_tag(text4("TALB", "b")), song.contents());
+    EXPECT_EQ(leading + media_1000 + appended_tag(text4("TALB", "b")), song.contents());
 }
 
 TEST(Id3StoreAppended, Id3v1BlockStaysInFrontOfTheNewTag) {
-    const std::string contents = media + "TAG" + std::string(125, 'x');
+    const std::string contents = media_1000 + "TAG" + std::string(125, 'x');
     const Song song(contents);
     ASSERT_EQ(1, song.store_title("a").result);
     EXPECT_EQ(contents + appended_tag(text4("TALB", "a")), song.contents());
@@ -273,12 +276,13 @@ TEST(Id3StoreAppended, Id3v1BlockStaysInFrontOfTheNewTag) {
 
 TEST(Id3StoreAppended, PictureIsStoredAndLoaded) {
     const std::string jpeg = hex("FF D8 FF E0") + pattern(5000);
-    const Song song(media);
+    const Song song(media_1000);
     Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
     StoredInfo info;
     ASSERT_EQ(1, Store(song.path(), info.with_picture(image)).result);
     image_release(image);
-    EXPECT_EQ(media + appended_tag(frame4("APIC", bytes("\0image/jpeg\0\x10\0") + jpeg)), song.contents());
+    EXPECT_EQ(media_1000 + appended_tag(frame4("APIC", bytes("\0image/jpeg\0\x10\0") + jpeg)),
+              song.contents());
     const StreamCapture log;
     _file_info_t loaded;
     ASSERT_EQ(1, id3_load_file_info(song.path().c_str(), &loaded));
@@ -290,13 +294,13 @@ TEST(Id3StoreAppended, PictureIsStoredAndLoaded) {
 
 TEST(Id3StoreAppended, TagThatIsTooLargeToBeReadIsStoredAllTheSameAndTheNextStoreAppendsASecondOne) {
     const std::string jpeg = hex("FF D8 FF E0") + std::string(300'000, 'j');
-    const Song song(media);
+    const Song song(media_1000);
     Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
     StoredInfo info;
     EXPECT_EQ(1, Store(song.path(), info.with_picture(image)).result);
     image_release(image);
     const std::string tag = appended_tag(frame4("APIC", bytes("\0image/jpeg\0\x10\0") + jpeg));
-    EXPECT_EQ(media + tag, song.contents());
+    EXPECT_EQ(media_1000 + tag, song.contents());
     const std::string too_large_log = "id3_load_descriptor_v2: header too large\n" + no_tag_log;
     {
         StreamCapture log;
@@ -307,7 +311,7 @@ TEST(Id3StoreAppended, TagThatIsTooLargeToBeReadIsStoredAllTheSameAndTheNextStor
     const Store next = song.store_title("second");
     EXPECT_EQ(1, next.result);
     EXPECT_EQ(too_large_log, next.log);
-    EXPECT_EQ(media + tag + appended_tag(text4("TALB", "second")), song.contents());
+    EXPECT_EQ(media_1000 + tag + appended_tag(text4("TALB", "second")), song.contents());
     EXPECT_EQ("second", song.loaded_title());
 }
 
@@ -327,10 +331,10 @@ TEST(Id3StoreAppended, FileThatCanNotBeOpenedFailsWithTheSystemsText) {
 TEST(Id3StoreAppended, PathMayHoldAnyByte) {
     const ScratchFolder folder;
     const std::string path = folder / "a #?%<b>\n\xFF\xFE.mp3";
-    write_file(path, media);
+    write_file(path, media_1000);
     StoredInfo info;
     EXPECT_EQ(1, Store(path, info.with_title("a")).result);
-    EXPECT_EQ(media + appended_tag(text4("TALB", "a")), read_file(path));
+    EXPECT_EQ(media_1000 + appended_tag(text4("TALB", "a")), read_file(path));
 }
 
 } // namespace

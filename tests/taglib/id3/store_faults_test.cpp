@@ -13,7 +13,7 @@
 namespace velmora::test {
 namespace {
 
-const std::string media = pattern(500);
+const std::string media_500 = pattern(500);
 
 /** What is expected of a store whose NTH call fails. */
 struct Expected {
@@ -159,23 +159,24 @@ TEST(Id3StoreFaults, NewAppendedTag) {
         {write_call, 1, quiet}, // the write of no bytes
         {close_call, 0, quiet + store_log},
     };
-    const std::string tagged = media + appended_tag(text4("TALB", "b"));
-    run_with_each_call_failing(media, expected,
+    const std::string tagged = media_500 + appended_tag(text4("TALB", "b"));
+    run_with_each_call_failing(media_500, expected,
                                [&](const FaultyStore& store, int nth, const std::string& where) {
                                    const bool written = store.result == 1 || nth == 11;
-                                   EXPECT_EQ(written ? tagged : media, store.contents()) << where;
+                                   EXPECT_EQ(written ? tagged : media_500, store.contents()) << where;
                                });
 }
 
 TEST(Id3StoreFaults, NewAppendedTagWhereBytesAreRefused) {
     const auto left_alone = [](const FaultyStore& store, std::int64_t, const std::string& where) {
-        EXPECT_EQ(media, store.contents()) << where;
+        EXPECT_EQ(media_500, store.contents()) << where;
     };
-    run_with_each_byte_refused(
-        media, read_call, {{0, 10, header_log + read_log}, {490, 500, footer_log + read_log}}, left_alone);
+    run_with_each_byte_refused(media_500, read_call,
+                               {{0, 10, header_log + read_log}, {490, 500, footer_log + read_log}},
+                               left_alone);
     const std::string quiet = signature_log + v1_log;
-    const std::string tagged = media + appended_tag(text4("TALB", "b"));
-    run_with_each_byte_refused(media, write_call,
+    const std::string tagged = media_500 + appended_tag(text4("TALB", "b"));
+    run_with_each_byte_refused(media_500, write_call,
                                {{500, 510, quiet + write_header_log + store_log},
                                 {510, 520, quiet + write_frame_log + store_log},
                                 {520, 522, quiet + write_data_log + store_log},
@@ -202,15 +203,15 @@ TEST(Id3StoreFaults, RewrittenAppendedTag) {
     };
     const std::string new_tag = appended_tag(text4("TALB", "b"));
     run_with_each_call_failing(
-        media + old_tag, expected, [&](const FaultyStore& store, int nth, const std::string& where) {
+        media_500 + old_tag, expected, [&](const FaultyStore& store, int nth, const std::string& where) {
             const bool written = store.result == 1 || nth == 9;
-            EXPECT_EQ(media + (written ? new_tag : old_tag), store.contents()) << where;
+            EXPECT_EQ(media_500 + (written ? new_tag : old_tag), store.contents()) << where;
         });
 }
 
 TEST(Id3StoreFaults, RewrittenAppendedTagWhereBytesAreRefused) {
-    const std::string before = media + appended_tag(text4("TALB", "a"));
-    const std::string after = media + appended_tag(text4("TALB", "b"));
+    const std::string before = media_500 + appended_tag(text4("TALB", "a"));
+    const std::string after = media_500 + appended_tag(text4("TALB", "b"));
     const std::string album = "TALB = \"a\"\n";
     run_with_each_byte_refused(before, read_call,
                                {{500, 510, header_log + read_log},
@@ -255,8 +256,8 @@ TEST(Id3StoreFaults, LeadingTagThroughACopy) {
         {SystemCall::unlink, 0, album + "id3_store_file_info: couldn't delete original file\n"},
         {SystemCall::rename, 1, album + "id3_store_file_info: couldn't rename file\n"},
     };
-    const std::string before = leading_tag(4, text4("TALB", "a")) + media;
-    const std::string after = leading_tag(4, text4("TALB", "b")) + media;
+    const std::string before = leading_tag(4, text4("TALB", "a")) + media_500;
+    const std::string after = leading_tag(4, text4("TALB", "b")) + media_500;
     run_with_each_call_failing(before, expected,
                                [&](const FaultyStore& store, int nth, const std::string& where) {
                                    if (nth == 19) {
@@ -271,7 +272,7 @@ TEST(Id3StoreFaults, LeadingTagThroughACopy) {
 
 TEST(Id3StoreFaults, LeadingTagThroughACopyWhereBytesAreRefused) {
     const std::string album = "TALB = \"a\"\n";
-    const std::string before = leading_tag(4, text4("TALB", "a")) + media; // 22 and 500 bytes
+    const std::string before = leading_tag(4, text4("TALB", "a")) + media_500; // 22 and 500 bytes
     const auto left_alone = [&](const FaultyStore& store, std::int64_t, const std::string& where) {
         EXPECT_EQ(before, store.contents()) << where;
         EXPECT_EQ("", store.temporary_contents()) << where;
@@ -303,7 +304,7 @@ std::vector<std::string> last_calls(const FaultyStore& store) {
 
 TEST(Id3StoreFaults, CopyAndMediaFileAreClosedBeforeTheCopyIsDeleted) {
     using Rows = std::vector<std::string>;
-    const std::string before = leading_tag(4, text4("TALB", "a")) + media;
+    const std::string before = leading_tag(4, text4("TALB", "a")) + media_500;
     const FaultyStore not_opened(before, 7, EIO);
     EXPECT_EQ((Rows{"open VLT", "close song", "unlink VLT"}), last_calls(not_opened));
     for (int nth = 8; nth <= 16; ++nth) { // from the copy's first call to its close
@@ -332,13 +333,13 @@ TEST(Id3StoreFaults, AFileTooShortForATagGetsOne) {
 }
 
 TEST(Id3StoreFaults, ShortReadsOfTheMediaAreCompletedByLaterOnes) {
-    const std::string before = leading_tag(4, text4("TALB", "a")) + media;
+    const std::string before = leading_tag(4, text4("TALB", "a")) + media_500;
     const Expected expected{read_call, 1, "TALB = \"a\"\n"};
     const FaultyStore store(before, [](SystemCallFaults& faults) {
         faults.cut_short(SystemCall::read, 3, 1); // footer, tag, media
     });
     expect_documented(store, expected, "read 3");
-    EXPECT_EQ(leading_tag(4, text4("TALB", "b")) + media, store.contents());
+    EXPECT_EQ(leading_tag(4, text4("TALB", "b")) + media_500, store.contents());
 }
 
 TEST(Id3StoreFaults, AReadOfNoBytesInFrontOfTheEndLeavesTheOriginal) {
@@ -363,9 +364,9 @@ TEST(Id3StoreFaults, WithoutMemoryTheFileIsLeftAlone) {
         std::string contents;
         int loading; ///< requests: a body and a place for each frame; without one the old tag isn't known
         int storing; ///< the same, but a frame that is there only grows; for a copy its folder's name too
-    } cases[] = {{media, 0, 2 + 2},
-                 {media + appended_tag(old_tag), 2, 1 + 2},
-                 {leading_tag(4, old_tag) + media, 2, 1 + 2 + 1}};
+    } cases[] = {{media_500, 0, 2 + 2},
+                 {media_500 + appended_tag(old_tag), 2, 1 + 2},
+                 {leading_tag(4, old_tag) + media_500, 2, 1 + 2 + 1}};
     for (const auto& file : cases) {
         const int requests = file.loading + file.storing;
         for (int nth = 1; nth <= requests + 1; ++nth) { // the last one is never made

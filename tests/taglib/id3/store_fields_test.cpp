@@ -16,8 +16,6 @@ namespace {
 
 using Rows = std::vector<std::string>;
 
-const std::string jpeg = hex("FF D8 FF E0") + "picture";
-
 constexpr std::uint32_t all_fields = 0x1FF;
 
 TEST(Id3StoreFields, EveryFieldBecomesItsFrameInOrder) {
@@ -33,14 +31,14 @@ TEST(Id3StoreFields, EveryFieldBecomesItsFrameInOrder) {
     info.director = director;
     info.rating = rating;
     info.year = 1999;
-    info.picture = image_from_bytes(jpeg.data(), jpeg.size());
+    info.picture = image_from_bytes(fake_jpeg.data(), fake_jpeg.size());
     info.time = 128'543'700'300'000'000; // 2008-05-04 10:20:30
     Descriptor tag;
     EXPECT_EQ(1, id3_store_fields(&tag, &info));
     EXPECT_EQ(
         (Rows{bytes("TALB:\0album"), bytes("TPE1:\0artist"), bytes("TIT2:\0song"), bytes("TPE3:\0director"),
               bytes("PRIV:WM/ParentalRating\0PG-13"), bytes("TCON:\0Rock"), bytes("TYER:\0001999"),
-              bytes("APIC:\0image/jpeg\0\x10\0") + jpeg, bytes("TDRC:\000108-04-04T:10:20:30+0:0")}),
+              bytes("APIC:\0image/jpeg\0\x10\0") + fake_jpeg, bytes("TDRC:\000108-04-04T:10:20:30+0:0")}),
         tag.list());
     EXPECT_EQ(0u, info.flags);
     EXPECT_EQ(1, fake_image_references(info.picture));
@@ -230,7 +228,7 @@ TEST(Id3StoreFields, UnknownFlagsAndTagPresentStay) {
 TEST(Id3StoreFields, PictureThatCanNotBeEncodedLeavesItsFrameAndTheRestIsStored) {
     Descriptor tag;
     tag.add("APIC", "old");
-    Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
+    Image* const image = image_from_bytes(fake_jpeg.data(), fake_jpeg.size());
     StoredInfo info;
     info.with_title("a").with_picture(image);
     fail_fake_image_encoding(true);
@@ -265,7 +263,7 @@ TEST(Id3StoreFields, WithoutMemoryForAnyFrameFailsWithTheFlagsClearedWhateverFol
 }
 
 TEST(Id3StoreFields, PictureDoesNotMakeUpForAFieldThatFailed) {
-    Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
+    Image* const image = image_from_bytes(fake_jpeg.data(), fake_jpeg.size());
     Descriptor tag;
     StoredInfo info;
     info.with_title("a").with_picture(image);
@@ -277,7 +275,7 @@ TEST(Id3StoreFields, PictureDoesNotMakeUpForAFieldThatFailed) {
 }
 
 TEST(Id3StoreFields, WithoutMemoryForThePictureStoresTheRest) {
-    Image* const image = image_from_bytes(jpeg.data(), jpeg.size());
+    Image* const image = image_from_bytes(fake_jpeg.data(), fake_jpeg.size());
     const StreamCapture log;
     for (const int nth : {1, 2, 3}) { // its body, its frame, the array
         Descriptor tag;

@@ -14,7 +14,7 @@
 namespace velmora::test {
 namespace {
 
-const std::string media = pattern(200'000); // more than one block
+const std::string media_200000 = pattern(200'000); // more than one block
 
 /** A file that is stored into, alone in its folder. */
 class Song {
@@ -45,7 +45,7 @@ using Names = std::vector<std::string>;
 // Without a file of the generated name, which is how it always goes
 
 TEST(Id3StoreLeading, TemporaryFileIsNotCreatedSoTheStoreFails) {
-    const std::string contents = leading_tag(3, frame3("TALB", bytes("\0old"))) + media;
+    const std::string contents = leading_tag(3, frame3("TALB", bytes("\0old"))) + media_200000;
     const Song song(contents);
     StoredInfo info;
     const Store store(song.path(), info.with_title("new"));
@@ -152,22 +152,23 @@ Store store_with_temporary_file(const Song& song, const std::string& title) {
 }
 
 TEST(Id3StoreLeading, TagIsReplacedInFrontOfTheMedia) {
-    const Song song(leading_tag(4, text4("TXXX", "x") + text4("TALB", "old")) + media);
+    const Song song(leading_tag(4, text4("TXXX", "x") + text4("TALB", "old")) + media_200000);
     const Store store = store_with_temporary_file(song, "a longer title");
     EXPECT_EQ(1, store.result);
     EXPECT_EQ("TXXX = \"x\"\nTALB = \"old\"\n", store.log);
-    EXPECT_EQ(leading_tag(4, text4("TXXX", "x") + text4("TALB", "a longer title")) + media, song.contents());
+    EXPECT_EQ(leading_tag(4, text4("TXXX", "x") + text4("TALB", "a longer title")) + media_200000,
+              song.contents());
     EXPECT_EQ(Names{"song.mp3"}, song.files());
 }
 
 TEST(Id3StoreLeading, ShorterTagMovesTheMediaForward) {
-    const Song song(leading_tag(4, text4("TALB", "a rather long title")) + media);
+    const Song song(leading_tag(4, text4("TALB", "a rather long title")) + media_200000);
     EXPECT_EQ(1, store_with_temporary_file(song, "t").result);
-    EXPECT_EQ(leading_tag(4, text4("TALB", "t")) + media, song.contents());
+    EXPECT_EQ(leading_tag(4, text4("TALB", "t")) + media_200000, song.contents());
 }
 
 TEST(Id3StoreLeading, SuccessSetsTagPresent) {
-    const Song song(leading_tag(4, "") + media);
+    const Song song(leading_tag(4, "") + media_200000);
     StoredInfo info;
     SystemCallFaults generator;
     generator.create_generated_names();
@@ -176,17 +177,17 @@ TEST(Id3StoreLeading, SuccessSetsTagPresent) {
 }
 
 TEST(Id3StoreLeading, Version3StaysVersion3WithPlainSizesAndWithoutFooter) {
-    const Song song(hex("49 44 33 03 01 80 00 00 00 0C 54 41 4C 42 00 00 00 02 00 00 00 61") + media);
+    const Song song(hex("49 44 33 03 01 80 00 00 00 0C 54 41 4C 42 00 00 00 02 00 00 00 61") + media_200000);
     EXPECT_EQ(1, store_with_temporary_file(song, std::string(199, 'x')).result);
     EXPECT_EQ(hex("49 44 33 03 01 80 00 00 01 52 54 41 4C 42 00 00 00 C8 00 00 00") + std::string(199, 'x') +
-                  media,
+                  media_200000,
               song.contents());
 }
 
 TEST(Id3StoreLeading, PaddingIsKeptAsAHole) {
-    const Song song(leading_tag(3, frame3("TALB", bytes("\0old")) + std::string(50, '\0')) + media);
+    const Song song(leading_tag(3, frame3("TALB", bytes("\0old")) + std::string(50, '\0')) + media_200000);
     EXPECT_EQ(1, store_with_temporary_file(song, "longer").result);
-    EXPECT_EQ(leading_tag(3, frame3("TALB", bytes("\0longer")) + std::string(50, '\0')) + media,
+    EXPECT_EQ(leading_tag(3, frame3("TALB", bytes("\0longer")) + std::string(50, '\0')) + media_200000,
               song.contents());
 }
 
@@ -197,9 +198,9 @@ TEST(Id3StoreLeading, PaddingWithNothingBehindItDoesNotExist) {
 }
 
 TEST(Id3StoreLeading, OldTagWithAFooterIsTenBytesLonger) {
-    const Song song(appended_tag(text4("TALB", "old")) + media);
+    const Song song(appended_tag(text4("TALB", "old")) + media_200000);
     EXPECT_EQ(1, store_with_temporary_file(song, "newer").result);
-    EXPECT_EQ(appended_tag(text4("TALB", "newer")) + media, song.contents());
+    EXPECT_EQ(appended_tag(text4("TALB", "newer")) + media_200000, song.contents());
 }
 
 TEST(Id3StoreLeading, EmptyFileGetsATagWithFooter) {
@@ -216,14 +217,14 @@ TEST(Id3StoreLeading, FileOfNothingButAnAppendedTagIsReplaced) {
 
 TEST(Id3StoreLeading, BadFrameAndWhatFollowsItBecomePadding) {
     const Song song(leading_tag(3, frame3("TALB", bytes("\0a")) + "TPE1" + hex("FF FF FF FF 00 00") + "xyz") +
-                    media);
+                    media_200000);
     EXPECT_EQ(1, store_with_temporary_file(song, "b").result);
-    EXPECT_EQ(header(3, 0, 15) + frame3("TALB", bytes("\0b")) + std::string(3, '\0') + media,
+    EXPECT_EQ(header(3, 0, 15) + frame3("TALB", bytes("\0b")) + std::string(3, '\0') + media_200000,
               song.contents());
 }
 
 TEST(Id3StoreLeading, OriginalIsDeletedBeforeTheCopyIsRenamed) {
-    const Song song(leading_tag(4, "") + media);
+    const Song song(leading_tag(4, "") + media_200000);
     StoredInfo info;
     info.with_title("new");
     const StreamCapture log;
@@ -242,7 +243,7 @@ TEST(Id3StoreLeading, OriginalIsDeletedBeforeTheCopyIsRenamed) {
 }
 
 TEST(Id3StoreLeading, FailedDeletionLeavesTheOriginal) {
-    const std::string contents = leading_tag(4, text4("TALB", "old")) + media;
+    const std::string contents = leading_tag(4, text4("TALB", "old")) + media_200000;
     const Song song(contents);
     SystemCallFaults faults;
     faults.create_generated_names();
@@ -255,7 +256,7 @@ TEST(Id3StoreLeading, FailedDeletionLeavesTheOriginal) {
 }
 
 TEST(Id3StoreLeading, FailedRenameIsASuccessAndTheCopyKeepsTheMedia) {
-    const Song song(leading_tag(4, text4("TALB", "old")) + media);
+    const Song song(leading_tag(4, text4("TALB", "old")) + media_200000);
     StoredInfo info;
     SystemCallFaults faults;
     faults.create_generated_names();
@@ -267,7 +268,7 @@ TEST(Id3StoreLeading, FailedRenameIsASuccessAndTheCopyKeepsTheMedia) {
     ASSERT_EQ(1u, song.files().size());
     const std::string name = song.files()[0];
     EXPECT_EQ("VLT.", name.substr(0, 4));
-    EXPECT_EQ(leading_tag(4, text4("TALB", "new")) + media, read_file(song.folder() + "/" + name));
+    EXPECT_EQ(leading_tag(4, text4("TALB", "new")) + media_200000, read_file(song.folder() + "/" + name));
 }
 
 } // namespace
