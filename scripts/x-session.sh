@@ -89,7 +89,9 @@ start_program() {
   "$build/app/velmora" >"$work/out.log" 2>"$work/log" &
   program=$!
   wait_for_log 'GOT SEARCH DONE MESSAGE'
-  xdotool windowmove "$(window_named 'KORVANE Velmora')" 0 0 windowsize "$(window_named 'KORVANE Velmora')" 1270 880
+  local window
+  window=$(window_named 'KORVANE Velmora')
+  xdotool windowmove "$window" 0 0 windowsize "$window" 1270 880
   focus 'KORVANE Velmora'
   sleep 1
 }

@@ -14,7 +14,7 @@ rooms = ["taglib", "portable", "platform", "model", "imaging", "weblookup", "bro
 wrong = []
 
 def sources_of(compiled):
-    """The project's own sources in a file that is compiled: itself, or those that the build put together in it."""
+    """The sources in a file that is compiled: itself, or those that the build put together in it."""
     if compiled.parent.name != "Unity":
         return [compiled]
     return map(pathlib.Path, re.findall(r'^#include "(/.*\.cpp)"', compiled.read_text(), re.M))
