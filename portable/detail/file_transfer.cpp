@@ -11,15 +11,13 @@ namespace velmora::portable {
 
 namespace {
 
-constexpr std::size_t buffer_size = 64UL * 1024;
-
 /** Whether the system says, by errno, that it can't copy between these files itself. */
 bool must_be_copied_by_hand() {
     return errno == EXDEV || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP || errno == EPERM;
 }
 
 void copy_by_hand(FIOFUNCSTRUCT* from, const Range& range, FIOFUNCSTRUCT* to, std::uint64_t position) {
-    std::vector<std::uint8_t> buffer(std::min<std::uint64_t>(range.size(), buffer_size));
+    std::vector<std::uint8_t> buffer(std::min<std::uint64_t>(range.size(), transfer_buffer));
     for (std::uint64_t done = 0; done < range.size();) {
         const std::span<std::uint8_t> piece(buffer.data(),
                                             std::min<std::uint64_t>(buffer.size(), range.size() - done));

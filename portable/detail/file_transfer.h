@@ -13,6 +13,9 @@ namespace velmora::portable {
 /** Work is done in pieces of at most this many bytes, between which it can be cancelled. */
 inline constexpr std::uint64_t transfer_piece = 8UL * 1024 * 1024;
 
+/** What passes through the program goes by buffers of at most this many bytes. */
+inline constexpr std::size_t transfer_buffer = 64UL * 1024;
+
 /** A range of one of several files. */
 struct FileRange {
     FIOFUNCSTRUCT* file = nullptr;

@@ -15,7 +15,6 @@ namespace velmora::portable {
 namespace {
 
 /** Two of them fit into the cache of one core: larger ones are compared at a third of the speed. */
-constexpr std::size_t buffer_size = 64UL * 1024;
 /** Media of so many bytes is compared in two halves at the same time. */
 constexpr std::uint64_t smallest_divided = 16UL * 1024 * 1024;
 
@@ -86,7 +85,8 @@ void compare_items(const TaggedFile& before, const TaggedFile& after, const TagE
 /** The bytes of several ranges, one behind the other. */
 class RangeReader {
 public:
-    explicit RangeReader(std::vector<FileRange> ranges) : ranges_(std::move(ranges)), buffer_(buffer_size) {}
+    explicit RangeReader(std::vector<FileRange> ranges)
+        : ranges_(std::move(ranges)), buffer_(transfer_buffer) {}
 
     /** The next bytes; none at the end. */
     [[nodiscard]] std::span<const std::uint8_t> read() {

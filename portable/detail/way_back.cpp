@@ -1,5 +1,6 @@
 #include "way_back.h"
 
+#include "file_transfer.h"
 #include "splices.h"
 
 #include "portable/reason.h"
@@ -10,8 +11,6 @@
 namespace velmora::portable {
 
 namespace {
-
-constexpr std::size_t buffer_size = 64UL * 1024;
 
 /** A part of the old file: bytes that are kept, or bytes of the new file. The list of them is kept as it lies
    in memory: nobody but this process reads it. */
@@ -43,12 +42,13 @@ public:
     Range keep(Range range) {
         const Range kept{end(), end() + range.size()};
         while (range.size() > 0) {
-            const auto piece = static_cast<std::size_t>(std::min<std::uint64_t>(range.size(), buffer_size));
+            const auto piece =
+                static_cast<std::size_t>(std::min<std::uint64_t>(range.size(), transfer_buffer));
             const std::size_t filled = buffer_.size();
             buffer_.resize(filled + piece);
             read_at(file_, std::span(buffer_).subspan(filled), range.begin);
             range.begin += piece;
-            if (buffer_.size() >= buffer_size) {
+            if (buffer_.size() >= transfer_buffer) {
                 flush();
             }
         }
