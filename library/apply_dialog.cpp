@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace velmora {
 
@@ -20,7 +21,7 @@ QString number(std::size_t count) {
 }
 
 QString timeText(double seconds) {
-    const auto whole = static_cast<qint64>(seconds + 0.5);
+    const auto whole = std::llround(seconds);
     return QStringLiteral("%1:%2").arg(whole / 60).arg(whole % 60, 2, 10, QLatin1Char('0'));
 }
 

@@ -61,7 +61,7 @@ private:
     QString cell() {
         const qsizetype begin = at_;
         if (skipped(u'"')) {
-            const QString quoted = quotedCell();
+            QString quoted = quotedCell();
             // Behind the closing mark the cell has to end; else the marks are part of the text.
             if (at_ == text_.size() || isEnd(text_[at_])) {
                 return quoted;

@@ -128,8 +128,9 @@ void LibraryRow::shareFolder(QSet<QByteArray>& folders) {
 
 void LibraryRow::pack(std::string_view filter, std::string_view texts, std::string_view name) {
     const auto length = static_cast<FilterLength>(filter.size());
+    const std::size_t whole = sizeof length + filter.size() + texts.size() + name.size();
     QByteArray block;
-    block.reserve(static_cast<qsizetype>(sizeof length + filter.size() + texts.size() + name.size()));
+    block.reserve(static_cast<qsizetype>(whole));
     block.append(reinterpret_cast<const char*>(&length), sizeof length);
     for (const std::string_view part : {filter, texts, name}) {
         block.append(part.data(), static_cast<qsizetype>(part.size()));
