@@ -83,7 +83,7 @@ public:
         metadata_[QStringLiteral("coverart")] = QVariant::fromValue(coverArt);
     }
     void removeCoverArt() { metadata_.remove(QStringLiteral("coverart")); }
-    /** Joins names with ", " and stores them as the cast. */
+    /** Joins names with ", " and stores them as the cast. Nothing in the program calls it. */
     void setCastList(const QStringList& names);
 
     [[nodiscard]] QString title() const { return text(QStringLiteral("title")); }

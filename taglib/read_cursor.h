@@ -32,7 +32,7 @@ public:
     [[nodiscard]] std::uint64_t left() const { return end_ - position_; }
 
     /** Where reads stop running ahead: at first end() of the cursor that the slices were cut from. For those
-       who know that what follows is none of their business. */
+       who know that what follows is none of their business. Nothing in the program calls it. */
     void set_ahead_end(std::uint64_t position) { ahead_end_ = position; }
 
     /** Goes to POSITION. False, and nothing is moved, when that is not within begin() and end(). */
@@ -47,7 +47,8 @@ public:
     /** Reads a block of LENGTH bytes into BYTES. */
     ReadStatus read(void* bytes, std::size_t length);
 
-    /* One number each; the name gives its width and the order of its bytes. */
+    /* One number each; the name gives its width and the order of its bytes. Nothing in the program calls
+       read_be16. */
     ReadStatus read_byte(std::uint8_t* value);
     ReadStatus read_le16(std::uint16_t* value);
     ReadStatus read_be16(std::uint16_t* value);

@@ -38,7 +38,8 @@ public:
     /** Leaves what lies between here and POSITION as it is in the file. POSITION may also lie in front. */
     void seek(std::uint64_t position) { position_ = position; }
 
-    /* The names give the numbers' widths and the order of their bytes. */
+    /* The names give the numbers' widths and the order of their bytes. Nothing in the program calls the two
+       of big-endian numbers. */
     void put_byte(std::uint8_t value);
     void put_le16(std::uint16_t value);
     void put_be16(std::uint16_t value);

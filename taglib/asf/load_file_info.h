@@ -12,19 +12,8 @@ namespace velmora {
    Returns 0 with INFO zeroed when the file can't be opened (errno as open left it) or its header can't be
    read (errno 5).
 
-        field     attributes, the first one that is present      when still empty
-        artist    "WM/AlbumArtist", "AlbumArtist"                content description's author
-        title     "WM/AlbumTitle", "AlbumTitle"
-        desc      "Description", "WM/Track"                      content description's title
-        genre     "WM/Genre", "Genre"
-        year      "WM/Year", "Year"
-        director  "WM/Director"
-        rating    "WM/ParentalRating"
-        time      "WM/EncodingTime", of 8 bytes
-        picture   "WM/Picture"
-
-   An attribute is present when its value has bytes, even such that make no text. A text longer than 8,191
-   bytes is cut there. */
+   Which attributes are which field, and which of several counts: docs/asf.md, "Fields". A text longer than
+   8,191 bytes is cut there. */
 [[nodiscard]] int asf_load_file_info(const char* path, _file_info_t* info);
 
 } // namespace velmora

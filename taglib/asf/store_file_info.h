@@ -21,10 +21,10 @@ namespace velmora {
       behind the file's end, beyond a padding (the file unchanged);
    - the system reports only when the file is closed that something could not be written.
 
-   The file is edited in place. Growth is taken from the padding object when that is the header's last
-   child and larger than the growth, whatever it leaves of it; else the data moves, and a header without
-   such a padding gets one of 1,024 bytes. A shrinking header gives what it saves to the padding, and moves
-   the data back when there is none.
+   The file is edited in place (docs/asf.md, "Storing"). Growth is taken from the padding object when that is
+   the header's last child and larger than the growth, whatever it leaves of it; else the data moves, and a
+   header without such a padding gets one of 1,024 bytes. A shrinking header gives what it saves to the
+   padding, and moves the data back when there is none.
 
    A header without an Extended Content Description gets none: its Content Description is listed, and
    written, a second time instead, and only the two strings of the Content Description are kept. */

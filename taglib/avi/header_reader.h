@@ -33,7 +33,8 @@ inline constexpr std::int64_t avi_tolerated_tail = 4096;
 /** Loads the sub-chunks of LIST with their data; the file's position is the byte after the list type. The
    list ends early at a sub-chunk that is none; what was loaded stays. Data that the file does not have reads
    as zeros; memory is asked for only as far as the file could fill it, give or take a few bytes. A list
-   inside the list is loaded as data bytes, with its type. Always returns 1. */
+   inside the list is loaded as data bytes, with its type. Always returns 1. Nothing in the program calls
+   it. */
 int avi_load_item_list(FIOFUNCSTRUCT* file, _avi_item_t* list);
 
 } // namespace velmora

@@ -13,7 +13,7 @@ namespace velmora {
    taken from the back, otherwise from the front. A piece of any size goes through a buffer of 65,536 bytes.
 
    Returns 1 when the remainder reaches exactly 0; otherwise 0, logged when a transfer came up short. A piece
-   that does not lie inside the file is not begun. */
+   that does not lie inside the file is not begun. Nothing in the program calls it. */
 [[nodiscard]] int avi_move_file(FIOFUNCSTRUCT* file, const _avi_item_t* item, std::uint64_t to);
 
 } // namespace velmora

@@ -4,7 +4,8 @@
 
 #include "image_seam/image.h"
 
-/** Cover art in the INFO list: an encoded image as the bytes of a sub-chunk, without a header of its own. */
+/** Cover art in the INFO list (docs/avi.md, "Fields"): an encoded image as the bytes of a sub-chunk, without
+   a header of its own. */
 namespace velmora {
 
 /** The image that the item's data bytes encode, owned by the caller; null when they are none. */

@@ -12,8 +12,8 @@ namespace velmora {
    Each flag is cleared in INFO as its field is dealt with: afterwards `flags` holds only bits that mean
    nothing here. They stay set where the file could not be opened or its header not read.
 
-   The file is edited in place and its media data never moves. A list that is not the last
-   top-level chunk becomes a "JUNK" chunk of the same size, and the new list goes to the end of the RIFF
+   The file is edited in place and its media data never moves (docs/avi.md, "Storing"). A list that is not the
+   last top-level chunk becomes a "JUNK" chunk of the same size, and the new list goes to the end of the RIFF
    chunk; a list that is last is rewritten where it is. The file never gets shorter: what is left of a longer
    old list stays behind the RIFF chunk.
 

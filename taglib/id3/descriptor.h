@@ -4,8 +4,8 @@
 #include <bit>
 #include <cstdint>
 
-/** An ID3v2 tag in memory: its header's fields and its frames, whose bodies are kept as raw bytes. All memory
-   is of the malloc family. */
+/** An ID3v2 tag in memory (docs/id3.md, "Frames"): its header's fields and its frames, whose bodies are kept
+   as raw bytes. All memory is of the malloc family. */
 namespace velmora {
 
 /** One frame. Packed: the members have no alignment, so copy them out instead of referring to them. */

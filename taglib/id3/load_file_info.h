@@ -9,11 +9,9 @@ namespace velmora {
    flags; the caller releases INFO with id3_free_file_info. Returns 0, with INFO zeroed, when the file can't
    be opened or has no readable tag.
 
-   Slots and frames (the first of each counts): title TALB, artist TPE1, desc TIT2, director TPE3, rating
-   PRIV "WM/ParentalRating", genre TCON, year TYER, picture APIC or else the album-art file that PRIV
-   "WM/WMCollectionGroupID" names, time TDRC. Texts are the frame's own bytes, at most 8,191 of them; what
-   they are encoded in is for the reader of the record to find out. Absent and unreadable frames leave their
-   slot empty. */
+   Which frame fills which slot: docs/id3.md, "Frames that are understood". Texts are the frame's own bytes,
+   at most 8,191 of them; what they are encoded in is for the reader of the record to find out. Absent and
+   unreadable frames leave their slot empty. */
 int id3_load_file_info(const char* path, _file_info_t* info);
 
 } // namespace velmora

@@ -4,10 +4,10 @@
 
 #include "taglib/read_window.h"
 
-/** Finding and reading an ID3v2 tag. With AT_END set the tag is looked for through its footer in the file's
-   last ten bytes, else at offset 0. Version 2 tags pass the version test but are read with the ten-byte frame
-   headers of their successors. Unsynchronisation, extended headers, compression and the like are not
-   interpreted. The file position is undefined afterwards. */
+/** Finding and reading an ID3v2 tag (docs/id3.md, "Where a tag is"). With AT_END set the tag is looked for
+   through its footer in the file's last ten bytes, else at offset 0. Version 2 tags pass the version test but
+   are read with the ten-byte frame headers of their successors. Unsynchronisation, extended headers,
+   compression and the like are not interpreted. The file position is undefined afterwards. */
 namespace velmora {
 
 /** Tags larger than this many bytes are not read. */

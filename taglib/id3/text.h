@@ -27,10 +27,13 @@ int long_to_syncsafe(std::uint32_t value, std::uint8_t* bytes);
 int id3_load_byte(const std::uint8_t* source, std::int32_t length, std::uint8_t* byte);
 
 /** Decodes one string from frame data into TARGET, which is always zero-terminated (when CAPACITY is at least
-   1). Returns the source bytes consumed, terminator included. - Encodings 0 and 3: the bytes up to a zero
-   byte or the end, unchanged (ISO-8859-1 is not converted); what does not fit into CAPACITY - 1 is skipped
-   but counted as consumed. - Encodings 1 and 2: logged as not handled, empty; consumed up to and with the
-   first 16-bit zero unit, or all whole units. - Any other: logged as unknown, empty, nothing consumed. */
+   1). Returns the source bytes consumed, terminator included.
+
+   - Encodings 0 and 3: the bytes up to a zero byte or the end, unchanged (ISO-8859-1 is not converted); what
+     does not fit into CAPACITY - 1 is skipped but counted as consumed.
+   - Encodings 1 and 2: logged as not handled, empty; consumed up to and with the first 16-bit zero unit, or
+     all whole units.
+   - Any other: logged as unknown, empty, nothing consumed. */
 std::int32_t id3_load_string(const std::uint8_t* source, std::int32_t length, std::uint8_t encoding,
                              char* target, std::int32_t capacity);
 /** What id3_load_string would consume. Only an unknown encoding is logged. */

@@ -5,7 +5,7 @@
 
 #include <array>
 
-/** Which sub-chunk of the INFO list carries which field of the tag record. */
+/** Which sub-chunk of the INFO list carries which field of the tag record (docs/avi.md, "Fields"). */
 namespace velmora {
 
 struct AviTextField {

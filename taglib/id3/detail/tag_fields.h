@@ -25,8 +25,8 @@ struct Id3Field {
     char* _file_info_t::*text; ///< null where the record has no text for it
 };
 
-/** The fields, in the order in which they are loaded and stored. The slots' names are those of films: a
-   song's album is the title, and its own title the description. */
+/** The fields, in the order in which they are loaded and stored (docs/id3.md, "Frames that are understood").
+   The slots' names are those of films: a song's album is the title, and its own title the description. */
 inline constexpr std::array<Id3Field, 9> id3_fields{{
     {Id3FieldForm::text, id3_frame_id("TALB"), file_info_flag::title, &_file_info_t::title},
     {Id3FieldForm::text, id3_frame_id("TPE1"), file_info_flag::artist, &_file_info_t::artist},
