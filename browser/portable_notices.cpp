@@ -33,7 +33,7 @@ QString notSaved(const SaveEnd& end) {
    vanished. */
 bool isGone(const QString& path) {
     const std::optional<FileAttributes> attributes = fileAttributes(pathBytes(path));
-    return !attributes || (!attributes->isDirectory && attributes->size.value_or(1) == 0);
+    return !attributes || attributes->isDirectory || attributes->size.value_or(1) == 0;
 }
 
 /** What helps where a file is not in its place any more. */

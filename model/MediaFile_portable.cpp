@@ -83,7 +83,7 @@ PortableSave MediaFile::portableCopy(const QString& target) const {
         if (const int error = copy.make(progress)) {
             result.end =
                 error == ECANCELED ? PortableSaveResult::End::Cancelled : PortableSaveResult::End::Failed;
-            result.reason = copyObstacle(error);
+            result.reason = copyObstacle(error, pathFromBytes(QByteArray::fromStdString(target)));
             result.anotherPlaceHelps = error != ECANCELED;
             return result;
         }
@@ -95,7 +95,7 @@ PortableSave MediaFile::portableCopy(const QString& target) const {
         }
         if (const int error = copy.takePlace()) {
             result.end = PortableSaveResult::End::Failed;
-            result.reason = copyObstacle(error);
+            result.reason = copyObstacle(error, pathFromBytes(QByteArray::fromStdString(target)));
             result.anotherPlaceHelps = true;
         }
         return result;

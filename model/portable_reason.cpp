@@ -1,5 +1,7 @@
 #include "portable_reason.h"
 
+#include "detail/plain_reason.h"
+
 #include "platform/localisation.h"
 
 #include <QtGlobal>
@@ -13,7 +15,11 @@ using portable::ReasonCode;
 QString wording(const portable::Reason& reason) {
     switch (reason.code) {
     case ReasonCode::system:
-        return qt_error_string(reason.error);
+        return plainReason(reason.error);
+    case ReasonCode::file_refused:
+        return localised("You have no permission to write to it");
+    case ReasonCode::folder_refused:
+        return localised("You have no permission to put a new file into its folder");
     case ReasonCode::unknown_kind:
         return localised("Files of this kind carry no tag");
     case ReasonCode::foreign_field:
@@ -52,7 +58,9 @@ QString wording(const portable::Reason& reason) {
 QString localisedReason(const portable::Reason& reason) {
     const QString text = wording(reason);
     // Which field a message speaks of is said in the format's own terms, in every language.
-    return reason.detail.empty() || reason.code == ReasonCode::system
+    const bool speaksOfField = reason.code != ReasonCode::system &&
+                               reason.code != ReasonCode::folder_refused && !reason.detail.empty();
+    return !speaksOfField
                ? text
                : text + QStringLiteral(" (") + QString::fromStdString(reason.detail) + QLatin1Char(')');
 }

@@ -15,6 +15,8 @@ std::string with_detail(const char* text, const std::string& detail) {
 std::string sentence(const Reason& reason) {
     switch (reason.code) {
     case ReasonCode::system:
+    case ReasonCode::file_refused:
+    case ReasonCode::folder_refused:
         return with_detail(std::strerror(reason.error), reason.detail);
     case ReasonCode::unknown_kind:
         return "not a kind of file that carries a tag";

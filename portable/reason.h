@@ -7,15 +7,17 @@ namespace velmora::portable {
 
 /** Why a file could not be read or saved, for those who tell the user. */
 enum class ReasonCode {
-    system,        ///< a call of the system failed: Reason::error
-    unknown_kind,  ///< not a kind of file that carries a tag
-    foreign_field, ///< a field that this kind of file does not have; detail: its name
-    damaged,       ///< the container contradicts itself; detail: what was met, in the format's own terms
-    unsupported,   ///< whole, but of a sort that can't be written safely; detail: which
-    too_large,     ///< a value or a file larger than the format takes; detail: which
-    not_regular,   ///< a folder, a pipe, a device
-    not_writable,  ///< the file's mode takes its owner the permission to write
-    more_links,    ///< further hard links would be parted
+    system,         ///< a call of the system failed: Reason::error
+    unknown_kind,   ///< not a kind of file that carries a tag
+    foreign_field,  ///< a field that this kind of file does not have; detail: its name
+    damaged,        ///< the container contradicts itself; detail: what was met, in the format's own terms
+    unsupported,    ///< whole, but of a sort that can't be written safely; detail: which
+    too_large,      ///< a value or a file larger than the format takes; detail: which
+    not_regular,    ///< a folder, a pipe, a device
+    not_writable,   ///< the file's mode takes its owner the permission to write
+    file_refused,   ///< the user has no permission to write to the file
+    folder_refused, ///< the user has no permission to put a new file into its folder; detail: while doing what
+    more_links,     ///< further hard links would be parted
     changed_meanwhile,
     no_space,
     would_lose,        ///< the check of the new file found a difference; detail: what would have been lost

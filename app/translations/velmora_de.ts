@@ -1079,6 +1079,34 @@
         <translation>Die Datei ist nicht mehr vorhanden</translation>
     </message>
     <message>
+        <source>You have no permission for that</source>
+        <translation>Sie haben keine Rechte dafür</translation>
+    </message>
+    <message>
+        <source>You have no permission to put a new file into its folder</source>
+        <translation>Sie haben keine Schreibrechte für den Ordner der Datei</translation>
+    </message>
+    <message>
+        <source>Another program is using it</source>
+        <translation>Ein anderes Programm benutzt die Datei</translation>
+    </message>
+    <message>
+        <source>Its disk reports a fault</source>
+        <translation>Der Datenträger meldet einen Fehler</translation>
+    </message>
+    <message>
+        <source>Its name is too long</source>
+        <translation>Der Dateiname ist zu lang</translation>
+    </message>
+    <message>
+        <source>What was to be copied is not there any more</source>
+        <translation>Die Datei, die kopiert werden sollte, ist nicht mehr vorhanden</translation>
+    </message>
+    <message>
+        <source>Its folder is not there</source>
+        <translation>Den Ordner dafür gibt es nicht</translation>
+    </message>
+    <message>
         <source>Its header can&#x27;t be read</source>
         <translation>Der Dateikopf kann nicht gelesen werden</translation>
     </message>

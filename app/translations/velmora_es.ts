@@ -60,6 +60,34 @@
         <translation>Ya no existe</translation>
     </message>
     <message>
+        <source>You have no permission for that</source>
+        <translation>No tiene permiso para eso</translation>
+    </message>
+    <message>
+        <source>You have no permission to put a new file into its folder</source>
+        <translation>No tiene permiso para escribir en su carpeta</translation>
+    </message>
+    <message>
+        <source>Another program is using it</source>
+        <translation>Otro programa lo está usando</translation>
+    </message>
+    <message>
+        <source>Its disk reports a fault</source>
+        <translation>Su disco comunica un error</translation>
+    </message>
+    <message>
+        <source>Its name is too long</source>
+        <translation>Su nombre es demasiado largo</translation>
+    </message>
+    <message>
+        <source>What was to be copied is not there any more</source>
+        <translation>El archivo que se iba a copiar ya no existe</translation>
+    </message>
+    <message>
+        <source>Its folder is not there</source>
+        <translation>Su carpeta no existe</translation>
+    </message>
+    <message>
         <source>It lies on a disk that can only be read</source>
         <translation>Está en un disco de solo lectura</translation>
     </message>

@@ -60,6 +60,34 @@
         <translation>Il n’existe plus</translation>
     </message>
     <message>
+        <source>You have no permission for that</source>
+        <translation>Vous n’en avez pas le droit</translation>
+    </message>
+    <message>
+        <source>You have no permission to put a new file into its folder</source>
+        <translation>Vous n’avez pas le droit d’écrire dans son dossier</translation>
+    </message>
+    <message>
+        <source>Another program is using it</source>
+        <translation>Un autre programme l’utilise</translation>
+    </message>
+    <message>
+        <source>Its disk reports a fault</source>
+        <translation>Son disque signale une erreur</translation>
+    </message>
+    <message>
+        <source>Its name is too long</source>
+        <translation>Son nom est trop long</translation>
+    </message>
+    <message>
+        <source>What was to be copied is not there any more</source>
+        <translation>Le fichier à copier n’existe plus</translation>
+    </message>
+    <message>
+        <source>Its folder is not there</source>
+        <translation>Son dossier n’existe pas</translation>
+    </message>
+    <message>
         <source>It lies on a disk that can only be read</source>
         <translation>Il se trouve sur un disque en lecture seule</translation>
     </message>

@@ -60,6 +60,34 @@
         <translation>Non c’è più</translation>
     </message>
     <message>
+        <source>You have no permission for that</source>
+        <translation>Non se ne dispone del permesso</translation>
+    </message>
+    <message>
+        <source>You have no permission to put a new file into its folder</source>
+        <translation>Non si dispone del permesso di scrivere nella sua cartella</translation>
+    </message>
+    <message>
+        <source>Another program is using it</source>
+        <translation>Un altro programma lo sta usando</translation>
+    </message>
+    <message>
+        <source>Its disk reports a fault</source>
+        <translation>Il suo disco segnala un errore</translation>
+    </message>
+    <message>
+        <source>Its name is too long</source>
+        <translation>Il suo nome è troppo lungo</translation>
+    </message>
+    <message>
+        <source>What was to be copied is not there any more</source>
+        <translation>Il file da copiare non c’è più</translation>
+    </message>
+    <message>
+        <source>Its folder is not there</source>
+        <translation>La sua cartella non esiste</translation>
+    </message>
+    <message>
         <source>It lies on a disk that can only be read</source>
         <translation>Si trova su un disco di sola lettura</translation>
     </message>

@@ -60,6 +60,34 @@
         <translation>ファイルはもうありません</translation>
     </message>
     <message>
+        <source>You have no permission for that</source>
+        <translation>その操作をする権限がありません</translation>
+    </message>
+    <message>
+        <source>You have no permission to put a new file into its folder</source>
+        <translation>ファイルのあるフォルダーに書き込む権限がありません</translation>
+    </message>
+    <message>
+        <source>Another program is using it</source>
+        <translation>別のプログラムが使用しています</translation>
+    </message>
+    <message>
+        <source>Its disk reports a fault</source>
+        <translation>ディスクでエラーが発生しました</translation>
+    </message>
+    <message>
+        <source>Its name is too long</source>
+        <translation>名前が長すぎます</translation>
+    </message>
+    <message>
+        <source>What was to be copied is not there any more</source>
+        <translation>コピー元のファイルはもうありません</translation>
+    </message>
+    <message>
+        <source>Its folder is not there</source>
+        <translation>フォルダーがありません</translation>
+    </message>
+    <message>
         <source>It lies on a disk that can only be read</source>
         <translation>読み取り専用のディスクにあります</translation>
     </message>

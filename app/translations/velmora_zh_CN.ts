@@ -60,6 +60,34 @@
         <translation>文件已不存在</translation>
     </message>
     <message>
+        <source>You have no permission for that</source>
+        <translation>您没有此操作的权限</translation>
+    </message>
+    <message>
+        <source>You have no permission to put a new file into its folder</source>
+        <translation>您没有写入其所在文件夹的权限</translation>
+    </message>
+    <message>
+        <source>Another program is using it</source>
+        <translation>另一个程序正在使用它</translation>
+    </message>
+    <message>
+        <source>Its disk reports a fault</source>
+        <translation>其磁盘报告错误</translation>
+    </message>
+    <message>
+        <source>Its name is too long</source>
+        <translation>其名称过长</translation>
+    </message>
+    <message>
+        <source>What was to be copied is not there any more</source>
+        <translation>要复制的文件已不存在</translation>
+    </message>
+    <message>
+        <source>Its folder is not there</source>
+        <translation>其文件夹不存在</translation>
+    </message>
+    <message>
         <source>It lies on a disk that can only be read</source>
         <translation>它位于只读磁盘上</translation>
     </message>

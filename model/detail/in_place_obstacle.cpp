@@ -1,5 +1,7 @@
 #include "in_place_obstacle.h"
 
+#include "plain_reason.h"
+
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "taglib/avi/header_reader.h"
@@ -45,15 +47,13 @@ std::optional<SaveObstacle> refusal(int error) {
     case EPERM:
         return SaveObstacle{localised("You have no permission to write to it"), Remedy::AnotherPlace};
     case EROFS:
-        return SaveObstacle{localised("It lies on a disk that can only be read"), Remedy::AnotherPlace};
     case ENOSPC:
     case EDQUOT:
-        return SaveObstacle{localised("No space is left on its disk"), Remedy::AnotherPlace};
-    case EFBIG:
-        return SaveObstacle{localised("It would become too large"), Remedy::PortableTags};
     case ETXTBSY:
     case EISDIR:
-        return SaveObstacle{qt_error_string(error), Remedy::AnotherPlace};
+        return SaveObstacle{plainReason(error), Remedy::AnotherPlace};
+    case EFBIG:
+        return SaveObstacle{plainReason(error), Remedy::PortableTags};
     default:
         return std::nullopt;
     }
@@ -66,6 +66,9 @@ std::optional<SaveObstacle> generalObstacle(const QString& path, const FailedSav
     }
     if (isPipeOrDevice(path)) {
         return SaveObstacle{localised("It is no ordinary file"), Remedy::None};
+    }
+    if (failed.size == 0) {
+        return SaveObstacle{localised("It is empty"), Remedy::None};
     }
     return refusal(failed.error);
 }
@@ -88,9 +91,6 @@ SaveObstacle otherObstacle(const QString& path, int error) {
 SaveObstacle id3Obstacle(const QString& path, const FailedSave& failed) {
     if (const auto obstacle = generalObstacle(path, failed)) {
         return *obstacle;
-    }
-    if (failed.size == 0) {
-        return {localised("It is empty"), Remedy::None};
     }
     if (QByteArrayView(beginningOf(path)).startsWith("ID3")) {
         return {localised("Its tag can't be changed in place"), Remedy::PortableTags};
@@ -129,17 +129,24 @@ SaveObstacle aviObstacle(const QString& path, const FailedSave& failed) {
     }
 }
 
-QString copyObstacle(int error) {
+QString copyObstacle(int error, const QString& target) {
     switch (error) {
     case ECANCELED:
         return localised("The save was cancelled");
     case EEXIST:
         return localised("A copy needs another name or another folder");
+    case ENOENT:
+    case ENOTDIR:
+        return fileExists(pathFolder(target)) ? localised("What was to be copied is not there any more")
+                                              : localised("Its folder is not there");
+    case EACCES:
+    case EPERM:
+        return ::access(pathBytes(pathFolder(target)).constData(), W_OK | X_OK) == 0
+                   ? plainReason(error)
+                   : localised("You have no permission to put a new file into its folder");
     default:
-        break;
+        return plainReason(error);
     }
-    const auto refused = refusal(error);
-    return refused ? refused->reason : qt_error_string(error);
 }
 
 } // namespace velmora

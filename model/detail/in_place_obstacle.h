@@ -12,7 +12,8 @@ namespace velmora {
 [[nodiscard]] SaveObstacle asfObstacle(const QString& path, const FailedSave& failed);
 [[nodiscard]] SaveObstacle aviObstacle(const QString& path, const FailedSave& failed);
 
-/** Why a copy could not be made, where ERROR is errno: one sentence without a full stop. */
-[[nodiscard]] QString copyObstacle(int error);
+/** Why a copy could not be made at TARGET, where ERROR is errno: one sentence without a full stop. Looks
+   at TARGET's folder. */
+[[nodiscard]] QString copyObstacle(int error, const QString& target);
 
 } // namespace velmora

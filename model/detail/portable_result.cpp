@@ -9,7 +9,9 @@ namespace {
 /** Whether it was the file's folder or disk that refused. */
 bool isOfItsPlace(const portable::Reason& reason) {
     using Code = portable::ReasonCode;
-    return reason.code == Code::system || reason.code == Code::not_writable || reason.code == Code::no_space;
+    return reason.code == Code::system || reason.code == Code::not_writable ||
+           reason.code == Code::file_refused || reason.code == Code::folder_refused ||
+           reason.code == Code::no_space;
 }
 
 } // namespace

@@ -40,6 +40,12 @@ std::string path_of_descriptor(int descriptor) {
     return "/proc/self/fd/" + std::to_string(descriptor);
 }
 
+/** The Refusal for a call that failed with errno while it did WHAT in the folder. */
+Refusal folder_refusal(const char* what) {
+    return errno == EACCES || errno == EPERM ? Refusal({ReasonCode::folder_refused, errno, what})
+                                             : system_refusal(what);
+}
+
 void remove_unless_locked(int folder, const char* name) {
     const int file = ::openat(folder, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (file < 0) {
@@ -110,7 +116,7 @@ void NewFile::open_hidden() {
             break;
         }
     }
-    throw system_refusal("making a new file in its folder");
+    throw folder_refusal("making a new file in its folder");
 }
 
 void NewFile::link_hidden() {
@@ -125,7 +131,7 @@ void NewFile::link_hidden() {
             break;
         }
     }
-    throw system_refusal("naming the new file");
+    throw folder_refusal("naming the new file");
 }
 
 void NewFile::take_place(const std::string& name, bool replace) {
@@ -135,7 +141,7 @@ void NewFile::take_place(const std::string& name, bool replace) {
     const unsigned flags = replace ? 0 : RENAME_NOREPLACE;
     if (::renameat2(folder_, hidden_name_.c_str(), folder_, name.c_str(), flags) != 0) {
         throw errno == EEXIST ? Refusal({ReasonCode::changed_meanwhile, 0, {}})
-                              : system_refusal("putting the new file in its place");
+                              : folder_refusal("putting the new file in its place");
     }
     hidden_name_.clear();
 }

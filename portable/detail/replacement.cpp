@@ -93,7 +93,14 @@ void Replacement::open_original(bool break_links, bool may_be_missing) {
     }
     if (::faccessat(folder_.handle()->descriptor, name_.c_str(), W_OK, AT_EACCESS) != 0) {
         // So the system answers for a file that was made immutable.
-        throw errno == EPERM ? Refusal({ReasonCode::not_writable, 0, {}}) : system_refusal();
+        switch (errno) {
+        case EPERM:
+            throw Refusal({ReasonCode::not_writable, 0, {}});
+        case EACCES:
+            throw Refusal({ReasonCode::file_refused, EACCES, {}});
+        default:
+            throw system_refusal();
+        }
     }
     if (status_.st_nlink > 1 && !break_links) {
         throw Refusal({ReasonCode::more_links, 0, {}});

@@ -179,7 +179,7 @@ TEST_F(SaveCopyTest, ThatFailsKeepsTheEditsAndSaysWhy) {
 
     EXPECT_EQ(path("harbour.mp3"), file().filename());
     EXPECT_TRUE(document().isDocumentEdited());
-    EXPECT_EQ("\"copy.mp3\" was not saved. No such file or directory.", notice());
+    EXPECT_EQ("\"copy.mp3\" was not saved. Its folder is not there.", notice());
     EXPECT_EQ("Save as a Copy…", button("btn_noticeFirst").text());
     button("btn_noticeFirst").click();
     EXPECT_NE(nullptr, panel());

@@ -121,7 +121,16 @@ TEST_F(VanishedFileTest, StaysInTheFormWhenWhatIsShownCantBeOpened) {
 TEST_F(VanishedFileTest, IsFoundWithPortableTagsToo) {
     ASSERT_TRUE(document().setPortableTags(true));
     loseFile();
-    saveAndLocate(QStringLiteral("No such file or directory"));
+    saveAndLocate();
+    choose(path("moved/a.mp3"));
+    EXPECT_EQ(path("moved/a.mp3"), file().path());
+    EXPECT_EQ("Evening", entry("entry_title").text());
+}
+
+TEST_F(VanishedFileTest, IsLookedForWhereAFolderHasItsNameNow) {
+    loseFile();
+    QDir().mkpath(path("a.mp3"));
+    saveAndLocate(QStringLiteral("It is no ordinary file"));
     choose(path("moved/a.mp3"));
     EXPECT_EQ(path("moved/a.mp3"), file().path());
     EXPECT_EQ("Evening", entry("entry_title").text());

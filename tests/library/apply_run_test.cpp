@@ -116,7 +116,7 @@ TEST_F(ApplyRunTest, ToldWhatFailedWhatDidNotChangeAndWhatWasNotReached) {
     const auto results = apply(items, [](std::size_t done, std::size_t) { return done < 3; });
     EXPECT_EQ(ApplyEnd::unchanged, results[0].end);
     EXPECT_EQ(ApplyEnd::failed, results[1].end);
-    EXPECT_EQ("No such file or directory", results[1].reason);
+    EXPECT_EQ("It is not there any more", results[1].reason);
     EXPECT_EQ("Files of this kind carry no tag", results[2].reason);
     EXPECT_EQ(ApplyEnd::notReached, results[3].end);
     EXPECT_EQ("Sea", titleOf("late.mp3"));

@@ -76,7 +76,9 @@ TEST_F(InPlaceObstacleTest, FileThatBecameAPipe) {
 }
 
 TEST_F(InPlaceObstacleTest, FileThatBecameEmpty) {
-    EXPECT_EQ("It is empty", whyNotSaved("a.mp3", "").reason);
+    for (const char* name : {"a.mp3", "a.wma", "a.avi"}) {
+        EXPECT_EQ("It is empty", whyNotSaved(name, "").reason) << name;
+    }
 }
 
 TEST_F(InPlaceObstacleTest, WindowsMediaFileWithoutAHeader) {

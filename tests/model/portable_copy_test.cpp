@@ -72,7 +72,7 @@ TEST_F(PortableCopyTest, IsNotTheFileItself) {
 TEST_F(PortableCopyTest, IsNotMadeWhereThereIsNoFolder) {
     const PortableSaveResult result = copyTo("nowhere/b.mp3");
     EXPECT_EQ(End::Failed, result.end);
-    EXPECT_EQ("No such file or directory", result.reason);
+    EXPECT_EQ("Its folder is not there", result.reason);
     EXPECT_EQ(1, files());
 }
 
