@@ -35,12 +35,15 @@ const ToolkitOption* toolkitOption(const QByteArray& argument) {
     return option == toolkitOptions.end() ? nullptr : option;
 }
 
+/** What no path can be made of, as a file of another machine, stays a name that nothing has. */
 QString absolutePath(const QByteArray& argument, const QByteArray& folder) {
-    if (argument.startsWith("file:")) {
-        return pathFromFileUrl(QUrl::fromEncoded(argument));
-    }
-    if (argument.startsWith('/')) {
+    if (argument.isEmpty() || argument.startsWith('/')) {
         return pathFromBytes(argument);
+    }
+    if (argument.startsWith("file:")) {
+        if (const QString path = pathFromFileUrl(QUrl::fromEncoded(argument)); path.startsWith(u'/')) {
+            return path;
+        }
     }
     std::string_view name(argument.constData(), static_cast<std::size_t>(argument.size()));
     while (name.starts_with("./")) {

@@ -164,14 +164,17 @@ bool VelmoraController::addMediaFile(const QString& path) {
 
 void VelmoraController::addPaths(const QStringList& paths) {
     QStringList folders;
+    QStringList missed;
     for (const QString& path : paths) {
         const std::optional<FileAttributes> attributes = fileAttributes(pathBytes(path));
         if (attributes && attributes->isDirectory) {
             folders += path;
         } else if (!addMediaFile(path)) {
             appLog(QStringLiteral("can't add %1\n").arg(path));
+            missed += path;
         }
     }
+    formNotices_.tellNotAdded(missed);
     search_.queueFolders(folders);
 }
 
@@ -272,9 +275,9 @@ void VelmoraController::addFileSelected(int returnCode, const QStringList& paths
     if (returnCode == openPanelCancelled) {
         return;
     }
-    for (const QString& path : paths) {
-        addMediaFile(path);
-    }
+    QStringList missed = paths;
+    missed.removeIf([this](const QString& path) { return addMediaFile(path); });
+    formNotices_.tellNotAdded(missed);
 }
 
 void VelmoraController::addFolder() {

@@ -4,13 +4,30 @@
 #include "notice_bar.h"
 #include "tag_form.h"
 
+#include "platform/file_path.h"
 #include "platform/localisation.h"
+#include "platform/sentences.h"
+
+#include <algorithm>
 
 namespace velmora {
 
 namespace {
 
 constexpr std::chrono::seconds storedIsShown{6};
+
+/** The names of the files at PATHS; of many, the first ones. */
+QString namesOf(const QStringList& paths) {
+    constexpr qsizetype most = 3;
+    QStringList names;
+    for (const QString& path : paths.first(std::min(paths.size(), most))) {
+        names += shortened(lastPathComponent(path));
+    }
+    if (paths.size() > most) {
+        names += QString(QChar(0x2026));
+    }
+    return names.join(QStringLiteral(", "));
+}
 
 } // namespace
 
@@ -20,6 +37,22 @@ FormNotices::FormNotices(MediaDocument& document, TagForm& form, NoticeBar& bar,
     connect(&form_, &TagForm::folderImageTaken, this, &FormNotices::tellFolderImage);
     connect(&form_, &TagForm::filledFieldsChanged, this, &FormNotices::tellFilledFields);
     connect(&form_, &TagForm::shownCoverChanged, this, &FormNotices::tellShownCover);
+}
+
+void FormNotices::tellNotAdded(const QStringList& paths) {
+    if (paths.isEmpty()) {
+        return;
+    }
+    const QString name = shortened(lastPathComponent(paths.first()));
+    const QString text =
+        paths.size() > 1
+            ? localised("Files that could not be added: %@", namesOf(paths))
+            : joinedSentences(
+                  {localised("\"%@\" was not added.", name),
+                   fileExists(paths.first())
+                       ? localised("Please ensure the file is readable and is a valid media file.")
+                       : localised("The file does not exist.")});
+    bar_.show({Notice::Kind::Warning, text, {}, {}, Notice::Topic::NotAdded});
 }
 
 void FormNotices::changesSettled() {

@@ -45,6 +45,14 @@ QLabel* newText(const QString& text) {
 
 } // namespace
 
+QString shortened(const QString& name) {
+    constexpr qsizetype longest = 40;
+    constexpr qsizetype ending = 15;
+    const QString line = name.simplified();
+    return line.size() <= longest ? line
+                                  : line.first(longest - ending - 1) + QChar(0x2026) + line.last(ending);
+}
+
 NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent) {
     setFrameShape(QFrame::StyledPanel);
     setAccessibleRole(*this, QAccessible::AlertMessage);

@@ -16,7 +16,7 @@ namespace velmora {
 struct Notice {
     enum class Kind { Information, Warning };
     /** What it is about. Of each there is one notice at a time. */
-    enum class Topic { Save, UnsavedEdits, OtherPrograms, FolderImage, FilledFields, ShownCover };
+    enum class Topic { Save, UnsavedEdits, OtherPrograms, FolderImage, FilledFields, ShownCover, NotAdded };
     struct Action {
         QString caption;
         QString toolTip;
@@ -30,6 +30,10 @@ struct Notice {
     std::chrono::milliseconds shown{0}; ///< how long; 0: until it is closed or another takes its place
     Topic topic = Topic::Save;
 };
+
+/** NAME, a file's, as a notice has room for it: on one line, and only its beginning and end where it is
+   long. */
+[[nodiscard]] QString shortened(const QString& name);
 
 /** A line above the form that says what happened and offers what can be done about it. It takes neither the
    keyboard nor the mouse from anybody; F6 goes to its first button, and Escape in it closes it. Unseen at

@@ -16,14 +16,6 @@ namespace {
 
 constexpr std::chrono::seconds savedIsShown{6};
 
-/** NAME, or its beginning and end where it is long. */
-QString shortened(const QString& name) {
-    constexpr qsizetype longest = 40;
-    constexpr qsizetype ending = 15;
-    return name.size() <= longest ? name
-                                  : name.first(longest - ending - 1) + QChar(0x2026) + name.last(ending);
-}
-
 QString notSaved(const SaveEnd& end) {
     return joinedSentences({localised("\"%@\" was not saved.", shortened(lastPathComponent(end.path))),
                             asSentence(end.obstacle.reason)});

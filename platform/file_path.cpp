@@ -1,6 +1,7 @@
 #include "file_path.h"
 
 #include <QStringDecoder>
+#include <QSysInfo>
 
 #include <pwd.h>
 #include <sys/stat.h>
@@ -37,6 +38,13 @@ int sequenceLength(const uchar* bytes, qsizetype left) {
     const bool surrogate = first == 0xED && second >= 0xA0;
     const bool beyondUnicode = first == 0xF4 && second >= 0x90;
     return overlong || surrogate || beyondUnicode ? 0 : length;
+}
+
+/** Whether the host of a file URL, if it names one, is this machine. */
+bool isOnThisMachine(const QUrl& url) {
+    const QString host = url.host();
+    return host.isEmpty() || host == QLatin1String("localhost") ||
+           host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
 }
 
 qsizetype lastComponentStart(const QString& path) {
@@ -106,7 +114,7 @@ QUrl fileUrlFromPath(const QString& path) {
 }
 
 QString pathFromFileUrl(const QUrl& url) {
-    if (!url.isLocalFile()) {
+    if (!url.isLocalFile() || !isOnThisMachine(url)) {
         return {};
     }
     return pathFromBytes(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));

@@ -26,7 +26,7 @@ namespace velmora {
    stand percent-encoded. */
 [[nodiscard]] QUrl fileUrlFromPath(const QString& path);
 /** The path of a file URL made by fileUrlFromPath or by another program; empty for a URL that is not a local
-   file. */
+   file, or is one of another machine. */
 [[nodiscard]] QString pathFromFileUrl(const QUrl& url);
 
 /** The text behind the last "/". */

@@ -112,6 +112,14 @@
         <translation>Die Datei ist nicht vorhanden.</translation>
     </message>
     <message>
+        <source>&quot;%@&quot; was not added.</source>
+        <translation>„%@“ wurde nicht hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Files that could not be added: %@</source>
+        <translation>Dateien, die nicht hinzugefügt werden konnten: %@</translation>
+    </message>
+    <message>
         <source>Please ensure the file is readable and is a valid media file.</source>
         <translation>Bitte stellen Sie sicher, dass die Datei lesbar und eine gültige Mediendatei ist.</translation>
     </message>

@@ -228,6 +228,14 @@
         <translation>El archivo no existe.</translation>
     </message>
     <message>
+        <source>&quot;%@&quot; was not added.</source>
+        <translation>«%@» no se ha añadido.</translation>
+    </message>
+    <message>
+        <source>Files that could not be added: %@</source>
+        <translation>Archivos que no se han podido añadir: %@</translation>
+    </message>
+    <message>
         <source>Please ensure the file is readable and is a valid media file.</source>
         <translation>Compruebe que el archivo se puede leer y que es un archivo multimedia válido.</translation>
     </message>

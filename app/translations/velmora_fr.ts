@@ -228,6 +228,14 @@
         <translation>Le fichier n’existe pas.</translation>
     </message>
     <message>
+        <source>&quot;%@&quot; was not added.</source>
+        <translation>« %@ » n’a pas été ajouté.</translation>
+    </message>
+    <message>
+        <source>Files that could not be added: %@</source>
+        <translation>Fichiers qui n’ont pas pu être ajoutés : %@</translation>
+    </message>
+    <message>
         <source>Please ensure the file is readable and is a valid media file.</source>
         <translation>Vérifiez que le fichier est lisible et qu’il s’agit bien d’un fichier multimédia.</translation>
     </message>

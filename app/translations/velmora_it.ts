@@ -228,6 +228,14 @@
         <translation>Il file non esiste.</translation>
     </message>
     <message>
+        <source>&quot;%@&quot; was not added.</source>
+        <translation>“%@” non è stato aggiunto.</translation>
+    </message>
+    <message>
+        <source>Files that could not be added: %@</source>
+        <translation>File che non è stato possibile aggiungere: %@</translation>
+    </message>
+    <message>
         <source>Please ensure the file is readable and is a valid media file.</source>
         <translation>Verificare che il file sia leggibile e che sia un file multimediale valido.</translation>
     </message>

@@ -228,6 +228,14 @@
         <translation>ファイルが存在しません。</translation>
     </message>
     <message>
+        <source>&quot;%@&quot; was not added.</source>
+        <translation>「%@」は追加されませんでした。</translation>
+    </message>
+    <message>
+        <source>Files that could not be added: %@</source>
+        <translation>追加できなかったファイル: %@</translation>
+    </message>
+    <message>
         <source>Please ensure the file is readable and is a valid media file.</source>
         <translation>ファイルが読み取り可能で、正しいメディアファイルであることを確認してください。</translation>
     </message>

@@ -228,6 +228,14 @@
         <translation>该文件不存在。</translation>
     </message>
     <message>
+        <source>&quot;%@&quot; was not added.</source>
+        <translation>“%@”未添加。</translation>
+    </message>
+    <message>
+        <source>Files that could not be added: %@</source>
+        <translation>无法添加的文件：%@</translation>
+    </message>
+    <message>
         <source>Please ensure the file is readable and is a valid media file.</source>
         <translation>请确认该文件可读，并且是有效的媒体文件。</translation>
     </message>

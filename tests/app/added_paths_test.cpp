@@ -66,6 +66,28 @@ TEST_F(AddedPathsTest, WhatIsNotThereIsSaidAndLeftOut) {
     test::settle();
     EXPECT_EQ(0, rows());
     EXPECT_EQ(1, logged("can't add " + path("gone.mp3").toStdString()));
+    EXPECT_EQ("\"gone.mp3\" was not added. The file does not exist.", notice());
+}
+
+TEST_F(AddedPathsTest, SeveralThatAreNotThereAreNamed) {
+    controller().openPaths({path("gone.mp3"), path("a.mp3"), path("away\n.mp3")});
+    test::settle();
+    EXPECT_EQ(1, rows());
+    EXPECT_EQ("Files that could not be added: gone.mp3, away .mp3", notice());
+    controller().openPaths({path("1.mp3"), path("2.mp3"), path("3.mp3"), path("4.mp3")});
+    EXPECT_EQ("Files that could not be added: 1.mp3, 2.mp3, 3.mp3, …", notice());
+}
+
+TEST_F(AddedPathsTest, WhatWasChosenAndCannotBeAddedIsSaid) {
+    controller().addFileSelected(1, {path("a.mp3"), path("gone.mp3")});
+    EXPECT_EQ(1, rows());
+    EXPECT_EQ("\"gone.mp3\" was not added. The file does not exist.", notice());
+}
+
+TEST_F(AddedPathsTest, AFileOfAnotherMachineIsNotTaken) {
+    data_.setUrls({QUrl("file://elsewhere" + path("a.mp3"))});
+    test::DragSession session(widget<QTableView>("tbl_mediaFiles"), data_);
+    EXPECT_FALSE(session.enter());
 }
 
 TEST_F(AddedPathsTest, DroppedFilesAndFoldersAreAdded) {

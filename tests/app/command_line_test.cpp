@@ -39,6 +39,18 @@ TEST(CommandLine, FileAddressesBecomePaths) {
               pathBytes(line.paths[1]));
 }
 
+TEST(CommandLine, FilesOfOtherMachinesAreNotThoseOfThisOne) {
+    const CommandLine line = commandLine({"file://elsewhere/films/a.avi", "file:a.avi", "file:"}, "/m");
+    EXPECT_EQ((QStringList{"/m/file://elsewhere/films/a.avi", "/m/file:a.avi", "/m/file:"}), line.paths);
+    const QByteArray here = "file://" + QSysInfo::machineHostName().toUtf8() + "/films/a.avi";
+    EXPECT_EQ((QStringList{"/a.avi", "/films/a.avi"}),
+              commandLine({"file://localhost/a.avi", here}, "/m").paths);
+}
+
+TEST(CommandLine, NothingIsNoFolder) {
+    EXPECT_EQ(QStringList{""}, commandLine({""}, "/m").paths);
+}
+
 TEST(CommandLine, HelpAndVersionWinOverPaths) {
     EXPECT_EQ(Task::printHelp, commandLine({"a.mp3", "--help"}, "/").task);
     EXPECT_EQ(Task::printHelp, commandLine({"-h"}, "/").task);
