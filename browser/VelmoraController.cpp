@@ -3,6 +3,7 @@
 #include "media_document.h"
 #include "media_list.h"
 #include "movie_preview.h"
+#include "start_folders.h"
 #include "tag_form.h"
 
 #include "imaging/trim_border.h"
@@ -21,28 +22,11 @@
 namespace velmora {
 namespace {
 
-/** Whether PATH is a folder that a desktop gives to one kind of media: one that it has switched
-   off is the home folder. */
-bool isMediaFolder(const QString& path, const QString& home) {
-    const std::optional<FileAttributes> attributes = fileAttributes(pathBytes(path));
-    return attributes && attributes->isDirectory && path != home && path != home + u'/';
-}
-
-/** The folders that a start searches: three by their names, and the desktop's own where they are others. */
-QStringList startFolders() {
-    const QByteArray home = homeFolder();
-    QStringList folders;
-    for (const char* name : {"Movies", "Music", "Pictures"}) {
-        folders += pathFromBytes(joinedPath(home, name));
-    }
-    for (const auto location :
-         {QStandardPaths::MoviesLocation, QStandardPaths::MusicLocation, QStandardPaths::PicturesLocation}) {
-        const QString folder = QStandardPaths::writableLocation(location);
-        if (!folders.contains(folder) && isMediaFolder(folder, pathFromBytes(home))) {
-            folders += folder;
-        }
-    }
-    return folders;
+/** The desktop's folders for media, whether they are there or not. */
+QStringList desktopFolders() {
+    return {QStandardPaths::writableLocation(QStandardPaths::MoviesLocation),
+            QStandardPaths::writableLocation(QStandardPaths::MusicLocation),
+            QStandardPaths::writableLocation(QStandardPaths::PicturesLocation)};
 }
 
 } // namespace
@@ -136,7 +120,7 @@ void VelmoraController::fillFields(const FormFillInfo* info) {
 
 void VelmoraController::awakeFromNib() {
     tellOpenFile();
-    search_.queueFolders(startFolders());
+    search_.queueFolders(startFolders(homeFolder(), desktopFolders()));
 }
 
 void VelmoraController::clearUI() {
