@@ -6,6 +6,7 @@
 #include "browser/tag_form.h"
 #include "model/portable_removal.h"
 #include "platform/file_path.h"
+#include "platform/localisation.h"
 #include "platform/settings.h"
 
 namespace velmora {
@@ -93,8 +94,8 @@ bool MyDocument::setPortableTags(bool portable) {
 }
 
 void MyDocument::switchPortableTags(bool portable) {
-    if (setPortableTags(portable) && !portable) {
-        rememberPortableTags(false);
+    if (setPortableTags(portable) && !portable && !rememberPortableTags(false)) {
+        tell(false, localised("The settings file can't be removed."));
     }
 }
 

@@ -28,6 +28,10 @@ bool isGone(const QString& path) {
     return !attributes || attributes->isDirectory || attributes->size.value_or(1) == 0;
 }
 
+QString notRemembered() {
+    return localised("The next start will not know of it: the settings file can't be written.");
+}
+
 /** What helps where a file is not in its place any more. */
 Notice::Action locate(std::function<void()> act) {
     return {
@@ -228,18 +232,21 @@ void PortableNotices::saveAlways() {
         return; // the reason is shown
     }
     const QString name = fileName();
-    rememberPortableTags(true);
-    if (document_.setPortableTags(true)) {
-        bar_.show({Notice::Kind::Information,
-                   localised("Saved. Other programs see it: %@", name),
-                   {},
-                   savedIsShown});
+    const bool remembered = rememberPortableTags(true);
+    if (!document_.setPortableTags(true)) {
+        return;
+    }
+    const QString text = localised("Saved. Other programs see it: %@", name);
+    if (remembered) {
+        bar_.show({Notice::Kind::Information, text, {}, savedIsShown});
+    } else {
+        bar_.show({Notice::Kind::Warning, joinedSentences({asSentence(text), notRemembered()}), {}, {}});
     }
 }
 
 void PortableNotices::showAlways() {
-    if (document_.setPortableTags(true)) {
-        rememberPortableTags(true);
+    if (document_.setPortableTags(true) && !rememberPortableTags(true)) {
+        bar_.show({Notice::Kind::Warning, notRemembered(), {}, {}});
     }
 }
 

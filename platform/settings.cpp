@@ -1,11 +1,12 @@
 #include "settings.h"
 
+#include "file_path.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QStringList>
 
 #include <algorithm>
@@ -31,9 +32,12 @@ struct Settings {
     std::optional<WindowLayout> layout;
 };
 
+/** By the desktops' common rules: a folder that is not absolute counts as none, as it would be another one
+   for each folder that a program is started in. */
 QString settingsFile() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/velmora/settings.ini");
+    const QByteArray set = qgetenv("XDG_CONFIG_HOME");
+    const QByteArray folder = set.startsWith('/') ? set : joinedPath(homeFolder(), ".config");
+    return QFile::decodeName(folder) + QStringLiteral("/velmora/settings.ini");
 }
 
 /** Whether every line is one of a settings file. The toolkit says so only when it reads a file for the first
@@ -163,10 +167,10 @@ bool remembersPortableTags() {
     return readSettings().value_or(Settings()).portableTags;
 }
 
-void rememberPortableTags(bool remember) {
+bool rememberPortableTags(bool remember) {
     Settings settings = readSettings().value_or(Settings());
     settings.portableTags = remember;
-    static_cast<void>(writeSettings(settings));
+    return writeSettings(settings);
 }
 
 std::optional<WindowLayout> rememberedLayout() {

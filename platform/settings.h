@@ -29,8 +29,8 @@ void keepNoSettings();
 
 /** Whether the user asked for portable tags at each start. */
 [[nodiscard]] bool remembersPortableTags();
-/** Remembers that, or forgets it. Where the file can't be written, the next start does not know of it. */
-void rememberPortableTags(bool remember);
+/** Remembers that, or forgets it. False when the file can't be written: the next start does not know of it. */
+bool rememberPortableTags(bool remember);
 
 /** The window's layout, when there is one remembered. */
 [[nodiscard]] std::optional<WindowLayout> rememberedLayout();

@@ -1067,6 +1067,10 @@
         <translation>Die Einstellungsdatei kann nicht gelöscht werden.</translation>
     </message>
     <message>
+        <source>The next start will not know of it: the settings file can&#x27;t be written.</source>
+        <translation>Beim nächsten Start ist das vergessen: Die Einstellungsdatei kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
         <source>You have no permission to write to it</source>
         <translation>Sie haben keine Schreibrechte für die Datei</translation>
     </message>

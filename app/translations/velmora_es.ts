@@ -1183,6 +1183,10 @@
         <translation>No se puede eliminar el archivo de ajustes.</translation>
     </message>
     <message>
+        <source>The next start will not know of it: the settings file can&#x27;t be written.</source>
+        <translation>El próximo inicio no lo sabrá: el archivo de ajustes no se puede escribir.</translation>
+    </message>
+    <message>
         <source>&quot;%@&quot; can&#x27;t be written.</source>
         <translation>No se puede escribir «%@».</translation>
     </message>

@@ -1183,6 +1183,10 @@
         <translation>Le fichier de réglages ne peut pas être supprimé.</translation>
     </message>
     <message>
+        <source>The next start will not know of it: the settings file can&#x27;t be written.</source>
+        <translation>Le prochain démarrage n’en saura rien : le fichier de réglages ne peut pas être écrit.</translation>
+    </message>
+    <message>
         <source>&quot;%@&quot; can&#x27;t be written.</source>
         <translation>Impossible d’écrire « %@ ».</translation>
     </message>

@@ -1183,6 +1183,10 @@
         <translation>Il file delle impostazioni non può essere rimosso.</translation>
     </message>
     <message>
+        <source>The next start will not know of it: the settings file can&#x27;t be written.</source>
+        <translation>Il prossimo avvio non ne saprà nulla: il file delle impostazioni non può essere scritto.</translation>
+    </message>
+    <message>
         <source>&quot;%@&quot; can&#x27;t be written.</source>
         <translation>Impossibile scrivere “%@”.</translation>
     </message>

@@ -1182,6 +1182,10 @@
         <translation>設定ファイルを削除できません。</translation>
     </message>
     <message>
+        <source>The next start will not know of it: the settings file can&#x27;t be written.</source>
+        <translation>次回の起動時には引き継がれません。設定ファイルに書き込めません。</translation>
+    </message>
+    <message>
         <source>&quot;%@&quot; can&#x27;t be written.</source>
         <translation>「%@」に書き込めません。</translation>
     </message>

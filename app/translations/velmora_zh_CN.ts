@@ -1182,6 +1182,10 @@
         <translation>无法删除设置文件。</translation>
     </message>
     <message>
+        <source>The next start will not know of it: the settings file can&#x27;t be written.</source>
+        <translation>下次启动时不会记得：设置文件无法写入。</translation>
+    </message>
+    <message>
         <source>&quot;%@&quot; can&#x27;t be written.</source>
         <translation>无法写入“%@”。</translation>
     </message>

@@ -342,6 +342,17 @@ TEST_F(PortableTagsTest, AreRememberedWhenTheUserWantsThemAlways) {
     EXPECT_TRUE(next.window()->findChild<QAction*>("action_portableTags")->isChecked());
 }
 
+TEST_F(PortableTagsTest, SayWhenTheyCannotBeRemembered) {
+    test::write_file(folder_ / "config", "no folder");
+    failToSave();
+    press("btn_noticeSecond");
+    EXPECT_EQ("Evening", title("song.mp3"));
+    EXPECT_TRUE(action().isChecked());
+    EXPECT_EQ("Saved. Other programs see it: song.mp3. The next start will not know of it: the settings file "
+              "can't be written.",
+              notice());
+}
+
 TEST_F(PortableTagsTest, AreForgottenWhenTheUserSwitchesThemOff) {
     failToSave();
     press("btn_noticeSecond");

@@ -111,6 +111,16 @@ TEST_F(RememberedLayoutTest, LayoutThatCantBeRememberedIsToldOf) {
     EXPECT_EQ("The layout can't be remembered: the settings file can't be written.", notice());
 }
 
+TEST_F(RememberedLayoutTest, RelativeFolderForSettingsCountsAsNone) {
+    qputenv("HOME", QByteArray::fromStdString(folder_.path()));
+    qputenv("XDG_CONFIG_HOME", "config");
+    choose("action_rememberLayout");
+    EXPECT_TRUE(QFile::exists(path(".config/velmora/settings.ini")));
+    EXPECT_FALSE(QFile::exists("config"));
+    choose("action_forgetEverything");
+    EXPECT_FALSE(QFile::exists(path(".config/velmora")));
+}
+
 TEST_F(RememberedLayoutTest, SizeBeyondTheScreenAndUnknownColumnsDoNoHarm) {
     test::write_file(folder_ / "settings",
                      "[layout]\nsize=90000, 90000\nsort=nonsense\n[parts]\nsplit_upper=1, 2, 3\n");
