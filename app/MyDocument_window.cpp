@@ -156,6 +156,10 @@ void MyDocument::connectCommands() {
     // The command only shows the key: it is the button's, which also settles the changes.
     auto* const saveKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), window_.get());
     connect(saveKey, &QShortcut::activated, form_, &TagForm::clickSave);
+    // The toolkit leaves this key to desktops, not all of which know it.
+    auto* const menuKey = new QShortcut(QKeySequence(Qt::Key_F10), window_.get());
+    connect(menuKey, &QShortcut::activated, this,
+            [this] { ui_->menubar->setActiveAction(ui_->menu_file->menuAction()); });
     connect(ui_->action_close, &QAction::triggered, window_.get(), &QWidget::close);
     connect(ui_->action_quit, &QAction::triggered, &termination_, &ApplicationTermination::terminate);
     for (const auto& [action, column] :

@@ -185,6 +185,19 @@ TEST_F(HelpTest, KeyboardListsEveryKeyOfTheWindow) {
     EXPECT_TRUE(listed.contains("Alt+F")) << "a menu's letter";
 }
 
+TEST_F(HelpTest, F10GoesToTheMenus) {
+    document().showWindow();
+    QApplication::setActiveWindow(document().window());
+    settle();
+    const auto& menus = widget<QMenuBar>("menubar");
+    EXPECT_EQ(nullptr, menus.activeAction());
+    entry("entry_title").setFocus();
+    QTest::keyClick(&entry("entry_title"), Qt::Key_F10);
+    EXPECT_EQ(widget<QMenu>("menu_file").menuAction(), menus.activeAction());
+    QTest::keyClick(&widget<QMenu>("menu_file"), Qt::Key_Right);
+    EXPECT_EQ(widget<QMenu>("menu_edit").menuAction(), menus.activeAction());
+}
+
 TEST_F(HelpTest, KeyboardSaysWhatEachKeyDoes) {
     QTableWidget& table = keys();
     const auto use = [&table](const QString& key) {
