@@ -42,11 +42,16 @@ void VelmoraController::restoreUnsavedEdits() {
     }
 }
 
+/** Their file stands in the list again if it was taken off: what is open can be gone back to. */
 void VelmoraController::showRestoredEdits() {
+    const QString path = document_.mediaFile()->path();
+    if (!isListed(path)) {
+        addMediaFile(path);
+    }
     clearUI();
     fillUI();
     form_.markChange();
-    table().showAsOpen(document_.mediaFile()->path());
+    table().showAsOpen(path);
     notices_.editsRestored();
 }
 
@@ -77,9 +82,6 @@ void VelmoraController::openWithEdits(const QString& path, OpenWithEdits open) {
             showOpenError(error);
         }
         return;
-    }
-    if (!isListed(path)) {
-        addMediaFile(path);
     }
     showRestoredEdits();
 }

@@ -111,6 +111,22 @@ TEST_F(UnsavedEditsTest, AllComeBackByTheMenu) {
     EXPECT_FALSE(action().isEnabled());
 }
 
+TEST_F(UnsavedEditsTest, ComeBackToTheListTooWhenTheirFileWasTakenOffIt) {
+    openFile("b.mp3");
+    openStubborn("a.mp3");
+    type("entry_title", "Evening");
+    leaveFor(0);
+    controller().table().removeFile(path("a.mp3"));
+    action().trigger();
+    settle();
+
+    EXPECT_EQ("Evening", entry("entry_title").text());
+    EXPECT_EQ(1, selectedRow());
+    press("btn_revertTag");
+    EXPECT_EQ(path("a.mp3"), file().filename());
+    EXPECT_EQ("Z", entry("entry_title").text());
+}
+
 TEST_F(UnsavedEditsTest, ComeBackByTheNoticeAndCanBeSavedPortably) {
     openFile("b.mp3");
     openStubborn("a.mp3");
