@@ -86,6 +86,17 @@ QString MyDocument::openFile(const QUrl& url) {
                       : localised("Please ensure the file is readable and is a valid media file.");
 }
 
+void MyDocument::reopen(const QUrl& url) {
+    updateChangeCount(ChangeType::Cleared);
+    const QString obstacle = openFile(url);
+    emit openedAgain();
+    if (!obstacle.isEmpty()) {
+        Error error;
+        static_cast<void>(failToOpen(url, obstacle, &error));
+        presentErrorSheet(error, windowForSheet());
+    }
+}
+
 bool MyDocument::saveMediaFile(Error* error) {
     if (!mediaFile_) {
         return false;

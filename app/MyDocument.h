@@ -124,13 +124,17 @@ private:
     void tell(bool succeeded, const QString& text);
     /** Cancels what the library table writes, and asks about its edits. */
     [[nodiscard]] bool libraryMayClose();
+    /** Asks about the changes of the open file, and goes back to the library table. False when the file is
+       still open. */
+    [[nodiscard]] bool closeFileForLibrary();
     /** Whether files at PATHS may be written: asks about changes of the open one, which is open again
        then. */
     [[nodiscard]] bool mayWriteFiles(const QStringList& paths);
     /** The library table has written files, which were at the keys of PATHS and are at their values. */
     void filesWritten(const QHash<QString, QString>& paths);
     void removeFromList(const QStringList& paths);
-    /** Opens the file at URL in the place of the open one, whose changes are settled. */
+    /** Opens the file at URL in the place of the open one, whose changes are settled. Where it can't be
+       opened, the user is told why. */
     void reopen(const QUrl& url);
     [[nodiscard]] QString openPath() const;
 

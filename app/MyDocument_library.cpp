@@ -55,10 +55,13 @@ QString MyDocument::openPath() const {
     return mediaFile_ && openUrl_ ? pathFromFileUrl(*openUrl_) : QString();
 }
 
-void MyDocument::reopen(const QUrl& url) {
-    updateChangeCount(ChangeType::Cleared);
-    static_cast<void>(openFile(url));
-    emit openedAgain();
+bool MyDocument::closeFileForLibrary() {
+    window_->raise();
+    window_->activateWindow();
+    // A question that goes away without an answer leaves the file open, and nothing may be lost by that.
+    const bool closed = handleDirtySave() && !mediaFile_;
+    library_->present(); // the question was the other window's, and took the keyboard there
+    return closed;
 }
 
 bool MyDocument::mayWriteFiles(const QStringList& paths) {
@@ -69,14 +72,10 @@ bool MyDocument::mayWriteFiles(const QStringList& paths) {
         return true;
     }
     const QUrl url = *openUrl_;
-    window_->raise();
-    window_->activateWindow();
-    // A question that goes away without an answer leaves the file open, and nothing may be lost by that.
-    if (!handleDirtySave() || mediaFile_) {
+    if (!closeFileForLibrary()) {
         return false;
     }
     reopen(url);
-    library_->present();
     return true;
 }
 
@@ -96,7 +95,7 @@ void MyDocument::filesWritten(const QHash<QString, QString>& paths) {
 void MyDocument::removeFromList(const QStringList& paths) {
     for (const QString& path : paths) {
         const bool asks = isDocumentEdited() && openPath() == path;
-        if (asks && (!handleDirtySave() || mediaFile_)) {
+        if (asks && !closeFileForLibrary()) {
             return;
         }
         controller_->table().removeFile(path);

@@ -64,9 +64,7 @@ bool MyDocument::deleteAllTags(bool breakLinks) {
         saveRun_.run(portableRemoval(path, breakLinks), lastPathComponent(path), windowForSheet());
     const bool deleted = result.isSaved();
     if (deleted) {
-        updateChangeCount(ChangeType::Cleared);
-        static_cast<void>(openFile(*openUrl_));
-        emit openedAgain();
+        reopen(*openUrl_);
     }
     emit saveEnded({deleted, result, path, obstacleOf(result), true});
     return deleted;
@@ -86,9 +84,7 @@ bool MyDocument::setPortableTags(bool portable) {
     portableTags_ = portable;
     emit portableTagsChanged(portable);
     if (url) {
-        updateChangeCount(ChangeType::Cleared);
-        static_cast<void>(openFile(*url));
-        emit openedAgain();
+        reopen(*url);
     }
     return true;
 }

@@ -157,6 +157,20 @@ TEST_F(LibraryTableTest, RemovingTheOpenFileAsksAboutItsEditsAndCancelKeepsBoth)
     EXPECT_EQ(std::vector<int>{0}, document().library()->view().selectedFiles());
 }
 
+TEST_F(LibraryTableTest, KeyboardIsBackInItAfterAQuestionThatWasCancelled) {
+    openSongs();
+    select(0);
+    type("entry_title", "Evening");
+    QApplication::setActiveWindow(document().library());
+    goTo(0);
+    const QuestionAnswerer answer(*document().window(), "Cancel");
+    press(Qt::Key_Backspace, Qt::ControlModifier);
+    EXPECT_TRUE(waitUntil([this] { return document().library()->isActiveWindow(); }));
+    press(Qt::Key_Backspace, Qt::ControlModifier);
+    EXPECT_EQ(2, answer.questions());
+    EXPECT_EQ(2, files().rowCount());
+}
+
 TEST_F(LibraryTableTest, RemovingTheOpenFileClosesItWhenItsEditsMayBeDropped) {
     openSongs();
     select(0);

@@ -353,6 +353,17 @@ TEST_F(PortableTagsTest, SayWhenTheyCannotBeRemembered) {
               notice());
 }
 
+TEST_F(PortableTagsTest, OfAFileThatHasVanishedCannotBeShownAndThatIsSaid) {
+    openFile("gone.mp3");
+    ASSERT_TRUE(QFile::remove(path("gone.mp3")));
+    const QuestionAnswerer answer(*document().window(), "OK");
+    action().trigger();
+    ASSERT_TRUE(test::waitUntil([&] { return answer.questions() > 0; }));
+    EXPECT_EQ("Unable to open file \"gone.mp3\".", answer.messageText());
+    EXPECT_EQ("The file does not exist.", answer.informativeText());
+    EXPECT_TRUE(document().portableTags());
+}
+
 TEST_F(PortableTagsTest, AreForgottenWhenTheUserSwitchesThemOff) {
     failToSave();
     press("btn_noticeSecond");
