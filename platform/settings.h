@@ -29,7 +29,7 @@ void keepNoSettings();
 
 /** Whether the user asked for portable tags at each start. */
 [[nodiscard]] bool remembersPortableTags();
-/** Remembers that, or forgets it. False when the file can't be written: the next start does not know of it. */
+/** Remembers that, or forgets it. False when the file can't be written, and the next start knows nothing. */
 bool rememberPortableTags(bool remember);
 
 /** The window's layout, when there is one remembered. */

@@ -15,8 +15,8 @@ enum class ReasonCode {
     too_large,      ///< a value or a file larger than the format takes; detail: which
     not_regular,    ///< a folder, a pipe, a device
     not_writable,   ///< the file's mode takes its owner the permission to write
-    file_refused,   ///< the user has no permission to write to the file
-    folder_refused, ///< the user has no permission to put a new file into its folder; detail: while doing what
+    file_refused,   ///< the user may not write to the file
+    folder_refused, ///< the user may put no new file into its folder; detail: while doing what
     more_links,     ///< further hard links would be parted
     changed_meanwhile,
     no_space,
