@@ -194,31 +194,6 @@ void VelmoraController::removeTag() {
     form_.disableSaveAndRevert();
 }
 
-void VelmoraController::saveCopy() {
-    const MediaFile* const file = document_.mediaFile();
-    if (!file) {
-        return;
-    }
-    beginSavePanelSheet(localised("Save as a Copy"), file->path(), document_.windowForSheet(),
-                        [this](int code, const QStringList& paths) { copyPlaceSelected(code, paths); });
-}
-
-void VelmoraController::copyPlaceSelected(int returnCode, const QStringList& paths) {
-    const MediaFile* const file = document_.mediaFile();
-    if (returnCode == openPanelCancelled || paths.size() != 1 || !file) {
-        return;
-    }
-    const QString extension = u'.' + pathExtension(file->path());
-    const QString copy =
-        paths.first().endsWith(extension, Qt::CaseInsensitive) ? paths.first() : paths.first() + extension;
-    if (document_.saveCopy(copy) && document_.readFromURL(fileUrlFromPath(copy), QString(), nullptr)) {
-        addMediaFile(copy);
-        clearUI();
-        fillUI();
-        table().showAsOpen(copy);
-    }
-}
-
 void VelmoraController::deleteCover() {
     if (!document_.mediaFile()) {
         return;

@@ -53,6 +53,7 @@ public:
 
     /** Asks for a place, and saves the open file there with its changes. The copy is listed and opened. */
     void saveCopy();
+    /** Where the panel did not give what is saved its whole name, and that name is taken, it asks again. */
     void copyPlaceSelected(int returnCode, const QStringList& paths);
 
     /** Takes the open file's cover away. A save in place leaves it in the file, and the user is told. */
@@ -97,6 +98,7 @@ public:
     [[nodiscard]] MediaSearch& search() { return search_; }
 
 private:
+    void askForCopyPlace(const QString& start);
     void connectSearch();
     void connectList();
     void connectForm();

@@ -1,5 +1,5 @@
-// Edits that could not be saved, put back into the form: where their file was, or where the user finds it
-// now.
+// Edits that could not be saved: put back into the form where their file was, or where the user finds it now,
+// and saved into a copy.
 
 #include "VelmoraController.h"
 
@@ -53,6 +53,37 @@ void VelmoraController::showRestoredEdits() {
     form_.markChange();
     table().showAsOpen(path);
     notices_.editsRestored();
+}
+
+void VelmoraController::saveCopy() {
+    if (const MediaFile* const file = document_.mediaFile()) {
+        askForCopyPlace(file->path());
+    }
+}
+
+void VelmoraController::askForCopyPlace(const QString& start) {
+    beginSavePanelSheet(localised("Save as a Copy"), start, document_.windowForSheet(),
+                        [this](int code, const QStringList& paths) { copyPlaceSelected(code, paths); });
+}
+
+void VelmoraController::copyPlaceSelected(int returnCode, const QStringList& paths) {
+    const MediaFile* const file = document_.mediaFile();
+    if (returnCode == openPanelCancelled || paths.size() != 1 || !file) {
+        return;
+    }
+    const QString extension = u'.' + pathExtension(file->path());
+    const QString copy =
+        paths.first().endsWith(extension, Qt::CaseInsensitive) ? paths.first() : paths.first() + extension;
+    if (copy != paths.first() && fileExists(copy)) {
+        askForCopyPlace(copy); // whether that may be replaced, nobody has asked yet
+        return;
+    }
+    if (document_.saveCopy(copy) && document_.readFromURL(fileUrlFromPath(copy), QString(), nullptr)) {
+        addMediaFile(copy);
+        clearUI();
+        fillUI();
+        table().showAsOpen(copy);
+    }
 }
 
 void VelmoraController::locateFile() {

@@ -41,6 +41,7 @@ void beginSavePanelSheet(const QString& title, const QString& start, QWidget* wi
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDirectory(pathFolder(start));
     dialog->selectFile(start);
+    dialog->setDefaultSuffix(pathExtension(start));
     showPanel(*dialog, std::move(didEnd));
 }
 

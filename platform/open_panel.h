@@ -27,8 +27,8 @@ void beginOpenPanelSheet(const OpenPanel& panel, QWidget* window,
                          std::function<void(int returnCode, const QStringList& paths)> didEnd);
 
 /** Shows a panel, called TITLE, that asks where a file is to be saved, as a sheet on WINDOW, and returns at
-   once. It starts with the place and the name of START, and asks before it takes a name that is in use.
-   DID_END gets the return code and the chosen path. */
+   once. It starts with the place and the name of START, gives a name without an extension that of START, and
+   asks before it takes a name that is in use. DID_END gets the return code and the chosen path. */
 void beginSavePanelSheet(const QString& title, const QString& start, QWidget* window,
                          std::function<void(int returnCode, const QStringList& paths)> didEnd);
 

@@ -172,6 +172,20 @@ TEST_F(SaveCopyTest, IsListedAndOpenedAndNothingIsLeftToSave) {
     EXPECT_EQ("Saved \"copy.mp3\"", save());
 }
 
+TEST_F(SaveCopyTest, ReplacesNothingThatThePanelHasNotAskedAbout) {
+    test::write_file(folder_ / "copy.v2.mp3", "another song");
+    askForCopy();
+    EXPECT_EQ("mp3", panel()->defaultSuffix());
+    panel()->reject();
+    settle();
+    controller().copyPlaceSelected(1, {path("copy.v2")});
+    settle();
+
+    EXPECT_EQ("another song", test::read_file(folder_ / "copy.v2.mp3"));
+    ASSERT_NE(nullptr, panel());
+    EXPECT_EQ(QStringList{path("copy.v2.mp3")}, panel()->selectedFiles());
+}
+
 TEST_F(SaveCopyTest, ThatFailsKeepsTheEditsAndSaysWhy) {
     askForCopy();
     controller().copyPlaceSelected(1, {path("nowhere/copy.mp3")});
