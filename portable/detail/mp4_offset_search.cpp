@@ -9,7 +9,7 @@ namespace velmora::portable {
 
 namespace {
 
-constexpr const char* what = "a table of offsets";
+constexpr const char* offset_table_words = "a table of offsets";
 
 /** Finds the tables. */
 class Finder {
@@ -118,7 +118,7 @@ private:
     void add_table(const Box& box, std::uint64_t ahead, std::uint32_t width) {
         ReadCursor cursor = content_of(box, ahead);
         std::uint32_t count = 0;
-        check_read(cursor.read_be32(&count), what);
+        check_read(cursor.read_be32(&count), offset_table_words);
         add({cursor.position(), count, width, width, 0}, box);
     }
 
@@ -152,8 +152,8 @@ private:
         ReadCursor cursor = content_of(tfra, 8);
         std::uint32_t sizes = 0;
         std::uint32_t count = 0;
-        check_read(cursor.read_be32(&sizes), what);
-        check_read(cursor.read_be32(&count), what);
+        check_read(cursor.read_be32(&sizes), offset_table_words);
+        check_read(cursor.read_be32(&count), offset_table_words);
         // Two bits each, one less than the bytes that the numbers of the fragment, the run and the sample
         // take.
         const std::uint32_t numbers = 3 + (sizes >> 4 & 3) + (sizes >> 2 & 3) + (sizes & 3);
@@ -186,7 +186,7 @@ private:
     [[nodiscard]] std::uint32_t version_and_flags(const Box& box) const {
         ReadCursor cursor = content_of(box, 0);
         std::uint32_t value = 0;
-        check_read(cursor.read_be32(&value), what);
+        check_read(cursor.read_be32(&value), offset_table_words);
         return value;
     }
 
