@@ -75,6 +75,7 @@ TEST_F(AddedPathsTest, SeveralThatAreNotThereAreNamed) {
     EXPECT_EQ(1, rows());
     EXPECT_EQ("Files that could not be added: gone.mp3, away .mp3", notice());
     controller().openPaths({path("1.mp3"), path("2.mp3"), path("3.mp3"), path("4.mp3")});
+    test::settle();
     EXPECT_EQ("Files that could not be added: 1.mp3, 2.mp3, 3.mp3, …", notice());
 }
 
