@@ -63,9 +63,9 @@ public:
         return false;
     }
 
-    /** Opens the file at PLACE, where the one with the edits that were kept last is now, and makes them there.
-       False when it can't be opened, with ERROR (may be null) filled, or the user cancelled; the edits are
-       still kept then. */
+    /** Opens the file at PLACE, where the one with the edits that were kept last is now, and makes them
+       there. False when it can't be opened, with ERROR (may be null) filled, or the user cancelled; the edits
+       are still kept then. */
     virtual bool restoreUnsavedEditsAt(const QUrl& place, Error* error) {
         static_cast<void>(place);
         static_cast<void>(error);
