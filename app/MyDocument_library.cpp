@@ -124,7 +124,7 @@ bool MyDocument::libraryMayClose() {
     if (question.clickedButton() != drop) {
         return false;
     }
-    library_->model().revert(library_->model().rows().editedRows());
+    library_->model().revertEdits(library_->model().rows().editedRows());
     return true;
 }
 

@@ -49,7 +49,8 @@ public:
     void setEdits(int file, RowEdits edits);
     /** Edits of many files at once, each with its number; nothing is written into them. */
     void setEdits(const std::vector<std::pair<int, RowEdits>>& edits);
-    void revert(const std::vector<int>& files);
+    /** Takes the edits of FILES back. */
+    void revertEdits(const std::vector<int>& files);
 
     void sortBy(const std::vector<SortKey>& keys);
     [[nodiscard]] const std::vector<SortKey>& sortKeys() const { return keys_; }

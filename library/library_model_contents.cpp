@@ -176,7 +176,7 @@ void LibraryModel::setEdits(const std::vector<std::pair<int, RowEdits>>& edits) 
     emit contentsChanged();
 }
 
-void LibraryModel::revert(const std::vector<int>& files) {
+void LibraryModel::revertEdits(const std::vector<int>& files) {
     for (const int file : files) {
         rows_.setEdits(file, {});
         contentsChange(file);

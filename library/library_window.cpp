@@ -173,7 +173,7 @@ void LibraryWindow::revert() {
     if (files.empty()) {
         files = model_.rows().editedRows();
     }
-    model_.revert(files);
+    model_.revertEdits(files);
 }
 
 void LibraryWindow::showStatus() {

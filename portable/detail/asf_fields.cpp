@@ -12,8 +12,8 @@ namespace velmora::portable {
 
 namespace {
 
-constexpr AsfListKind description = AsfListKind::content_description;
-constexpr AsfListKind extended = AsfListKind::extended_content_description;
+constexpr AsfListKind content_description = AsfListKind::content_description;
+constexpr AsfListKind extended_content = AsfListKind::extended_content_description;
 
 constexpr std::array other_albums = {"AlbumTitle"};
 constexpr std::array other_directors = {"Director"};
@@ -21,15 +21,15 @@ constexpr std::array other_genres = {"Genre"};
 constexpr std::array other_years = {"Year", "Date"};
 
 constexpr std::array<AsfFieldNames, field_count> field_names = {{
-    {"Title", description, {}},
-    {"Author", description, {}},
-    {"WM/AlbumTitle", extended, other_albums},
-    {"WM/Director", extended, other_directors},
-    {"Description", description, {}},
-    {"WM/Genre", extended, other_genres},
-    {"WM/ParentalRating", extended, {}},
-    {"WM/Year", extended, other_years},
-    {"WM/Picture", extended, {}},
+    {"Title", content_description, {}},
+    {"Author", content_description, {}},
+    {"WM/AlbumTitle", extended_content, other_albums},
+    {"WM/Director", extended_content, other_directors},
+    {"Description", content_description, {}},
+    {"WM/Genre", extended_content, other_genres},
+    {"WM/ParentalRating", extended_content, {}},
+    {"WM/Year", extended_content, other_years},
+    {"WM/Picture", extended_content, {}},
 }};
 
 char in_small_letters(char letter) {

@@ -149,10 +149,10 @@ TEST_F(FieldUndoTest, GivesSeveralValuesBack) {
 }
 
 TEST_F(FieldUndoTest, GivesBackWhatWasTypedBeforeTheField) {
-    window_.model().setData(window_.model().index(1, static_cast<int>(LibraryColumn::title)), "Wave",
-                            Qt::EditRole);
-    window_.model().setData(window_.model().index(1, static_cast<int>(LibraryColumn::artist)), "Zoe",
-                            Qt::EditRole);
+    EXPECT_TRUE(window_.model().setData(window_.model().index(1, static_cast<int>(LibraryColumn::title)),
+                                        "Wave", Qt::EditRole));
+    EXPECT_TRUE(window_.model().setData(window_.model().index(1, static_cast<int>(LibraryColumn::artist)),
+                                        "Zoe", Qt::EditRole));
     QTest::keyClicks(&title_, "Rope");
     window_.panel().flush();
     press(Qt::Key_Z, Qt::ControlModifier);
@@ -224,8 +224,8 @@ TEST_F(LibraryCellsTest, TheStatusCountsTheRowsThatAreShown) {
 
 TEST_F(LibraryCellsTest, TheEmptyRatingOfTheListDeletes) {
     add("a.mov", std::string());
-    window_.model().setData(window_.model().index(0, static_cast<int>(LibraryColumn::rating)), "PG",
-                            Qt::EditRole);
+    EXPECT_TRUE(window_.model().setData(window_.model().index(0, static_cast<int>(LibraryColumn::rating)),
+                                        "PG", Qt::EditRole));
     window_.view().selectAll();
     auto& box = *window_.findChild<QComboBox*>("combo_ratings");
     ASSERT_TRUE(waitUntil([&] { return box.isEnabled(); }));
