@@ -50,6 +50,13 @@ protected:
         ASSERT_TRUE(waitUntil([this] { return files().rowCount() == 2 && files().unread() == 0; }));
         QApplication::setActiveWindow(document().library());
     }
+    /** The main window has the first song open with an edit, and the keyboard is in the song's row again. */
+    void editTheFirst() {
+        select(0);
+        type("entry_title", "Evening");
+        QApplication::setActiveWindow(document().library());
+        goTo(0);
+    }
     void goTo(int row, LibraryColumn column = LibraryColumn::title) {
         LibraryView& view = document().library()->view();
         view.setCurrentIndex(files().index(row, static_cast<int>(column)));
@@ -145,10 +152,7 @@ TEST_F(LibraryTableTest, RemoveFromListTakesTheSelectedFilesOffBothListsAndLeave
 
 TEST_F(LibraryTableTest, RemovingTheOpenFileAsksAboutItsEditsAndCancelKeepsBoth) {
     openSongs();
-    select(0);
-    type("entry_title", "Evening");
-    QApplication::setActiveWindow(document().library());
-    goTo(0);
+    editTheFirst();
     const QuestionAnswerer answer(*document().window(), "Cancel");
     press(Qt::Key_Backspace, Qt::ControlModifier);
     EXPECT_EQ(1, answer.questions());
@@ -159,10 +163,7 @@ TEST_F(LibraryTableTest, RemovingTheOpenFileAsksAboutItsEditsAndCancelKeepsBoth)
 
 TEST_F(LibraryTableTest, KeyboardIsBackInItAfterAQuestionThatWasCancelled) {
     openSongs();
-    select(0);
-    type("entry_title", "Evening");
-    QApplication::setActiveWindow(document().library());
-    goTo(0);
+    editTheFirst();
     const QuestionAnswerer answer(*document().window(), "Cancel");
     press(Qt::Key_Backspace, Qt::ControlModifier);
     EXPECT_TRUE(waitUntil([this] { return document().library()->isActiveWindow(); }));
@@ -173,10 +174,7 @@ TEST_F(LibraryTableTest, KeyboardIsBackInItAfterAQuestionThatWasCancelled) {
 
 TEST_F(LibraryTableTest, RemovingTheOpenFileClosesItWhenItsEditsMayBeDropped) {
     openSongs();
-    select(0);
-    type("entry_title", "Evening");
-    QApplication::setActiveWindow(document().library());
-    goTo(0);
+    editTheFirst();
     const QuestionAnswerer answer(*document().window(), "Don't Save");
     press(Qt::Key_Backspace, Qt::ControlModifier);
     EXPECT_EQ(1, answer.questions());
