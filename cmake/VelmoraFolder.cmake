@@ -90,23 +90,47 @@ function(velmora_folder name)
   velmora_expose(velmora_${name} ${name})
 endfunction()
 
-# velmora_precompile_qt(TARGET... ): these Qt rooms share the headers that most of their files include,
-# compiled once. Where a room is compiled in one piece it reads them once anyway, and what it forgot to
-# include is found out.
-function(velmora_precompile_qt)
+# velmora_precompile(NAME HEADERS header... LIBRARIES target... TARGETS target...)
+#   The targets, all libraries, share these headers, compiled once by the library NAME. Where a room is compiled in one piece
+#   it reads them once anyway, and what it forgot to include is found out.
+function(velmora_precompile name)
   if(VELMORA_PIECE_SIZE EQUAL 0)
     return()
   endif()
-  set(source "${PROJECT_BINARY_DIR}/qt_headers.cpp")
-  file(CONFIGURE OUTPUT "${source}" CONTENT "")
-  add_library(velmora_qt_headers STATIC "${source}")
-  set_target_properties(velmora_qt_headers PROPERTIES AUTOMOC OFF AUTOUIC OFF)
-  target_link_libraries(velmora_qt_headers PRIVATE Qt6::Widgets velmora_options)
-  target_precompile_headers(velmora_qt_headers PRIVATE <QApplication> <QComboBox> <QDialog> <QFileInfo> <QHBoxLayout>
-                                                       <QHash> <QHeaderView> <QLabel> <QLineEdit> <QPainter> <QPushButton>
-                                                       <QTableView> <QTimer> <QUrl> <QVBoxLayout> <functional> <memory>
-                                                       <optional> <vector>)
-  foreach(target IN LISTS ARGN)
-    target_precompile_headers(${target} REUSE_FROM velmora_qt_headers)
+  cmake_parse_arguments(arg "" "" "HEADERS;LIBRARIES;TARGETS" ${ARGN})
+  if(NOT TARGET ${name})
+    set(source "${PROJECT_BINARY_DIR}/${name}.cpp")
+    file(CONFIGURE OUTPUT "${source}" CONTENT "")
+    add_library(${name} STATIC "${source}")
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} velmora_options)
+    target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+  endif()
+  foreach(target IN LISTS arg_TARGETS)
+    target_precompile_headers(${target} REUSE_FROM ${name})
   endforeach()
+endfunction()
+
+# velmora_precompile_standard(TARGET... ): for libraries without Qt, whose files are shorter than the headers that they
+# include. Tests run them thousands of times: they are optimised as far as a debugger bears it.
+function(velmora_precompile_standard)
+  set(library velmora_standard_headers)
+  velmora_precompile(${library}
+    HEADERS <algorithm> <array> <cerrno> <cstdint> <cstdio> <cstdlib> <cstring> <functional> <memory> <optional> <span>
+            <string> <string_view> <vector>
+    TARGETS ${ARGN})
+  foreach(target IN LISTS library ARGN)
+    if(TARGET ${target})
+      target_compile_options(${target} PRIVATE $<$<CONFIG:Debug>:-Og>)
+    endif()
+  endforeach()
+endfunction()
+
+# velmora_precompile_qt(TARGET... ): for libraries that include Qt's headers.
+function(velmora_precompile_qt)
+  velmora_precompile(velmora_qt_headers
+    HEADERS <QApplication> <QComboBox> <QDialog> <QFileInfo> <QHBoxLayout> <QHash> <QHeaderView> <QLabel> <QLineEdit>
+            <QPainter> <QPushButton> <QTableView> <QTimer> <QUrl> <QVBoxLayout> <functional> <memory> <optional> <vector>
+    LIBRARIES Qt6::Widgets
+    TARGETS ${ARGN})
 endfunction()

@@ -1,5 +1,6 @@
 # What ctest reads of a program that is entered suite by suite: the program itself says which suites it has,
-# those of types and of parameters included. Set by who includes it: PROGRAM, NAME, ENVIRONMENT and LABEL.
+# those of types and of parameters included. Set by who includes it: PROGRAM, NAME, LABEL, COST and
+# ENVIRONMENT.
 if(NOT EXISTS "${PROGRAM}")
   add_test("${NAME}_is_not_built" "${PROGRAM}")
   set_tests_properties("${NAME}_is_not_built" PROPERTIES LABELS "${LABEL}")
@@ -15,5 +16,5 @@ file(STRINGS "${list}" suites REGEX "^[A-Za-z0-9_/]+\\.( +#.*)?$")
 foreach(suite IN LISTS suites)
   string(REGEX REPLACE "\\..*" "" suite "${suite}")
   add_test("${NAME}.${suite}" "${PROGRAM}" "--gtest_filter=${suite}.*")
-  set_tests_properties("${NAME}.${suite}" PROPERTIES TIMEOUT 300 LABELS "${LABEL}" ENVIRONMENT "${ENVIRONMENT}")
+  set_tests_properties("${NAME}.${suite}" PROPERTIES TIMEOUT 300 LABELS "${LABEL}" COST "${COST}" ENVIRONMENT "${ENVIRONMENT}")
 endforeach()

@@ -35,9 +35,11 @@ def reading(source):
     output = words.index("-o")
     del words[output:output + 2]
     words = words[:-2] if words[-2] == "-c" else words
-    while "-include" in words:
-        at = words.index("-include")
-        del words[at:at + 2]
+    words = [word for word in words if word != "-Xclang"]
+    for option in ("-include", "-include-pch"):
+        while option in words:
+            at = words.index(option)
+            del words[at:at + 2]
     words = [word for word in words if not word.startswith(("-M", "--launcher")) and not word.endswith(".d")]
     return entry["directory"], *words, "-E", "-o", "/dev/null"
 
