@@ -103,7 +103,7 @@ std::optional<Field> ApeTag::field_of(const Item& item, Media media) {
     return known ? std::optional(row->field) : std::nullopt;
 }
 
-std::string ApeTag::text_of(const Item& item) const {
+std::vector<std::string> ApeTag::texts_of(const Item& item) const {
     if ((item.flags & value_type) == binary_value) {
         return {};
     }
@@ -117,7 +117,23 @@ std::string ApeTag::text_of(const Item& item) const {
                              : utf8_from_latin1(value));
         rest = end == rest.end() ? std::span<const std::uint8_t>() : std::span(end + 1, rest.end());
     }
-    return joined(values);
+    std::erase(values, std::string());
+    return values;
+}
+
+std::string ApeTag::text_of(const Item& item) const {
+    return joined(texts_of(item));
+}
+
+std::vector<std::string> ApeTag::texts(Field field, Media media) const {
+    for (const Item& item : items_) {
+        std::vector<std::string> texts =
+            field_of(item, media) == field ? texts_of(item) : std::vector<std::string>();
+        if (!texts.empty()) {
+            return texts;
+        }
+    }
+    return {};
 }
 
 TagValues ApeTag::values(Media media) const {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace velmora::portable {
 
@@ -25,6 +26,8 @@ public:
     /** Such as "APEv2". */
     [[nodiscard]] std::string name() const { return version_ >= 2000 ? "APEv2" : "APEv1"; }
     [[nodiscard]] TagValues values(Media media) const;
+    /** The several values that are one text in values(), without the empty ones. FIELD is a text field. */
+    [[nodiscard]] std::vector<std::string> texts(Field field, Media media) const;
     [[nodiscard]] std::vector<TagItem> items(Media media) const;
     /** Changes and removes what is there; nothing is added. */
     void apply(const TagEdits& edits, Media media);
@@ -39,6 +42,7 @@ private:
     };
 
     [[nodiscard]] static std::optional<Field> field_of(const Item& item, Media media);
+    [[nodiscard]] std::vector<std::string> texts_of(const Item& item) const;
     [[nodiscard]] std::string text_of(const Item& item) const;
     [[nodiscard]] Bytes value_with(const Item& item, Field field, const TagEdits& edits) const;
     [[nodiscard]] Bytes end_bytes(std::uint32_t items_size, std::uint32_t position_flag) const;

@@ -237,6 +237,23 @@ std::vector<TagItem> id3v2_items(const Id3v2Tag& tag, Media media) {
     return items;
 }
 
+void id3v2_part_values(Id3v2Tag& tag, Field field, const std::vector<std::string>& values, Media media) {
+    const bool has_text_frame =
+        field == Field::title || field == Field::artist || field == Field::album || field == Field::genre;
+    const bool read_otherwise = std::any_of(values.begin(), values.end(), [&](const std::string& value) {
+        return field == Field::genre && genres_of(value) != std::vector<std::string>{value};
+    });
+    if (!has_text_frame || read_otherwise) {
+        return;
+    }
+    std::string text;
+    for (const std::string& value : values) {
+        text += (text.empty() ? "" : std::string(1, '\0')) + value;
+    }
+    replace_frames(tag, field, media,
+                   tag.frame(id_of(kind_for(field), tag.version()), text_content(text, tag.version())));
+}
+
 void id3v2_apply(Id3v2Tag& tag, const TagEdits& edits, Media media) {
     tag.refuse_damaged();
     const TagValues old = id3v2_values(tag, media);

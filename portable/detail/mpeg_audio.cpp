@@ -6,6 +6,7 @@
 #include "in_place_tag.h"
 #include "save_edits.h"
 #include "several_tags.h"
+#include "text.h"
 
 #include "portable/reason.h"
 
@@ -275,6 +276,12 @@ void MpegAudioFile::refuse_strange_tags() const {
 Id3v2Tag MpegAudioFile::new_front(const TagEdits& edits) const {
     Id3v2Tag front = front_.value_or(Id3v2Tag());
     id3v2_apply(front, edits, media_);
+    for (std::size_t i = 0; !front_ && ape_ && i < text_field_count; ++i) {
+        const std::vector<std::string> values = ape_->texts(static_cast<Field>(i), media_);
+        if (values.size() > 1 && edits.texts[i].value() == joined(values)) {
+            id3v2_part_values(front, static_cast<Field>(i), values, media_);
+        }
+    }
     if (appended_) {
         for (Id3v2Frame& frame : appended_->other_frames(media_)) {
             front.frames().push_back(std::move(frame));

@@ -155,6 +155,52 @@ TEST(Mp3Tags, MoreItemsThanAnyApeTagHasAreRefused) {
               refusal_of([&] { static_cast<void>(values_in(std::string(100, 'x') + items + end, "mp3")); }));
 }
 
+/** An item of an APE tag. */
+std::string ape_item(const std::string& key, const std::string& value) {
+    return le32(value.size()) + le32(0) + key + '\0' + value;
+}
+
+/** An APE tag, of version 2 and without a header. */
+std::string ape_tag(const std::vector<std::string>& items) {
+    std::string content;
+    for (const std::string& item : items) {
+        content += item;
+    }
+    return content + "APETAGEX" + le32(2000) + le32(content.size() + 32) + le32(items.size()) +
+           std::string(12, '\0');
+}
+
+TEST(Mp3Tags, SeveralValuesOfAnApeTagStaySeveralInTheFirstTagInFront) {
+    const std::string two = std::string("Ann") + '\0' + "Bo";
+    const std::string genres = std::string("Rock") + '\0' + "Pop";
+    const std::string ape =
+        ape_tag({ape_item("Artist", two), ape_item("Genre", genres), ape_item("Album", "Sea")});
+    const std::string content = frame("TIT2", "\x03X") + frame("TPE1", hex("03 416E6E 00 426F")) + // Ann, Bo
+                                frame("TALB", "\x03Sea") +
+                                frame("TCON", hex("03 526F636B 00 506F70")); // Rock, Pop
+    const std::string made = edited(frames + ape, "mp3", set_text(Field::title, "X"));
+    EXPECT_EQ(to_hex(tag(4, content + std::string(1024, '\0')) + frames + ape), to_hex(made));
+    EXPECT_EQ("Ann; Bo", values_in(made, "mp3").text(Field::artist));
+}
+
+TEST(Mp3Tags, SeveralValuesOfAnApeTagThatAreSetBecomeOne) {
+    const std::string two = std::string("Ann") + '\0' + "Bo";
+    const std::string made =
+        edited(frames + ape_tag({ape_item("Artist", two)}), "mp3", set_text(Field::artist, "Cy"));
+    EXPECT_EQ(to_hex(tag(4, frame("TPE1", "\x03"
+                                          "Cy") +
+                                std::string(1024, '\0')) +
+                     frames + ape_tag({ape_item("Artist", "Cy")})),
+              to_hex(made));
+}
+
+TEST(Mp3Tags, GenresOfAnApeTagThatWouldBeNumbersElsewhereAreOneText) {
+    const std::string genres = std::string("17") + '\0' + "Pop";
+    const std::string made =
+        edited(frames + ape_tag({ape_item("Genre", genres)}), "mp3", set_text(Field::title, "X"));
+    EXPECT_EQ("17; Pop", values_in(made, "mp3").text(Field::genre));
+}
+
 TEST(Mp3Tags, WhatHoldsAnotherFormatIsNotTouched) {
     const std::string film = hex("00000018") + "ftypisom" + pattern(100);
     EXPECT_THAT(
