@@ -87,6 +87,9 @@ void Alert::addButton(const QString& title, const QKeySequence& keyEquivalent) {
         box_->setDefaultButton(button);
     } else if (isEscape) {
         box_->setEscapeButton(button);
+        if (!box_->defaultButton()) {
+            box_->setDefaultButton(button);
+        }
     } else {
         button->setShortcut(keyEquivalent); // after the text, which would drop it
     }

@@ -32,7 +32,8 @@ public:
     void setMessageText(const QString& text);
     void setInformativeText(const QString& text);
     /** Return makes the button the default one, Escape the one that dismissing the sheet stands for, by that
-       key or by closing its window; any other key is its shortcut. */
+       key or by closing its window, and the default one where no other is; any other key is its
+       shortcut. */
     void addButton(const QString& title, const QKeySequence& keyEquivalent);
 
     /** Shows the sheet and returns at once; DID_END gets the code of the button. */

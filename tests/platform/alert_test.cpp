@@ -74,6 +74,14 @@ TEST_F(AlertTest, EscapeIsTheCancelButton) {
     EXPECT_EQ(1001, code_);
 }
 
+TEST_F(AlertTest, ReturnIsTheCancelButtonWhereItIsNoOther) {
+    alert_.addButton(QStringLiteral("Delete"), Qt::CTRL | Qt::Key_D);
+    alert_.addButton(QStringLiteral("Cancel"), Qt::Key_Escape);
+    alert_.beginSheetModalForWindow(&window_, [this](int code) { code_ = code; });
+    QTest::keyClick(&box(), Qt::Key_Return);
+    EXPECT_EQ(1001, code_);
+}
+
 TEST_F(AlertTest, ClosingTheSheetIsTheCancelButton) {
     ask();
     box().close();
