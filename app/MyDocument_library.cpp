@@ -66,6 +66,8 @@ bool MyDocument::closeFileForLibrary() {
 
 bool MyDocument::mayWriteFiles(const QStringList& paths) {
     if (saveRun_.isRunning()) {
+        library_->showMessage(
+            localised("A file is still being saved in the main window. Try again when that is done."));
         return false;
     }
     if (!isDocumentEdited() || !paths.contains(openPath())) {

@@ -19,6 +19,7 @@ namespace {
 
 /** The panel looks at all selected files, which may be many. */
 constexpr std::chrono::milliseconds panelPause{50};
+constexpr int messageMilliseconds = 6000;
 
 } // namespace
 
@@ -174,6 +175,10 @@ void LibraryWindow::revert() {
         files = model_.rows().editedRows();
     }
     model_.revertEdits(files);
+}
+
+void LibraryWindow::showMessage(const QString& text) {
+    statusBar()->showMessage(text, messageMilliseconds);
 }
 
 void LibraryWindow::showStatus() {

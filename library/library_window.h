@@ -6,7 +6,9 @@
 #include "edit_panel.h"
 #include "library_model.h"
 #include "library_view.h"
+#include "table_export.h"
 
+#include "platform/alert.h"
 #include "platform/document_window.h"
 
 #include <QLabel>
@@ -40,6 +42,8 @@ public:
     void setMayWrite(std::function<bool(const QStringList& paths)> mayWrite) {
         mayWrite_ = std::move(mayWrite);
     }
+    /** Says TEXT for some seconds at the window's foot. */
+    void showMessage(const QString& text);
     /** What is being typed, in the panel or in a cell, becomes an edit now. */
     void takeTyped();
     /** Whether there are edits that are in no file. */
@@ -64,8 +68,9 @@ public:
        into all selected rows. */
     void paste();
     /** Writes the rows shown and the columns shown into the file at PATH, as its extension says: JSON or else
-       CSV. False where that failed; there is no such file then, or the old one. */
-    [[nodiscard]] bool exportTo(const QString& path);
+       CSV. Empty, or why that failed, in the user's language and without a full stop; there is no such file
+       then, or the old one. */
+    [[nodiscard]] QString exportTo(const QString& path);
 
 signals:
     /** Files were written. */
@@ -107,11 +112,13 @@ private:
     void copyRows() { copy(false); }
     void copyColumn() { copy(true); }
     void exportTable();
+    [[nodiscard]] ExportTable tableToExport() const;
     void exportAndTell(const QString& path);
     void openSelected();
     void showInFolder();
     void copyPaths();
     void removeSelected();
+    void removeFromList(const QStringList& paths);
     void showColumnMenu(const QPoint& position);
     [[nodiscard]] QStringList selectedPaths() const;
 
@@ -130,6 +137,7 @@ private:
     QTimer filterTimer_;
 
     std::function<bool(const QStringList& paths)> mayWrite_;
+    std::unique_ptr<Alert> question_;
     std::unique_ptr<ApplyDialog> dialog_;
     portable::KeptBytes kept_;   ///< for the undo; used by the worker while it runs
     std::vector<UndoStep> undo_; ///< the last apply is the last one

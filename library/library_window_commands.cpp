@@ -3,25 +3,26 @@
 #include "library_window.h"
 
 #include "cell_block.h"
-#include "table_export.h"
 
-#include "platform/alert.h"
+#include "model/new_file_obstacle.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
+#include "platform/sentences.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QSaveFile>
-#include <QStatusBar>
+
+#include <algorithm>
+#include <cerrno>
 
 namespace velmora {
 
 namespace {
-
-constexpr int messageMilliseconds = 6000;
 
 ExportColumn exportColumn(LibraryColumn column) {
     return {columnKey(column), columnTitle(column)};
@@ -113,29 +114,37 @@ void LibraryWindow::paste() {
     }
     model_.setEdits(all);
     if (refused > 0) {
-        statusBar()->showMessage(localised("Cells that can't take what was pasted: %@",
-                                           QLocale().toString(static_cast<qulonglong>(refused))),
-                                 messageMilliseconds);
+        showMessage(localised("Cells that can't take what was pasted: %@",
+                              QLocale().toString(static_cast<qulonglong>(refused))));
     }
 }
 
-bool LibraryWindow::exportTo(const QString& path) {
+ExportTable LibraryWindow::tableToExport() const {
     const QList<LibraryColumn> columns = view_->shownColumns();
     ExportTable table;
     for (const LibraryColumn column : columns) {
         table.columns.push_back(exportColumn(column));
     }
     table.rows = model_.rowCount();
-    table.cell = [&](int row, int column) {
+    table.cell = [this, columns](int row, int column) {
         const int file = model_.fileAt(row);
         return exportValue(model_.rows().at(file), model_.rows().edits(file), columns[column]);
     };
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return false;
-    }
+    return table;
+}
+
+QString LibraryWindow::exportTo(const QString& path) {
+    QBuffer contents;
+    contents.open(QIODevice::WriteOnly);
     const bool json = path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
-    return (json ? exportJson(table, file) : exportCsv(table, file)) && file.commit();
+    static_cast<void>(json ? exportJson(tableToExport(), contents) : exportCsv(tableToExport(), contents));
+    QSaveFile file(path);
+    errno = 0;
+    const bool written = file.open(QIODevice::WriteOnly) &&
+                         file.write(contents.data()) == contents.data().size() && file.flush() &&
+                         file.commit();
+    // A folder of that name is refused without a call of the system.
+    return written ? QString() : newFileObstacle(errno != 0 ? errno : EISDIR, path);
 }
 
 /** Asks where to. The chosen kind gives the name its extension, before the panel asks about a file that has
@@ -155,13 +164,14 @@ void LibraryWindow::exportTable() {
 }
 
 void LibraryWindow::exportAndTell(const QString& path) {
-    if (!exportTo(path)) {
-        presentErrorSheet({NSMachErrorDomain,
-                           0,
-                           {{NSLocalizedDescriptionKey, localised("The table could not be exported.")},
-                            {NSLocalizedRecoverySuggestionErrorKey,
-                             localised("\"%@\" can't be written.", lastPathComponent(path))}}},
-                          this);
+    if (const QString reason = exportTo(path); !reason.isEmpty()) {
+        const QString what = localised("\"%@\" can't be written.", lastPathComponent(path));
+        presentErrorSheet(
+            {NSMachErrorDomain,
+             0,
+             {{NSLocalizedDescriptionKey, localised("The table could not be exported.")},
+              {NSLocalizedRecoverySuggestionErrorKey, joinedSentences({what, asSentence(reason)})}}},
+            this);
     }
 }
 
@@ -186,8 +196,31 @@ void LibraryWindow::copyPaths() {
     }
 }
 
+/** Edits go with their rows, and nothing brings them back. */
 void LibraryWindow::removeSelected() {
+    takeTyped();
+    const std::vector<int> files = view_->selectedFiles();
     const QStringList paths = selectedPaths();
+    const auto edited = std::count_if(files.begin(), files.end(),
+                                      [this](int file) { return model_.rows().edits(file) != nullptr; });
+    if (edited == 0) {
+        removeFromList(paths);
+        return;
+    }
+    question_ = std::make_unique<Alert>();
+    question_->setMessageText(localised("Do you want to remove files with edits that are not applied?"));
+    question_->setInformativeText(
+        localised("The edits of %Ln file(s) will be lost.", static_cast<int>(edited)));
+    question_->addButton(localised("Remove"), Qt::CTRL | Qt::Key_D);
+    question_->addButton(localised("Cancel"), Qt::Key_Escape);
+    question_->beginSheetModalForWindow(this, [this, paths](int answer) {
+        if (answer == Alert::firstButtonReturn) {
+            removeFromList(paths);
+        }
+    });
+}
+
+void LibraryWindow::removeFromList(const QStringList& paths) {
     if (!paths.isEmpty()) {
         emit removeRequested(paths);
     }

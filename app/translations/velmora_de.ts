@@ -1295,6 +1295,25 @@
         <translation>Die ausgewählten Zeilen mit den angezeigten Spalten für eine Tabellenkalkulation kopieren</translation>
     </message>
     <message>
+        <source>Do you want to remove files with edits that are not applied?</source>
+        <translation>Möchten Sie Dateien entfernen, deren Änderungen nicht angewendet sind?</translation>
+    </message>
+    <message numerus="yes">
+        <source>The edits of %Ln file(s) will be lost.</source>
+        <translation>
+            <numerusform>Die Änderungen an %Ln Datei gehen verloren.</numerusform>
+            <numerusform>Die Änderungen an %Ln Dateien gehen verloren.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>A file is still being saved in the main window. Try again when that is done.</source>
+        <translation>Im Hauptfenster wird noch eine Datei gespeichert. Versuchen Sie es danach noch einmal.</translation>
+    </message>
+    <message>
         <source>Drop Them</source>
         <translation>Verwerfen</translation>
     </message>

@@ -10,5 +10,12 @@
             <numerusform>%Ln files</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>The edits of %Ln file(s) will be lost.</source>
+        <translation>
+            <numerusform>The edits of %Ln file will be lost.</numerusform>
+            <numerusform>The edits of %Ln files will be lost.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

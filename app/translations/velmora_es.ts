@@ -1299,6 +1299,25 @@
         <translation>Copiar las filas seleccionadas con las columnas mostradas, para una hoja de cálculo</translation>
     </message>
     <message>
+        <source>Do you want to remove files with edits that are not applied?</source>
+        <translation>¿Desea quitar archivos con cambios sin aplicar?</translation>
+    </message>
+    <message numerus="yes">
+        <source>The edits of %Ln file(s) will be lost.</source>
+        <translation>
+            <numerusform>Se perderán los cambios de %Ln archivo.</numerusform>
+            <numerusform>Se perderán los cambios de %Ln archivos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>A file is still being saved in the main window. Try again when that is done.</source>
+        <translation>La ventana principal todavía está guardando un archivo. Vuelva a intentarlo cuando termine.</translation>
+    </message>
+    <message>
         <source>Drop Them</source>
         <translation>Descartarlos</translation>
     </message>

@@ -1299,6 +1299,25 @@
         <translation>Copier les lignes sélectionnées avec les colonnes affichées, pour un tableur</translation>
     </message>
     <message>
+        <source>Do you want to remove files with edits that are not applied?</source>
+        <translation>Voulez-vous retirer des fichiers dont les modifications ne sont pas appliquées ?</translation>
+    </message>
+    <message numerus="yes">
+        <source>The edits of %Ln file(s) will be lost.</source>
+        <translation>
+            <numerusform>Les modifications de %Ln fichier seront perdues.</numerusform>
+            <numerusform>Les modifications de %Ln fichiers seront perdues.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>A file is still being saved in the main window. Try again when that is done.</source>
+        <translation>La fenêtre principale enregistre encore un fichier. Réessayez quand elle aura terminé.</translation>
+    </message>
+    <message>
         <source>Drop Them</source>
         <translation>Les abandonner</translation>
     </message>

@@ -1299,6 +1299,25 @@
         <translation>Copia le righe selezionate con le colonne mostrate, per un foglio di calcolo</translation>
     </message>
     <message>
+        <source>Do you want to remove files with edits that are not applied?</source>
+        <translation>Rimuovere file con modifiche non ancora applicate?</translation>
+    </message>
+    <message numerus="yes">
+        <source>The edits of %Ln file(s) will be lost.</source>
+        <translation>
+            <numerusform>Le modifiche di %Ln file andranno perse.</numerusform>
+            <numerusform>Le modifiche di %Ln file andranno perse.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>A file is still being saved in the main window. Try again when that is done.</source>
+        <translation>La finestra principale sta ancora salvando un file. Riprova quando ha finito.</translation>
+    </message>
+    <message>
         <source>Drop Them</source>
         <translation>Scartale</translation>
     </message>

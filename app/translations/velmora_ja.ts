@@ -1298,6 +1298,24 @@
         <translation>選択した行を表示中の列とともに表計算用にコピーします</translation>
     </message>
     <message>
+        <source>Do you want to remove files with edits that are not applied?</source>
+        <translation>適用していない編集があるファイルを一覧から外しますか？</translation>
+    </message>
+    <message numerus="yes">
+        <source>The edits of %Ln file(s) will be lost.</source>
+        <translation>
+            <numerusform>%Ln 個のファイルの編集が失われます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>外す</translation>
+    </message>
+    <message>
+        <source>A file is still being saved in the main window. Try again when that is done.</source>
+        <translation>メインウィンドウでファイルを保存しています。終わってからもう一度お試しください。</translation>
+    </message>
+    <message>
         <source>Drop Them</source>
         <translation>破棄</translation>
     </message>

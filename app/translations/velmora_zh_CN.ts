@@ -1298,6 +1298,24 @@
         <translation>复制所选行及显示的列，供电子表格使用</translation>
     </message>
     <message>
+        <source>Do you want to remove files with edits that are not applied?</source>
+        <translation>要移除含有未应用编辑的文件吗？</translation>
+    </message>
+    <message numerus="yes">
+        <source>The edits of %Ln file(s) will be lost.</source>
+        <translation>
+            <numerusform>%Ln 个文件的编辑将会丢失。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>A file is still being saved in the main window. Try again when that is done.</source>
+        <translation>主窗口仍在保存文件。请在完成后重试。</translation>
+    </message>
+    <message>
         <source>Drop Them</source>
         <translation>放弃</translation>
     </message>

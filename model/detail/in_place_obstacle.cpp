@@ -2,6 +2,8 @@
 
 #include "plain_reason.h"
 
+#include "model/new_file_obstacle.h"
+
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 #include "taglib/avi/header_reader.h"
@@ -14,7 +16,6 @@
 #include <fstream>
 #include <optional>
 #include <sys/statvfs.h>
-#include <unistd.h>
 
 namespace velmora {
 
@@ -137,16 +138,14 @@ QString copyObstacle(int error, const QString& target) {
         return localised("A copy needs another name or another folder");
     case ENOENT:
     case ENOTDIR:
-        return fileExists(pathFolder(target)) ? localised("What was to be copied is not there any more")
-                                              : localised("Its folder is not there");
-    case EACCES:
-    case EPERM:
-        return ::access(pathBytes(pathFolder(target)).constData(), W_OK | X_OK) == 0
-                   ? plainReason(error)
-                   : localised("You have no permission to put a new file into its folder");
+        if (fileExists(pathFolder(target))) {
+            return localised("What was to be copied is not there any more");
+        }
+        break;
     default:
-        return plainReason(error);
+        break;
     }
+    return newFileObstacle(error, target);
 }
 
 } // namespace velmora

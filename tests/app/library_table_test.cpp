@@ -13,8 +13,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 
 #include <filesystem>
 
@@ -256,6 +258,30 @@ TEST_F(LibraryTableTest, AnApplyAsksAboutEditsOfTheOpenFileAndCancelWritesNothin
     EXPECT_EQ("Zoe", entry("entry_artist").text());
     EXPECT_EQ(1U, files().rows().editedCount());
     EXPECT_EQ(std::string::npos, test::read_file(folder_ / "a.mp3").find("Rope"));
+}
+
+TEST_F(LibraryTableTest, AnApplyWhileTheMainWindowSavesSaysThatItHasToWait) {
+    openSongs();
+    // A song without a tag gets one in front of it; that takes longer than the moment for which a save is
+    // waited for without an event loop.
+    test::write_file(folder_ / "long.mp3", test::hex("FF FB 90 C4") + std::string(413, '\0'));
+    std::filesystem::resize_file(folder_ / "long.mp3", 300'000'000);
+    ASSERT_TRUE(controller().addMediaFile(path("long.mp3")));
+    settle();
+    ASSERT_TRUE(document().setPortableTags(true));
+    select(2);
+    type("entry_artist", "Zoe");
+    QApplication::setActiveWindow(document().library());
+    edit(1, LibraryColumn::title, "Rope");
+    QString message;
+    QTimer::singleShot(0, document().library(), [&] {
+        document().library()->apply();
+        message = document().library()->statusBar()->currentMessage();
+    });
+    EXPECT_TRUE(document().savePortably(false));
+    EXPECT_EQ("A file is still being saved in the main window. Try again when that is done.", message);
+    EXPECT_FALSE(hasApplied());
+    EXPECT_EQ(1U, files().rows().editedCount());
 }
 
 TEST_F(LibraryTableTest, AnApplyGoesOnWhenTheOpenFilesEditsAreSavedFirst) {

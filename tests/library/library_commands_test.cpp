@@ -15,6 +15,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QStatusBar>
@@ -23,7 +24,9 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <filesystem>
+#include <sys/resource.h>
 
 namespace velmora {
 namespace {
@@ -174,6 +177,80 @@ TEST_F(LibraryCommandsTest, RowsAndColumnsAreCopiedAsTheyAreShown) {
     EXPECT_EQ("Ben\nZoe", QApplication::clipboard()->text().trimmed());
 }
 
+class RemoveCommandTest : public LibraryCommandsTest {
+protected:
+    RemoveCommandTest() {
+        QObject::connect(&window_, &LibraryWindow::removeRequested, &window_,
+                         [this](const QStringList& paths) { removed_ += paths; });
+    }
+    /** Gives the first COUNT files a new album. */
+    void edit(int count) {
+        for (int file = 0; file < count; ++file) {
+            RowEdits edits;
+            edits.text(portable::Field::album) = portable::Edit<std::string>::set("Tides");
+            window_.model().setEdits(file, edits);
+        }
+    }
+    QMessageBox* question() {
+        const auto boxes = window_.findChildren<QMessageBox*>();
+        const auto shown =
+            std::find_if(boxes.begin(), boxes.end(), [](auto* box) { return box->isVisible(); });
+        return shown == boxes.end() ? nullptr : *shown;
+    }
+    void removeAll() {
+        QApplication::setActiveWindow(&window_);
+        selectAll();
+        press(Qt::Key_Backspace, Qt::ControlModifier);
+    }
+    void answer(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QApplication::setActiveWindow(question());
+        press(key, modifiers);
+        EXPECT_TRUE(waitUntil([this] { return question() == nullptr; }));
+    }
+
+    QStringList removed_;
+};
+
+TEST_F(RemoveCommandTest, RowsWithoutEditsGoUnasked) {
+    removeAll();
+    EXPECT_EQ(nullptr, question());
+    EXPECT_EQ(QStringList({path("1.mp3"), path("2.mp3"), path("3.mp3")}), removed_);
+}
+
+TEST_F(RemoveCommandTest, RowsWithEditsGoOnlyWhenTheQuestionSaysSo) {
+    edit(2);
+    removeAll();
+    ASSERT_NE(nullptr, question());
+    EXPECT_EQ("Do you want to remove files with edits that are not applied?", question()->text());
+    EXPECT_EQ("The edits of 2 file(s) will be lost.", question()->informativeText());
+    EXPECT_EQ(QStringList(), removed_);
+    answer(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(3, removed_.size());
+}
+
+/** The key that answers the question. */
+class RemoveRefusalTest : public RemoveCommandTest, public testing::WithParamInterface<Qt::Key> {};
+
+TEST_P(RemoveRefusalTest, KeepsTheRowsAndTheirEdits) {
+    edit(1);
+    removeAll();
+    ASSERT_NE(nullptr, question());
+    EXPECT_EQ("The edits of 1 file(s) will be lost.", question()->informativeText());
+    answer(GetParam());
+    EXPECT_EQ(QStringList(), removed_);
+    EXPECT_EQ(1U, window_.model().rows().editedCount());
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, RemoveRefusalTest, testing::Values(Qt::Key_Escape, Qt::Key_Return));
+
+TEST_F(RemoveCommandTest, EditsOfOtherRowsAreNoReasonToAsk) {
+    edit(1);
+    goTo(2, LibraryColumn::title);
+    press(Qt::Key_Backspace, Qt::ControlModifier);
+    EXPECT_EQ(nullptr, question());
+    EXPECT_EQ(QStringList{path("3.mp3")}, removed_);
+}
+
 class ExportCommandTest : public LibraryCommandsTest {
 protected:
     ExportCommandTest() {
@@ -214,6 +291,41 @@ TEST_F(ExportCommandTest, TheKindGivesTheProposedNameItsExtension) {
     emit panel->filterSelected("JSON (*.json)");
     EXPECT_EQ("library.json", name->text());
     QTest::keyClick(panel, Qt::Key_Escape);
+}
+
+TEST_F(ExportCommandTest, AFailureSaysWhy) {
+    std::filesystem::create_directory(folder_ / "gone");
+    QTest::keyClick(window_.findChild<QFileDialog*>(), Qt::Key_Escape);
+    EXPECT_EQ("Its folder is not there", window_.exportTo(path("nowhere/out.csv")));
+    EXPECT_EQ("Its name is too long", window_.exportTo(path(std::string(300, 'x') + ".csv")));
+    EXPECT_EQ("It is no ordinary file", window_.exportTo(path("gone")));
+}
+
+TEST_F(ExportCommandTest, AFailureOfTheChosenFileIsTold) {
+    auto* const panel = window_.findChild<QFileDialog*>();
+    ASSERT_NE(nullptr, panel);
+    emit panel->fileSelected(path("nowhere/out.csv"));
+    auto* const box = window_.findChild<QMessageBox*>();
+    ASSERT_NE(nullptr, box);
+    EXPECT_EQ("The table could not be exported.", box->text());
+    EXPECT_EQ("\"out.csv\" can't be written. Its folder is not there.", box->informativeText());
+    box->done(0);
+    QTest::keyClick(panel, Qt::Key_Escape);
+}
+
+TEST_F(ExportCommandTest, AWriteThatFailsIsNamedAndTheOldFileStays) {
+    test::write_file(folder_ / "out.csv", "old");
+    QTest::keyClick(window_.findChild<QFileDialog*>(), Qt::Key_Escape);
+    rlimit usual{};
+    ASSERT_EQ(0, getrlimit(RLIMIT_FSIZE, &usual));
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit none{10, usual.rlim_max};
+    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &none));
+    const QString reason = window_.exportTo(path("out.csv"));
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ("It would become too large", reason);
+    EXPECT_EQ("old", test::read_file(folder_ / "out.csv"));
 }
 
 TEST_F(LibraryCommandsTest, AClickWithShiftSortsByAFurtherColumnAndOneMoreTurnsThatOne) {
