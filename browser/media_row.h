@@ -22,7 +22,7 @@ struct coldata {
     QString filename;
     /** In bytes. */
     std::uint64_t rawfilesize = 0;
-    /** The size for people, as sizeText has it. */
+    /** The size as the user reads it, as sizeText has it. */
     QString filesize;
     /** The creation date, as createdText has it. */
     QString created;

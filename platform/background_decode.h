@@ -30,6 +30,9 @@ public:
     void start(const EncodedPicture& picture, const QSize& box);
     /** Ends what was asked for, without a signal. */
     void cancel();
+    /** Waits until nothing is decoded, not even what nobody wants any more; a signal may still be on its way.
+       Called by tests. */
+    void waitForDone() { thread_.waitForDone(); }
 
 signals:
     /** The picture is decoded; a null image when its data is damaged. */

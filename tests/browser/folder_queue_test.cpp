@@ -1,16 +1,29 @@
 #include "browser/folder_queue.h"
 
 #include "support/qt_printing.h"
+#include "support/waiting.h"
 
 #include <QStringList>
 
 #include <gmock/gmock.h>
 
+#include <fstream>
 #include <future>
 #include <thread>
 
+#include <unistd.h>
+
 namespace velmora {
 namespace {
+
+/** Whether the kernel has a thread of this process down as sleeping. */
+bool sleeps(pid_t thread) {
+    std::ifstream status("/proc/self/task/" + std::to_string(thread) + "/stat");
+    std::string line;
+    std::getline(status, line);
+    const std::size_t name = line.rfind(") ");
+    return name != std::string::npos && line[name + 2] == 'S';
+}
 
 class FolderQueueTest : public testing::Test {
 protected:
@@ -87,8 +100,14 @@ TEST_F(FolderQueueTest, DoneWithoutAWorkerReleasesNothing) {
 
 TEST_F(FolderQueueTest, WorkerWaitsForALockThatIsHeld) {
     EXPECT_EQ(std::nullopt, take());
-    std::future<std::optional<QString>> second = std::async(std::launch::async, [this] { return take(); });
-    EXPECT_EQ(std::future_status::timeout, second.wait_for(std::chrono::milliseconds(50)));
+    std::atomic<pid_t> worker = 0;
+    std::future<std::optional<QString>> second = std::async(std::launch::async, [this, &worker] {
+        worker = gettid();
+        return take();
+    });
+    const auto isDone = [&] { return second.wait_for(std::chrono::seconds(0)) == std::future_status::ready; };
+    ASSERT_TRUE(test::waitUntil([&] { return isDone() || (worker != 0 && sleeps(worker)); }));
+    EXPECT_FALSE(isDone());
     queue_.searchDone();
     EXPECT_EQ(std::nullopt, second.get());
 }

@@ -39,6 +39,11 @@ protected:
         return QTest::qWaitFor([&] { return shows(colour); }, 20000);
     }
     [[nodiscard]] BackgroundDecode& decode() const { return *view->findChild<BackgroundDecode*>(); }
+    /** Has everything that is being decoded come to the view, or to nobody. */
+    void finishDecoding() const {
+        decode().waitForDone();
+        QApplication::processEvents();
+    }
 };
 
 TEST_F(LargeCover, IsThereAtOnceAndShownAWhileLater) {
@@ -60,11 +65,11 @@ TEST_F(LargeCover, GivesWayToANewerOne) {
     EXPECT_TRUE(comesToShow(Qt::green));
     view->setCover(cover(Qt::red));
     view->setImage(plain(Qt::blue, QSize(600, 400)));
-    QTest::qWait(300);
+    finishDecoding();
     EXPECT_TRUE(shows(Qt::blue));
     view->setCover(cover(Qt::red));
     view->setCover({});
-    QTest::qWait(300);
+    finishDecoding();
     EXPECT_FALSE(shows(Qt::red));
 }
 
@@ -75,7 +80,7 @@ TEST_F(LargeCover, ThatTakesTooLongIsSaidToBeTooLargeAndStays) {
     view->setCover(large);
     const QImage before = picture();
     ASSERT_TRUE(QTest::qWaitFor([&] { return tooLarge.count() == 1; }, 20000));
-    QTest::qWait(300);
+    finishDecoding();
     EXPECT_FALSE(shows(Qt::red));
     EXPECT_NE(before, picture()) << "the view says so";
     EXPECT_EQ(view->cover().get(), large.get());
@@ -87,8 +92,8 @@ TEST_F(LargeCover, ThatTakesTooLongIsSaidToBeTooLargeAndStays) {
 
 TEST_F(LargeCover, WhoseViewGoesAwayIsForgotten) {
     view->setCover(cover(Qt::red));
-    delete view;
-    QTest::qWait(50);
+    delete view; // which waits for the decoder
+    QApplication::processEvents();
 }
 
 TEST_F(LargeCover, IsCopiedAsItCame) {
@@ -105,8 +110,10 @@ TEST_F(LargeCover, IsCopiedAsItCame) {
 TEST_F(LargeCover, ThatIsDamagedBehindItsTopShowsNothingAndCrashesNothing) {
     QByteArray bytes = encoded(Qt::red, "png");
     bytes.truncate(bytes.size() / 2);
+    QSignalSpy decoded(&decode(), &BackgroundDecode::finished);
     view->setCover(ImageRef::fromBytes(bytes));
-    QTest::qWait(300);
+    finishDecoding();
+    EXPECT_EQ(1, decoded.count());
     EXPECT_TRUE(image_to_jpeg(view->cover().get()).empty());
     EXPECT_FALSE(shows(Qt::red));
 }
