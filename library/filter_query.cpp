@@ -1,6 +1,6 @@
 #include "filter_query.h"
 
-#include "folded_text.h"
+#include "detail/folded_text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "filter_text.h"
 
-#include "folded_text.h"
+#include "detail/folded_text.h"
 
 #include <algorithm>
 #include <limits>

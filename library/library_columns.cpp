@@ -1,6 +1,6 @@
 #include "library_columns.h"
 
-#include "file_name.h"
+#include "detail/file_name.h"
 
 #include "browser/media_row.h"
 #include "platform/file_path.h"

@@ -2,7 +2,7 @@
 
 #include "library_model.h"
 
-#include "background_thread.h"
+#include "detail/background_thread.h"
 
 #include <QDeadlineTimer>
 #include <QLocale>

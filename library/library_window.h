@@ -6,7 +6,6 @@
 #include "edit_panel.h"
 #include "library_model.h"
 #include "library_view.h"
-#include "table_export.h"
 
 #include "platform/alert.h"
 #include "platform/document_window.h"
@@ -16,6 +15,8 @@
 #include <QPushButton>
 
 namespace velmora {
+
+struct ExportTable;
 
 /** A file that was written, and where it was and is. */
 struct WrittenFile {

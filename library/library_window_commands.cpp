@@ -2,7 +2,8 @@
 
 #include "library_window.h"
 
-#include "cell_block.h"
+#include "detail/cell_block.h"
+#include "detail/table_export.h"
 
 #include "model/new_file_obstacle.h"
 #include "platform/file_path.h"

@@ -2,7 +2,7 @@
 
 #include "library_window.h"
 
-#include "names_commands.h"
+#include "detail/names_commands.h"
 
 #include "platform/localisation.h"
 

@@ -1,6 +1,6 @@
 #include "rename_files.h"
 
-#include "rename_step.h"
+#include "detail/rename_step.h"
 
 #include <QHash>
 

@@ -1,6 +1,6 @@
 #include "tag_reader.h"
 
-#include "background_thread.h"
+#include "detail/background_thread.h"
 #include "library_columns.h"
 
 #include "model/portable_reason.h"

@@ -7,8 +7,8 @@
 #include "window_inspection.h"
 
 #include "library/apply_dialog.h"
+#include "library/detail/names_dialog.h"
 #include "library/library_window.h"
-#include "library/names_dialog.h"
 #include "support/pictures.h"
 
 #include <QAction>

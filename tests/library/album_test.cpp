@@ -2,8 +2,8 @@
 
 #include "tagged_songs.h"
 
+#include "library/detail/names_dialog.h"
 #include "library/library_window.h"
-#include "library/names_dialog.h"
 #include "support/command.h"
 #include "support/pictures.h"
 #include "support/waiting.h"

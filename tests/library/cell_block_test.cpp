@@ -1,4 +1,4 @@
-#include "library/cell_block.h"
+#include "library/detail/cell_block.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "library/file_name.h"
+#include "library/detail/file_name.h"
 
 #include "platform/file_path.h"
 

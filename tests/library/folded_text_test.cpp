@@ -1,4 +1,4 @@
-#include "library/folded_text.h"
+#include "library/detail/folded_text.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "library/name_pattern.h"
+#include "library/detail/name_pattern.h"
 
 #include "platform/file_path.h"
 

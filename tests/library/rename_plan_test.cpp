@@ -1,4 +1,4 @@
-#include "library/rename_plan.h"
+#include "library/detail/rename_plan.h"
 
 #include "platform/file_path.h"
 #include "support/scratch_folder.h"

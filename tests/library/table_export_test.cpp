@@ -1,4 +1,4 @@
-#include "library/table_export.h"
+#include "library/detail/table_export.h"
 
 #include "platform/file_path.h"
 

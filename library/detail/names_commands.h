@@ -1,9 +1,10 @@
 #pragma once
 
-#include "library_model.h"
-#include "library_view.h"
 #include "name_pattern.h"
-#include "rename_files.h"
+
+#include "library/library_model.h"
+#include "library/library_view.h"
+#include "library/rename_files.h"
 
 #include <QMenu>
 #include <QPointer>

@@ -1,8 +1,8 @@
 #include "names_preview.h"
 
-#include "library_columns.h"
 #include "rename_plan.h"
 
+#include "library/library_columns.h"
 #include "platform/file_path.h"
 #include "platform/localisation.h"
 

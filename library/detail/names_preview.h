@@ -1,8 +1,9 @@
 #pragma once
 
-#include "library_row.h"
 #include "name_pattern.h"
-#include "rename_files.h"
+
+#include "library/library_row.h"
+#include "library/rename_files.h"
 
 #include <QString>
 #include <QStringList>

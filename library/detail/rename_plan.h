@@ -1,7 +1,8 @@
 #pragma once
 
 #include "name_pattern.h"
-#include "rename_files.h"
+
+#include "library/rename_files.h"
 
 #include <QByteArray>
 #include <QString>
