@@ -1,8 +1,9 @@
 # A virtual display with the program on it, for scripts that work it with mouse and keyboard. Sourced, after
 # build= is set to the build folder; with accessible=yes, controls can be found by their names. Gives: work
-# (a folder that goes at the end), HOME inside it, start_program, wait_for_log, screenshot, cut_out,
-# point_at, window_named, focus, wait_for_no_window, quit_program. A script that fails leaves a picture of the
-# display in the folder "screenshots" of the build folder.
+# (a folder that goes at the end), HOME inside it, start_program, wait_for_log, screenshot,
+# cut_out, point_at, window_named, focus, wait_for_no_window, start_drag_source, take_from, glide,
+# quit_program. A script that fails leaves a picture of the display in the folder "screenshots" of the build
+# folder.
 
 if [ -z "${VELMORA_DISPLAY_READY:-}" ]; then
   export VELMORA_DISPLAY_READY=1 VELMORA_WORK
@@ -105,6 +106,33 @@ point_at() {
 
 # Gives "X Y", the middle of the control with one of these accessible names.
 find_control() { "$(dirname "${BASH_SOURCE[0]}")/find-control" "$@"; }
+
+# glide X Y: moves the mouse there as a hand does.
+glide() {
+  local X Y step
+  eval "$(xdotool getmouselocation --shell | grep -E '^[XY]=')"
+  for step in $(seq 20); do
+    xdotool mousemove $((X + ($1 - X) * step / 20)) $((Y + ($2 - Y) * step / 20))
+    sleep 0.02
+  done
+  sleep 0.3
+}
+
+# start_drag_source PATH...: another program, from whose window these files can be dragged. The window, whose
+# number "drag_source" has then, stands beside the program's.
+start_drag_source() {
+  "$build/tests/imaging/drag_source" "$@" &
+  helpers+=($!)
+  drag_source=$(timeout 30 xdotool search --sync --onlyvisible --class drag_source | head -n 1)
+  timeout 30 xdotool windowmove --sync "$drag_source" 1300 0
+}
+
+# take_from WINDOW: presses the mouse button in the middle of the window, and keeps it down.
+take_from() {
+  local X Y WIDTH HEIGHT
+  eval "$(xdotool getwindowgeometry --shell "$1" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
+  xdotool mousemove $((X + WIDTH / 2)) $((Y + HEIGHT / 2)) mousedown 1
+}
 
 # Leaves a picture of the display in a file.
 screenshot() {
