@@ -1,6 +1,6 @@
 # A virtual display with the program on it, for scripts that work it with mouse and keyboard. Sourced, after
 # build= is set to the build folder; with accessible=yes, controls can be found by their names. Gives: work
-# (a folder that goes at the end), HOME inside it, start_program, wait_for_log, screenshot,
+# (a folder that goes at the end), HOME inside it, start_program, wait_until, wait_for_log, screenshot,
 # cut_out, point_at, window_named, focus, wait_for_no_window, start_drag_source, take_from, glide,
 # quit_program. A script that fails leaves a picture of the display in the folder "screenshots" of the build
 # folder.
@@ -33,6 +33,17 @@ trap finish EXIT
 
 export HOME=$work/home XDG_RUNTIME_DIR=$work/runtime QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 NO_AT_BRIDGE=1
 mkdir -p "$HOME" -m 700 "$XDG_RUNTIME_DIR"
+
+# wait_until COMPLAINT COMMAND...: waits until the command succeeds, or complains and fails after a while.
+wait_until() {
+  local tries
+  for tries in $(seq 300); do
+    "${@:2}" && return
+    sleep 0.1
+  done
+  echo "$1" >&2
+  return 1
+}
 
 # Waits until a line of the program's log matches, or fails after a while.
 wait_for_log() {
