@@ -69,8 +69,8 @@ void MyDocument::windowControllerDidLoadNib() {
     termination_.setDelegate(this);
 }
 
-/** The page gets its share of the window once there is a page to see, and gives it back when there is none.
- */
+/** The page gets its share of the window once there is a page to see, and gives it back when
+   there is none. */
 void MyDocument::makeRoomForWebPage(bool shown) {
     showsPage_ = shown;
     if (!shown) {

@@ -44,8 +44,8 @@ QUrl makePage(const QTemporaryDir& folder) {
     return page.flush() ? QUrl::fromLocalFile(path) : QUrl();
 }
 
-/** Runs START, which calls the function that it gets when its work is done. False when that takes too long.
- */
+/** Runs START, which calls the function that it gets when its work is done. False when that
+   takes too long. */
 bool wait(const std::function<void(std::function<void(bool)>)>& start) {
     QEventLoop loop;
     bool good = false;

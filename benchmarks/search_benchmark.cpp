@@ -4,8 +4,7 @@
    multiple of what it is measured against, and as ok or TOO SLOW. A listing works in two threads at once, so
    the clock is what it is judged by; processor time is there for a machine that has other things to do. The
    measures take turns; each cost is the median. Ends with 1 when anything is too slow. Start it with the
-   offscreen platform on a machine without a display.
- */
+   offscreen platform on a machine without a display. */
 
 #include "browser/folder_walk.h"
 #include "browser/media_search.h"

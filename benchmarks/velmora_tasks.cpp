@@ -37,7 +37,7 @@ bool read(Format format, const char* path) {
     _file_info_t info{};
     const bool loaded = load(format, path, &info) != 0;
     // A film has its name in the first slot, a song in the third.
-    const bool titled = info.title != nullptr || info.desc != nullptr;
+    const bool titled = info.title || info.desc;
     id3_free_file_info(&info);
     return loaded && titled;
 }

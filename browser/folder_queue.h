@@ -25,8 +25,8 @@ public:
        nothing and the lock stays held, until searchDone. */
     [[nodiscard]] std::optional<QString> takeFirstOrHold(const std::atomic<bool>& running);
 
-    /** Main thread: releases the lock that a worker's takeFirstOrHold left held. Does nothing when none did.
-     */
+    /** Main thread: releases the lock that a worker's takeFirstOrHold left held. Does nothing
+       when none did. */
     void searchDone();
 
     /** Whether a worker has looked for the last time, and the lock waits for searchDone. Any thread. */

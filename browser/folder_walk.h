@@ -15,12 +15,12 @@ using ExtensionList = std::span<const std::string_view>;
 /** The extensions of the folders that a search does not enter: bundles, which only look like folders. */
 [[nodiscard]] ExtensionList dirExtBlacklist();
 
-/** Whether CANDIDATE is in LIST, found by halving. On a list that is not in order the answer means nothing.
- */
+/** Whether CANDIDATE is in LIST, found by halving. On a list that is not in order the answer
+   means nothing. */
 [[nodiscard]] bool NSArray_binary_search_string(ExtensionList list, std::string_view candidate);
 
-/** Whom a walk tells of what it meets, on the thread that walks. Paths are bytes as the file system has them.
- */
+/** Whom a walk tells of what it meets, on the thread that walks. Paths are bytes as the file
+   system has them. */
 class FolderWalkListener {
 public:
     virtual ~FolderWalkListener() = default;

@@ -189,7 +189,7 @@ void NoticeBar::announce() {
 }
 
 bool NoticeBar::hasKeyboard() const {
-    return row_ != nullptr && row_->isAncestorOf(QApplication::focusWidget());
+    return row_ && row_->isAncestorOf(QApplication::focusWidget());
 }
 
 void NoticeBar::keyPressEvent(QKeyEvent* event) {

@@ -25,8 +25,8 @@ public:
     void remove(std::size_t index);
     /** Puts ROW into the place of the one at INDEX, which is less than count(). */
     void replace(std::size_t index, ColdataPointer row);
-    /** Puts the rows in order; those that compare equal stay as they are. ISBEFORE is a strict weak ordering.
-     */
+    /** Puts the rows in order; those that compare equal stay as they are. ISBEFORE is a strict
+       weak ordering. */
     void stableSort(const std::function<bool(const coldata&, const coldata&)>& isBefore);
 
 private:

@@ -12,8 +12,7 @@ namespace velmora {
 namespace {
 
 /** A message box whose buttons are pressed by their shortcuts with the modifier only. The plain box takes the
-   letter alone for the shortcut, which may come from a user who was still typing when the question came.
- */
+   letter alone for the shortcut, which may come from a user who was still typing when the question came. */
 class SheetBox : public QMessageBox {
 public:
     using QMessageBox::QMessageBox;

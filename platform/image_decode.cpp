@@ -117,8 +117,8 @@ QImage readTowards(const QSize& size, const QByteArray& bytes, const PictureHead
     return withWholePalette(reader.read());
 }
 
-/** PIXELS at SIZE. Thinned out first: smoothing every pixel of a large picture takes longer than decoding it.
- */
+/** PIXELS at SIZE. Thinned out first: smoothing every pixel of a large picture takes longer
+   than decoding it. */
 QImage thinnedOut(const QImage& pixels, const QSize& size) {
     constexpr int oversampling = 2;
     const QSize enough = size * oversampling;

@@ -16,8 +16,8 @@ constexpr double contrastOfSigns = 3.05; // 3, and what rounding to 8 bits may t
 constexpr int steps = 32;
 constexpr qreal cornerRadius = 2;
 
-/** How light COLOUR is to the eye, from 0 to 1: the relative luminance of the web's accessibility guidelines.
- */
+/** How light COLOUR is to the eye, from 0 to 1: the relative luminance of the web's
+   accessibility guidelines. */
 double luminance(const QColor& colour) {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);

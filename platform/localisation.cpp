@@ -11,8 +11,8 @@ namespace velmora {
 
 namespace {
 
-/** Installs the table NAME for LOCALE from FOLDER. Gives the language of what there was; empty for nothing.
- */
+/** Installs the table NAME for LOCALE from FOLDER. Gives the language of what there was;
+   empty for nothing. */
 QString installTable(const QLocale& locale, const QString& name, const QString& folder) {
     auto translator = std::make_unique<QTranslator>();
     if (!translator->load(locale, name, QStringLiteral("_"), folder)) {

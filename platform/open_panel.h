@@ -21,8 +21,8 @@ struct OpenPanel {
 inline constexpr int openPanelCancelled = 0;
 inline constexpr int openPanelOk = 1;
 
-/** Shows PANEL as a sheet on WINDOW and returns at once. DID_END gets the return code and the chosen paths.
- */
+/** Shows PANEL as a sheet on WINDOW and returns at once. DID_END gets the return code and
+   the chosen paths. */
 void beginOpenPanelSheet(const OpenPanel& panel, QWidget* window,
                          std::function<void(int returnCode, const QStringList& paths)> didEnd);
 

@@ -7,8 +7,7 @@
 namespace velmora::portable {
 
 /** What saves took out of files, kept so that it can be put back: in a temporary file without a name, in
-   $TMPDIR or else /var/tmp, which goes with the object and with the process. Used by one thread at a time.
-   */
+   $TMPDIR or else /var/tmp, which goes with the object and with the process. Used by one thread at a time. */
 class KeptBytes {
 public:
     KeptBytes() = default;

@@ -61,7 +61,7 @@ FormFill::FormFill(std::shared_ptr<const DomDocument> document, int type, ImageF
 
 std::unique_ptr<FormFill> FormFill::initWithWebFrame(WebFrame& frame, int type, ImageFetch fetch) {
     std::shared_ptr<const DomDocument> document = frame.domDocument();
-    if (document == nullptr) {
+    if (!document) {
         return nullptr;
     }
     ImageFetch allowed = withoutLocalFiles(document->url, std::move(fetch));
@@ -69,9 +69,9 @@ std::unique_ptr<FormFill> FormFill::initWithWebFrame(WebFrame& frame, int type, 
 }
 
 const FormFillInfo* FormFill::formFillInfo() {
-    if (info == nullptr && formType == siteImdb) {
+    if (!info && formType == siteImdb) {
         parseImdb();
-    } else if (info == nullptr && formType == siteAmazon) {
+    } else if (!info && formType == siteAmazon) {
         parseAmazon();
     }
     return info.get();

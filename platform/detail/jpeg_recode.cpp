@@ -64,8 +64,8 @@ void takeLastBlock(j_compress_ptr library) {
                            static_cast<qsizetype>(collector.block.size() - collector.manager.free_in_buffer));
 }
 
-/** What both functions work on, made before the place that errors come back to, so that they find it whole.
- */
+/** What both functions work on, made before the place that errors come back to, so that they
+   find it whole. */
 struct Work {
     ErrorReturn error;
     jpeg_decompress_struct source{};

@@ -18,8 +18,7 @@
 namespace velmora {
 namespace {
 
-/** Longer than the pause between two rows when an arrow key is held down, shorter than a user's patience.
- */
+/** Longer than the pause between two rows when an arrow key is held down, shorter than a user's patience. */
 constexpr std::chrono::milliseconds openDelay(150);
 
 /** An open regular file. Pipes and devices, which could block for ever, are not opened. */

@@ -9,13 +9,13 @@ namespace {
 /** The node after NODE in document order; null after the last. Goes by links, so that a tree of any depth
    needs no stack. */
 const DomNode* following(const DomNode* node) {
-    if (node->firstChild != nullptr) {
+    if (node->firstChild) {
         return node->firstChild;
     }
-    while (node != nullptr && node->nextSibling == nullptr) {
+    while (node && !node->nextSibling) {
         node = node->parentNode;
     }
-    return node == nullptr ? nullptr : node->nextSibling;
+    return node ? node->nextSibling : nullptr;
 }
 
 } // namespace
@@ -43,7 +43,7 @@ DomNode* DomDocument::append(DomNode* parent, DomNode node) {
     added->firstChild = nullptr;
     added->lastChild = nullptr;
     added->nextSibling = nullptr;
-    if (parent->lastChild == nullptr) {
+    if (!parent->lastChild) {
         parent->firstChild = added;
     } else {
         // Only the document hands out its nodes as const, so the last child may be linked to its new sibling.
@@ -55,7 +55,7 @@ DomNode* DomDocument::append(DomNode* parent, DomNode node) {
 
 std::vector<const DomNode*> DomDocument::getElementsByTagName(QStringView tag) const {
     std::vector<const DomNode*> found;
-    for (const DomNode* node = root(); node != nullptr; node = following(node)) {
+    for (const DomNode* node = root(); node; node = following(node)) {
         if (node->hasTagName(tag)) {
             found.push_back(node);
         }

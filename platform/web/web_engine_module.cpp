@@ -27,13 +27,13 @@ const char* const moduleFolders[] = {".", "../lib/velmora/modules", "../platform
 /** The engine reads the shared context's format while it starts and crashes without one. It draws in
    software, so a context that was never created does, and no graphics driver is loaded for it. */
 void provideSharedContext() {
-    if (QOpenGLContext::globalShareContext() == nullptr) {
+    if (!QOpenGLContext::globalShareContext()) {
         qt_gl_set_global_share_context(new QOpenGLContext(QCoreApplication::instance()));
     }
 }
 
-/** The engine ends the whole program, unsaved edits included, when it is started by root with its sandbox on.
- */
+/** The engine ends the whole program, unsaved edits included, when it is started by root with
+   its sandbox on. */
 bool sandboxForbidsStart() {
     return ::geteuid() == 0 && qEnvironmentVariableIsEmpty("QTWEBENGINE_DISABLE_SANDBOX") &&
            !qEnvironmentVariable("QTWEBENGINE_CHROMIUM_FLAGS").contains(QLatin1String("--no-sandbox"));
@@ -65,7 +65,7 @@ std::unique_ptr<WebEngine> makeFromModule(WebEngineListener& listener, QWidget* 
     }
     provideSharedContext();
     WebEngineModule* const module = loadModule();
-    if (module == nullptr) {
+    if (!module) {
         showReason(parent, localised("The web browser component is not installed."));
         return nullptr;
     }

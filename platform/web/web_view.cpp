@@ -65,10 +65,10 @@ WebView::~WebView() {
 }
 
 bool WebView::ensureEngine() {
-    if (engine_ == nullptr) {
+    if (!engine_) {
         engine_ = makeEngine_(*this, this);
         setLeaveTimeLimit(leaveTimeLimit_);
-        if (engine_ != nullptr && engine_->widget() != nullptr) {
+        if (engine_ && engine_->widget()) {
             delete placeholder_;
             layout()->addWidget(engine_->widget());
             setFocusProxy(engine_->widget());
@@ -79,13 +79,13 @@ bool WebView::ensureEngine() {
 
 void WebView::setLeaveTimeLimit(std::chrono::milliseconds limit) {
     leaveTimeLimit_ = limit;
-    if (engine_ != nullptr) {
+    if (engine_) {
         engine_->setLeaveTimeLimit(limit);
     }
 }
 
 bool WebView::canGoBack() const {
-    return engine_ != nullptr && engine_->canGoBack();
+    return engine_ && engine_->canGoBack();
 }
 
 void WebView::loadRequest(const QUrl& url) {
@@ -128,13 +128,13 @@ void WebView::addressOfPageChanged(const QUrl& address) {
 }
 
 void WebView::endDocumentWait() {
-    if (documentWait_ != nullptr) {
+    if (documentWait_) {
         documentWait_->end(QString());
     }
 }
 
 std::shared_ptr<const DomDocument> WebView::takeDocument() {
-    if (engine_ == nullptr || documentWait_ != nullptr) {
+    if (!engine_ || documentWait_) {
         return nullptr;
     }
     const QPointer<WebView> self(this);
@@ -151,7 +151,7 @@ std::shared_ptr<const DomDocument> WebView::takeDocument() {
         const InputBlock noInput;
         wait->loop.exec();
     }
-    if (self != nullptr) {
+    if (self) {
         documentWait_.reset();
     }
     return readDomSnapshot(wait->text);

@@ -9,8 +9,7 @@ namespace velmora {
 inline constexpr std::int64_t small_move_piece = 65536;
 
 /** The next piece of a move of which REMAINING bytes are left: 65,536 bytes when the low 32 bits of REMAINING
-   are at most that, otherwise all of them. So a remainder below 65,536 bytes is taken with its neighbours.
- */
+   are at most that, otherwise all of them. So a remainder below 65,536 bytes is taken with its neighbours. */
 [[nodiscard]] constexpr std::int64_t move_piece_size(std::int64_t remaining) {
     return static_cast<std::uint32_t>(remaining) <= small_move_piece ? small_move_piece : remaining;
 }

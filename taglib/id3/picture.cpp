@@ -28,8 +28,8 @@ struct Free {
     void operator()(void* block) const { std::free(block); }
 };
 
-/** The image in FOLDER's album-art file of that GUID text and SIZE; a name that no file can have gives none.
- */
+/** The image in FOLDER's album-art file of that GUID text and SIZE; a name that no file can
+   have gives none. */
 Image* load_albumart_file(const char* folder, const char* guid, const char* size) {
     char path[PATH_MAX];
     const int length = std::snprintf(path, sizeof path, "%s/AlbumArt_%s_%s.jpg", folder, guid, size);

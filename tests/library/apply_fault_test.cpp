@@ -161,8 +161,8 @@ protected:
             std::count_if(std::filesystem::directory_iterator(folder_.path()), {},
                           [](const auto& entry) { return entry.path().filename().string().front() == '.'; }));
     }
-    /** Gives back what an apply or an undo that met with a full disk changed, and finds each file as it was.
-       */
+    /** Gives back what an apply or an undo that met with a full disk changed, and finds each
+       file as it was. */
     void takeBackWithRoom() {
         for (const ApplyResult& result : undo()) {
             EXPECT_EQ(ApplyEnd::done, result.end) << result.reason.toStdString();

@@ -124,8 +124,8 @@ TEST(ApplicationTermination, SecondRequestWhileTheFirstAsksDoesNothing) {
     termination.terminate();
 }
 
-/** Runs the event loop, closes the only window in it, and returns the loop's code; 1 when nothing ended it.
- */
+/** Runs the event loop, closes the only window in it, and returns the loop's code; 1 when
+   nothing ended it. */
 int codeOfLoopThatClosesTheLastWindow() {
     QWidget window;
     window.show();

@@ -10,15 +10,14 @@ namespace {
 class WebViewDocument : public WebViewTest {};
 
 const DomNode* one(const std::shared_ptr<const DomDocument>& document, QStringView tag) {
-    const auto found =
-        document == nullptr ? std::vector<const DomNode*>() : document->getElementsByTagName(tag);
+    const auto found = document ? document->getElementsByTagName(tag) : std::vector<const DomNode*>();
     return found.empty() ? nullptr : found.front();
 }
 
 /** The nodes below NODE in short: name or, for text, its data. */
 QString outline(const DomNode* node) {
     QStringList parts;
-    for (const DomNode* child = node->firstChild; child != nullptr; child = child->nextSibling) {
+    for (const DomNode* child = node->firstChild; child; child = child->nextSibling) {
         parts.append(child->data ? child->nodeName + '=' + *child->data
                                  : child->nodeName + '(' + outline(child) + ')');
     }
@@ -193,7 +192,7 @@ TEST_F(WebViewDocument, OfMegabytesOfTextIsWhole) {
     const auto document = documentOf("<p hidden>" + QByteArray(8 << 20, 'x') + "</p>");
     ASSERT_NE(nullptr, one(document, u"p"));
     qsizetype length = 0;
-    for (const DomNode* part = one(document, u"p")->firstChild; part != nullptr; part = part->nextSibling) {
+    for (const DomNode* part = one(document, u"p")->firstChild; part; part = part->nextSibling) {
         length += part->data->size();
     }
     EXPECT_EQ(8 << 20, length);

@@ -51,12 +51,12 @@ protected:
     /** The title of the page that is shown now, as its document has it. */
     QString shownTitle() {
         const auto shown = document();
-        if (shown == nullptr) {
+        if (!shown) {
             return QStringLiteral("no document");
         }
         const auto titles = shown->getElementsByTagName(u"title");
-        return titles.empty() || titles[0]->firstChild == nullptr ? QString()
-                                                                  : titles[0]->firstChild->data.value_or("");
+        return titles.empty() || !titles[0]->firstChild ? QString()
+                                                        : titles[0]->firstChild->data.value_or("");
     }
 
     PageServer server;

@@ -5,8 +5,8 @@
 
 namespace velmora::test {
 
-/** Runs a shell command and returns all that it printed on both its streams; a failed command fails the test.
- */
+/** Runs a shell command and returns all that it printed on both its streams; a failed command
+   fails the test. */
 std::string run_command(const std::string& command);
 
 /** Makes the file at PATH by COMMAND, behind which the path comes and which has nothing to say. A file that

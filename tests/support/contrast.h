@@ -8,8 +8,8 @@
 
 namespace velmora::test {
 
-/** How light COLOUR is to the eye, from 0 to 1: the relative luminance of the web's accessibility guidelines.
- */
+/** How light COLOUR is to the eye, from 0 to 1: the relative luminance of the web's
+   accessibility guidelines. */
 inline double luminance(const QColor& colour) {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);

@@ -67,8 +67,8 @@ public:
     /** The NTH call and all after it, of whatever kind, do nothing and fail with EIO. What the files hold
        then is what a program leaves that is killed between two calls. */
     void stop_at(int nth);
-    /** The NTH read or write moves at most BYTES bytes; 0 is an end of file, or a write that takes nothing.
-     */
+    /** The NTH read or write moves at most BYTES bytes; 0 is an end of file, or a write that
+       takes nothing. */
     void cut_short(SystemCall call, int nth, std::size_t bytes);
     /** The bytes from BEGIN to END (without it) of every file can't be read, or written: a transfer that
        comes to them in CALLs of that kind ends in front of them, and one that begins with them fails with

@@ -78,8 +78,8 @@ protected:
         EXPECT_EQ(before + 1, window->receiver.records.size());
         return window->receiver.records.empty() ? FormFillInfo() : window->receiver.records.back();
     }
-    /** Clicks into the page until that has had its effect: a page takes no clicks before it is first painted.
-     */
+    /** Clicks into the page until that has had its effect: a page takes no clicks before it is
+       first painted. */
     bool clickPageUntil(const std::function<bool()>& happened) {
         return waitUntil([&] {
             if (!happened()) {

@@ -6,7 +6,7 @@ namespace {
 
 /** NODE or the first sibling behind it whose class is exactly CLS. */
 const DomNode* firstFrom(const DomNode* node, DomClass cls) {
-    while (node != nullptr && node->domClass != cls) {
+    while (node && node->domClass != cls) {
         node = node->nextSibling;
     }
     return node;
@@ -25,7 +25,7 @@ const DomNode* get_first_child_of_type(const DomNode* node, DomClass cls) {
 std::optional<QStringList> imdb_parse_directors(const DomNode* node) {
     QStringList names;
     const DomNode* anchor = get_first_sibling_of_type(node, DomClass::DOMHTMLAnchorElement);
-    for (; anchor != nullptr; anchor = get_first_sibling_of_type(anchor, DomClass::DOMHTMLAnchorElement)) {
+    for (; anchor; anchor = get_first_sibling_of_type(anchor, DomClass::DOMHTMLAnchorElement)) {
         if (const DomNode* const text = get_first_child_of_type(anchor, DomClass::DOMText)) {
             names.append(text->data.value_or(QString()).trimmed());
         }
@@ -35,17 +35,17 @@ std::optional<QStringList> imdb_parse_directors(const DomNode* node) {
 
 std::optional<QString> leadingText(const DomNode* node) {
     const DomNode* const child = node->firstChild;
-    return child != nullptr && child->domClass == DomClass::DOMText ? child->data : std::nullopt;
+    return child && child->domClass == DomClass::DOMText ? child->data : std::nullopt;
 }
 
 std::optional<QString> followingText(const DomNode* node) {
     const DomNode* const text = get_first_sibling_of_type(node, DomClass::DOMText);
-    return text == nullptr ? std::nullopt : std::optional(text->data.value_or(QString()).trimmed());
+    return text ? std::optional(text->data.value_or(QString()).trimmed()) : std::nullopt;
 }
 
 std::optional<QString> titleText(const DomDocument& document) {
     const std::vector<const DomNode*> titles = document.getElementsByTagName(u"title");
-    if (titles.empty() || titles.front()->firstChild == nullptr) {
+    if (titles.empty() || !titles.front()->firstChild) {
         return std::nullopt;
     }
     return titles.front()->firstChild->data;

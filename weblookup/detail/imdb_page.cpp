@@ -23,7 +23,7 @@ void readTitle(const DomDocument& page, FormFillInfo& info) {
 QStringList linkedTexts(const DomNode* heading) {
     QStringList texts;
     const DomNode* anchor = get_first_sibling_of_type(heading, DomClass::DOMHTMLAnchorElement);
-    for (; anchor != nullptr; anchor = get_first_sibling_of_type(anchor, DomClass::DOMHTMLAnchorElement)) {
+    for (; anchor; anchor = get_first_sibling_of_type(anchor, DomClass::DOMHTMLAnchorElement)) {
         if (const DomNode* const text = get_first_child_of_type(anchor, DomClass::DOMText)) {
             texts.append(text->data.value_or(QString()));
         }
@@ -112,11 +112,11 @@ void readHeadings(const Headings& met, FormFillInfo& info) {
 void addActors(const DomNode* row, QStringList& cast) {
     const DomNode* const first = get_first_child_of_type(row, DomClass::DOMHTMLTableCellElement);
     const DomNode* const second =
-        first == nullptr ? nullptr : get_first_sibling_of_type(first, DomClass::DOMHTMLTableCellElement);
-    if (second == nullptr) {
+        first ? get_first_sibling_of_type(first, DomClass::DOMHTMLTableCellElement) : nullptr;
+    if (!second) {
         return;
     }
-    for (const DomNode* child = second->firstChild; child != nullptr; child = child->nextSibling) {
+    for (const DomNode* child = second->firstChild; child; child = child->nextSibling) {
         if (child->domClass == DomClass::DOMHTMLAnchorElement) {
             if (const std::optional<QString> name = leadingText(child)) {
                 cast.append(*name);
@@ -130,7 +130,7 @@ std::optional<QStringList> readCast(const DomNode* table) {
     QStringList cast;
     bool inBody = false;
     const DomNode* node = table->firstChild;
-    while (node != nullptr) {
+    while (node) {
         if (!inBody && node->hasTagName(u"tbody")) {
             inBody = true;
             node = node->firstChild;
@@ -173,7 +173,7 @@ void readSections(const DomDocument& page, FormFillInfo& info) {
 
 /** Fetches the images of one anchor until one comes. Every result is kept, a failed fetch's too. */
 void readPoster(const DomNode* anchor, const ImageFetch& fetch, FormFillInfo& info) {
-    for (const DomNode* child = anchor->firstChild; child != nullptr; child = child->nextSibling) {
+    for (const DomNode* child = anchor->firstChild; child; child = child->nextSibling) {
         if (child->domClass != DomClass::DOMHTMLImageElement) {
             continue;
         }

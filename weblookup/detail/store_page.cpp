@@ -28,7 +28,7 @@ void readTitle(const DomDocument& page, FormFillInfo& info) {
 
 std::optional<QString> readRating(const DomNode* label) {
     const DomNode* const image = get_first_sibling_of_type(label, DomClass::DOMHTMLImageElement);
-    return image == nullptr ? std::nullopt : image->getAttribute(u"alt");
+    return image ? image->getAttribute(u"alt") : std::nullopt;
 }
 
 /** What has been met on the way through the lists. Of labels that read all that follows them, and of which
@@ -100,7 +100,7 @@ void readDetails(const DomDocument& page, FormFillInfo& info) {
 std::optional<QString> descriptionBehind(const DomNode* label) {
     std::optional<QString> description;
     const DomNode* node = get_first_sibling_of_type(label, DomClass::DOMText);
-    for (; node != nullptr; node = node->nextSibling) {
+    for (; node; node = node->nextSibling) {
         if (node->domClass == DomClass::DOMText) {
             const QString text = node->data.value_or(QString()).trimmed();
             if (!text.isEmpty()) {
@@ -137,8 +137,8 @@ std::optional<QString> largeImageAddress(const DomNode* cell) {
     }
     const DomNode* const anchor = get_first_child_of_type(cell, DomClass::DOMHTMLAnchorElement);
     const DomNode* const image =
-        anchor == nullptr ? nullptr : get_first_child_of_type(anchor, DomClass::DOMHTMLImageElement);
-    if (image == nullptr || image->getAttribute(u"id") != QLatin1String("prodImage")) {
+        anchor ? get_first_child_of_type(anchor, DomClass::DOMHTMLImageElement) : nullptr;
+    if (!image || image->getAttribute(u"id") != QLatin1String("prodImage")) {
         return std::nullopt;
     }
     const QLatin1String smallMark("_AA240_");

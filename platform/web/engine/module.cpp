@@ -11,7 +11,7 @@ namespace {
 QLoggingCategory::CategoryFilter nextFilter = nullptr;
 
 void silenceEngineContext(QLoggingCategory* category) {
-    if (nextFilter != nullptr) {
+    if (nextFilter) {
         nextFilter(category);
     }
     if (qstrcmp(category->categoryName(), "qt.webenginecontext") == 0) {

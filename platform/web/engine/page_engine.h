@@ -31,8 +31,8 @@ public:
     void takeSnapshot(SnapshotTaker take) override;
 
 private:
-    /** A page that was asked for its document and has not answered may be stuck in a script that never ends.
-     */
+    /** A page that was asked for its document and has not answered may be stuck in a script
+       that never ends. */
     [[nodiscard]] bool owesSnapshot() const { return *awaited_ != 0 && !page_->isLost(); }
     /** Leaves the page by NAVIGATION. Where a script that never ends holds that up, the page's process is
        ended and NAVIGATION done again. */

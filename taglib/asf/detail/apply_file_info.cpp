@@ -36,8 +36,8 @@ private:
     return descriptor && (*text == '\0' || descriptor->value_length > 0);
 }
 
-/** Sets or, without TEXT, removes the attribute under the names that the file has, at least under the newer.
- */
+/** Sets or, without TEXT, removes the attribute under the names that the file has, at least
+   under the newer. */
 [[nodiscard]] bool apply_attribute(_asf_ext_content_description_t* ecd, const AsfField& field,
                                    const char* text) {
     if (!text) {

@@ -8,8 +8,7 @@
 #include <cstdint>
 
 /** The readers of a header's objects, on a cursor over the file. Each is what the public function of its name
-   is for a file's position: it begins at CURSOR's position and ends where that says that the file is left.
- */
+   is for a file's position: it begins at CURSOR's position and ends where that says that the file is left. */
 namespace velmora {
 
 _asf_object_t* asf_read_object(ReadCursor* cursor, _asf_object_t* object);
@@ -47,8 +46,8 @@ _asf_header_object_t* asf_read_header_object(ReadCursor* cursor, _asf_header_obj
 [[nodiscard]] bool asf_seek_behind(ReadCursor* cursor, std::uint64_t start, std::uint64_t size);
 
 /** Runs READ, which gives null when it fails, with a cursor at FILE's position, and leaves FILE where the
-   cursor ends. Null also where the file has no position or can't be moved; then DISCARD gets what was read.
- */
+   cursor ends. Null also where the file has no position or can't be moved; then DISCARD gets
+   what was read. */
 template <typename Read, typename Discard>
 auto asf_read_at_position(FIOFUNCSTRUCT* file, Read read, Discard discard)
     -> decltype(read(static_cast<ReadCursor*>(nullptr))) {

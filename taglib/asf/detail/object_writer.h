@@ -17,8 +17,8 @@ namespace velmora {
    one call of the system; no memory is asked for any more. What was put must stay as it is until finish(). */
 class AsfObjectWriter {
 public:
-    /** POSITION is that of the first object. Negative for a file that has none: nothing can be written then.
-     */
+    /** POSITION is that of the first object. Negative for a file that has none: nothing can
+       be written then. */
     AsfObjectWriter(FIOFUNCSTRUCT* file, std::int64_t position)
         : file_(file), cursor_(file, static_cast<std::uint64_t>(position)) {}
 
@@ -64,8 +64,8 @@ private:
     void put_object_header(const _asf_object_t& object);
     void put_descriptors(const _asf_ext_content_description_t& ecd);
     void trace(bool whole);
-    /** Traces the step of which only the first WRITTEN bytes were written; false when no other line follows.
-     */
+    /** Traces the step of which only the first WRITTEN bytes were written; false when no
+       other line follows. */
     [[nodiscard]] bool trace_stopped(const Step& step, std::uint64_t written);
     static void trace_step(const Step& step, std::int64_t position);
 

@@ -35,8 +35,8 @@ ArrayHead& head_of(const _avi_item_t* children) {
     return *(reinterpret_cast<ArrayHead*>(const_cast<_avi_item_t*>(children)) - 1);
 }
 
-/* Blocks without contents, which nobody owns: an item of no bytes, and an incomplete list without children.
- */
+/* Blocks without contents, which nobody owns: an item of no bytes, and an incomplete list
+   without children. */
 struct {
     Tag tag{{0, 0}, Kind::data};
     std::uint8_t none = 0;

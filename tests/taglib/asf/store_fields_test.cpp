@@ -38,8 +38,7 @@ protected:
     }
 
     /** The header now has this content description, these attributes, and a padding that fills the old size
-       up.
-     */
+       up. */
     void expect(const std::string& cd, std::initializer_list<std::string> descriptors) {
         const std::string children = other_object() + cd + ext_content_description(descriptors);
         const std::string begin = object_of_size(header_guid, old_size_, u32(4) + hex("01 02") + children) +

@@ -39,8 +39,8 @@ protected:
         return load_path(path);
     }
 
-    /** Loads a file whose INFO list has that size field and holds those sub-chunks. (Its RIFF size is wrong.)
-     */
+    /** Loads a file whose INFO list has that size field and holds those sub-chunks. (Its RIFF
+       size is wrong.) */
     int load_info(std::uint32_t size, const std::string& sub_chunks) {
         return load(riff(88, hdrl() + movi() + idx1() + list(size, "INFO", sub_chunks)));
     }

@@ -19,8 +19,8 @@ namespace {
 
 class AviMoveFile : public testing::Test {
 protected:
-    /** Moves an item of that size field from OFFSET to TO in the file, which holds BYTES when they are given.
-     */
+    /** Moves an item of that size field from OFFSET to TO in the file, which holds BYTES when
+       they are given. */
     int move(std::uint64_t offset, std::uint32_t size, std::uint64_t to) {
         ByteFile file;
         EXPECT_TRUE(file.open(path_.c_str(), O_RDWR));

@@ -17,8 +17,8 @@
 
 using namespace std::string_literals;
 
-/** Films made by ffmpeg. What is stored is read back by ffprobe, and the film decodes to the same checksum.
- */
+/** Films made by ffmpeg. What is stored is read back by ffprobe, and the film decodes to the
+   same checksum. */
 namespace velmora::test {
 namespace {
 

@@ -18,8 +18,8 @@ using Rows = std::vector<std::string>;
 
 const std::string body_in_front = bytes("\0image/jpeg\0\x03\0");
 
-/** What id3_load_picture makes of a frame with that body: the image's bytes, or nothing, and what is logged.
- */
+/** What id3_load_picture makes of a frame with that body: the image's bytes, or nothing, and
+   what is logged. */
 struct Picture {
     explicit Picture(const std::string& body) {
         const Frame frame(body, "APIC");
