@@ -43,7 +43,8 @@ public:
     /** The window is made: from now on the application asks this document before it ends. */
     void windowControllerDidLoadNib();
 
-    /** The data path of the document framework is idle: no data, and any data will do. */
+    /** The data path of the document framework is idle: no data, and any data will do. Nothing in
+       the program calls it. */
     [[nodiscard]] static QByteArray dataRepresentationOfType(const QString& type);
     [[nodiscard]] static bool loadDataRepresentation(const QByteArray& data, const QString& type);
 
@@ -97,6 +98,7 @@ public:
     [[nodiscard]] LibraryWindow* library() const { return library_.get(); }
     /** Shows the library table. */
     void showLibrary();
+    /** The web lookup below the form; owned by the window. Nothing in the program calls it. */
     [[nodiscard]] TagWebBrowser* webBrowser() const { return webBrowser_; }
 
 private:

@@ -70,14 +70,17 @@ public:
        thread. */
     void handlePortMessage(const PortMessage& message);
 
+    /** Whether a search is under way that was not stopped. Nothing in the program calls it. */
     [[nodiscard]] bool isSearchRunning() const { return searchRunning_; }
-    /** The port that the worker's messages come through; null while no search is under way. */
+    /** The port that the worker's messages come through; null while no search is under way. Nothing in the
+       program calls it. */
     [[nodiscard]] const MessagePort* mainThreadPort() const { return mainThreadPort_; }
     /** Whether the worker has looked at the queue for the last time: all that it found has been
        sent, and its last message is sent or about to be. Nothing in the program asks; it is the
        event that tests wait for. */
     [[nodiscard]] bool hasWorkerLooked() const { return folderQueue_.isHeld(); }
-    /** The folders still to be searched; only while no worker is under way. */
+    /** The folders still to be searched; only while no worker is under way. Nothing in the program
+       calls it. */
     [[nodiscard]] QStringList searchFolders() const { return folderQueue_.folders() + foldersKeptAside_; }
 
 signals:

@@ -74,7 +74,7 @@ public:
     void tableViewSelectionDidChange();
 
     /** The row whose file is open in the editor; -1 for none. An index and not a file: sorting, turning and
-       inserting rows leave it as it is. */
+       inserting rows leave it as it is. Nothing in the program calls it. */
     [[nodiscard]] int curSelectedRow() const { return curSelectedRow_; }
     /** Makes no row the open one, so that the next tableViewSelectionDidChange opens the selected row's file
        anew. */

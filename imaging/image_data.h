@@ -22,7 +22,7 @@ namespace velmora {
    the formats are called plays no part, only what the bytes are. */
 [[nodiscard]] ImageRef imageInData(const QMimeData& data);
 
-/** Its pixels, or a null image. */
+/** The pixels of imageInData, or a null image. Nothing in the program calls it. */
 [[nodiscard]] QImage imageFromData(const QMimeData& data);
 
 } // namespace velmora

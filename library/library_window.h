@@ -60,7 +60,7 @@ public:
     void undoApply();
     /** Drops the edits of the selected files, or all where none is selected. */
     void revert();
-    /** How many applies can be taken back. */
+    /** How many applies can be taken back. Nothing in the program calls it. */
     [[nodiscard]] std::size_t undoCount() const { return undo_.size(); }
 
     /** Copies the selected rows with the shown columns, or of these the current one alone. */

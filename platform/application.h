@@ -29,7 +29,7 @@ public:
        one asks, or after it was granted, does nothing. */
     void terminate();
 
-    /** Whether the end was granted. */
+    /** Whether the end was granted. Nothing in the program calls it. */
     [[nodiscard]] bool isTerminating() const { return terminating_; }
 
 private:

@@ -23,7 +23,7 @@ using AssertionHandler = std::function<void(const AssertionFailure&)>;
 void assertionFailed(const AssertionFailure& failure);
 
 /** Replaces the assertion handler and returns the former one; an empty HANDLER stands for the first one. Main
-   thread only. */
+   thread only. Nothing in the program calls it. */
 AssertionHandler setAssertionHandler(AssertionHandler handler);
 
 } // namespace velmora

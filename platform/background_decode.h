@@ -22,7 +22,7 @@ public:
        can't be stopped (WebP, TIFF). */
     ~BackgroundDecode() override;
 
-    /** How long a picture may take: 2 seconds, unless a test says otherwise. */
+    /** How long a picture may take: 2 seconds where it is not set. Nothing in the program calls it. */
     void setPatience(std::chrono::milliseconds patience) { timer_.setInterval(patience); }
 
     /** Decodes PICTURE to fit into BOX. One of the two signals follows, from the event loop; what was asked

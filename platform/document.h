@@ -22,7 +22,7 @@ public:
 
     /** Counts a change, or forgets all of them. */
     void updateChangeCount(ChangeType change);
-    /** The changes counted since the last time they were cleared. */
+    /** The changes counted since the last time they were cleared. Nothing in the program calls it. */
     [[nodiscard]] int changeCount() const { return changeCount_; }
     /** Whether changes were counted since the last time they were cleared. */
     [[nodiscard]] virtual bool isDocumentEdited() const;

@@ -18,7 +18,7 @@ public:
     DocumentController(const DocumentController&) = delete;
     DocumentController& operator=(const DocumentController&) = delete;
 
-    /** The application's one controller; null before it is made. */
+    /** The application's one controller; null before it is made. Nothing in the program calls it. */
     [[nodiscard]] static DocumentController* shared();
 
     /** Asks about every document with unsaved changes and then calls DID_REVIEW_ALL (may be empty). */

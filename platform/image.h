@@ -25,7 +25,7 @@ public:
     ImageRef() = default;
     /** An image of these pixels; none for a null QImage. */
     ImageRef(const QImage& pixels) : ImageRef(fromQImage(pixels)) {}
-    /** Takes over the caller's reference. */
+    /** Takes over the caller's reference. Nothing in the program calls it. */
     [[nodiscard]] static ImageRef adopt(Image* image);
     /** Adds a reference. */
     [[nodiscard]] static ImageRef share(Image* image);
@@ -71,7 +71,7 @@ void allowLargeImages();
 /** Whether the file at PATH begins as a picture does, which need not mean that it is one. */
 [[nodiscard]] bool isPictureFile(const QString& path);
 
-/** The pixels of the image in the file at PATH, or a null QImage. */
+/** The pixels of the image in the file at PATH, or a null QImage. Nothing in the program calls it. */
 [[nodiscard]] QImage imageFromFile(const QString& path);
 
 } // namespace velmora

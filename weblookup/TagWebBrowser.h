@@ -39,7 +39,8 @@ public:
     /** Gives the keyboard to the search field. */
     void focusSearchField();
 
-    /** How long a form fill may work, waiting aside, before it asks for one more cover. */
+    /** How long a form fill may work, waiting aside, before it asks for one more cover. Nothing in the
+       program calls it. */
     void setCoverWorkLimit(std::chrono::milliseconds limit) { coverWorkLimit_ = limit; }
 
 public slots:
@@ -57,7 +58,8 @@ public slots:
     void webViewDidStartProvisionalLoadForFrame(velmora::WebView* view, velmora::WebFrame* frame);
     /** A frame has loaded. Only the view's main frame ends the loading of the page. */
     void webViewDidFinishLoadForFrame(velmora::WebView* view, velmora::WebFrame* frame);
-    /** A frame has not loaded. A failed page can't fill the form: the button stays disabled. */
+    /** A frame has not loaded. A failed page can't fill the form: the button stays disabled. Nothing
+       in the program calls the first of the two. */
     void webViewDidFailProvisionalLoadWithError(velmora::WebView* view, velmora::WebFrame* frame);
     void webViewDidFailLoadWithError(velmora::WebView* view, velmora::WebFrame* frame);
 

@@ -24,7 +24,8 @@ public:
     ~Movie() override;
 
     /** A file that is neither opened nor rejected in this time (one that ends before its first frame, say)
-       has failed. 10 seconds when it is not set. Holds for the files that are opened from then on. */
+       has failed. 10 seconds when it is not set. Holds for the files that are opened from then
+       on. Nothing in the program calls it. */
     void setDecisionTimeLimit(std::chrono::milliseconds limit) { decisionTimeLimit_ = limit; }
 
     /** Opens the file at PATH in place of the current one, also when it is the same. */
@@ -39,8 +40,8 @@ public:
     /** The picture now shown, in its own pixels and upright; null when there is none (yet). */
     [[nodiscard]] QImage currentFrame() const;
 
-    /** With its sound. Where there is no sound device the movie, or the position in a song, moves in silence.
-     */
+    /** With its sound. Where there is no sound device the movie, or the position in a song,
+       moves in silence. */
     void play();
     void pause();
     [[nodiscard]] bool isPlaying() const;

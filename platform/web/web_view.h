@@ -40,7 +40,8 @@ public:
     explicit WebView(QWidget* parent = nullptr);
     ~WebView() override;
 
-    /** Takes MAKE for the engine's module. Does nothing once there is an engine. */
+    /** Takes MAKE for the engine's module. Does nothing once there is an engine. Nothing in the
+       program calls it. */
     void setEngineMaker(EngineMaker make) { makeEngine_ = std::move(make); }
 
     /** The page's outermost frame; the same object as long as the view lives. */
@@ -50,7 +51,7 @@ public:
     void loadRequest(const QUrl& url);
 
     /** How long a page may take to hand out its document; a page whose scripts never rest has none after that
-       time. */
+       time. Nothing in the program calls it. */
     void setDocumentTimeLimit(std::chrono::milliseconds limit) { documentTimeLimit_ = limit; }
 
     /** How long a page whose scripts never rest may hold up the load, or the way back, by which it is left. 5
