@@ -6,6 +6,7 @@
 #include <memory>
 
 class QAction;
+class QLineEdit;
 
 namespace Ui {
 class TagForm;
@@ -24,8 +25,8 @@ struct FormFillInfo;
    Each edit goes into the MediaFile at once and marks the document changed; nothing here writes the file.
    What the program itself puts into a control is never taken for an edit.
 
-   The form owns its controls, the preview among them; whoever carries the buttons out connects the signals.
- */
+   The form owns its controls, the preview among them; whoever carries the buttons out
+   connects the signals. */
 class TagForm : public QWidget {
     Q_OBJECT
 public:
@@ -99,7 +100,8 @@ public:
     /** Presses the revert button, if it can be pressed. */
     void clickRevert();
 
-    /** The genre box's suggestions, which the program itself gives the box as a whole. */
+    /** The genre box's suggestions, which the program itself gives the box as a whole: nothing in it
+       calls these two. */
     [[nodiscard]] int numberOfItemsInComboBox() const;
     /** INDEX is below numberOfItemsInComboBox(). */
     [[nodiscard]] QString comboBoxObjectValueForItemAtIndex(int index) const;
@@ -125,11 +127,14 @@ private:
     void setUpRating();
     void setUpGenre();
     void setUpFields();
+    void setUpCover();
     void connectButtons();
     void setSymbols();
     void markYear();
     void showCaptions(const MediaFile& file);
     void showCoverArt(const MediaFile& file);
+    void fillLine(QLineEdit& field, const QString& text);
+    void fillRating(const QString& title);
     void setGenreText(const QString& text);
     void setSynopsisText(const QString& text);
     [[nodiscard]] MediaFile* file() const;
