@@ -4,7 +4,6 @@
 
 #include <cstdarg>
 #include <cstddef>
-#include <cstdint>
 
 /** The trace's own reading of a format, for the conversions that the C library lacks or reads otherwise. */
 namespace velmora {
@@ -14,19 +13,12 @@ struct FormatArguments {
     va_list list;
 };
 
-/* Each puts into TO as much of its text as ROOM bytes hold beside a terminator, which it leaves out, and
-   returns how many bytes these are. */
-[[nodiscard]] std::size_t put_decimal(char* to, std::size_t room, std::int64_t number);
-[[nodiscard]] std::size_t put_hex(char* to, std::size_t room, std::uint64_t number);
-/** Of UTF-16LE text up to its first zero unit, as UTF-8; null is no text. */
-[[nodiscard]] std::size_t put_utf16le(char* to, std::size_t room, const void* utf16);
-
-/* The functions below put a message, and its terminator, into MESSAGE, which has message_capacity bytes. */
+/* The functions put a message, and its terminator, into MESSAGE, which has message_capacity bytes. */
 
 /** For a message whose conversions, up to where it is full, are all among %x, %d, %s, %S, %I64x and %I64d,
    without flags: what nearly every one is, and many times as fast as the general way. Uses ARGUMENTS up and
-   sets LENGTH to the message's. False for any other format; MESSAGE then holds what precedes the conversion.
-   */
+   sets LENGTH to the message's. False for any other format; MESSAGE then holds what precedes
+   the conversion. */
 [[nodiscard]] bool format_plainly(char* message, const char* format, FormatArguments& arguments,
                                   std::size_t* length);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "trace_format.h"
+#include "trace_text.h"
 
 #include "taglib/trace.h"
 
