@@ -3,6 +3,7 @@
 #include "ui_movie_preview.h"
 
 #include "platform/log.h"
+#include "platform/movie/movie.h"
 #include "platform/symbol.h"
 
 #include <QEvent>

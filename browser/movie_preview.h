@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/movie/movie.h"
-
 #include <QImage>
 #include <QWidget>
 
@@ -12,6 +10,8 @@ class MoviePreview;
 }
 
 namespace velmora {
+
+class Movie;
 
 /** Longer side of a frame taken as cover art, in points. */
 inline constexpr float coverArtFrameSide = 160;
@@ -31,8 +31,8 @@ public:
     void removeMovie();
     /** Hides what was said of the movie and lets no frame be taken. */
     void reset();
-    /** Opens the file at PATH; the view, the label and the button follow when it is known what the file is.
-     */
+    /** Opens the file at PATH; the view, the label and the button follow when it is known
+       what the file is. */
     void showMovie(const QString& path);
 
     /** What is shown in the place of the picture of a file that has sound alone: its cover, or a sign for a
