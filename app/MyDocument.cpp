@@ -124,10 +124,9 @@ void MyDocument::saveDocument() {
     saveMediaFile(nullptr);
 }
 
-bool MyDocument::handleDirtySave() {
-    if (questionLoop_) {
-        return false; // already asked, and not answered yet
-    }
+/** Asks on a sheet whether to save the changes, and waits for the answer: the code of the button, or another
+   one for a question that went away. */
+int MyDocument::askToSave() {
     Alert alert;
     alert.setMessageText(localised("Do you want to save the changes you made?"));
     alert.setInformativeText(localised("Your changes to \"%@\" will be lost if you don't save them.",
@@ -146,8 +145,14 @@ bool MyDocument::handleDirtySave() {
         returnCode = loop.exec();
     }
     questionLoop_ = nullptr;
+    return returnCode;
+}
 
-    switch (returnCode) {
+bool MyDocument::handleDirtySave() {
+    if (questionLoop_) {
+        return false; // already asked, and not answered yet
+    }
+    switch (askToSave()) {
     case Alert::secondButtonReturn:
         return false;
     case Alert::firstButtonReturn:

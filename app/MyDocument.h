@@ -113,6 +113,7 @@ private:
     [[nodiscard]] QString openFile(const QUrl& url);
     /** Saves, and tells everybody how that ended. */
     [[nodiscard]] bool saveInPlace(Error* error);
+    [[nodiscard]] int askToSave();
     /** Keeps the open file with its edits, which are about to be lost. */
     void keepEdits();
     void makeForms();
