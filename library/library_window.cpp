@@ -56,6 +56,23 @@ void LibraryWindow::makeLayout() {
     split->setChildrenCollapsible(false);
     view_ = new LibraryView(model_, split);
     panel_ = new EditPanel(model_);
+    showThumbnails();
+    auto* const side = makeSide(split);
+    split->addWidget(view_);
+    split->addWidget(side);
+    split->setStretchFactor(0, 1);
+    split->setSizes({960, 300});
+    layout->addWidget(split, 1);
+    setCentralWidget(box);
+    status_ = new QLabel(this);
+    status_->setObjectName(QStringLiteral("lbl_libraryStatus"));
+    status_->setTextFormat(Qt::PlainText);
+    status_->setContentsMargins(6, 0, 0, 0); // below the filter's label, as messages are
+    statusBar()->addWidget(status_, 1);
+}
+
+/** The table asks for small covers as the screen has them. */
+void LibraryWindow::showThumbnails() {
     const double ratio = devicePixelRatioF();
     thumbnails_ =
         std::make_unique<CoverThumbnails>(model_, static_cast<int>(view_->iconSize().height() * ratio));
@@ -68,28 +85,22 @@ void LibraryWindow::makeLayout() {
         }
         return picture;
     });
-    auto* const side = new QWidget(split);
-    auto* const sideLayout = new QVBoxLayout(side);
-    sideLayout->setContentsMargins(0, 0, 0, 0);
+}
+
+/** What is beside the table: the edit panel, and the buttons below it. */
+QWidget* LibraryWindow::makeSide(QWidget* parent) {
+    auto* const side = new QWidget(parent);
+    auto* const layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
     auto* const area = new QScrollArea(side);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidget(panel_);
-    sideLayout->addWidget(area);
-    sideLayout->addWidget(makeButtons());
-    split->addWidget(view_);
-    split->addWidget(side);
-    split->setStretchFactor(0, 1);
-    split->setSizes({960, 300});
-    layout->addWidget(split, 1);
-    setCentralWidget(box);
-    status_ = new QLabel(this);
-    status_->setObjectName(QStringLiteral("lbl_libraryStatus"));
-    status_->setTextFormat(Qt::PlainText);
-    status_->setContentsMargins(6, 0, 0, 0); // below the filter's label, as messages are
-    statusBar()->addWidget(status_, 1);
+    layout->addWidget(area);
+    layout->addWidget(makeButtons());
+    return side;
 }
 
 QWidget* LibraryWindow::makeFilter() {

@@ -83,6 +83,8 @@ signals:
 
 private:
     void makeLayout();
+    void showThumbnails();
+    QWidget* makeSide(QWidget* parent);
     QWidget* makeFilter();
     QWidget* makeButtons();
     void makeMenus();
