@@ -2,8 +2,8 @@
 
 #include "chunk.h"
 
-/** The texts of AIFF itself, each a chunk: they are read after its ID3v2 tag, and updated where they
-   exist. */
+/** The texts of AIFF itself, each a chunk (docs/portable-tags.md, "WAV and AIFF"): they are read after its
+   ID3v2 tag, and updated where they exist. */
 namespace velmora::portable {
 
 class AiffTexts {

@@ -12,7 +12,7 @@
 
 namespace velmora::portable {
 
-/** An APE tag, of version 1 or 2, as it stands behind the media. */
+/** An APE tag, of version 1 or 2, as it stands behind the media (docs/portable-tags.md, "MP3 and MP2"). */
 class ApeTag {
 public:
     static constexpr std::size_t footer_size = 32;

@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-/** The attributes of an ASF header, which lie in four kinds of objects. */
+/** The attributes of an ASF header, which lie in four kinds of objects (docs/portable-tags.md, "Windows
+   Media"). */
 namespace velmora::portable {
 
 /** The types of an attribute's value that matter here. The whole numbers differ by their widths alone. */

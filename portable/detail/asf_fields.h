@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-/** The fields of a tag in the attributes of an ASF file. An attribute of one stream says nothing of the file
-   and is no place of a field. */
+/** The fields of a tag in the attributes of an ASF file (docs/portable-tags.md, "Windows Media"). An
+   attribute of one stream says nothing of the file and is no place of a field. */
 namespace velmora::portable {
 
 /** Where an attribute is: which list, and which attribute of it. */

@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-/** Boxes (QuickTime calls them atoms): size, type, contents. */
+/** Boxes (QuickTime calls them atoms): size, type, contents (docs/portable-tags.md, "MP4 and QuickTime"). */
 namespace velmora::portable {
 
 [[nodiscard]] inline std::uint64_t load_be64(const std::uint8_t* from) {

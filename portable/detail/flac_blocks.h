@@ -8,7 +8,8 @@
 #include <string_view>
 #include <vector>
 
-/** FLAC's metadata blocks, in front of the frames. Everything here that reads throws a Refusal. */
+/** FLAC's metadata blocks, in front of the frames (docs/portable-tags.md, "FLAC"). Everything here that
+   reads throws a Refusal. */
 namespace velmora::portable {
 
 inline constexpr std::string_view flac_marker = "fLaC";

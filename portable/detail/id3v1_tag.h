@@ -11,7 +11,8 @@
 
 namespace velmora::portable {
 
-/** The block of 128 bytes at the end of a file. Its texts are ISO 8859-1 of 30 bytes at most. */
+/** The block of 128 bytes at the end of a file (docs/portable-tags.md, "MP3 and MP2"). Its texts are ISO
+   8859-1 of 30 bytes at most. */
 class Id3v1Tag {
 public:
     static constexpr std::size_t size = 128;

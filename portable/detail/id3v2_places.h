@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/** Which frame of an ID3v2 tag is a place of which field. */
+/** Which frame of an ID3v2 tag is a place of which field (docs/portable-tags.md, "Fields"). */
 namespace velmora::portable {
 
 /** What a frame is to the fields, by its identifier. */

@@ -8,7 +8,8 @@
 #include <string>
 #include <vector>
 
-/** ID3v2 tags of the versions 2.2, 2.3 and 2.4, taken apart and put together again. */
+/** ID3v2 tags of the versions 2.2, 2.3 and 2.4, taken apart and put together again (docs/portable-tags.md,
+   "MP3 and MP2"). */
 namespace velmora::portable {
 
 using ByteView = std::span<const std::uint8_t>;

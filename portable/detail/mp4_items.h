@@ -3,7 +3,7 @@
 #include "mp4_layout.h"
 
 /** The items of MP4 and QuickTime tags: which is the place of which field, what they say, and how they are
-   made. */
+   made (docs/portable-tags.md, "MP4 and QuickTime"). */
 namespace velmora::portable {
 
 /** The field of which an item of this kind of list and of NAME is a place; nothing for all others, and for

@@ -4,7 +4,8 @@
 
 #include "portable/media_kind.h"
 
-/** Where the parts of an MP4 or QuickTime file are that have to do with tags. */
+/** Where the parts of an MP4 or QuickTime file are that have to do with tags (docs/portable-tags.md, "MP4
+   and QuickTime"). */
 namespace velmora::portable {
 
 /** An item of a tag in an MP4 or QuickTime file. */

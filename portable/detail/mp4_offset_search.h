@@ -3,7 +3,8 @@
 #include "mp4_layout.h"
 #include "offset_table.h"
 
-/** Where an MP4 or QuickTime file has offsets that count from its beginning. */
+/** Where an MP4 or QuickTime file has offsets that count from its beginning (docs/portable-tags.md, "MP4 and
+   QuickTime"). */
 namespace velmora::portable {
 
 struct OffsetTables {

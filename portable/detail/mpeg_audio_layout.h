@@ -13,7 +13,8 @@
 
 namespace velmora::portable {
 
-/** Where the tags of an MPEG audio file are, and what they hold. Each may be missing. */
+/** Where the tags of an MPEG audio file are, and what they hold (docs/portable-tags.md, "MP3 and MP2"). Each
+   may be missing. */
 struct MpegAudioLayout {
     std::optional<Id3v2Tag> front;
     Range media; ///< the frames

@@ -8,7 +8,8 @@
 #include <optional>
 #include <vector>
 
-/** The cover of an Ogg file: among its comments, as a picture block of FLAC in base64. */
+/** The cover of an Ogg file (docs/portable-tags.md, "Vorbis and Opus in Ogg"): among its comments, as a
+   picture block of FLAC in base64. */
 namespace velmora::portable {
 
 /** The places in COMMENTS of the pictures that are the cover, the one that counts first. */

@@ -13,8 +13,9 @@
 
 namespace velmora::portable {
 
-/** A file that is replaced by a new one, whole or not at all: until take_place() has renamed the new file it
-   is untouched, and after that it is the new one. All members throw a Refusal where something fails. */
+/** A file that is replaced by a new one, whole or not at all (docs/portable-tags.md, "How a file is
+   replaced"): until take_place() has renamed the new file it is untouched, and after that it is the new one.
+   All members throw a Refusal where something fails. */
 class Replacement {
 public:
     /** Opens the file that PATH leads to, links in it resolved. Refuses what is no regular file, what its

@@ -4,7 +4,8 @@
 
 #include "portable/media_kind.h"
 
-/** The INFO lists of RIFF files. A file may have several; they are read as one, and written as one. */
+/** The INFO lists of RIFF files (docs/portable-tags.md, "AVI and DivX"). A file may have several; they are
+   read as one, and written as one. */
 namespace velmora::portable {
 
 struct InfoItem {

@@ -13,7 +13,8 @@
 
 namespace velmora::portable {
 
-/** The comments of FLAC and Ogg: a list of texts "KEY=value", whose keys may come more than once. */
+/** The comments of FLAC and Ogg (docs/portable-tags.md, "Fields"): a list of texts "KEY=value", whose keys
+   may come more than once. */
 class VorbisComments {
 public:
     /** An empty list. */

@@ -8,8 +8,8 @@
 
 #include <vector>
 
-/** How a saved file becomes again what it was: what went over into the new file is taken from there, and only
-   the rest is kept. */
+/** How a saved file becomes again what it was (docs/portable-tags.md, "How a save is taken back"): what went
+   over into the new file is taken from there, and only the rest is kept. */
 namespace velmora::portable {
 
 /** Keeps what a file made by REWRITE lacks of the old one, which is open as FILE and SIZE bytes long. Throws

@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-/** The GUIDs of the ASF format that the module knows. The first four decide what it does; the rest complete
-   the set. */
+/** The GUIDs of the ASF format that the module knows (docs/asf.md, "Objects"). The first four decide what it
+   does; the rest complete the set. */
 namespace velmora {
 
 /** A GUID from its printed groups: {75B22630-668E-11CF-A6D9-00AA0062CE6C} is asf_guid(0x75B22630, 0x668E,

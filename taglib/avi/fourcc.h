@@ -2,7 +2,8 @@
 
 #include <cstdint>
 
-/** FOURCCs: the four identifier bytes of a RIFF chunk, as a 32-bit value whose lowest byte comes first. */
+/** FOURCCs: the four identifier bytes of a RIFF chunk (docs/avi.md, "Layout"), as a 32-bit value whose
+   lowest byte comes first. */
 namespace velmora {
 
 /** The FOURCC written as text, e.g. make_fourcc("LIST"). */

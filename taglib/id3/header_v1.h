@@ -6,7 +6,8 @@
 
 namespace velmora {
 
-/** The ID3v1 block. Its texts fill their fields and are zero-terminated only when shorter. */
+/** The ID3v1 block (docs/id3.md, "What is deliberately not done"). Its texts fill their fields and are
+   zero-terminated only when shorter. */
 struct _id3_header_v1_t {
     char signature[3]; ///< "TAG"
     char title[30];

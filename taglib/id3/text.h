@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-/** Integers and strings as they lie in ID3v2 frames. Lengths and capacities are in bytes; a negative one
-   counts as 0 unless said otherwise. */
+/** Integers and strings as they lie in ID3v2 frames (docs/id3.md, "Frames that are understood"). Lengths and
+   capacities are in bytes; a negative one counts as 0 unless said otherwise. */
 namespace velmora {
 
 /** Text encodings of a frame's first byte. */

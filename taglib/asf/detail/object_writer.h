@@ -10,11 +10,13 @@
 
 namespace velmora {
 
-/** Writes the objects of a header one behind the other, and traces them as if each field were written by
-   itself: positions, and where the lines stop, are those of such a run also where a write fails.
+/** Writes the objects of a header one behind the other (docs/asf.md, "Storing"), and traces them as if each
+   field were written by itself: positions, and where the lines stop, are those of such a run also where a
+   write fails.
 
    reserve() comes first. After it the objects are gathered and written in large pieces, a usual header in
-   one call of the system; no memory is asked for any more. What was put must stay as it is until finish(). */
+   one call of the system; no memory is asked for any more. What was put must stay as it is until
+   finish(). */
 class AsfObjectWriter {
 public:
     /** POSITION is that of the first object. Negative for a file that has none: nothing can

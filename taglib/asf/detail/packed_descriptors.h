@@ -3,8 +3,9 @@
 #include "taglib/asf/ext_content_description.h"
 #include "taglib/read_cursor.h"
 
-/** Descriptors as they lie in a file, one behind the other in one block: a file may hold millions of empty
-   ones, each of which would take ten times its size as a record. */
+/** Descriptors as they lie in a file, one behind the other in one block (docs/asf.md, "Extended Content
+   Description"): a file may hold millions of empty ones, each of which would take ten times its size as a
+   record. */
 namespace velmora {
 
 /** Walks over the packed descriptors of an object. */
