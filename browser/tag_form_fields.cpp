@@ -9,6 +9,7 @@
 #include "model/media_type.h"
 #include "platform/accessibility.h"
 #include "platform/file_path.h"
+#include "platform/line_wrapping.h"
 #include "platform/localisation.h"
 #include "platform/log.h"
 #include "weblookup/form_fill_info.h"
@@ -65,7 +66,7 @@ void TagForm::setGenreText(const QString& text) {
 
 void TagForm::setSynopsisText(const QString& text) {
     const QSignalBlocker blocker(ui_->entry_desc);
-    ui_->entry_desc->setPlainText(text);
+    setWrappedText(*ui_->entry_desc, text);
 }
 
 void TagForm::clearFields() {

@@ -2,12 +2,15 @@
 
 #include "browser/pick_lists.h"
 #include "imaging/CoverArtView.h"
+#include "platform/line_wrapping.h"
 #include "platform/localisation.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
+
+#include <limits>
 
 namespace velmora {
 
@@ -44,6 +47,7 @@ QComboBox* comboOf(const QStringList& suggestions) {
     auto* const box = new QComboBox;
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
+    box->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
     box->addItems(suggestions);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     return box;
@@ -74,7 +78,9 @@ QWidget* widgetOf(LibraryColumn column) {
         text->setMinimumHeight(60);
         return text;
     }
-    return new QLineEdit;
+    auto* const line = new QLineEdit;
+    line->setMaxLength(std::numeric_limits<int>::max()); // or a long text would be cut off
+    return line;
 }
 
 } // namespace
@@ -269,7 +275,7 @@ void EditPanel::showText(LibraryColumn column, const QString& text, bool several
     auto* const field = qobject_cast<QPlainTextEdit*>(widget);
     field->setPlaceholderText(placeholder);
     if (const QString plain = withPlainBreaks(text); refills_ || textIn(*field) != plain) {
-        field->setPlainText(plain);
+        setWrappedText(*field, plain);
     }
 }
 

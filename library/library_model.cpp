@@ -29,6 +29,12 @@ QString literally(const QString& text) {
     return QStringLiteral("<span>") + text.toHtmlEscaped() + QStringLiteral("</span>");
 }
 
+/** TEXT, or where it is very long its beginning: a tip is laid out anew each time, and nobody reads on. */
+QString beginningOf(const QString& text) {
+    constexpr qsizetype longest = 2000;
+    return text.size() <= longest ? text : text.first(longest) + u'…';
+}
+
 LibraryColumn columnAt(int section) {
     return static_cast<LibraryColumn>(section);
 }
@@ -98,7 +104,7 @@ QVariant LibraryModel::font(int file, LibraryColumn column) const {
 
 QString LibraryModel::tip(int file, LibraryColumn column) const {
     const bool saysItself = column != LibraryColumn::name && column != LibraryColumn::cover;
-    return literally(saysItself ? rows_.text(file, column) : rows_.at(file).path());
+    return literally(saysItself ? beginningOf(rows_.text(file, column)) : rows_.at(file).path());
 }
 
 QString LibraryModel::spokenText(int file, LibraryColumn column) const {

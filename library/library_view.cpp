@@ -5,10 +5,12 @@
 
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QPainter>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <limits>
 
 namespace velmora {
 
@@ -20,7 +22,8 @@ constexpr int roomForSortSign = 12; ///< beside a header's text, in pixels
 /** On each side of a cell's text, so that texts of neighbouring columns don't touch. */
 constexpr int airAroundText = 2;
 
-/** Draws cells with air around their texts, on a ground that goes from edge to edge. */
+/** Draws cells with air around their texts, on a ground that goes from edge to edge. Texts of any length are
+   edited. */
 class AiryDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -33,6 +36,16 @@ public:
         QStyleOptionViewItem cell = option;
         cell.rect.adjust(airAroundText, 0, -airAroundText, 0);
         QStyledItemDelegate::paint(painter, cell, index);
+    }
+
+    /** An editor that is only looked at cuts nothing off. */
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override {
+        QWidget* const editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (auto* const line = qobject_cast<QLineEdit*>(editor)) {
+            line->setMaxLength(std::numeric_limits<int>::max());
+        }
+        return editor;
     }
 };
 

@@ -1,10 +1,15 @@
 #include "folded_text.h"
 
+#include <QTextBoundaryFinder>
+
 #include <algorithm>
 
 namespace velmora {
 
 namespace {
+
+/** Texts are folded in pieces: normalized() takes time in proportion to the square of the length. */
+constexpr qsizetype pieceSize = 4096;
 
 bool isAscii(const QString& text) {
     return std::all_of(text.begin(), text.end(), [](QChar unit) { return unit.unicode() < 0x80; });
@@ -73,12 +78,20 @@ bool isAccent(char16_t unit) {
     return unit >= 0x0300 && unit <= 0x036F;
 }
 
-} // namespace
-
-std::string foldedText(const QString& text) {
-    if (isAscii(text)) {
-        return foldedAscii(text);
+/** Where the piece of TEXT ends that starts at BEGIN: in front of what the user takes for a character, of
+   which no part becomes one with what stands before it. */
+qsizetype pieceEnd(const QString& text, qsizetype begin) {
+    if (text.size() - begin <= pieceSize) {
+        return text.size();
     }
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, QStringView(text).mid(begin, pieceSize));
+    finder.toEnd();
+    const qsizetype lastCharacter = finder.toPreviousBoundary();
+    const qsizetype longest = text[begin + pieceSize].isLowSurrogate() ? pieceSize - 1 : pieceSize;
+    return begin + (lastCharacter > 0 ? lastCharacter : longest);
+}
+
+std::string foldedPiece(const QString& text) {
     QString folded;
     folded.reserve(text.size());
     const QString parts = text.normalized(QString::NormalizationForm_KD).toCaseFolded();
@@ -90,6 +103,21 @@ std::string foldedText(const QString& text) {
         }
     }
     return folded.normalized(QString::NormalizationForm_C).toStdString();
+}
+
+} // namespace
+
+std::string foldedText(const QString& text) {
+    if (isAscii(text)) {
+        return foldedAscii(text);
+    }
+    std::string folded;
+    for (qsizetype begin = 0; begin < text.size();) {
+        const qsizetype end = pieceEnd(text, begin);
+        folded += foldedPiece(text.mid(begin, end - begin));
+        begin = end;
+    }
+    return folded;
 }
 
 } // namespace velmora

@@ -16,7 +16,9 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QTest>
 
@@ -469,6 +471,19 @@ TEST_F(PortableTagsTest, NoticeOfASuccessGoesByItself) {
     bar().show({Notice::Kind::Information, "Saved", {}, std::chrono::milliseconds(20)});
     EXPECT_TRUE(bar().isVisible());
     EXPECT_TRUE(waitUntil([this] { return !bar().isVisible(); }));
+}
+
+TEST_F(PortableTagsTest, AWordOfManyThousandLettersIsInTheFormSoonAndWhole) {
+    const std::string word(400'000, 'c');
+    const std::string comment = test::frame4("COMM", std::string("\x03") + "eng" + '\0' + word);
+    const std::string frame = test::hex("FF FB 90 C4") + std::string(413, '\0');
+    document().setPortableTags(true);
+    addFile("word.mp3", test::leading_tag(4, comment) + frame + frame);
+    QElapsedTimer clock;
+    clock.start();
+    select(0);
+    EXPECT_LT(clock.elapsed(), 10'000);
+    EXPECT_EQ(QString::fromStdString(word), widget<QPlainTextEdit>("entry_desc").toPlainText());
 }
 
 /** A save that takes as long as a test wants. */

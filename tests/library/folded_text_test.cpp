@@ -31,6 +31,21 @@ TEST(FoldedText, MarksThatMakeAnotherLetterStay) {
     EXPECT_NE(foldedText("की"), foldedText("क"));
 }
 
+TEST(FoldedText, CharactersOfLongTextsStayWhole) {
+    for (const int before : {4093, 4094, 4095, 4096}) {
+        const QString text =
+            QString(before, u'é') + "\u1112\u1161\u11AB" + "\U0001D49C" + "か\u3099" + QString(5000, u'É');
+        EXPECT_EQ(std::string(before, 'e') + "한aが" + std::string(5000, 'e'), foldedText(text)) << before;
+    }
+}
+
+TEST(FoldedText, LongTextsTakeTimeInProportion) {
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(std::string(1'000'000, 'e'), foldedText(QString(1'000'000, u'é')));
+    EXPECT_LT(clock.elapsed(), 10'000);
+}
+
 TEST(FoldedText, LineBreaksAreBlanks) {
     EXPECT_EQ("a b  c", foldedText("a\nb\r\nc"));
     EXPECT_EQ("e b", foldedText("é\nb"));
