@@ -56,6 +56,9 @@ public:
     [[nodiscard]] const std::vector<SortKey>& sortKeys() const { return keys_; }
     /** Shows the files that match QUERY. */
     void setFilter(const FilterQuery& query);
+    /** Looks now at those files that the filter has not looked at yet, which takes up to a second where there
+       are 100,000: what is done with all that are shown is to leave none out. */
+    void finishFiltering();
     /** The table's rows FIRST to LAST can be seen: their files are read before others. */
     void setVisibleRows(int first, int last);
     /** Small covers for the files that can be seen; null while there is none, or none yet. */

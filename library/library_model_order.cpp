@@ -106,6 +106,19 @@ void LibraryModel::filterRest() {
     emit contentsChanged();
 }
 
+void LibraryModel::finishFiltering() {
+    showAdded();
+    if (unfiltered_.empty()) {
+        return;
+    }
+    for (const int file : order_) {
+        static_cast<void>(rows_.filterText(file)); // folded now, filtered() leaves none out
+    }
+    filterTimer_.stop();
+    show(filtered());
+    emit contentsChanged();
+}
+
 /** Shows FILES instead of what is shown, in such steps that the views' selections, their current cell and an
    editor in it stay with their files. */
 void LibraryModel::show(std::vector<int> files) {

@@ -167,6 +167,11 @@ void LibraryView::showColumn(LibraryColumn column, bool shown) {
     }
 }
 
+void LibraryView::selectAll() {
+    model_.finishFiltering();
+    QTableView::selectAll();
+}
+
 void LibraryView::moveCurrentColumn(int by) {
     const QList<LibraryColumn> columns = shownColumns();
     const qsizetype from = columns.indexOf(static_cast<LibraryColumn>(currentIndex().column()));

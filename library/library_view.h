@@ -23,6 +23,8 @@ public:
     /** Sorts by COLUMN, the other way round where it does already; ALSO: behind the keys that there are. */
     void sortByColumn(LibraryColumn column, bool also);
 
+    /** Also those rows that the filter has not come to yet. */
+    void selectAll() override;
     /** Moves the current cell's column BY places among those that are shown. */
     void moveCurrentColumn(int by);
 

@@ -118,6 +118,7 @@ QWidget* LibraryWindow::makeFilter() {
     layout->addWidget(caption);
     layout->addWidget(filter_, 1);
     connect(filter_, &QLineEdit::textChanged, &filterTimer_, qOverload<>(&QTimer::start));
+    connect(filter_, &QLineEdit::editingFinished, this, &LibraryWindow::takeTypedFilter);
     connect(filter_, &QLineEdit::returnPressed, this, [this] { view_->setFocus(); });
     return box;
 }
@@ -152,6 +153,14 @@ void LibraryWindow::present() {
 
 void LibraryWindow::filterTyped() {
     model_.setFilter(FilterQuery(filter_->text()));
+}
+
+/** What is done next is done with the files that match it. */
+void LibraryWindow::takeTypedFilter() {
+    if (filterTimer_.isActive()) {
+        filterTimer_.stop();
+        filterTyped();
+    }
 }
 
 /** A change that follows does not put it off: while files are read, there is always one. */

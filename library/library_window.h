@@ -95,6 +95,7 @@ private:
     QAction* addCommand(QMenu& menu, const QString& text, const QString& tip, const QKeySequence& keys,
                         void (LibraryWindow::*command)());
     void filterTyped();
+    void takeTypedFilter();
     void showStatus();
     void refreshPanelLater();
     void refreshPanel();
@@ -115,7 +116,7 @@ private:
     void copyRows() { copy(false); }
     void copyColumn() { copy(true); }
     void exportTable();
-    [[nodiscard]] ExportTable tableToExport() const;
+    [[nodiscard]] ExportTable tableToExport();
     void exportAndTell(const QString& path);
     void openSelected();
     void showInFolder();

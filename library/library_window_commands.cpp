@@ -120,7 +120,9 @@ void LibraryWindow::paste() {
     }
 }
 
-ExportTable LibraryWindow::tableToExport() const {
+ExportTable LibraryWindow::tableToExport() {
+    takeTypedFilter();
+    model_.finishFiltering();
     const QList<LibraryColumn> columns = view_->shownColumns();
     ExportTable table;
     for (const LibraryColumn column : columns) {

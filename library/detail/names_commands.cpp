@@ -27,7 +27,11 @@ void NamesCommands::addTo(QMenu& menu) {
 
 std::vector<int> NamesCommands::files() const {
     const std::vector<int> selected = view_.selectedFiles();
-    return selected.empty() ? model_.shownFiles() : selected;
+    if (!selected.empty()) {
+        return selected;
+    }
+    model_.finishFiltering();
+    return model_.shownFiles();
 }
 
 std::vector<NamesSource> NamesCommands::sources(const std::vector<int>& files) const {

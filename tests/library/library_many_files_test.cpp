@@ -1,16 +1,22 @@
 // What the library table does with very many rows: in few steps, and in short ones.
 
+#include "library/detail/names_dialog.h"
 #include "library/library_window.h"
 #include "tagged_songs.h"
 
+#include "support/qt_printing.h"
 #include "support/waiting.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace velmora {
 namespace {
@@ -93,6 +99,55 @@ TEST_F(ManyFilesTest, AFilterLooksAtManyEditedRowsInShortSteps) {
     EXPECT_TRUE(waitUntil([&] { return model.fileAt(0) == 0 && model.fileAt(count - 1) == count - 1; }));
     model.setFilter(FilterQuery("title:boat"));
     EXPECT_EQ(0, model.rowCount()) << "the texts are there by now";
+}
+
+/** A filter over so many rows that it does not look at all of them in one turn. */
+class UnfinishedFilterTest : public ManyFilesTest {
+protected:
+    static constexpr int count = 10'000;
+
+    UnfinishedFilterTest() {
+        list(count);
+        std::vector<std::pair<int, RowEdits>> edits;
+        for (int file = 0; file < count; ++file) {
+            edits.emplace_back(file, titled("Harbour"));
+        }
+        window_.model().setEdits(edits);
+        QApplication::setActiveWindow(&window_);
+    }
+    /** Types into the filter, and looks at nothing else. */
+    void filter() {
+        auto& field = *window_.findChild<QLineEdit*>("entry_filter");
+        field.setFocus();
+        QTest::keyClicks(&field, "harbour");
+        QTest::keyClick(&field, Qt::Key_Return);
+        ASSERT_LT(window_.model().rowCount(), count);
+    }
+};
+
+TEST_F(UnfinishedFilterTest, SelectingAllSelectsAlsoWhatItHasNotLookedAt) {
+    filter();
+    QTest::keyClick(&window_.view(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(std::size_t{count}, window_.view().selectedFiles().size());
+    EXPECT_EQ(0, window_.model().fileAt(0));
+    EXPECT_EQ(count - 1, window_.model().fileAt(count - 1));
+}
+
+TEST_F(UnfinishedFilterTest, AnExportHasAlsoWhatItHasNotLookedAt) {
+    const test::ScratchFolder folder;
+    filter();
+    EXPECT_EQ("", window_.exportTo(QString::fromStdString(folder / "out.csv")));
+    const std::string table = test::read_file(folder / "out.csv");
+    EXPECT_EQ(count + 1, std::count(table.begin(), table.end(), '\n'));
+}
+
+TEST_F(UnfinishedFilterTest, NamesAreAskedForAlsoOfWhatItHasNotLookedAt) {
+    filter();
+    window_.findChild<QAction*>("action_namesFromTags")->trigger();
+    const auto* const dialog = window_.findChild<NamesDialog*>();
+    ASSERT_NE(nullptr, dialog);
+    ASSERT_TRUE(waitUntil([&] { return !dialog->rows().empty(); }));
+    EXPECT_EQ(std::size_t{count}, dialog->rows().size());
 }
 
 TEST_F(ManyFilesTest, TheFilterGivenLastIsTheOneThatCounts) {
