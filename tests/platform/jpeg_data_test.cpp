@@ -1,9 +1,10 @@
 // Which JPEG streams are pictures, each told by markers, tables and headers alone: none has any coded data.
 // The library that decodes takes missing data for grey, and gives up over the rest.
 
+#include "byte_array.h"
+
 #include "platform/detail/jpeg_stream.h"
 #include "platform/image.h"
-#include "support/bytes.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +12,8 @@
 
 namespace velmora {
 namespace {
+
+using test::bytesOf;
 
 const std::string begin = "FF D8 ";
 const std::string end = "FF D9 ";
@@ -33,10 +36,6 @@ const std::string colourFrame = "FF C0 00 11 08 00 18 00 10 03 01 22 00 02 11 00
 const std::string colourScan = "FF DA 00 0C 03 01 00 02 00 03 00 00 3F 00 ";
 const std::string secondScan = "FF DA 00 08 01 02 00 00 3F 00 ";
 const std::string thirdScan = "FF DA 00 08 01 03 00 00 3F 00 ";
-
-QByteArray bytesOf(const std::string& hexDigits) {
-    return QByteArray::fromStdString(test::hex(hexDigits));
-}
 
 bool isPicture(const std::string& hexDigits) {
     return static_cast<bool>(ImageRef::fromBytes(bytesOf(hexDigits)));

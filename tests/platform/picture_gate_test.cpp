@@ -1,5 +1,7 @@
 // What counts as a picture, told by its first bytes, its claims and its data.
 
+#include "byte_array.h"
+
 #include "platform/detail/jpeg_stream.h"
 #include "platform/detail/png_decode.h"
 #include "platform/image.h"
@@ -17,14 +19,11 @@
 namespace velmora {
 namespace {
 
+using test::bytesOf;
 using test::encoded;
 using test::plain;
 using test::ScratchFolder;
 using test::svgThatShows;
-
-QByteArray bytesOf(const std::string& hexDigits) {
-    return QByteArray::fromStdString(test::hex(hexDigits));
-}
 
 bool isPicture(const QByteArray& bytes) {
     return static_cast<bool>(ImageRef::fromBytes(bytes));

@@ -3,6 +3,7 @@
 
 #include "portable/portable_tags.h"
 #include "support/bytes.h"
+#include "support/id3_tags.h"
 #include "support/scratch_folder.h"
 #include "taglib/id3/load_file_info.h"
 #include "taglib/id3/store_file_info.h"
@@ -13,9 +14,13 @@ namespace velmora {
 namespace {
 
 using namespace portable;
+using test::appended_tag;
 using test::edited;
+using test::frame3;
+using test::frame4;
 using test::hex;
 using test::le32;
+using test::leading_tag;
 using test::pattern;
 using test::refusal_of;
 using test::remove_text;
@@ -25,44 +30,27 @@ using test::values_in;
 
 const std::string frames = hex("FFFB9064") + pattern(500);
 
-/** A synchsafe size. */
-std::string synchsafe(std::size_t size) {
-    std::string bytes;
-    for (const unsigned shift : {21U, 14U, 7U, 0U}) {
-        bytes += static_cast<char>(size >> shift & 0x7F);
-    }
-    return bytes;
-}
-
-/** A whole tag of VERSION with CONTENT. */
-std::string tag(char version, const std::string& content, char flags = 0) {
-    return std::string("ID3") + version + '\0' + flags + synchsafe(content.size()) + content;
-}
-
-/** A frame of less than 128 bytes, in 2.3 and 2.4 the same. */
-std::string frame(const std::string& id, const std::string& body, const std::string& flags = hex("0000")) {
-    return id + hex("000000") + static_cast<char>(body.size()) + flags + body;
-}
-
 const std::string latin1(1, '\0');
 const std::string padding(40, '\0');
 
 TEST(Mp3Tags, AFileWithoutOneGetsATagOfVersion4InFront) {
-    const std::string content = frame("TIT2", "\x03Größe");
-    EXPECT_EQ(to_hex(tag(4, content + std::string(1024, '\0')) + frames),
+    const std::string content = frame4("TIT2", "\x03Größe");
+    EXPECT_EQ(to_hex(leading_tag(4, content + std::string(1024, '\0')) + frames),
               to_hex(edited(frames, "mp3", set_text(Field::title, "Größe"))));
 }
 
 TEST(Mp3Tags, ANewValueTakesThePlaceOfTheOldOneAndThePaddingMakesUpForIt) {
-    const std::string kept = frame("TPE1", latin1 + "Ann") + frame("RVAD", "\x03\x10\x01\x02");
-    const std::string old = tag(3, frame("TIT2", latin1 + "Harbour") + kept + padding);
-    const std::string made = tag(3, frame("TIT2", latin1 + "Harb") + kept + padding + std::string(3, '\0'));
+    const std::string kept = frame3("TPE1", latin1 + "Ann") + frame3("RVAD", "\x03\x10\x01\x02");
+    const std::string old = leading_tag(3, frame3("TIT2", latin1 + "Harbour") + kept + padding);
+    const std::string made =
+        leading_tag(3, frame3("TIT2", latin1 + "Harb") + kept + padding + std::string(3, '\0'));
     EXPECT_EQ(to_hex(made + frames), to_hex(edited(old + frames, "mp3", set_text(Field::title, "Harb"))));
 }
 
 TEST(Mp3Tags, Version3TakesUtf16WithAMark) {
-    const std::string old = tag(3, frame("TIT2", latin1 + "Harbour") + padding);
-    const std::string made = tag(3, frame("TIT2", hex("01 FFFE F600 1E26")) + padding + std::string(1, '\0'));
+    const std::string old = leading_tag(3, frame3("TIT2", latin1 + "Harbour") + padding);
+    const std::string made =
+        leading_tag(3, frame3("TIT2", hex("01 FFFE F600 1E26")) + padding + std::string(1, '\0'));
     EXPECT_EQ(to_hex(made + frames), to_hex(edited(old + frames, "mp3", set_text(Field::title, "ö☞"))));
 }
 
@@ -70,54 +58,56 @@ TEST(Mp3Tags, EveryEncodingIsRead) {
     for (const std::string& body :
          {hex("00 F6 7A"), hex("01 FFFE F600 7A00"), hex("01 FEFF 00F6 007A"), hex("01 F600 7A00"),
           hex("02 00F6 007A"), hex("03 C3B6 7A"), hex("01 FFFE F600 7A00 0000")}) {
-        const TagValues values = values_in(tag(4, frame("TIT2", body)) + frames, "mp3");
+        const TagValues values = values_in(leading_tag(4, frame4("TIT2", body)) + frames, "mp3");
         EXPECT_EQ("öz", values.text(Field::title)) << to_hex(body);
     }
 }
 
 TEST(Mp3Tags, SeveralValuesAreJoined) {
     const std::string artists = hex("01 FFFE 4100 0000 FFFE 4200");
-    const std::string content = frame("TPE1", artists) + frame("TCON", latin1 + "(17)(4)Italo");
-    const TagValues values = values_in(tag(3, content) + frames, "mp3");
+    const std::string content = frame3("TPE1", artists) + frame3("TCON", latin1 + "(17)(4)Italo");
+    const TagValues values = values_in(leading_tag(3, content) + frames, "mp3");
     EXPECT_EQ("A; B", values.text(Field::artist));
     EXPECT_EQ("Rock; Disco; Italo", values.text(Field::genre));
 }
 
 TEST(Mp3Tags, ACommentWithADescriptionIsNoSynopsis) {
-    const std::string described = frame("COMM", latin1 + "engiTunNORM" + latin1 + "0000");
-    const std::string comment = frame("COMM", latin1 + "deu" + latin1 + "Old");
-    const std::string old = tag(3, described + comment + padding);
+    const std::string described = frame3("COMM", latin1 + "engiTunNORM" + latin1 + "0000");
+    const std::string comment = frame3("COMM", latin1 + "deu" + latin1 + "Old");
+    const std::string old = leading_tag(3, described + comment + padding);
     EXPECT_EQ("Old", values_in(old + frames, "mp3").text(Field::synopsis));
-    const std::string made = tag(3, described + frame("COMM", latin1 + "deu" + latin1 + "New") + padding);
+    const std::string made =
+        leading_tag(3, described + frame3("COMM", latin1 + "deu" + latin1 + "New") + padding);
     EXPECT_EQ(to_hex(made + frames), to_hex(edited(old + frames, "mp3", set_text(Field::synopsis, "New"))));
 }
 
 TEST(Mp3Tags, MonthAndDayStayWithTheYearAndGoWithIt) {
-    const std::string date = frame("TYER", latin1 + "1994") + frame("TDAT", latin1 + "0405");
-    const std::string old = tag(3, date + padding) + frames;
+    const std::string date = frame3("TYER", latin1 + "1994") + frame3("TDAT", latin1 + "0405");
+    const std::string old = leading_tag(3, date + padding) + frames;
     TagEdits edits;
     edits.year = Edit<int>::set(1994);
     EXPECT_EQ(to_hex(old), to_hex(edited(old, "mp3", edits)));
     edits.year = Edit<int>::set(1995);
-    const std::string made = tag(3, frame("TYER", latin1 + "1995") + padding + std::string(15, '\0'));
+    const std::string made =
+        leading_tag(3, frame3("TYER", latin1 + "1995") + padding + std::string(15, '\0'));
     EXPECT_EQ(to_hex(made + frames), to_hex(edited(old, "mp3", edits)));
 }
 
 TEST(Mp3Tags, ATagThatHasNothingLeftGoes) {
-    EXPECT_EQ(to_hex(frames), to_hex(edited(tag(4, frame("TIT2", "\x03X") + padding) + frames, "mp3",
+    EXPECT_EQ(to_hex(frames), to_hex(edited(leading_tag(4, frame4("TIT2", "\x03X") + padding) + frames, "mp3",
                                             remove_text(Field::title))));
 }
 
 TEST(Mp3Tags, TheCoverIsTheFrontOneAndOthersStay) {
     const auto picture = [](char type, const std::string& bytes) {
-        return frame("APIC", latin1 + "image/png" + latin1 + type + latin1 + bytes);
+        return frame4("APIC", latin1 + "image/png" + latin1 + type + latin1 + bytes);
     };
     const std::string back = picture(4, "back");
-    const std::string old = tag(4, back + picture(0, "icon") + picture(3, "front") + padding);
+    const std::string old = leading_tag(4, back + picture(0, "icon") + picture(3, "front") + padding);
     EXPECT_EQ((Cover{{'f', 'r', 'o', 'n', 't'}, "image/png"}), values_in(old + frames, "mp3").cover);
     TagEdits edits;
     edits.cover = Edit<Cover>::remove();
-    const std::string made = tag(4, back + picture(0, "icon") + padding + std::string(28, '\0'));
+    const std::string made = leading_tag(4, back + picture(0, "icon") + padding + std::string(28, '\0'));
     const test::ScratchFolder folder;
     const std::string path = folder / "song.mp3";
     test::write_file(path, old + frames);
@@ -127,7 +117,8 @@ TEST(Mp3Tags, TheCoverIsTheFrontOneAndOthersStay) {
 }
 
 TEST(Mp3Tags, AFrameThatReachesBeyondTheTagIsReadPastAndNotSaved) {
-    const std::string broken = tag(3, frame("TIT2", latin1 + "Old") + "TALB" + hex("00001000 0000 00"));
+    const std::string broken =
+        leading_tag(3, frame3("TIT2", latin1 + "Old") + "TALB" + hex("00001000 0000 00"));
     EXPECT_EQ("Old", values_in(broken + frames, "mp3").text(Field::title));
     EXPECT_EQ("the file is damaged (ID3v2 frame)", test::refusal_of([&] {
                   static_cast<void>(edited(broken + frames, "mp3", set_text(Field::title, "X")));
@@ -175,11 +166,11 @@ TEST(Mp3Tags, SeveralValuesOfAnApeTagStaySeveralInTheFirstTagInFront) {
     const std::string genres = std::string("Rock") + '\0' + "Pop";
     const std::string ape =
         ape_tag({ape_item("Artist", two), ape_item("Genre", genres), ape_item("Album", "Sea")});
-    const std::string content = frame("TIT2", "\x03X") + frame("TPE1", hex("03 416E6E 00 426F")) + // Ann, Bo
-                                frame("TALB", "\x03Sea") +
-                                frame("TCON", hex("03 526F636B 00 506F70")); // Rock, Pop
+    const std::string content =
+        frame4("TIT2", "\x03X") + frame4("TPE1", hex("03 416E6E 00 426F")) +      // Ann, Bo
+        frame4("TALB", "\x03Sea") + frame4("TCON", hex("03 526F636B 00 506F70")); // Rock, Pop
     const std::string made = edited(frames + ape, "mp3", set_text(Field::title, "X"));
-    EXPECT_EQ(to_hex(tag(4, content + std::string(1024, '\0')) + frames + ape), to_hex(made));
+    EXPECT_EQ(to_hex(leading_tag(4, content + std::string(1024, '\0')) + frames + ape), to_hex(made));
     EXPECT_EQ("Ann; Bo", values_in(made, "mp3").text(Field::artist));
 }
 
@@ -187,9 +178,9 @@ TEST(Mp3Tags, SeveralValuesOfAnApeTagThatAreSetBecomeOne) {
     const std::string two = std::string("Ann") + '\0' + "Bo";
     const std::string made =
         edited(frames + ape_tag({ape_item("Artist", two)}), "mp3", set_text(Field::artist, "Cy"));
-    EXPECT_EQ(to_hex(tag(4, frame("TPE1", "\x03"
-                                          "Cy") +
-                                std::string(1024, '\0')) +
+    EXPECT_EQ(to_hex(leading_tag(4, frame4("TPE1", "\x03"
+                                                   "Cy") +
+                                        std::string(1024, '\0')) +
                      frames + ape_tag({ape_item("Artist", "Cy")})),
               to_hex(made));
 }
@@ -238,25 +229,25 @@ TEST_F(TagAtTheEnd, IsFoldedIntoTheOneInFrontAndGone) {
     TagEdits edits;
     edits.text(Field::artist) = Edit<std::string>::set("Bo");
     ASSERT_EQ(SaveResult::saved, save_tags(path_, edits).result);
-    const std::string content = frame("TIT2", "\x03Later") +
-                                frame("TPE1", "\x03"
-                                              "Bo") +
-                                frame("TALB", "\x03"
-                                              "Album");
-    EXPECT_EQ(to_hex(tag(4, content + std::string(1024, '\0')) + frames), to_hex(test::read_file(path_)));
+    const std::string content = frame4("TIT2", "\x03Later") +
+                                frame4("TPE1", "\x03"
+                                               "Bo") +
+                                frame4("TALB", "\x03"
+                                               "Album");
+    EXPECT_EQ(to_hex(leading_tag(4, content + std::string(1024, '\0')) + frames),
+              to_hex(test::read_file(path_)));
 }
 
 TEST_F(TagAtTheEnd, KeepsItsOtherFramesInFront) {
-    const std::string other = frame("TPE3", latin1 + "Cy");
-    const std::string content = frame("TIT2", latin1 + "Later") + other;
-    const std::string header = hex("0400 10") + synchsafe(content.size());
-    test::write_file(path_, tag(4, frame("TALB", "\x03X") + padding) + frames + "ID3" + header + content +
-                                "3DI" + header);
+    const std::string other = frame4("TPE3", latin1 + "Cy");
+    const std::string content = frame4("TIT2", latin1 + "Later") + other;
+    test::write_file(path_,
+                     leading_tag(4, frame4("TALB", "\x03X") + padding) + frames + appended_tag(content));
     TagEdits edits;
     edits.text(Field::album) = Edit<std::string>::set("Y");
     ASSERT_EQ(SaveResult::saved, save_tags(path_, edits).result);
-    const std::string made = frame("TALB", "\x03Y") + frame("TIT2", "\x03Later") + other;
-    EXPECT_EQ(to_hex(tag(4, made + std::string(40 - 16 - 13, '\0')) + frames),
+    const std::string made = frame4("TALB", "\x03Y") + frame4("TIT2", "\x03Later") + other;
+    EXPECT_EQ(to_hex(leading_tag(4, made + std::string(40 - 16 - 13, '\0')) + frames),
               to_hex(test::read_file(path_)));
 }
 
@@ -282,10 +273,9 @@ TEST_F(TagAtTheEnd, OfAFilmThatHasNoOtherIsWrittenSoThatBothWaysReadIt) {
     edits = {};
     edits.text(Field::title) = Edit<std::string>::set("H");
     ASSERT_EQ(SaveResult::saved, save_tags(film, edits).result);
-    const std::string content = frame("TALB", latin1 + "H") + frame("TPE3", latin1 + "Cy") +
-                                frame("PRIV", "WM/ParentalRating" + latin1 + "PG");
-    const std::string header = hex("0400 10") + synchsafe(content.size());
-    EXPECT_EQ(to_hex(frames + "ID3" + header + content + "3DI" + header), to_hex(test::read_file(film)));
+    const std::string content = frame4("TALB", latin1 + "H") + frame4("TPE3", latin1 + "Cy") +
+                                frame4("PRIV", "WM/ParentalRating" + latin1 + "PG");
+    EXPECT_EQ(to_hex(frames + appended_tag(content)), to_hex(test::read_file(film)));
 }
 
 TEST_F(TagAtTheEnd, OfADiscIsAFileBesideIt) {

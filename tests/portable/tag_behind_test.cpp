@@ -7,6 +7,7 @@
 #include "portable/detail/in_place_tag.h"
 #include "portable/reason.h"
 #include "support/bytes.h"
+#include "support/id3_tags.h"
 #include "support/stream_capture.h"
 #include "taglib/byte_file.h"
 
@@ -18,6 +19,7 @@ namespace {
 
 using namespace portable;
 using test::aiff_chunk;
+using test::appended_tag;
 using test::be32;
 using test::box;
 using test::chunk;
@@ -29,21 +31,11 @@ using test::pattern;
 using test::remove_text;
 using test::riff;
 using test::set_text;
+using test::text4;
 using test::to_hex;
 using test::track;
 using test::values_in;
 using test::without_tags;
-
-/** A tag of less than 128 bytes with FRAMES, between its header and its footer. */
-std::string tag(const std::string& frames) {
-    const std::string rest = hex("040010 000000") + static_cast<char>(frames.size());
-    return "ID3" + rest + frames + "3DI" + rest;
-}
-
-/** A frame of a text, as it is written in place: UTF-8 under the number of ISO 8859-1. */
-std::string frame(const std::string& id, const std::string& text) {
-    return id + hex("000000") + static_cast<char>(text.size() + 1) + hex("0000 00") + text;
-}
 
 const std::string unknown = "XYZW" + hex("00000003 0000 010203");
 
@@ -65,35 +57,36 @@ std::string end_of(const std::string& file, std::size_t size) {
 }
 
 TEST(TagBehind, IsNotRead) {
-    EXPECT_EQ("Harbour",
-              values_in(film("Harbour") + tag(frame("TALB", "Later") + frame("TCON", "Drama")), "mp4")
-                  .text(Field::title));
+    EXPECT_EQ(
+        "Harbour",
+        values_in(film("Harbour") + appended_tag(text4("TALB", "Later") + text4("TCON", "Drama")), "mp4")
+            .text(Field::title));
     EXPECT_EQ(std::nullopt,
-              values_in(film("Harbour") + tag(frame("TCON", "Drama")), "mp4").text(Field::genre));
+              values_in(film("Harbour") + appended_tag(text4("TCON", "Drama")), "mp4").text(Field::genre));
 }
 
 TEST(TagBehind, FollowsAFieldThatItHas) {
-    const std::string made = edited(film("Harbour") + tag(unknown + frame("TALB", "Later")), "mp4",
+    const std::string made = edited(film("Harbour") + appended_tag(unknown + text4("TALB", "Later")), "mp4",
                                     set_text(Field::title, "Evening"));
     EXPECT_EQ("Evening", values_in(made, "mp4").text(Field::title));
-    const std::string expected = tag(unknown + frame("TALB", "Evening"));
+    const std::string expected = appended_tag(unknown + text4("TALB", "Evening"));
     EXPECT_EQ(to_hex(expected), end_of(made, expected.size()));
 }
 
 TEST(TagBehind, GetsNoFieldThatItDoesNotHave) {
-    const std::string behind = tag(unknown + frame("TALB", "Later"));
+    const std::string behind = appended_tag(unknown + text4("TALB", "Later"));
     const std::string made = edited(film("Harbour") + behind, "mp4", set_text(Field::genre, "Drama"));
     EXPECT_EQ(to_hex(behind), end_of(made, behind.size()));
 }
 
 TEST(TagBehind, LosesAFieldThatIsDeletedAndGoesWithItsLast) {
-    const std::string with_two = tag(unknown + frame("TIT2", "Later"));
+    const std::string with_two = appended_tag(unknown + text4("TIT2", "Later"));
     const std::string made = edited(song("Harbour") + with_two, "wav", remove_text(Field::title));
-    EXPECT_EQ(to_hex(tag(unknown)), end_of(made, tag(unknown).size()));
+    EXPECT_EQ(to_hex(appended_tag(unknown)), end_of(made, appended_tag(unknown).size()));
 
-    EXPECT_EQ(
-        to_hex(edited(song("Harbour"), "wav", remove_text(Field::title))),
-        to_hex(edited(song("Harbour") + tag(frame("TIT2", "Later")), "wav", remove_text(Field::title))));
+    EXPECT_EQ(to_hex(edited(song("Harbour"), "wav", remove_text(Field::title))),
+              to_hex(edited(song("Harbour") + appended_tag(text4("TIT2", "Later")), "wav",
+                            remove_text(Field::title))));
 }
 
 TEST(TagBehind, LosesWhatItCanNotHold) {
@@ -101,14 +94,14 @@ TEST(TagBehind, LosesWhatItCanNotHold) {
     const std::string cover = "APIC" + hex("00000013 0000 00") + "image/jpeg" + hex("00 03 00") + jpeg;
     TagEdits png;
     png.cover = Edit<Cover>::set({{0x89, 'P', 'N', 'G', 1}, "image/png"});
-    const std::string made = edited(song("") + tag(cover + frame("TIT2", "Later")), "wav", png);
-    const std::string expected = tag(frame("TIT2", "Later"));
+    const std::string made = edited(song("") + appended_tag(cover + text4("TIT2", "Later")), "wav", png);
+    const std::string expected = appended_tag(text4("TIT2", "Later"));
     EXPECT_EQ(to_hex(expected), end_of(made, expected.size()));
     EXPECT_EQ(png.cover.value(), values_in(made, "wav").cover);
 }
 
 TEST(TagBehind, GoesWithAllTags) {
-    const std::string behind = tag(unknown + frame("TIT2", "Later"));
+    const std::string behind = appended_tag(unknown + text4("TIT2", "Later"));
     const std::string sound = aiff_chunk("COMM", "123456789012345678") + aiff_chunk("SSND", pattern(300));
     const std::string flac = "fLaC" + hex("80000022") + pattern(34) + hex("FFF8C918") + pattern(300);
     EXPECT_EQ(to_hex(without_tags(song(""), "wav")), to_hex(without_tags(song("") + behind, "wav")));

@@ -1,6 +1,7 @@
 #include "fault_table_files.h"
 
 #include "support/bytes.h"
+#include "support/id3_tags.h"
 
 #include <initializer_list>
 #include <string_view>
@@ -17,18 +18,13 @@ std::string little_endian(std::uint64_t value, int bytes) {
     return text;
 }
 
-std::string syncsafe(std::size_t value) {
-    return {'\0', '\0', static_cast<char>(value >> 7 & 0x7F), static_cast<char>(value & 0x7F)};
-}
-
 /** A version 4 tag that holds FIELDS. */
 std::string id3_tag_bytes(const TagFields& fields, bool footer) {
     std::string frames;
     for (const auto& [id, body] : fields) {
-        frames += id + syncsafe(body.size()) + hex("00 00") + body;
+        frames += frame4(id, body);
     }
-    const std::string rest = hex(footer ? "04 00 10" : "04 00 00") + syncsafe(frames.size());
-    return "ID3" + rest + frames + (footer ? "3DI" + rest : std::string());
+    return footer ? appended_tag(frames) : leading_tag(4, frames);
 }
 
 std::string latin1(const std::string& text) {

@@ -15,7 +15,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <map>
 #include <memory>
@@ -204,14 +203,6 @@ struct Outcome {
     std::vector<SystemCallRecord> calls;
 };
 
-/** read_file in one read: large files are read thousands of times. */
-std::string bytes_of(const std::filesystem::path& path) {
-    std::string bytes(std::filesystem::file_size(path), '\0');
-    std::ifstream stream(path, std::ios::binary);
-    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    return bytes;
-}
-
 /** Runs OPERATION on a fresh copy of its sample, with what INJECT makes go wrong. */
 Outcome run(const Operation& operation, const std::function<void(SystemCallFaults&)>& inject) {
     const ScratchFolder folder;
@@ -235,7 +226,7 @@ Outcome run(const Operation& operation, const std::function<void(SystemCallFault
         outcome.log = log.text();
     }
     for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
-        (entry.path() == path ? outcome.file : outcome.neighbour) = bytes_of(entry.path());
+        (entry.path() == path ? outcome.file : outcome.neighbour) = read_file(entry.path());
     }
     return outcome;
 }

@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <fstream>
 #include <functional>
 #include <ostream>
 
@@ -30,15 +29,6 @@ struct Scenario {
 
 void PrintTo(const Scenario& scenario, std::ostream* stream) {
     *stream << scenario.name;
-}
-
-/** read_file in one read: it is called for every call of every store. */
-std::string bytes_of(const std::string& path) {
-    std::ifstream stream(path, std::ios::binary);
-    std::string bytes(200000, '\0');
-    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    bytes.resize(static_cast<std::size_t>(stream.gcount()));
-    return bytes;
 }
 
 std::string header_with(const std::string& genre, const std::string& last) {
@@ -76,7 +66,7 @@ protected:
             ASSERT_EQ(1, store());
             calls = watch.count();
         }
-        const std::string after = bytes_of(path_);
+        const std::string after = read_file(path_);
         ASSERT_NE(GetParam().before, after);
         for (int nth = 1; nth <= calls; ++nth) {
             write_file(path_, GetParam().before);
@@ -85,12 +75,12 @@ protected:
             const int result = store();
             EXPECT_EQ(0, faults.open_descriptors()) << nth;
             if (result == 1) {
-                EXPECT_TRUE(bytes_of(path_) == after) << "call " << nth << " went wrong unnoticed";
+                EXPECT_TRUE(read_file(path_) == after) << "call " << nth << " went wrong unnoticed";
             } else {
                 EXPECT_EQ(0, result) << nth;
             }
             if (faults.bytes(SystemCall::write) == 0) {
-                EXPECT_TRUE(bytes_of(path_) == GetParam().before) << nth;
+                EXPECT_TRUE(read_file(path_) == GetParam().before) << nth;
             }
         }
     }
@@ -154,18 +144,18 @@ TEST_P(AsfFaults, AFailingReadOfTheHeaderGivesErrorFiveAndLeavesTheFileAlone) {
         EXPECT_EQ(5, error_) << nth;
         EXPECT_EQ(0, faults.count(SystemCall::write)) << nth;
     }
-    EXPECT_EQ(GetParam().before, bytes_of(path_));
+    EXPECT_EQ(GetParam().before, read_file(path_));
 }
 
 TEST_P(AsfFaults, AHeaderThatCantBeReadInOnePieceIsReadFieldByField) {
     write_file(path_, GetParam().before);
     ASSERT_EQ(1, store());
-    const std::string after = bytes_of(path_);
+    const std::string after = read_file(path_);
     write_file(path_, GetParam().before);
     SystemCallFaults faults;
     faults.fail(SystemCall::read, 1, EIO);
     EXPECT_EQ(1, store());
-    EXPECT_TRUE(bytes_of(path_) == after);
+    EXPECT_TRUE(read_file(path_) == after);
     EXPECT_GT(faults.count(SystemCall::read), 4);
 }
 
@@ -178,7 +168,7 @@ TEST_P(AsfFaults, EveryAllocationOfAStoreMayFail) {
         allocations = watch.count();
     }
     ASSERT_GT(allocations, 3);
-    const std::string after = bytes_of(path_);
+    const std::string after = read_file(path_);
     int differences = 0;
     for (int nth = 1; nth <= allocations; ++nth) {
         write_file(path_, GetParam().before);
@@ -192,9 +182,9 @@ TEST_P(AsfFaults, EveryAllocationOfAStoreMayFail) {
         // A header that shrinks is written before the buffer for the move is asked for: the last allocation.
         const bool header_written = GetParam().genre == "Pop" && nth == allocations;
         if (result == 0 && !header_written) {
-            EXPECT_TRUE(bytes_of(path_) == GetParam().before) << nth;
+            EXPECT_TRUE(read_file(path_) == GetParam().before) << nth;
         }
-        differences += result == 1 && bytes_of(path_) != after ? 1 : 0;
+        differences += result == 1 && read_file(path_) != after ? 1 : 0;
     }
     // A string of the content description that found no memory when it was read is no longer there.
     const bool has_strings = GetParam().before.find(wide_z("A")) != std::string::npos;
