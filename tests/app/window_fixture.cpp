@@ -22,14 +22,6 @@ std::string fileTaggedInFront() {
     return "ID3" + hex("03 00 00 00 00 00 0C") + "TIT2" + hex("00 00 00 02 00 00 00 5A") + pattern(64);
 }
 
-void settle() {
-    // A few passes: what is posted may post again.
-    for (int i = 0; i < 5; ++i) {
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-}
-
 QuestionAnswerer::QuestionAnswerer(QWidget& window, QString button)
     : window_(window), button_(std::move(button)) {
     timer_.setInterval(5);

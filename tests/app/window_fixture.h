@@ -28,9 +28,6 @@ namespace velmora::test {
 /** Media bytes behind an ID3v2.3 tag with the title "Z": a small file that can't be saved. */
 [[nodiscard]] std::string fileTaggedInFront();
 
-/** Handles what is due now. */
-void settle();
-
 /** Answers each question that comes up on WINDOW by pressing the button with a given text, or, with no text,
    by taking the question away without a button. Without an answerer a question would wait for ever. */
 class QuestionAnswerer {

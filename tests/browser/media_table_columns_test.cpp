@@ -10,13 +10,14 @@ namespace {
 
 using test::createdColumn;
 using test::nameColumn;
+using test::settle;
 using test::sizeColumn;
 
 class MediaTableColumnsTest : public test::MediaTableTest {
 protected:
     void widen(int width) {
         view_.resize(width, 300);
-        runLoop();
+        settle();
     }
     [[nodiscard]] int width(int column) const { return view_.columnWidth(column); }
     /** Whether TEXT can be read in a cell of COLUMN. */
@@ -38,7 +39,7 @@ protected:
         moveMouse(edge + QPoint(distance / 2, 0));
         moveMouse(edge + QPoint(distance, 0));
         QTest::mouseRelease(header->viewport(), Qt::LeftButton, Qt::NoModifier, edge + QPoint(distance, 0));
-        runLoop();
+        settle();
     }
 };
 
@@ -128,7 +129,7 @@ TEST_F(MediaTableColumnsTest, DatesAreDrawnWithoutAnEllipsis) {
         whole.push_back(drawn(row, createdColumn, dateWidth));
     }
     view_.setColumnWidth(createdColumn, 2 * dateWidth);
-    runLoop();
+    settle();
     for (int row = 0; row < dates.size(); ++row) {
         EXPECT_EQ(whole[row], drawn(row, createdColumn, dateWidth)) << dates[row].toStdString();
     }
@@ -164,7 +165,7 @@ TEST_F(MediaTableColumnsTest, ALargerFontHasItsRoomToo) {
     QFont font = view_.font();
     font.setPointSize(2 * font.pointSize());
     view_.setFont(font);
-    runLoop();
+    settle();
     EXPECT_TRUE(shows(createdColumn, "12/31/26 23:59:59"));
     EXPECT_TRUE(shows(sizeColumn, "1024.0 KB"));
 }
@@ -200,7 +201,7 @@ TEST_F(MediaTableColumnsTest, ADateThatIsCutOffKeepsItsBeginning) {
     add("a", 0, "12/31/26 23:59:59");
     widen(700);
     const auto beginning = [this] {
-        runLoop();
+        settle();
         const QRect cell = view_.visualRect(view_.model()->index(0, createdColumn));
         return view_.viewport()->grab(QRect(cell.topLeft(), QSize(42, cell.height()))).toImage();
     };

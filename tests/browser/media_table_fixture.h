@@ -5,6 +5,7 @@
 
 #include "browser/media_table.h"
 #include "support/qt_printing.h"
+#include "support/waiting.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -48,18 +49,13 @@ protected:
             add(name);
         }
     }
-    static void runLoop() {
-        for (int pass = 0; pass < 5; ++pass) {
-            QCoreApplication::processEvents();
-        }
-    }
     void select(int row) {
         view_.selectRow(row);
-        runLoop();
+        settle();
     }
     void deselect() {
         view_.clearSelection();
-        runLoop();
+        settle();
     }
     [[nodiscard]] int selectedRow() const {
         const QModelIndexList rows = view_.selectionModel()->selectedRows();
@@ -74,26 +70,26 @@ protected:
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(&view_, key, modifiers);
-        runLoop();
+        settle();
     }
     [[nodiscard]] QPoint middleOf(int row) const {
         return view_.visualRect(view_.model()->index(row, nameColumn)).center();
     }
     void click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::mouseClick(view_.viewport(), Qt::LeftButton, modifiers, middleOf(row));
-        runLoop();
+        settle();
     }
     /** As a user clicks: with the mouse, on the header. */
     void clickHeader(int column) {
         QWidget* const viewport = view_.horizontalHeader()->viewport();
         QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier,
                           viewport->mapFrom(&view_, middleOfHeader(column)));
-        runLoop();
+        settle();
     }
     /** Through the window: only there do two quick clicks become a double click. */
     void doubleClickHeader(int column, Qt::MouseButton button = Qt::LeftButton) {
         QTest::mouseDClick(view_.windowHandle(), button, Qt::NoModifier, middleOfHeader(column));
-        runLoop();
+        settle();
     }
     /** In the view's coordinates. */
     [[nodiscard]] QPoint middleOfHeader(int column) const {

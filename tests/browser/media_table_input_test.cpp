@@ -14,6 +14,7 @@ using Answer = test::FakeMediaDocument::Answer;
 using test::createdColumn;
 using test::makeRow;
 using test::MediaTableTest;
+using test::settle;
 
 TEST_F(MediaTableTest, KeyAsksOnceAlsoWhenItIsRefused) {
     addAll({"a", "b", "c"});
@@ -70,7 +71,7 @@ TEST_F(MediaTableTest, ClearingAndSelectingAnotherRowAsksOnce) {
     document_.requests.clear();
     view_.clearSelection();
     view_.selectRow(1);
-    runLoop();
+    settle();
     EXPECT_EQ(QStringList{"/media/b"}, document_.requests);
 }
 
@@ -85,11 +86,11 @@ TEST_F(MediaTableTest, ControlClickOnTheSelectedRowClosesTheFile) {
 TEST_F(MediaTableTest, OpensNothingWhileTheButtonIsHeld) {
     addAll({"a", "b", "c"});
     QTest::mousePress(view_.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(0));
-    runLoop();
+    settle();
     EXPECT_EQ(0, selectedRow());
     EXPECT_EQ(QStringList(), document_.requests);
     QTest::mouseRelease(view_.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(0));
-    runLoop();
+    settle();
     EXPECT_EQ(QStringList{"/media/a"}, document_.requests);
 }
 
@@ -100,11 +101,11 @@ TEST_F(MediaTableTest, DraggingOverRowsOpensTheLastOneOnly) {
         QMouseEvent move(QEvent::MouseMove, middleOf(row), view_.viewport()->mapToGlobal(middleOf(row)),
                          Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(view_.viewport(), &move);
-        runLoop();
+        settle();
     }
     EXPECT_EQ(2, selectedRow());
     QTest::mouseRelease(view_.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(2));
-    runLoop();
+    settle();
     EXPECT_EQ(QStringList{"/media/c"}, document_.requests);
 }
 
@@ -112,7 +113,7 @@ TEST_F(MediaTableTest, HeldButtonIsForgottenWhenTheTableIsHidden) {
     addAll({"a"});
     QTest::mousePress(view_.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(0));
     view_.viewport()->hide();
-    runLoop();
+    settle();
     EXPECT_EQ(QStringList{"/media/a"}, document_.requests);
 }
 
@@ -121,14 +122,14 @@ TEST_F(MediaTableTest, HeldButtonIsForgottenWhenTheWindowIsLeft) {
     QTest::mousePress(view_.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(0));
     QEvent left(QEvent::WindowDeactivate);
     QCoreApplication::sendEvent(&view_, &left);
-    runLoop();
+    settle();
     EXPECT_EQ(QStringList{"/media/a"}, document_.requests);
 }
 
 TEST_F(MediaTableTest, RightButtonHoldsNothingBack) {
     addAll({"a", "b"});
     QTest::mousePress(view_.viewport(), Qt::RightButton, Qt::NoModifier, middleOf(1));
-    runLoop();
+    settle();
     EXPECT_EQ(QStringList{"/media/b"}, document_.requests);
     QTest::mouseRelease(view_.viewport(), Qt::RightButton, Qt::NoModifier, middleOf(1));
 }
@@ -143,7 +144,7 @@ TEST_F(MediaTableTest, QuestionsAreNeverStacked) {
         if (document_.requests.size() == 1) {
             view_.selectRow(2);
         }
-        runLoop();
+        settle();
         --depth;
     };
     select(1);
@@ -171,7 +172,7 @@ TEST_F(MediaTableTest, RowSelectedInALoopOfTheHandlersOwnIsOpenedAfterIt) {
     document_.whileOpening = [&] {
         if (document_.requests.size() == 1) {
             view_.selectRow(2);
-            runLoop();
+            settle();
             EXPECT_EQ(1, document_.requests.size());
         }
     };
@@ -186,7 +187,7 @@ TEST_F(MediaTableTest, SelectionDuringAnotherQuestionWaitsForItsEnd) {
         select(0);
         EXPECT_EQ(QStringList(), document_.requests);
     }
-    runLoop();
+    settle();
     EXPECT_EQ(QStringList{"/media/a"}, document_.requests);
 }
 
@@ -195,7 +196,7 @@ TEST_F(MediaTableTest, TypingFindsAFileByTheBeginningOfItsName) {
     select(0);
     view_.setCurrentIndex(view_.model()->index(0, createdColumn));
     QTest::keyClicks(&view_, "ga");
-    runLoop();
+    settle();
     EXPECT_EQ(2, selectedRow());
     EXPECT_EQ("/media/gamma", document_.requests.last());
 }
@@ -204,7 +205,7 @@ TEST_F(MediaTableTest, TypingGoesOnFromTheTop) {
     addAll({"alpha", "beta", "gamma"});
     select(2);
     QTest::keyClicks(&view_, "al");
-    runLoop();
+    settle();
     EXPECT_EQ(0, selectedRow());
 }
 
@@ -225,7 +226,7 @@ TEST_F(MediaTableTest, TabLeavesTheTableAndSelectsNothing) {
     inner.setFocus();
     inner.selectRow(0);
     QTest::keyClick(&inner, Qt::Key_Tab);
-    runLoop();
+    settle();
     EXPECT_TRUE(next.hasFocus());
     EXPECT_EQ(0, inner.selectionModel()->selectedRows().first().row());
 }
@@ -234,7 +235,7 @@ TEST_F(MediaTableTest, FocusAloneSelectsNothing) {
     addAll({"a"});
     view_.clearFocus();
     view_.setFocus();
-    runLoop();
+    settle();
     EXPECT_EQ(-1, selectedRow());
     EXPECT_EQ(QStringList(), document_.requests);
 }
@@ -266,11 +267,11 @@ TEST_F(MediaTableTest, TableThatIsGoneLeavesTheViewEmptyAndAlive) {
     addAll({"a"});
     view_.selectRow(0);
     table_.reset();
-    runLoop();
+    settle();
     EXPECT_EQ(QStringList(), document_.requests);
     QTest::mouseClick(view_.viewport(), Qt::LeftButton);
     QTest::keyClick(&view_, Qt::Key_Down);
-    runLoop();
+    settle();
 }
 
 } // namespace

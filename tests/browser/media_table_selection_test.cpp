@@ -7,6 +7,7 @@ using Answer = test::FakeMediaDocument::Answer;
 using test::makeRow;
 using test::MediaTableTest;
 using test::nameColumn;
+using test::settle;
 
 TEST_F(MediaTableTest, SelectedRowsFileIsOpenedAndShown) {
     addAll({"a", "b"});
@@ -172,7 +173,7 @@ TEST_F(MediaTableTest, SortingTurningAndInsertingOpenNothingAndKeepTheRow) {
     document_.requests.clear();
     clickHeader(nameColumn);
     add("a");
-    runLoop();
+    settle();
     clickHeader(nameColumn);
     EXPECT_EQ(QStringList(), document_.requests);
     EXPECT_EQ(1, table_->curSelectedRow());
@@ -186,7 +187,7 @@ TEST_F(MediaTableTest, InsertingAboveTheSelectedRowKeepsTheSelectedIndex) {
     select(0);
     document_.requests.clear();
     addAll({"a", "b", "c"});
-    runLoop();
+    settle();
     EXPECT_EQ(0, selectedRow());
     EXPECT_EQ("a", shownNames().at(0));
     EXPECT_EQ(QStringList(), document_.requests);

@@ -14,13 +14,14 @@ using test::createdColumn;
 using test::iconColumn;
 using test::MediaTableTest;
 using test::nameColumn;
+using test::settle;
 using test::sizeColumn;
 
 TEST_F(MediaTableTest, NothingIsSelectedOrSortedAtFirst) {
     EXPECT_EQ(-1, table_->curSelectedRow());
     EXPECT_EQ(std::nullopt, table_->mediaFiles().tableSortColumn());
     EXPECT_FALSE(view_.horizontalHeader()->isSortIndicatorShown());
-    runLoop();
+    settle();
     EXPECT_EQ(QStringList(), document_.requests);
 }
 
@@ -152,7 +153,7 @@ TEST_F(MediaTableTest, ThreeQuickClicksOnAHeaderAreThree) {
     addAll({"b", "a", "c"});
     doubleClickHeader(nameColumn);
     QTest::mouseClick(view_.windowHandle(), Qt::LeftButton, Qt::NoModifier, middleOfHeader(nameColumn));
-    runLoop();
+    settle();
     EXPECT_EQ((QStringList{"a", "b", "c"}), shownNames());
     EXPECT_EQ(Qt::AscendingOrder, view_.horizontalHeader()->sortIndicatorOrder());
 }
@@ -171,7 +172,7 @@ TEST_F(MediaTableTest, DoubleClickBesideTheHeadersSortsNothing) {
     const QPoint beside(view_.width() - 10, middleOfHeader(nameColumn).y());
     ASSERT_EQ(-1, view_.horizontalHeader()->logicalIndexAt(beside));
     QTest::mouseDClick(view_.windowHandle(), Qt::LeftButton, Qt::NoModifier, beside);
-    runLoop();
+    settle();
     EXPECT_EQ(std::nullopt, table_->mediaFiles().tableSortColumn());
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QEvent>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -17,6 +19,15 @@ inline bool waitUntil(const std::function<bool()>& condition, int limit = 30000)
         loop.exec();
     }
     return condition();
+}
+
+/** Handles what is due now. */
+inline void settle() {
+    // A few passes: what is posted may post again.
+    for (int pass = 0; pass < 5; ++pass) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 /** Handles events for a while. */
