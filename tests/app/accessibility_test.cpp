@@ -297,7 +297,7 @@ TEST_F(AltLetterTest, FieldsAreReachedAndButtonsPressedByThem) {
             const QSignalBlocker nothingHappens(button);
             QTest::keyClick(&start, keys.key(), keys.keyboardModifiers());
             EXPECT_TRUE(button->isDown()) << keys.key();
-            QTest::qWait(150); // until a button that is pressed by a key comes up
+            EXPECT_TRUE(waitUntil([&] { return !button->isDown(); })) << keys.key();
         } else {
             QTest::keyClick(&start, keys.key(), keys.keyboardModifiers());
             QWidget* const reached = QApplication::focusWidget();

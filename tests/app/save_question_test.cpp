@@ -2,6 +2,7 @@
 
 #include "platform/file_path.h"
 #include "support/bytes.h"
+#include "support/message_box.h"
 
 #include <QAction>
 #include <QPointer>
@@ -13,6 +14,7 @@
 namespace velmora {
 namespace {
 
+using test::hasButtonDown;
 using test::QuestionAnswerer;
 using test::settle;
 using test::taggedFile;
@@ -146,7 +148,7 @@ TEST_F(SaveQuestionTest, TypingOnInTheListAnswersNothing) {
             if (question) {
                 QTest::keyClick(question->focusWidget(), key);
             }
-            QTest::qWait(150); // longer than a button that is pressed by a key stays down
+            EXPECT_TRUE(waitUntil([&] { return !question || !hasButtonDown(*question); }));
         }
         stillAsked = question && question->isVisible();
         if (stillAsked) {

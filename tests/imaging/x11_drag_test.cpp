@@ -3,6 +3,7 @@
 #include "cover_art_fixture.h"
 
 #include "support/scratch_folder.h"
+#include "support/waiting.h"
 
 #include <QGuiApplication>
 #include <QProcess>
@@ -35,14 +36,18 @@ protected:
         ASSERT_TRUE(source.waitForStarted());
         xdotool({"search", "--sync", "--onlyvisible", "--pid", QString::number(source.processId())});
         xdotool({"mousemove", "100", "100"});
-        QTest::qWait(200);
         xdotool({"mousedown", "1"});
         moveTo(QPoint(100, 100), QPoint(140, 140));
     }
 
     void moveOverView() { moveTo(QPoint(140, 140), place()); }
     void moveAway() { moveTo(place(), QPoint(700, 500)); }
-    void release() { xdotool({"mouseup", "1"}); }
+    /** Ends the drag, and waits until the program that it came from knows: nothing more of it comes then. */
+    void release() {
+        xdotool({"mouseup", "1"});
+        EXPECT_TRUE(QTest::qWaitFor([this] { return source.canReadLine(); }, patience));
+        settle();
+    }
 
     /** Leaves a picture of the screen in the folder that VELMORA_SCREENSHOTS names, if it names one. */
     static void takeScreenshot(const QString& name) {
@@ -85,7 +90,6 @@ TEST_F(CoverArtViewOnX11, AnImageFileIsDroppedWithTheMouse) {
     takeScreenshot("drag_hovering.png");
     release();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !receiver.calls.empty(); }, patience));
-    QTest::qWait(200);
     takeScreenshot("drag_dropped.png");
     EXPECT_EQ(1U, receiver.calls.size());
     EXPECT_EQ(Ring::None, view->focusRingType());
@@ -113,7 +117,6 @@ TEST_F(CoverArtViewOnX11, AFileThatIsOnlyOfferedToBeMovedIsCopied) {
     release();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !receiver.calls.empty(); }, patience));
     EXPECT_FALSE(view->image().isNull());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return source.canReadLine(); }, patience));
     EXPECT_NE(source.readLine().toInt(), int{Qt::MoveAction}) << "the source would delete its file";
 }
 
@@ -124,7 +127,6 @@ TEST_F(CoverArtViewOnX11, ADragThatLeavesAgainChangesNothing) {
     moveAway();
     EXPECT_TRUE(QTest::qWaitFor([this] { return view->focusRingType() == Ring::None; }, patience));
     release();
-    QTest::qWait(200);
     EXPECT_TRUE(receiver.calls.empty());
     EXPECT_EQ("in draggingEntered:\nin draggingExited:\n", log->text());
 }

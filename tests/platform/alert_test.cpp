@@ -1,4 +1,5 @@
 #include "platform/alert.h"
+#include "support/message_box.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -109,7 +110,7 @@ TEST_F(AlertTest, LetterOfAShortcutAlonePressesNoButton) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&box()));
     for (const Qt::KeyboardModifiers modifiers : {Qt::NoModifier, Qt::ShiftModifier}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_D, modifiers);
-        QTest::qWait(200); // longer than a button that is pressed by a key stays down
+        EXPECT_FALSE(test::hasButtonDown(box()));
         ASSERT_EQ(std::nullopt, code_);
     }
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_D, Qt::ControlModifier);
@@ -121,7 +122,7 @@ TEST_F(AlertTest, LetterOfAShortcutAlonePressesNoButtonFromAnotherButtonEither) 
     ASSERT_TRUE(QTest::qWaitForWindowActive(&box()));
     button("Cancel")->setFocus();
     QTest::keyClick(button("Cancel"), Qt::Key_D);
-    QTest::qWait(200);
+    EXPECT_FALSE(test::hasButtonDown(box()));
     EXPECT_EQ(std::nullopt, code_);
 }
 

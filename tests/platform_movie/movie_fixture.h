@@ -16,7 +16,12 @@ namespace velmora::test {
 class MovieTest : public testing::Test {
 protected:
     static constexpr int patience = 20000; ///< milliseconds for something that must happen
-    static constexpr int silence = 400; ///< milliseconds in which something that must not happen would have
+    /** Milliseconds in which something that must not happen would have. A bound, because nothing tells that
+       the system's player has no more to say of a file: more than twice the 150 after which a file is looked
+       at, and ten frames of a film. Under load it may be too short to see a fault; it never makes one up. */
+    static constexpr int silence = 400;
+    /** Milliseconds in which a frame that is under way when a movie is paused arrives; no signal follows. */
+    static constexpr int lastFrame = 200;
 
     /** Waits for the file opened last to be decided. */
     void waitForDecision() {

@@ -250,7 +250,7 @@ TEST_F(MovieTest, AMovieMayBeDestroyedAtAnyTime) {
         QTest::qWait(wait);
         delete other;
     }
-    QTest::qWait(silence);
+    QTest::qWait(silence); // what a player that is gone still does, it does here
 }
 
 TEST_F(MovieTest, AMovieMayBeClosedByWhoeverIsToldThatItIsOpen) {
@@ -278,7 +278,7 @@ TEST_F(MovieTest, TheEventLoopIsNotHeldUp) {
     sinceLast.start();
     for (const QString& path : all) {
         movie.open(path);
-        QTest::qWait(silence);
+        QTest::qWait(silence); // long enough for a small file to be opened, and too short for the large one
     }
     movie.close();
     QTest::qWait(50);

@@ -42,7 +42,7 @@ TEST_F(MoviePlaying, APausedMovieStandsStill) {
     ASSERT_TRUE(QTest::qWaitFor([this] { return movie.position() > 200; }, patience));
     movie.pause();
     ASSERT_TRUE(QTest::qWaitFor([this] { return !movie.isPlaying(); }, patience));
-    QTest::qWait(200);
+    QTest::qWait(lastFrame);
     const qint64 position = movie.position();
     QTest::qWait(silence);
     EXPECT_EQ(position, movie.position());
@@ -94,7 +94,7 @@ TEST_F(MovieTest, ASongThatIsPausedStandsStillAndGoesOn) {
     ASSERT_TRUE(QTest::qWaitFor([this] { return movie.position() > 200; }, patience));
     movie.pause();
     ASSERT_TRUE(QTest::qWaitFor([this] { return !movie.isPlaying(); }, patience));
-    QTest::qWait(200);
+    QTest::qWait(lastFrame);
     const qint64 position = movie.position();
     QTest::qWait(silence);
     EXPECT_EQ(position, movie.position());
