@@ -2,10 +2,10 @@
 
 #include "VelmoraController.h"
 
+#include "detail/movie_preview.h"
+#include "detail/start_folders.h"
 #include "media_document.h"
 #include "media_list.h"
-#include "movie_preview.h"
-#include "start_folders.h"
 #include "tag_form.h"
 
 #include "model/MediaFile.h"

@@ -2,8 +2,8 @@
 
 #include "VelmoraController.h"
 
+#include "detail/movie_preview.h"
 #include "media_document.h"
-#include "movie_preview.h"
 #include "tag_form.h"
 
 #include "imaging/trim_border.h"

@@ -1,5 +1,7 @@
 #include "library_window.h"
 
+#include "detail/edit_panel.h"
+
 #include "platform/accessibility.h"
 #include "platform/alt_letters.h"
 #include "platform/localisation.h"

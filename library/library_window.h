@@ -3,7 +3,6 @@
 #include "apply_dialog.h"
 #include "apply_run.h"
 #include "cover_thumbnails.h"
-#include "edit_panel.h"
 #include "library_model.h"
 #include "library_view.h"
 
@@ -16,6 +15,7 @@
 
 namespace velmora {
 
+class EditPanel;
 struct ExportTable;
 
 /** A file that was written, and where it was and is. */

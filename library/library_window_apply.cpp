@@ -2,6 +2,8 @@
 
 #include "library_window.h"
 
+#include "detail/edit_panel.h"
+
 #include "platform/localisation.h"
 
 namespace velmora {

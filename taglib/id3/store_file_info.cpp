@@ -1,9 +1,9 @@
 #include "store_file_info.h"
 
 #include "detail/store_fields.h"
+#include "detail/tag_header.h"
 #include "header_v1.h"
 #include "reader.h"
-#include "tag_header.h"
 #include "writer.h"
 
 #include "taglib/byte_file.h"

@@ -1,6 +1,6 @@
 #include "writer.h"
 
-#include "tag_header.h"
+#include "detail/tag_header.h"
 #include "text.h"
 
 #include "taglib/byte_order.h"

@@ -1,6 +1,6 @@
 #include "window_fixture.h"
 
-#include "browser/movie_preview.h"
+#include "browser/detail/movie_preview.h"
 #include "imaging/CoverArtView.h"
 #include "platform/busy_indicator.h"
 #include "platform/file_path.h"

@@ -7,6 +7,7 @@
 #include "window_inspection.h"
 
 #include "library/apply_dialog.h"
+#include "library/detail/edit_panel.h"
 #include "library/detail/names_dialog.h"
 #include "library/library_window.h"
 #include "support/pictures.h"

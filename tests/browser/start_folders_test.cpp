@@ -1,4 +1,4 @@
-#include "browser/start_folders.h"
+#include "browser/detail/start_folders.h"
 
 #include "support/bytes.h"
 #include "support/qt_printing.h"

@@ -1,6 +1,7 @@
 // What the library table's cells and fields keep of what is put into them, and of what is copied.
 
 #include "library/apply_dialog.h"
+#include "library/detail/edit_panel.h"
 #include "library/library_window.h"
 #include "tagged_songs.h"
 

@@ -1,4 +1,4 @@
-#include "weblookup/address_line.h"
+#include "weblookup/detail/address_line.h"
 
 #include "support/qt_printing.h"
 

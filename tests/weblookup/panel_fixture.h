@@ -2,7 +2,7 @@
 
 #include "platform/busy_indicator.h"
 #include "weblookup/TagWebBrowser.h"
-#include "weblookup/address_line.h"
+#include "weblookup/detail/address_line.h"
 #include "weblookup/form_fill_info.h"
 
 #include <QComboBox>

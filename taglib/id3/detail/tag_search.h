@@ -1,6 +1,7 @@
 #pragma once
 
-#include "taglib/id3/tag_header.h"
+#include "tag_header.h"
+
 #include "taglib/read_cursor.h"
 
 namespace velmora {

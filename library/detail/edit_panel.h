@@ -1,7 +1,6 @@
 #pragma once
 
-#include "library_model.h"
-
+#include "library/library_model.h"
 #include "platform/image.h"
 
 #include <QComboBox>
