@@ -41,11 +41,11 @@ void setWidths(LibraryWindow& window, const QList<int>& widths) {
     }
 }
 
-void setPlaces(LibraryWindow& window, const QList<int>& places) {
+void setPlaces(LibraryWindow& window, const QList<int>& positions) {
     QList<int> columns(libraryColumnCount, -1); // by place
-    for (int column = 0; places.size() == libraryColumnCount && column < libraryColumnCount; ++column) {
-        if (isColumn(places[column])) {
-            columns[places[column]] = column;
+    for (int column = 0; positions.size() == libraryColumnCount && column < libraryColumnCount; ++column) {
+        if (isColumn(positions[column])) {
+            columns[positions[column]] = column;
         }
     }
     if (columns.contains(-1)) {

@@ -9,7 +9,7 @@ namespace velmora {
 namespace {
 
 /** Texts are folded in pieces: normalized() takes time in proportion to the square of the length. */
-constexpr qsizetype pieceSize = 4096;
+constexpr qsizetype foldedAtOnce = 4096;
 
 bool isAscii(const QString& text) {
     return std::all_of(text.begin(), text.end(), [](QChar unit) { return unit.unicode() < 0x80; });
@@ -81,13 +81,13 @@ bool isAccent(char16_t unit) {
 /** Where the piece of TEXT ends that starts at BEGIN: in front of what the user takes for a character, of
    which no part becomes one with what stands before it. */
 qsizetype pieceEnd(const QString& text, qsizetype begin) {
-    if (text.size() - begin <= pieceSize) {
+    if (text.size() - begin <= foldedAtOnce) {
         return text.size();
     }
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, QStringView(text).mid(begin, pieceSize));
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, QStringView(text).mid(begin, foldedAtOnce));
     finder.toEnd();
     const qsizetype lastCharacter = finder.toPreviousBoundary();
-    const qsizetype longest = text[begin + pieceSize].isLowSurrogate() ? pieceSize - 1 : pieceSize;
+    const qsizetype longest = text[begin + foldedAtOnce].isLowSurrogate() ? foldedAtOnce - 1 : foldedAtOnce;
     return begin + (lastCharacter > 0 ? lastCharacter : longest);
 }
 
